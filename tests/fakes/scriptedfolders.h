@@ -1,0 +1,51 @@
+// Folders inside a temporary one of the test's own; making and removing is real there and is noted. Must not reach
+// outside it unless a test sets a path that does.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "fakes/temporaryfolder.h"
+#include "platform/folders.h"
+
+namespace tarvane {
+
+class ScriptedFolders : public Folders {
+  public:
+    fakes::TemporaryFolder root;
+    std::string programfolder = root / "program";
+    std::optional<std::string> documentsfolder = root / "documents";
+    std::string appdatafolder = root / "appdata";
+    std::set<std::string> refused;     ///< paths that can't be made or removed
+    std::vector<std::string> made;     ///< every path asked for, in order
+    std::vector<std::string> removed;  ///< every file asked to be removed, in order
+
+    ScriptedFolders() {
+        for (const std::string& path : {programfolder, *documentsfolder, appdatafolder})
+            std::filesystem::create_directories(path);
+    }
+
+    std::string program() const override { return programfolder; }
+    std::optional<std::string> documents() const override { return documentsfolder; }
+    std::string localappdata() const override { return appdatafolder; }
+
+    bool make(const std::string& path) override {
+        made.push_back(path);
+        if (refused.contains(path)) return false;
+        std::error_code error;
+        std::filesystem::create_directories(path, error);
+        return std::filesystem::is_directory(path, error);
+    }
+
+    bool remove(const std::string& path) override {
+        removed.push_back(path);
+        if (refused.contains(path)) return false;
+        std::error_code error;
+        return std::filesystem::is_regular_file(path, error) && std::filesystem::remove(path, error);
+    }
+};
+
+}  // namespace tarvane

@@ -1,0 +1,185 @@
+#include "sunmoon/suntimes.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+#include "dates/calendar.h"
+#include "text/timetext.h"
+
+namespace tarvane {
+namespace {
+
+using Events = std::array<double, 8>;
+
+Events listed(const SunHours& sun) {
+    return {sun.astrodawn, sun.nautdawn,  sun.civildawn, sun.sunrise,
+            sun.sunset,    sun.civildusk, sun.nautdusk,  sun.astrodusk};
+}
+
+std::string texts(const SunHours& sun) {
+    std::string joined;
+    for (const double hours : listed(sun))
+        joined += (hours == 0 ? "None" : timetext(hours)) + " ";
+    return joined;
+}
+
+TEST(SunTimes, WorkedDays) {
+    struct Row {
+        double latitude, longitude;
+        int day, month, year;
+        std::int16_t summer;
+        const char* expected;
+    };
+    for (const Row& row : {
+             Row{50.9, -1.4, 21, 6, 2024, 0, "None 01:55 03:05 03:52 20:23 21:10 22:20 None "},
+             Row{50.9, -1.4, 21, 12, 2024, 0, "06:04 06:44 07:27 08:06 16:02 16:42 17:24 18:04 "},
+             Row{0, 0, 21, 3, 2024, 0, "04:55 05:19 05:43 06:04 18:10 18:31 18:55 19:19 "},
+             Row{70, 20, 21, 6, 2024, 0, "None None None None None None None None "},
+             Row{70, 20, 21, 12, 2024, 0, "05:26 06:46 08:35 None None 12:42 14:31 15:51 "},
+             Row{70, 20, 21, 6, 2024, -1, "01:00 01:00 01:00 01:00 01:00 01:00 01:00 01:00 "},
+             Row{70, 20, 21, 12, 2024, -1, "06:26 07:46 09:35 01:00 01:00 13:42 15:31 16:51 "},
+         }) {
+        EXPECT_EQ(texts(SunTimes(row.latitude, row.longitude, row.day, row.month, row.year, row.summer, 0)),
+                  row.expected)
+            << row.latitude << " " << row.day << "." << row.month;
+    }
+}
+
+// Worked through apart from this program, to the last figures that its constants carry.
+TEST(SunTimes, HoursInFull) {
+    struct Row {
+        double latitude, longitude;
+        int day, month, year;
+        Events expected;
+    };
+    for (const Row& row : {
+             Row{50.9,
+                 -1.4,
+                 1,
+                 2,
+                 2023,
+                 {5.8129419324, 6.4553995019, 7.1165060754, 7.7117552233, 16.9439068978, 17.5381049299, 18.1984509099,
+                  18.8405149188}},
+             Row{50.9,
+                 -1.4,
+                 31,
+                 12,
+                 2024,
+                 {6.1135970291, 6.781964429, 7.4867625143, 8.1409958508, 16.1632590416, 16.8169627637, 17.5213687396,
+                  18.1894898913}},
+             Row{-36.8,
+                 174.8,
+                 9,
+                 9,
+                 2025,
+                 {17.0867610956, 17.587818779, 18.0875004429, 18.5190491599, 6.1031063014, 6.5345203742, 7.0341958748,
+                  7.5354169408}},
+         }) {
+        const Events events = listed(SunTimes(row.latitude, row.longitude, row.day, row.month, row.year, 0, 0));
+        for (std::size_t i = 0; i < 8; ++i)
+            EXPECT_NEAR(events[i], row.expected[i], 1e-9) << row.latitude << " " << i;
+    }
+}
+
+TEST(SunTimes, ZoneAndSummerRunOverTheMarkOfAMissingEvent) {
+    struct Row {
+        std::int16_t zonehours, summer;
+        double missing;
+    };
+    for (const Row& row : {Row{0, 0, 0}, Row{0, -1, 1}, Row{-1, 0, 1}, Row{-1, -1, 2}, Row{1, 0, 23}, Row{1, -1, 24},
+                           Row{12, 0, 12}, Row{-12, 0, 12}, Row{-24, 0, 24}, Row{0, 1, 0}}) {
+        EXPECT_EQ(SunTimes(70, 20, 21, 6, 2024, row.summer, row.zonehours).sunrise, row.missing)
+            << row.zonehours << " " << row.summer;
+    }
+    // A summer hour after the wrap: past 24, not back to 0.
+    const SunHours late = SunTimes(58.6, -3, 1, 5, 2024, 0, -1);
+    const SunHours later = SunTimes(58.6, -3, 1, 5, 2024, -1, -1);
+    EXPECT_EQ(later.nautdusk, late.nautdusk + 1);
+    EXPECT_EQ(timetext(late.nautdusk), "23:09");
+    EXPECT_EQ(timetext(later.nautdusk), "00:09");
+}
+
+// Only the multiple of four counts, so the century years step with the leap years and the other years are all alike.
+TEST(SunTimes, LeapYearIsEveryFourthYear) {
+    for (int month = 1; month <= 12; ++month) {
+        const Events of1904 = listed(SunTimes(50, 0, 1, month, 1904, 0, 0));
+        EXPECT_EQ(listed(SunTimes(50, 0, 1, month, 1900, 0, 0)), of1904) << month;
+        EXPECT_EQ(listed(SunTimes(50, 0, 1, month, 2100, 0, 0)), of1904) << month;
+        const Events of2023 = listed(SunTimes(50, 0, 1, month, 2023, 0, 0));
+        EXPECT_EQ(listed(SunTimes(50, 0, 1, month, 1999, 0, 0)), of2023) << month;
+        EXPECT_EQ(of1904 == of2023, month < 3) << month;
+    }
+    // 1 March is the 61st day of a leap year, which is 2 March of the others.
+    EXPECT_EQ(listed(SunTimes(50, 0, 1, 3, 1900, 0, 0)), listed(SunTimes(50, 0, 2, 3, 1901, 0, 0)));
+}
+
+/// Hours from -12 to 12 between two clock hours.
+double apart(double later, double earlier) {
+    return std::remainder(later - earlier, 24);
+}
+
+TEST(SunTimes, EveryDayOfTheYearIsInRangeAndInOrder) {
+    for (const double latitude : {-75.0, -54.5, -33.0, 0.0, 12.25, 50.9, 60.15, 70.0, 89.9}) {
+        for (const double longitude : {-179.9, -74.0, 0.0, 20.5, 151.2, 180.0}) {
+            for (Date date = makedate(2024, 1, 1); yearof(date) == 2024; date += std::chrono::days{1}) {
+                const Events events = listed(SunTimes(latitude, longitude, dayof(date), monthof(date), 2024, 0, 0));
+                double previous = 0;
+                for (std::size_t i = 0; i < 8; ++i) {
+                    ASSERT_GE(events[i], 0);
+                    ASSERT_LE(events[i], 24.0001);
+                    if (i == 4) previous = 0;
+                    if (events[i] == 0) continue;
+                    // Local noon lies at 12 less the longitude, within the equation of time and the day's drift.
+                    const double fromnoon = apart(events[i], 12 - longitude / 15);
+                    ASSERT_TRUE(i < 4 ? fromnoon < 0.5 || fromnoon > 11.3 : fromnoon > -0.5 || fromnoon < -11.3)
+                        << latitude << " " << longitude << " " << dayofyear(date) << " event " << i;
+                    ASSERT_TRUE(previous == 0 || apart(events[i], previous) > 0) << latitude << " event " << i;
+                    previous = events[i];
+                }
+                // A lower sun is reached only where the higher one is.
+                ASSERT_FALSE(events[0] != 0 && events[3] != 0 && events[1] * events[2] == 0);
+                ASSERT_FALSE(events[7] != 0 && events[4] != 0 && events[5] * events[6] == 0);
+            }
+        }
+    }
+}
+
+TEST(SunEvent, GrazingTheHorizon) {
+    // A pole-less sky: with declination and latitude 0 the cosine of the hour angle is the zenith's own.
+    const auto event = [](double coszenith, bool evening) {
+        return SunEvent(coszenith, 0, 0, 0, 1.5708, evening, 6.28319, 0, 3, 0);
+    };
+    const double noon = 3.81972 * (3 - 1.73364);
+    const double midnight = 3.81972 * (3 + 3.14159 - 1.73364);
+    EXPECT_NEAR(event(1, true), noon, 1e-9);
+    EXPECT_NEAR(event(1, false), noon, 1e-9);
+    EXPECT_NEAR(event(-1, true), midnight, 1e-9);
+    EXPECT_NEAR(event(-1, false), midnight, 1e-4);
+    EXPECT_NEAR(event(0.999999999, true), noon, 1e-3) << "the limit joins its neighbours";
+    EXPECT_EQ(event(1.0000001, true), 0);
+    EXPECT_EQ(event(-1.0000001, false), 0);
+}
+
+TEST(SunEvent, ZoneAngleIsTakenOff) {
+    const auto event = [](double zoneangle) {
+        return SunEvent(-0.0145439, 0.2, 0.8, 0.1, 1.5708, true, 6.28319, 100, 1, zoneangle);
+    };
+    EXPECT_NEAR(apart(event(0), event(0.5)), 0.5 * 3.81972, 1e-9);
+    EXPECT_GE(event(7), 0);
+    EXPECT_LE(event(-7), 24.0001);
+}
+
+// A typed position can be anything; the routine must come back.
+TEST(SunTimes, AbsurdPositionsEnd) {
+    const double infinite = std::numeric_limits<double>::infinity();
+    for (const double longitude : {1e9, -1e300, infinite, std::nan("")}) {
+        EXPECT_FALSE(SunTimes(50, longitude, 1, 1, 2024, 0, 0).sunrise > 24.0001) << longitude;
+        EXPECT_FALSE(SunTimes(longitude, 0, 1, 1, 2024, 0, 0).sunset > 24.0001) << longitude;
+    }
+}
+
+}  // namespace
+}  // namespace tarvane

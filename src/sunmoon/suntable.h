@@ -12,13 +12,15 @@
 
 namespace tarvane {
 
-/// Rows by day of the month (0 unused, as row 1 being empty tells that nothing was computed), columns 1 to 7: date or day, nautical
-/// dawn, civil dawn, sunrise, sunset, civil dusk, nautical dusk. Row 0 of `suntext` is kept for titles.
+/// Rows by day of the month (0 unused), columns 1 to 7: date or day, nautical dawn, civil dawn, sunrise, sunset, civil dusk, nautical
+/// dusk. An empty row 1 column 1 tells that no month was computed.
 struct SunTable {
-    std::array<std::array<std::string, 10>, 33> suntext;
-    std::array<std::array<double, 10>, 33> sunvalues{};
+    std::array<std::array<std::string, 9>, 32> suntext;
+    std::array<std::array<double, 9>, 32> sunvalues{};
+    std::array<std::string, 4> titles;  ///< from 1: port, longitude, latitude, as the results show them
 };
 
+/// Empties texts, values and titles.
 void clearsuntable(SunTable& table);
 
 }  // namespace tarvane

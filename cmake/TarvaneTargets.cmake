@@ -1,0 +1,40 @@
+# How this project's targets are made: one place for the warnings, the numeric rules and the sanitizers.
+
+add_library(tarvane_rules INTERFACE)
+target_compile_features(tarvane_rules INTERFACE cxx_std_20)
+target_include_directories(tarvane_rules INTERFACE ${CMAKE_SOURCE_DIR}/src)
+# Results are compared digit by digit: no contraction into fused operations, no fast-math.
+target_compile_options(tarvane_rules INTERFACE -Wall -Wextra -Wshadow -Wconversion -Werror -ffp-contract=off)
+if(TARVANE_SANITIZE)
+  target_compile_options(tarvane_rules INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                 -fno-omit-frame-pointer)
+  target_link_options(tarvane_rules INTERFACE -fsanitize=address,undefined)
+endif()
+
+# tarvane_library(NAME SOURCES a.cpp ... LINKS tarvane::b ...)
+function(tarvane_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  if(arg_SOURCES)
+    add_library(tarvane_${name} STATIC ${arg_SOURCES})
+    target_link_libraries(tarvane_${name} PUBLIC tarvane_rules ${arg_LINKS})
+  else()
+    add_library(tarvane_${name} INTERFACE)
+    target_link_libraries(tarvane_${name} INTERFACE tarvane_rules ${arg_LINKS})
+  endif()
+  add_library(tarvane::${name} ALIAS tarvane_${name})
+endfunction()
+
+# tarvane_test(FOLDER SOURCES a.cpp ... LINKS tarvane::a ...): one executable a folder, shuffled.
+function(tarvane_test folder)
+  cmake_parse_arguments(arg "OWN_MAIN" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(test_${folder} ${arg_SOURCES})
+  target_include_directories(test_${folder} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(test_${folder} PRIVATE TARVANE_DATA="${CMAKE_SOURCE_DIR}/data"
+                                                    TARVANE_TESTDATA="${CMAKE_SOURCE_DIR}/tests/data")
+  target_link_libraries(test_${folder} PRIVATE ${arg_LINKS} GTest::gtest)
+  if(NOT arg_OWN_MAIN)
+    target_link_libraries(test_${folder} PRIVATE GTest::gtest_main)
+  endif()
+  add_test(NAME ${folder} COMMAND test_${folder} --gtest_shuffle --gtest_brief=1)
+  set_tests_properties(${folder} PROPERTIES TIMEOUT 300)
+endfunction()

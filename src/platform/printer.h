@@ -1,0 +1,52 @@
+// The default printer, or the PDF that stands in for it: pages of text and lines in the printer's own coordinates.
+#pragma once
+
+#include <string>
+
+namespace tarvane {
+
+class Printer {
+  public:
+    virtual ~Printer() = default;
+
+    /// Opens a document. False if nothing can be printed to. Coordinates start as twips (1440 to the inch) from the top left of the
+    /// printable page; font size 9, not bold, the current position at the origin.
+    virtual bool begin(const std::string& title) = 0;
+
+    virtual double width() const = 0;        ///< printable width of the page, twips
+    virtual double height() const = 0;       ///< printable height, twips
+    virtual double scalewidth() const = 0;   ///< width in the scale in force
+    virtual double scaleheight() const = 0;
+
+    /// Moves the origin: the page's left and top edges get these coordinates, the unit staying.
+    virtual void setorigin(double left, double top) = 0;
+
+    virtual void setfontsize(double points) = 0;
+    virtual void setbold(bool on) = 0;
+
+    virtual double currentx() const = 0;
+    virtual double currenty() const = 0;
+    virtual void setcurrentx(double x) = 0;
+    virtual void setcurrenty(double y) = 0;
+
+    virtual double textwidth(const std::string& text) const = 0;
+    virtual double textheight() const = 0;  ///< height of one line in the font in force
+
+    /// Prints at the current position and goes to the start (the page's left edge, x = the scale's left) of the next line. A tab goes to the
+    /// next tab stop; CR, LF and CR LF inside start a new line at the x at which the text began.
+    virtual void print(const std::string& text) = 0;
+
+    /// Prints at the current position and stays behind the text.
+    virtual void printon(const std::string& text) = 0;
+
+    virtual void line(double x1, double y1, double x2, double y2) = 0;
+    virtual void point(double x, double y) = 0;
+
+    virtual void newpage() = 0;
+
+    /// Hands the document over. `destination` tells where it went: empty for a printer, a path for a PDF.
+    virtual bool enddocument() = 0;
+    virtual std::string destination() const = 0;
+};
+
+}  // namespace tarvane

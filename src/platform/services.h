@@ -1,0 +1,26 @@
+// All platform services together, as a window's code is handed them.
+#pragma once
+
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/filedialogs.h"
+#include "platform/folders.h"
+#include "platform/locale.h"
+#include "platform/messages.h"
+#include "platform/printer.h"
+#include "platform/windows.h"
+
+namespace tarvane {
+
+struct Services {
+    Messages& messages;
+    FileDialogs& filedialogs;
+    Printer& printer;
+    Clipboard& clipboard;
+    Clock& clock;
+    Locale& locale;
+    Folders& folders;
+    Windows& windows;
+};
+
+}  // namespace tarvane

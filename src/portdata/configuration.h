@@ -1,0 +1,61 @@
+// The one settings record and the module values that mirror it. Must not show anything or ask the system for folders.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "portdata/records.h"
+
+namespace tarvane {
+
+/// The folders that the program works in, without a trailing separator.
+struct ProgramFolders {
+    std::string programfolder;     ///< where the executable, the area files and Sample.way lie
+    std::string docsfolder;        ///< the user's documents
+    std::string appdatafolder;     ///< the user's local application data
+    std::string textoutputfolder;  ///< where saved texts go by default
+
+    std::string cfgpath() const;        ///< appdatafolder/TarvaneTides/TarTidesv9.cfg
+    std::string configfolder() const;   ///< appdatafolder/TarvaneTides
+    std::string userfolder() const;     ///< docsfolder/TarvaneTides
+    std::string depthsfolder() const;   ///< docsfolder/TarvaneTides/UserDepths
+};
+
+/// Values read from the configuration, and the paths of the two files in use.
+struct Settings {
+    ConfigRecord configrec;
+    std::string hcfile;    ///< area file used for prediction
+    std::string areafile;  ///< area file that the port selection lists; differs while a new area is being chosen
+    std::string depfile;   ///< its user depths
+    std::string wayfile;   ///< loaded, with no further use
+    std::int16_t currentport = 0;
+    float currentoutput = 0;  ///< 1 to chart datum, 2 with the user's depth, 3 with draught and clearance too
+    float currentdraught = 0;
+    float currentukc = 0;
+    std::int16_t spareoptionvalue = 0;
+    std::int16_t currentsummer = 0;  ///< -1 adjusted for summer time, 0 standard time
+    std::int16_t summerflag2 = 0;    ///< the copy that the date routines consult
+    float userdepth = 0;             ///< the current port's charted depth, metres
+};
+
+/// Record 1 of the configuration file; a short or missing file reads as if followed by zeros.
+ConfigRecord LoadConfig(const ProgramFolders& folders);
+
+/// Writes record 1. False if it couldn't, the file being as it was.
+bool SaveConfig(const ProgramFolders& folders, const ConfigRecord& record);
+
+/// The values of a first start: area UK.hc, port 77, option 3, draught and clearance 0.5, sorted by name.
+ConfigRecord defaultconfig(const ProgramFolders& folders);
+
+/// Fills the record with the values of a first start and writes it. False if the write failed; the record is filled all
+/// the same.
+bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record);
+
+/// Reads the configuration, writing the values of a first start before that when the file can't be opened, and derives all
+/// module values from it.
+void loadsettings(const ProgramFolders& folders, Settings& settings);
+
+/// Copies every module value that mirrors the record out of `settings.configrec`, trimming its paths.
+void takesettings(Settings& settings);
+
+}  // namespace tarvane

@@ -18,4 +18,15 @@ std::string timetext(double hours) {
     return format(whole, "00") + ":" + format(minutes, "00");
 }
 
+std::string clocktext(double hours) {
+    if (!std::isfinite(hours)) return "--:--:--";
+    constexpr double secondsofday = 86400;
+    const double whole = std::floor(hours);
+    double seconds = std::fmod(whole * 3600 + cint((hours - whole) * 3600), secondsofday);
+    if (seconds < 0) seconds += secondsofday;
+    const double minutes = std::floor(seconds / 60);
+    return format(std::floor(minutes / 60), "00") + ":" + format(std::fmod(minutes, 60), "00") + ":" +
+           format(std::fmod(seconds, 60), "00");
+}
+
 }  // namespace tarvane

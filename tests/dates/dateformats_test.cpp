@@ -18,6 +18,12 @@ ScriptedLocale machine(const char* order, const char* separator) {
     return locale;
 }
 
+/// A form written with "/" in another separator.
+std::string separated(std::string form, const char* separator) {
+    std::replace(form.begin(), form.end(), '/', *separator);
+    return form;
+}
+
 TEST(DateProbe, EveryOrderAndSeparator) {
     struct Row {
         const char* order;
@@ -62,8 +68,8 @@ TEST(DateProbe, NineLanguages) {
         for (const char* order : {"YMD", "DMY"}) {
             const bool yearfirst = order[0] == 'Y';
             const std::string s = separator;
-            const std::string daysfirst = yearfirst ? "YYYY" + s + "DD" + s + "MM" : "DD" + s + "MM" + s + "YYYY";
-            const std::string monthsfirst = yearfirst ? "YYYY" + s + "MM" + s + "DD" : "MM" + s + "DD" + s + "YYYY";
+            const std::string daysfirst = separated(yearfirst ? "YYYY/DD/MM" : "DD/MM/YYYY", separator);
+            const std::string monthsfirst = separated(yearfirst ? "YYYY/MM/DD" : "MM/DD/YYYY", separator);
             for (const Word& word : words) {
                 const ScriptedLocale locale = machine(order, separator);
                 const bool swapped = yearfirst && s == "-" && std::string{word.language} == "DUTCH";
@@ -198,17 +204,17 @@ TEST(DateCaptions, TwelveForms) {
     locale.months[2] = "März";
     const Date date = makedate(2024, 3, 5);
     for (const char* separator : {"/", "-", "."}) {
-        const std::string s = separator;
-        const auto check = [&](const std::string& form, const char* caption, bool atstart) {
-            const DateConventions conventions{form, s};
+        const auto check = [&](const char* pattern, const char* caption, bool atstart) {
+            const std::string form = separated(pattern, separator);
+            const DateConventions conventions{form, separator};
             EXPECT_EQ(DateCaption(locale, conventions, date), caption) << form;
             const std::optional<std::string> expected = atstart ? std::optional<std::string>{caption} : std::nullopt;
             EXPECT_EQ(LongDateText(locale, conventions, date), expected) << form;
         };
-        check("MM" + s + "DD" + s + "YYYY", "März 5 2024", true);
-        check("DD" + s + "MM" + s + "YYYY", "5 März 2024", true);
-        check("YYYY" + s + "MM" + s + "DD", "2024 März 5", false);
-        check("YYYY" + s + "DD" + s + "MM", "2024 5 März", s != ".");
+        check("MM/DD/YYYY", "März 5 2024", true);
+        check("DD/MM/YYYY", "5 März 2024", true);
+        check("YYYY/MM/DD", "2024 März 5", false);
+        check("YYYY/DD/MM", "2024 5 März", *separator != '.');
     }
 }
 

@@ -1,0 +1,71 @@
+// The height of the tide at one moment, line by line of the Admiralty simplified harmonic form: `heightformula`, the
+// body of a day's prediction, and `heightat`, the stand-alone routine. They differ on purpose and are not to be
+// unified.
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+
+#include "engine/orbital.h"
+#include "portdata/configuration.h"
+
+namespace tarvane {
+
+/// The constants of a place as one prediction takes them: phases in degrees, amplitudes and levels in metres.
+struct HarmonicConstants {
+    double M2g = 0, M2Hm = 0, S2g = 0, S2Hm = 0, K1g = 0, K1Hm = 0, O1g = 0, O1Hm = 0;
+    double SF4 = 0, LF4 = 0, SF6 = 0, LF6 = 0;
+    double Z0 = 0;
+    double DeltaZ0 = 0;  ///< the month's seasonal addition
+};
+
+/// A port's constants with the seasonal choice made: for tidemonth 1 to 12 the month's M2 amplitude and level addition;
+/// for any other the annual amplitude and no addition.
+HarmonicConstants seasonalconstants(const HarmonicRecord& port, int tidemonth);
+
+/// The parts of one height, metres.
+struct HeightParts {
+    double height = 0;
+    double m2 = 0, s2 = 0, k1 = 0, o1 = 0, f4 = 0, f6 = 0;
+};
+
+/// What `heightformula` works on: a base day's constants, made ready once for all its samples.
+struct HeightInputs {
+    HarmonicConstants constants;
+    AnglesAndFactors day;
+    AnglesAndFactors next;  ///< the day after
+    SpeedsAndRates rates;
+    double z0level = 0;    ///< Z0 with the month's addition
+    double userdepth = 0;  ///< added to the height unless currentoutput is 1
+    float currentoutput = 1;
+};
+
+/// The height `t` hours after 00:00 of the base day, and its parts. With `trace` set the form's lines are written to
+/// it.
+HeightParts heightformula(const HeightInputs& inputs, double t, std::ostream* trace = nullptr);
+
+/// Height at an instant and three minutes later.
+struct InstantHeight {
+    double first = 0;
+    double second = 0;
+    double time = 0;           ///< decimal hours of `second`
+    std::string risefalltext;  ///< "metres (Falling)", "metres (Rising)" or empty
+    bool defined = true;       ///< false where the day's constants divide by zero
+};
+
+/// Height of `settings.currentport` at `time` hours (0 becomes 1/60; from 23.8 on 1/6 is taken off) of day `daynumber`
+/// of `year`, the seasonal choice by `tidemonth`. Reads both files; leaves `settings.userdepth` set. Unlike the curve
+/// it takes no monthly level, no user depth, and the M2 rate for all factors.
+InstantHeight heightat(Settings& settings, int tidemonth, int year, int daynumber, double time,
+                       std::ostream* trace = nullptr);
+
+/// The same for constants in hand.
+InstantHeight heightofconstants(const HarmonicConstants& constants, const AnglesAndFactors& day,
+                                const AnglesAndFactors& next, double time, std::ostream* trace = nullptr);
+
+/// A time (decimal hours) and day in the port's zone. Below 0 the day stays as it is: only the wrap forward is handed
+/// on.
+void zonetime(double time, int day, std::int16_t zonehours, double& zonedtime, int& zoneday);
+
+}  // namespace tarvane

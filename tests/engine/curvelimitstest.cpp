@@ -1,0 +1,81 @@
+#include "engine/curvelimits.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tarvane {
+namespace {
+
+std::array<TimedValue, 501> curvebetween(double least, double greatest) {
+    std::array<TimedValue, 501> samples{};
+    samples[20].height = greatest;
+    samples[90].height = least;
+    return samples;
+}
+
+Settings option(float output, float draught = 0.5F, float ukc = 0.25F, float depth = 2) {
+    Settings settings;
+    settings.currentoutput = output;
+    settings.currentdraught = draught;
+    settings.currentukc = ukc;
+    settings.userdepth = depth;
+    return settings;
+}
+
+TEST(CurveLimits, TopAndBottomBands) {
+    const double infinite = std::numeric_limits<double>::infinity();
+    const struct {
+        double least, greatest, bottom, top;
+    } rows[] = {{0, 4.0, 0, 5},
+                {0.5, 3.99, 0, 4},
+                {-0.3, 1, -1, 2},
+                {-1, 1, -1, 2},
+                {-1.000000005, 1, -1.000000005, 2},
+                {-0.00000005, 0, -0.00000005, 1},
+                {-1.5, 0, -2, 1},
+                {-2.5, 0, -3, 1},
+                {-4, 0, -4, 1},
+                {-4.5, 0, -4.5, 1},
+                {-3.0, -3, -3, 1},
+                {-infinite, infinite, 0, 1}};
+    for (const auto& row : rows) {
+        const auto samples = curvebetween(row.least, row.greatest);
+        const CurveLimits limits = curvelimits(curveseries(samples, 147, option(1)), samples, 147);
+        EXPECT_EQ(limits.curvebottom, row.bottom) << row.least;
+        EXPECT_EQ(limits.curvetop, row.top) << row.greatest;
+    }
+}
+
+TEST(CurveLimits, LastSampleAndTheDottedCurveDoNotCount) {
+    auto samples = curvebetween(0, 2);
+    samples[147].height = 50;
+    const CurveLimits limits = curvelimits(curveseries(samples, 147, option(3, 20, 20)), samples, 147);
+    EXPECT_EQ(limits.curvetop, 3);
+    EXPECT_EQ(limits.curvebottom, 0);
+}
+
+TEST(CurveSeries, NotesAndSecondCurveGoByTheOption) {
+    const auto samples = curvebetween(0, 2);
+    const struct {
+        Settings settings;
+        const char* note;
+        double second;
+    } rows[] = {{option(1), "Depths to Chart Datum", 2},
+                {option(2), ": User depth=2M", 2},
+                {option(3), " : Draft=0.5M : Clearance=0.25M: User depth=2M", 1.25},
+                {option(3, 0, 0, 0), "", 2},
+                {option(3, 1.8F, 0, 0), " : Draft=1.8M", 2 - double{1.8F}}};
+    for (const auto& row : rows) {
+        const CurveSeries series = curveseries(samples, 147, row.settings);
+        EXPECT_TRUE(series.drawn);
+        EXPECT_EQ(series.curvenote, row.note);
+        EXPECT_DOUBLE_EQ(series.curve2[20].height, row.second);
+    }
+    const CurveSeries empty = curveseries(samples, 147, option(2.5F));
+    EXPECT_FALSE(empty.drawn);
+    EXPECT_EQ(curvelimits(empty, samples, 147).curvetop, 1);
+}
+
+}  // namespace
+}  // namespace tarvane

@@ -1,0 +1,44 @@
+#include "output/daytable.h"
+
+#include <algorithm>
+
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+#include "text/timetext.h"
+
+namespace tarvane {
+namespace {
+
+const char* const undefinedday = "No prediction: the day's constants divide by zero";
+
+}  // namespace
+
+void buildpredictiontext(DayTable& table, const Prediction& prediction, int n, const std::string& portname,
+                         const DateOnShow& onshow) {
+    std::fill(table.daylines.begin() + 1, table.daylines.begin() + 201, std::string{});
+    table.daylines[1] = "Port : " + trim(portname);
+    table.daylines[2] =
+        "Date : " + numbertext(onshow.tideday) + "/" + numbertext(onshow.tidemonth) + "/" + numbertext(onshow.tideyear);
+    table.daystide1 = "  Predictions\r\n";
+    if (!prediction.defined) {
+        table.daylines[4] = undefinedday;
+        table.daylinecount = 5;
+        table.daystide1 += "   None: the day's\r\n   constants divide\r\n   by zero\r";
+        return;
+    }
+    table.daystide1 += "   (Range " + format(prediction.dayrange, "0.0") + "M)\r\n   Time    Ht.\r\n";
+    for (int i = 1; i <= n; ++i) {
+        const TimedValue& point = prediction.turningpoints[static_cast<std::size_t>(i)];
+        TurningText& text = table.turningtext[static_cast<std::size_t>(i)];
+        text = {timetext(point.time), heighttext(point.height)};
+        table.daystide1 += "   " + text.time + "   " + text.height + "\r";
+        table.daylines[static_cast<std::size_t>(i) + 3] = text.time + "   " + text.height;
+    }
+    table.daylinecount = n + 4;
+}
+
+std::string heighttext(double height) {
+    return format(height, "#,#0.0;;;");
+}
+
+}  // namespace tarvane

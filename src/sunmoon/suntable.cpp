@@ -1,0 +1,9 @@
+#include "sunmoon/suntable.h"
+
+namespace tarvane {
+
+void clearsuntable(SunTable& table) {
+    table = {};
+}
+
+}  // namespace tarvane

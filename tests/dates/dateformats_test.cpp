@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "fakes/scriptedlocale.h"
 
@@ -11,10 +12,10 @@ namespace {
 
 const Date today = makedate(2026, 11, 22);
 
-ScriptedLocale machine(const char* order, const char* separator) {
+ScriptedLocale machine(std::string order, std::string separator) {
     ScriptedLocale locale;
-    locale.order = order;
-    locale.separator = separator;
+    locale.order = std::move(order);
+    locale.separator = std::move(separator);
     return locale;
 }
 

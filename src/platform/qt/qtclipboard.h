@@ -1,0 +1,14 @@
+// The system clipboard.
+#pragma once
+
+#include "platform/clipboard.h"
+
+namespace tarvane {
+
+class QtClipboard : public Clipboard {
+  public:
+    void clear() override;
+    void settext(const std::string& text) override;
+};
+
+}  // namespace tarvane

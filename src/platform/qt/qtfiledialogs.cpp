@@ -1,0 +1,70 @@
+#include "platform/qt/qtfiledialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QRegularExpression>
+
+namespace tarvane {
+
+namespace {
+
+QString casefolded(const QString& patterns) {
+    QStringList all;
+    for (const QString& part : patterns.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QString pattern = part.trimmed();
+        if (!pattern.isEmpty()) all << pattern << pattern.toLower() << pattern.toUpper();
+    }
+    all.removeDuplicates();
+    return all.join(QLatin1Char(' '));
+}
+
+/// "txt" when the filter's first pattern is "*.txt"; empty for "*.*" and the like.
+QString extension(const QString& namefilter) {
+    const QString patterns = namefilter.mid(namefilter.lastIndexOf(QLatin1Char('(')) + 1);
+    const QRegularExpression plain(QStringLiteral("^\\*\\.([A-Za-z0-9~]+)[ )]"));
+    return plain.match(patterns).captured(1);
+}
+
+std::optional<std::string> run(const FileRequest& request, bool saving) {
+    QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
+    dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askoverwrite);
+    dialog.setDirectory(request.folder.empty() ? QDir::homePath() : QString::fromStdString(request.folder));
+    const QStringList filters = namefilters(request.filter);
+    if (!filters.isEmpty()) {
+        dialog.setNameFilters(filters);
+        if (saving) {
+            dialog.setDefaultSuffix(extension(filters.first()));
+            QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                             [&dialog](const QString& shown) { dialog.setDefaultSuffix(extension(shown)); });
+        }
+    }
+    if (!request.filename.empty()) dialog.selectFile(QString::fromStdString(request.filename));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return dialog.selectedFiles().first().toStdString();
+}
+
+}  // namespace
+
+QStringList namefilters(const std::string& filter) {
+    const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString patterns = casefolded(parts[i + 1]);
+        if (!patterns.isEmpty()) filters << parts[i].trimmed() + QStringLiteral(" (") + patterns + QLatin1Char(')');
+    }
+    return filters;
+}
+
+std::optional<std::string> QtFileDialogs::open(const FileRequest& request) {
+    return run(request, false);
+}
+
+std::optional<std::string> QtFileDialogs::save(const FileRequest& request) {
+    return run(request, true);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,190 @@
+#include "platform/qt/qtprinter.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QPageSize>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+#include <algorithm>
+#include <cmath>
+
+namespace tarvane {
+
+namespace {
+
+constexpr double twipstoinch = 1440;
+constexpr double twipstopoint = 20;
+constexpr double tabstop = 720;
+constexpr double linethickness = 8;
+constexpr double dotsize = 24;
+constexpr double pdfmargin = 18;  // points, about what a printer can't reach
+
+QFont pagefont() {
+    QFont font;
+    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"), QStringLiteral("Helvetica"),
+                      QStringLiteral("sans-serif")});
+    font.setStyleHint(QFont::SansSerif);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setPixelSize(int(9 * twipstopoint));
+    return font;
+}
+
+QStringList textlines(QString text) {
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return text.split(QLatin1Char('\n'));
+}
+
+double nexttab(double fromleft) {
+    return tabstop * (std::floor(fromleft / tabstop) + 1);
+}
+
+bool finite(std::initializer_list<double> values) {
+    return std::all_of(values.begin(), values.end(), [](double value) { return std::abs(value) < 1e6; });
+}
+
+}  // namespace
+
+std::string freepdfpath(const std::string& folder, const std::string& title) {
+    QString name = QString::fromStdString(title).trimmed();
+    name.replace(QRegularExpression(QStringLiteral("[\\x00-\\x1f/\\\\:*?\"<>|]")), QStringLiteral("_"));
+    if (name.isEmpty() || name.startsWith(QLatin1Char('.'))) name.prepend(QStringLiteral("Tarvane"));
+    const QDir place(QString::fromStdString(folder));
+    QString path = place.filePath(name + QStringLiteral(".pdf"));
+    for (int number = 2; QFileInfo::exists(path); ++number)
+        path = place.filePath(QStringLiteral("%1 %2.pdf").arg(name).arg(number));
+    return path.toStdString();
+}
+
+bool QtPrinter::topdf() const {
+    return pdfonly || !forcedpath.empty() || QPrinterInfo::availablePrinterNames().isEmpty();
+}
+
+bool QtPrinter::begin(const std::string& title) {
+    painter.reset();
+    pdfpath.clear();
+    printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setCreator(QStringLiteral("Tarvane Tides"));
+    printer->setDocName(QString::fromStdString(title));
+    if (topdf()) {
+        if (forcedpath.empty()) QDir().mkpath(QString::fromStdString(pdffolder));
+        pdfpath = forcedpath.empty() ? freepdfpath(pdffolder, title) : forcedpath;
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(QString::fromStdString(pdfpath));
+        const bool letter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+        printer->setPageSize(QPageSize(letter ? QPageSize::Letter : QPageSize::A4));
+        printer->setPageMargins({pdfmargin, pdfmargin, pdfmargin, pdfmargin}, QPageLayout::Point);
+    } else if (QPrinterInfo::defaultPrinter().isNull()) {
+        printer->setPrinterName(QPrinterInfo::availablePrinterNames().first());
+    }
+    painter = std::make_unique<QPainter>();
+    if (!painter->begin(printer.get())) {
+        painter.reset();
+        printer.reset();
+        pdfpath.clear();
+        return false;
+    }
+    const double unit = printer->resolution() / twipstoinch;
+    pagesize = QSizeF(printer->pageLayout().paintRectPixels(printer->resolution()).size()) / unit;
+    painter->scale(unit, unit);
+    font = pagefont();
+    origin = current = QPointF(0, 0);
+    return true;
+}
+
+void QtPrinter::setorigin(double left, double top) {
+    origin = QPointF(left, top);
+}
+
+void QtPrinter::setfontsize(double points) {
+    font.setPixelSize(std::clamp(int(std::lround(points * twipstopoint)), 20, 4000));
+}
+
+void QtPrinter::setbold(bool on) {
+    font.setBold(on);
+}
+
+double QtPrinter::textwidth(const std::string& text) const {
+    const QFontMetricsF metrics(font);
+    double widest = 0;
+    for (const QString& textline : textlines(QString::fromStdString(text))) {
+        double end = 0;
+        bool first = true;
+        for (const QString& piece : textline.split(QLatin1Char('\t'))) {
+            if (!first) end = nexttab(end);
+            first = false;
+            end += metrics.horizontalAdvance(piece);
+        }
+        widest = std::max(widest, end);
+    }
+    return widest;
+}
+
+double QtPrinter::textheight() const {
+    return QFontMetricsF(font).lineSpacing();
+}
+
+double QtPrinter::putpiece(const QString& piece, double x) {
+    const QFontMetricsF metrics(font);
+    if (painter && finite({x, current.y()})) {
+        painter->setFont(font);
+        painter->drawText(QPointF(x, current.y() + metrics.ascent()) - origin, piece);
+    }
+    return x + metrics.horizontalAdvance(piece);
+}
+
+void QtPrinter::put(const QString& text) {
+    const double start = current.x();
+    bool firstline = true;
+    for (const QString& textline : textlines(text)) {
+        if (!firstline) current = QPointF(start, current.y() + textheight());
+        firstline = false;
+        bool firstpiece = true;
+        for (const QString& piece : textline.split(QLatin1Char('\t'))) {
+            if (!firstpiece) current.setX(origin.x() + nexttab(current.x() - origin.x()));
+            firstpiece = false;
+            current.setX(putpiece(piece, current.x()));
+        }
+    }
+}
+
+void QtPrinter::print(const std::string& text) {
+    put(QString::fromStdString(text));
+    current = QPointF(origin.x(), current.y() + textheight());
+}
+
+void QtPrinter::printon(const std::string& text) {
+    put(QString::fromStdString(text));
+}
+
+void QtPrinter::line(double x1, double y1, double x2, double y2) {
+    if (!painter || !finite({x1, y1, x2, y2})) return;
+    painter->setPen(QPen(Qt::black, linethickness, Qt::SolidLine, Qt::RoundCap));
+    painter->drawLine(QPointF(x1, y1) - origin, QPointF(x2, y2) - origin);
+}
+
+void QtPrinter::point(double x, double y) {
+    if (!painter || !finite({x, y})) return;
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(Qt::black);
+    painter->drawEllipse(QPointF(x, y) - origin, dotsize / 2, dotsize / 2);
+    painter->setPen(Qt::black);
+}
+
+void QtPrinter::newpage() {
+    if (!painter) return;
+    printer->newPage();
+    current = origin;
+}
+
+bool QtPrinter::enddocument() {
+    if (!painter) return false;
+    const bool ended = painter->end();
+    painter.reset();
+    const bool good = ended && printer->printerState() != QPrinter::Error;
+    printer.reset();
+    return good && (pdfpath.empty() || QFileInfo(QString::fromStdString(pdfpath)).size() > 0);
+}
+
+}  // namespace tarvane

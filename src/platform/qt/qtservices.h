@@ -1,0 +1,29 @@
+// All real services together, made once by the program's entry.
+#pragma once
+
+#include "platform/qt/qtclipboard.h"
+#include "platform/qt/qtclock.h"
+#include "platform/qt/qtfiledialogs.h"
+#include "platform/qt/qtfolders.h"
+#include "platform/qt/qtlocale.h"
+#include "platform/qt/qtmessages.h"
+#include "platform/qt/qtprinter.h"
+#include "platform/qt/qtwindows.h"
+#include "platform/services.h"
+
+namespace tarvane {
+
+struct QtServices {
+    QtMessages messages;
+    QtFileDialogs filedialogs;
+    QtPrinter printer;
+    QtClipboard clipboard;
+    QtClock clock;
+    QtLocale locale;
+    QtFolders folders;
+    QtWindows windows;
+
+    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+};
+
+}  // namespace tarvane

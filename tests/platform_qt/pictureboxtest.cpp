@@ -1,0 +1,251 @@
+#include "platform/qt/picturebox.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <cmath>
+#include <limits>
+
+#include "platform/qt/imagesurface.h"
+
+namespace tarvane {
+namespace {
+
+constexpr QRgb blackpixel = 0xFF000000;
+constexpr QRgb whitepixel = 0xFFFFFFFF;
+constexpr QRgb redpixel = 0xFFFF0000;
+
+int count(const QImage& image, QRgb colour) {
+    int found = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            found += image.pixel(x, y) == colour;
+    return found;
+}
+
+int marked(const QImage& image) {
+    return image.width() * image.height() - count(image, whitepixel);
+}
+
+TEST(layers, passinglayerliesoverthepersistentone) {
+    ImageSurface surface({100, 50});
+    surface.setscale(0, 5, 10, 0);
+    surface.setpersistent(true);
+    surface.clear();
+    surface.line(0, 2.5, 10, 2.5, black);
+    const QImage before = surface.image();
+    EXPECT_EQ(count(before, blackpixel), 100);
+    EXPECT_EQ(before.pixel(50, 25), blackpixel);
+
+    surface.setpersistent(false);
+    surface.line(5, 5, 5, 0, red);
+    EXPECT_EQ(count(surface.image(), redpixel), 50);
+    EXPECT_EQ(surface.image().pixel(50, 25), redpixel);
+    surface.clear();
+    EXPECT_EQ(surface.image(), before);
+
+    surface.line(5, 5, 5, 0, red);
+    surface.setpersistent(true);
+    surface.setbackcolour(yellow);
+    surface.clear();
+    EXPECT_EQ(count(surface.image(), 0xFFFFFF00), 5000);
+}
+
+TEST(layers, linesboxesandpointsstandwheretoldatbothdensities) {
+    for (const int ratio : {1, 2}) {
+        ImageSurface surface({240, 100}, ratio);
+        surface.setscale(0, 4, 24, -1);
+        surface.setpersistent(true);
+        surface.line(3, 4, 3, -1, black);
+        EXPECT_EQ(count(surface.image(), blackpixel), 100 * ratio * ratio);
+        EXPECT_EQ(surface.image().pixel(30 * ratio, 0), blackpixel);
+        surface.line(0, -1, 24, -1, blue);
+        EXPECT_EQ(surface.image().pixel(0, 100 * ratio - 1), 0xFF0000FFu) << "a line on the far edge is seen";
+        surface.clear();
+
+        surface.box(0, -1, 12, 4, black);
+        EXPECT_EQ(count(surface.image(), blackpixel), 120 * 100 * ratio * ratio);
+        surface.clear();
+
+        surface.point(12, 2, black);
+        EXPECT_EQ(count(surface.image(), blackpixel), 4 * ratio * ratio);
+        surface.clear();
+
+        surface.setlinewidth(2);
+        surface.line(3, 4, 3, -1, grey);
+        EXPECT_EQ(count(surface.image(), 0xFF808080), 200 * ratio * ratio);
+    }
+}
+
+TEST(layers, colourisbluegreenred) {
+    ImageSurface surface({10, 10});
+    surface.setpersistent(true);
+    surface.setscale(0, 0, 1, 1);
+    surface.box(0, 0, 1, 1, 0x112233);
+    EXPECT_EQ(count(surface.image(), 0xFF332211), 100);
+}
+
+TEST(layers, outsideandsenselesscoordinatesdonoharm) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinite = std::numeric_limits<double>::infinity();
+    ImageSurface surface({100, 100});
+    surface.setpersistent(true);
+    surface.setscale(0, 0, 100, 100);
+    for (const double bad : {nan, infinite, -infinite}) {
+        surface.line(bad, 0, 50, 50, black);
+        surface.line(10, bad, 10, 50, black);
+        surface.box(0, 0, bad, 100, black);
+        surface.point(bad, 5, black);
+        surface.text(5, bad, "text");
+    }
+    surface.line(-1, 0, -1, 100, black);
+    surface.line(0, 101, 100, 101, black);
+    surface.line(150, 0, 300, 100, black);
+    surface.point(101, 50, black);
+    surface.text(5, 500, "text");
+    EXPECT_EQ(marked(surface.image()), 0);
+    surface.setscale(0, 0, 0, 0);
+    surface.line(0, 0, 50, 50, black);
+    surface.box(0, 0, 1, 1, black);
+    EXPECT_EQ(marked(surface.image()), 0);
+
+    surface.setscale(0, 0, 100, 100);
+    surface.line(-1e300, -1e300, 1e300, 1e299, black);
+    surface.line(-1e308, 1e308, 1e308, -1e307, black);
+    EXPECT_EQ(marked(surface.image()), 0) << "a line too far out to be placed is left out";
+    surface.line(-1e9, -1e9, 1e9, 1e9, black);
+    EXPECT_NE(surface.image().pixel(50, 50), whitepixel);
+    EXPECT_NE(surface.image().pixel(0, 0), whitepixel);
+    surface.clear();
+    surface.line(50, -1e18, 50, 1e18, black);
+    EXPECT_EQ(count(surface.image(), blackpixel), 100);
+    surface.clear();
+    surface.box(-1e18, -1e18, 1e18, 1e18, black);
+    EXPECT_EQ(count(surface.image(), blackpixel), 10000);
+}
+
+TEST(layers, aslantedlineisunbroken) {
+    ImageSurface surface({300, 100});
+    surface.setpersistent(true);
+    surface.setscale(0, 1, 300, -1);
+    double last = 0;
+    for (int x = 2; x <= 300; x += 2) {
+        const double next = std::sin(x / 40.0) * 0.9;
+        surface.line(x - 2, last, x, next, black);
+        last = next;
+    }
+    const QImage image = surface.image();
+    for (int x = 0; x < 300; ++x) {
+        int darkness = 0;
+        for (int y = 0; y < 100; ++y)
+            darkness += 255 - qGray(image.pixel(x, y));
+        EXPECT_GT(darkness, 200) << x;
+    }
+}
+
+TEST(layers, texthasitslefttopatthepoint) {
+    for (const int ratio : {1, 2}) {
+        ImageSurface surface({200, 100}, ratio);
+        surface.setpersistent(true);
+        surface.setscale(0, 0, 200, 100);
+        surface.text(50, 40, "4M");
+        const QImage image = surface.image();
+        QRect inked;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) != whitepixel) inked |= QRect(x, y, 1, 1);
+        EXPECT_GE(inked.left(), 49 * ratio);
+        EXPECT_LE(inked.left(), 54 * ratio);
+        EXPECT_GE(inked.top(), 40 * ratio);
+        EXPECT_LE(inked.bottom(), 65 * ratio);
+        EXPECT_GT(inked.height(), 5 * ratio) << "text scales with the density";
+    }
+}
+
+/// Adds up what is repainted.
+class PaintWatch : public QObject {
+  public:
+    int pixels = 0;
+    int events = 0;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Paint) return false;
+        ++events;
+        for (const QRect& part : static_cast<QPaintEvent*>(event)->region())
+            pixels += part.width() * part.height();
+        return false;
+    }
+};
+
+TEST(picturebox, apassinglinerepaintsonlyitsstrips) {
+    PictureBox box;
+    box.resize(800, 400);
+    box.show();
+    box.setscale(0, 5, 24, -1);
+    box.setpersistent(true);
+    box.clear();
+    for (int i = 0; i < 200; ++i)
+        box.line(i * 0.12, 0, i * 0.12 + 0.12, 4, black);
+    box.setpersistent(false);
+    box.line(3, 5, 3, -1, red);
+    QCoreApplication::processEvents();
+    const QImage before = box.grab().toImage();
+
+    PaintWatch watch;
+    box.installEventFilter(&watch);
+    constexpr int moves = 200;
+    for (int i = 0; i < moves; ++i) {
+        box.clear();
+        box.line(i % 2 == 0 ? 20 : 3, 5, i % 2 == 0 ? 20 : 3, -1, red);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_GE(watch.events, moves);
+    EXPECT_LE(watch.pixels / watch.events, 2 * 5 * 400);
+    EXPECT_EQ(box.grab().toImage(), before);
+}
+
+TEST(picturebox, aresizedpictureisemptyandasksforitsdrawing) {
+    PictureBox box;
+    int asked = 0;
+    box.onresized = [&] { ++asked; };
+    box.setscale(0, 0, 1, 1);
+    box.resize(100, 100);
+    box.show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(asked, 1);
+    box.setpersistent(true);
+    box.box(0, 0, 1, 1, black);
+    const double density = box.devicePixelRatioF() * box.devicePixelRatioF();
+    EXPECT_EQ(marked(box.grab().toImage()), 10000 * density);
+    box.resize(120, 60);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(marked(box.grab().toImage()), 0);
+    box.box(0, 0, 1, 1, black);
+    EXPECT_EQ(marked(box.grab().toImage()), 7200 * density) << "the scale outlives the resizing";
+}
+
+TEST(picturebox, themousespeaksthescale) {
+    PictureBox box;
+    box.resize(240, 100);
+    box.show();
+    box.setscale(0, 4, 24, -1);
+    QPointF moved;
+    QPointF pressed;
+    box.onmousemove = [&](double x, double y) { moved = {x, y}; };
+    box.onmousedown = [&](double x, double y) { pressed = {x, y}; };
+    const QPointF place(60, 20);
+    QMouseEvent move(QEvent::MouseMove, place, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent press(QEvent::MouseButtonPress, place, place, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&box, &move);
+    QCoreApplication::sendEvent(&box, &press);
+    EXPECT_TRUE(box.hasMouseTracking());
+    EXPECT_DOUBLE_EQ(moved.x(), 6);
+    EXPECT_DOUBLE_EQ(moved.y(), 3);
+    EXPECT_EQ(pressed, moved);
+}
+
+}  // namespace
+}  // namespace tarvane

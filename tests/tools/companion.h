@@ -1,0 +1,114 @@
+// A user's machine in a temporary folder, `tides` run on it, and what came out.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "engine/testport.h"
+#include "fakes/temporaryfolder.h"
+#include "portdata/configuration.h"
+#include "portdata/recordfiles.h"
+#include "tides/runtides.h"
+
+namespace tarvane::tests {
+
+struct Outcome {
+    int status = 0;
+    std::string out;
+    std::string err;
+};
+
+/// Lines of a text, the last one without its end.
+inline std::vector<std::string> linesof(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+/// Fields of a CSV line in which nothing is quoted.
+inline std::vector<std::string> fieldsof(const std::string& line) {
+    std::vector<std::string> fields(1);
+    for (const char character : line) {
+        if (character == ',') {
+            fields.emplace_back();
+        } else {
+            fields.back() += character;
+        }
+    }
+    return fields;
+}
+
+class Companion {
+  public:
+    Companion() {
+        environment.programfolder = folder / "bin";
+        environment.home = folder / "home";
+        environment.today = makedate(2024, 4, 9);
+        std::filesystem::create_directories(environment.programfolder);
+        std::filesystem::create_directories(environment.home);
+    }
+
+    std::string areapath(const std::string& name = "UK.hc") const { return environment.programfolder + "/" + name; }
+
+    void store(const std::vector<HarmonicRecord>& ports, const std::string& name = "UK.hc") {
+        std::int16_t number = 0;
+        for (const HarmonicRecord& port : ports)
+            writeport(areapath(name), ++number, port);
+    }
+
+    /// A stored configuration with the worked port's area, heights to chart datum.
+    void configure(std::int16_t port, float output = 1, std::int16_t summer = 0) {
+        const ProgramFolders folders = foldersof(environment);
+        std::filesystem::create_directories(folders.configfolder());
+        ConfigRecord record = defaultconfig(folders);
+        record.portnumber = port;
+        record.outputoption = output;
+        record.summertimeflag = summer;
+        SaveConfig(folders, record);
+    }
+
+    /// The user's depth for the first port of an area.
+    void storedepth(float depth, const std::string& name = "UK.DEP") const {
+        const std::string depths = foldersof(environment).depthsfolder();
+        std::filesystem::create_directories(depths);
+        UserDepthRecord record;
+        record.UserDepth = depth;
+        writedepth(depths + "/" + name, 1, record);
+    }
+
+    Outcome run(const std::vector<std::string>& arguments) const {
+        std::ostringstream out;
+        std::ostringstream err;
+        const int status = runtides(arguments, environment, out, err);
+        return {status, out.str(), err.str()};
+    }
+
+    /// Every file and folder under the temporary one with its size.
+    std::map<std::string, std::uintmax_t> everything() const {
+        std::map<std::string, std::uintmax_t> found;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
+            found[entry.path().string()] = entry.is_regular_file() ? entry.file_size() : 0;
+        }
+        return found;
+    }
+
+    fakes::TemporaryFolder folder;
+    TidesEnvironment environment;
+};
+
+/// The port with round constants where the worked sun figures are, under any name.
+inline HarmonicRecord portnamed(const std::string& name) {
+    HarmonicRecord port = roundport();
+    port.PortName = name;
+    port.PortLat = 50.9F;
+    port.PortLong = -1.4F;
+    return port;
+}
+
+}  // namespace tarvane::tests

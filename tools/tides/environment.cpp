@@ -1,0 +1,79 @@
+#include "tides/environment.h"
+
+#include <filesystem>
+#include <string_view>
+
+#include "portdata/recordfiles.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+
+namespace {
+
+/// A folder variable counts only when it is absolute, as the desktop's own rules have it.
+std::string folderor(const std::string& value, const std::string& otherwise) {
+    return value.starts_with('/') ? value : otherwise;
+}
+
+/// The value of a line `KEY="..."` with $HOME resolved; empty when the line is another or the path is not absolute.
+std::string userfolderof(const std::string& line, std::string_view key, const std::string& home) {
+    const std::string text = trim(line);
+    if (!text.starts_with(key)) return "";
+    std::string value = trim(std::string_view(text).substr(key.size()));
+    if (!value.starts_with('=')) return "";
+    value = trim(std::string_view(value).substr(1));
+    if (value.size() < 2 || value.front() != '"' || value.back() != '"') return "";
+    value = value.substr(1, value.size() - 2);
+    constexpr std::string_view homemark = "$HOME";
+    if (value.starts_with(homemark)) value = home + value.substr(homemark.size());
+    while (value.size() > 1 && value.ends_with('/'))
+        value.pop_back();
+    return value.starts_with('/') ? value : "";
+}
+
+std::string documentsof(const TidesEnvironment& environment) {
+    const std::string confighome = folderor(environment.confighome, environment.home + "/.config");
+    std::string documents = environment.home + "/Documents";
+    std::string line;
+    const auto takeline = [&] {
+        const std::string folder = userfolderof(line, "XDG_DOCUMENTS_DIR", environment.home);
+        if (!folder.empty()) documents = folder;
+        line.clear();
+    };
+    for (const std::byte byte : readwhole(confighome + "/user-dirs.dirs")) {
+        const char character = static_cast<char>(byte);
+        if (character == '\n') {
+            takeline();
+        } else if (character != '\r') {
+            line += character;
+        }
+    }
+    takeline();
+    return documents;
+}
+
+}  // namespace
+
+ProgramFolders foldersof(const TidesEnvironment& environment) {
+    ProgramFolders folders;
+    folders.programfolder = environment.programfolder;
+    folders.docsfolder = documentsof(environment);
+    folders.appdatafolder = folderor(environment.datahome, environment.home + "/.local/share");
+    return folders;
+}
+
+std::string readsettings(const ProgramFolders& folders, Settings& settings) {
+    const std::string path = folders.cfgpath();
+    std::error_code ignored;
+    if (canopen(path)) {
+        settings.configrec = LoadConfig(folders);
+    } else if (std::filesystem::exists(path, ignored)) {
+        return "the configuration " + path + " can't be read";
+    } else {
+        settings.configrec = defaultconfig(folders);
+    }
+    takesettings(settings);
+    return "";
+}
+
+}  // namespace tarvane

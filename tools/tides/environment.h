@@ -1,0 +1,27 @@
+// What `tides` takes from the machine it runs on, handed in so that a test can script it, and the folders and stored
+// settings that follow from it. Must not write anything: no configuration and no depths file is ever made here.
+#pragma once
+
+#include <string>
+
+#include "dates/calendar.h"
+#include "portdata/configuration.h"
+
+namespace tarvane {
+
+struct TidesEnvironment {
+    std::string programfolder;  ///< where the executable lies
+    std::string home;           ///< HOME
+    std::string datahome;       ///< XDG_DATA_HOME, empty when unset
+    std::string confighome;     ///< XDG_CONFIG_HOME, empty when unset
+    Date today{};               ///< the local calendar date
+};
+
+/// The folders that the desktop program would work in for this user.
+ProgramFolders foldersof(const TidesEnvironment& environment);
+
+/// The stored settings, or those of a first start where no configuration is stored. The fault, empty when there is
+/// none.
+std::string readsettings(const ProgramFolders& folders, Settings& settings);
+
+}  // namespace tarvane

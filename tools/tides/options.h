@@ -1,0 +1,38 @@
+// The command line of `tides`: what it may hold, and what is wrong with one. Must not read files or the clock.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dates/calendar.h"
+#include "tides/rows.h"
+#include "tides/views.h"
+
+namespace tarvane {
+
+inline constexpr int mostdays = 3660;  ///< ten years
+
+struct Options {
+    bool help = false;
+    std::optional<std::string> area;
+    std::optional<std::string> port;  ///< UTF-8
+    std::optional<Date> date;
+    int days = 1;
+    std::optional<bool> summer;
+    const View* view = nullptr;  ///< set after a parse without fault
+    OutputFormat format = OutputFormat::text;
+};
+
+/// Fills `options` from the arguments behind the program's name. The fault in one line, empty when there is none; with
+/// --help anywhere there is none.
+std::string parseoptions(const std::vector<std::string>& arguments, Options& options);
+
+/// A date written yyyy-mm-dd, year 0001 to 9999; nothing for any other text and for a day that its month doesn't have.
+std::optional<Date> parseisodate(std::string_view text);
+
+/// What --help prints.
+std::string usagetext();
+
+}  // namespace tarvane

@@ -1,0 +1,122 @@
+#include "tides/runtides.h"
+
+#include <filesystem>
+#include <optional>
+
+#include "portdata/recordfiles.h"
+#include "portdata/userdepths.h"
+#include "text/numbers.h"
+#include "tides/options.h"
+#include "tides/portchoice.h"
+#include "tides/textforms.h"
+#include "tides/views.h"
+
+namespace tarvane {
+
+namespace {
+
+constexpr int refused = 2;
+
+/// Heights with the user's depth would be silently wrong if its file were there and not readable.
+std::string checkdepths(const Settings& settings) {
+    std::error_code ignored;
+    const bool wanted = settings.currentoutput != 1;
+    const bool unreadable = !canopen(settings.depfile) && std::filesystem::exists(settings.depfile, ignored);
+    return wanted && unreadable ? "the depths file " + settings.depfile + " can't be read" : "";
+}
+
+std::string checkarea(const std::string& area) {
+    return canopen(area) ? "" : "the sea area file " + area + " can't be read";
+}
+
+/// The ports that the options ask for, read from the area file.
+std::string takeports(const Options& options, ViewContext& context) {
+    const std::string& area = context.settings.hcfile;
+    if (area.empty()) return "the stored configuration names no sea area file; give one with --area";
+    const std::string unreadable = checkarea(area);
+    if (!unreadable.empty()) return unreadable;
+    context.areaname = std::filesystem::path(area).filename().string();
+    const std::vector<HarmonicRecord> records = readports(area);
+    std::vector<std::string> names;
+    for (const HarmonicRecord& record : records)
+        names.push_back(trimmedname(record));
+    const std::string wanted =
+        options.view->needsport ? options.port.value_or(numbertext(context.settings.currentport)) : "all";
+    const PortChoice choice = chooseports(names, wanted, context.areaname);
+    for (const std::int16_t number : choice.numbers) {
+        const auto index = static_cast<std::size_t>(number - 1);
+        context.ports.push_back({number, names[index], records[index]});
+    }
+    return choice.fault;
+}
+
+std::string takedays(const Options& options, Date today, ViewContext& context) {
+    context.first = options.date.value_or(today);
+    context.days = options.days;
+    const Date last = context.first + std::chrono::days(context.days - 1);
+    return last > makedate(9999, 12, 31) ? "the days run past 9999-12-31" : "";
+}
+
+/// In the tables every day has a result or there is no table.
+std::string checkdays(const Options& options, const ViewContext& context) {
+    std::string fault;
+    if (options.format == OutputFormat::text || !options.view->computable) return fault;
+    eachday(context, [&](Date date) {
+        if (fault.empty() && !options.view->computable(date)) {
+            fault =
+                "there is no result for " + isodate(date) + ": the arithmetic of its orbital constants divides by zero";
+        }
+    });
+    return fault;
+}
+
+std::string prepare(const Options& options, const TidesEnvironment& environment, ViewContext& context) {
+    const ProgramFolders folders = foldersof(environment);
+    std::string fault;
+    if (options.view->needsarea) {
+        fault = readsettings(folders, context.settings);
+        if (!fault.empty()) return fault;
+        if (options.area) context.settings.hcfile = *options.area;
+        if (options.summer) context.settings.summerflag2 = *options.summer ? -1 : 0;
+        context.settings.currentsummer = context.settings.summerflag2;
+        context.settings.depfile = depfileof(folders, context.settings.hcfile);
+        fault = takeports(options, context);
+        if (fault.empty()) fault = checkdepths(context.settings);
+    } else if (options.area) {
+        fault = checkarea(*options.area);
+    }
+    if (fault.empty()) fault = takedays(options, environment.today, context);
+    if (fault.empty()) fault = checkdays(options, context);
+    return fault;
+}
+
+}  // namespace
+
+int runtides(const std::vector<std::string>& arguments, const TidesEnvironment& environment, std::ostream& out,
+             std::ostream& err) {
+    Options options;
+    ViewContext context;
+    std::string fault = parseoptions(arguments, options);
+    if (fault.empty() && options.help) {
+        out << usagetext() << std::flush;
+        return 0;
+    }
+    if (fault.empty()) fault = prepare(options, environment, context);
+    if (fault.empty()) {
+        // everything that can be wrong has been found by now, so that results needn't be held back: ten years of all
+        // ports' samples would not fit
+        if (options.format == OutputFormat::text) {
+            options.view->text(context, out);
+        } else {
+            RowWriter writer(out, options.format, options.view->columns);
+            options.view->rows(context, writer);
+            writer.finish();
+        }
+        if (!out.flush()) fault = "the result could not be written";
+    }
+    if (fault.empty()) return 0;
+    err << "tides: " << plaintext(fault) << "\n";
+    return refused;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,71 @@
+#include "portdata/configuration.h"
+
+#include "portdata/recordfiles.h"
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+
+std::string ProgramFolders::configfolder() const {
+    return appdatafolder + "/TarvaneTides";
+}
+std::string ProgramFolders::cfgpath() const {
+    return configfolder() + "/" + "TarTidesv9.cfg";
+}
+std::string ProgramFolders::userfolder() const {
+    return docsfolder + "/TarvaneTides";
+}
+std::string ProgramFolders::depthsfolder() const {
+    return userfolder() + "/UserDepths";
+}
+
+ConfigRecord LoadConfig(const ProgramFolders& folders) {
+    return decodeconfig(readwhole(folders.cfgpath()));
+}
+
+bool SaveConfig(const ProgramFolders& folders, const ConfigRecord& record) {
+    return replacefile(folders.cfgpath(), encode(record));
+}
+
+ConfigRecord defaultconfig(const ProgramFolders& folders) {
+    ConfigRecord record;
+    record.hcfilepath = folders.programfolder + "/" + "UK.hc";
+    record.ownermark = "Owner Tarvane";
+    record.wayfilepath = folders.programfolder + "/" + "Sample.way";
+    record.portnumber = 77;
+    record.outputoption = 3;
+    record.draught = 0.5f;
+    record.ukc = 0.5f;
+    record.spareoption = 1;
+    record.sortmode = -1;
+    return record;
+}
+
+bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record) {
+    record = defaultconfig(folders);
+    return SaveConfig(folders, record);
+}
+
+void loadsettings(const ProgramFolders& folders, Settings& settings) {
+    const bool unwritable = !canopen(folders.cfgpath()) && !CreateDefaultConfig(folders, settings.configrec);
+    if (!unwritable) settings.configrec = LoadConfig(folders);
+    takesettings(settings);
+}
+
+void takesettings(Settings& settings) {
+    ConfigRecord& record = settings.configrec;
+    record.hcfilepath = trim(record.hcfilepath);
+    record.wayfilepath = trim(record.wayfilepath);
+    settings.hcfile = record.hcfilepath;
+    settings.areafile = record.hcfilepath;
+    settings.wayfile = record.wayfilepath;
+    settings.currentport = cint(record.portnumber);
+    settings.currentoutput = record.outputoption;
+    settings.currentdraught = record.draught;
+    settings.currentukc = record.ukc;
+    settings.spareoptionvalue = cint(record.spareoption);
+    settings.currentsummer = record.summertimeflag;
+    settings.summerflag2 = record.summertimeflag;
+}
+
+}  // namespace tarvane

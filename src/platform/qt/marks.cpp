@@ -124,7 +124,8 @@ std::optional<Mark> textmark(QSizeF size, QPointF lefttop, const QString& text, 
     Mark mark = areamark(area, black);
     mark.kind = Mark::Kind::text;
     mark.text = text;
-    mark.line.setP1({std::round(lefttop.x()), std::round(lefttop.y() + metrics.ascent())});
+    // Two pixels clear of an upright line at the same place.
+    mark.line.setP1({std::round(lefttop.x()) + 2, std::round(lefttop.y() + metrics.ascent())});
     mark.touched.adjust(-3, -2, 3, 2);
     return mark;
 }

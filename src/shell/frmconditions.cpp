@@ -1,0 +1,121 @@
+#include "shell/frmconditions.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "platform/qt/modaldialog.h"
+#include "platform/qt/twips.h"
+#include "shell/conditions.h"
+
+namespace tarvane {
+
+namespace {
+
+constexpr int formwidth = twips(11700);
+constexpr int formheight = twips(10200);
+constexpr int buttonwidth = twips(1500);
+constexpr int buttonheight = twips(480);
+constexpr int gap = twips(360);
+
+QAction* entry(QMenu* menu, const QString& text, const char* name) {
+    QAction* const action = menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    return action;
+}
+
+}  // namespace
+
+frmConditions::frmConditions(const Services& given, const ProgramFolders& where) : services(given), folders(where) {
+    setObjectName(QStringLiteral("frmConditions"));
+    setWindowTitle(QString::fromUtf8(conditionscaption));
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint);
+    buildlayout();
+    for (const std::string& line : conditionslines())
+        List1->addItem(QString::fromStdString(line));
+
+    connect(ConditionsOK, &QPushButton::clicked, this, &frmConditions::accept);
+    connect(cmdDecline, &QPushButton::clicked, this, &frmConditions::reject);
+    connect(mnuRestoreDefaults, &QAction::triggered, this, &frmConditions::mnuRestoreDefaults_Click);
+    connect(mnuHTMLHelp, &QAction::triggered, this, [this] {
+        if (onhelp) onhelp();
+    });
+    ConditionsOK->setFocus();
+}
+
+void frmConditions::buildlayout() {
+    menus = new QMenuBar(this);
+    QMenu* const mnuMain = menus->addMenu(QStringLiteral("&Menu"));
+    mnuMain->setObjectName(QStringLiteral("mnuMain"));
+    mnuRestoreDefaults = entry(mnuMain, QStringLiteral("&Restore Defaults"), "mnuRestoreDefaults");
+    QMenu* const mnuHelp = menus->addMenu(QStringLiteral("&Help"));
+    mnuHelp->setObjectName(QStringLiteral("mnuHelp"));
+    mnuHTMLHelp = entry(mnuHelp, QStringLiteral("&Help"), "mnuHTMLHelp");
+    mnuHTMLHelp->setEnabled(false);
+
+    heading = new QLabel(QStringLiteral("Tarvane Tides"), this);
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    large.setBold(true);
+    heading->setFont(large);
+    heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    lead = new QLabel(QStringLiteral("Conditions of use"), this);
+    lead->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+
+    List1 = new QListWidget(this);
+    List1->setObjectName(QStringLiteral("List1"));
+    List1->setSelectionMode(QAbstractItemView::NoSelection);
+    List1->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    List1->setAccessibleName(lead->text());
+
+    ConditionsOK = new QPushButton(QStringLiteral("&Accept"), this);
+    ConditionsOK->setObjectName(QStringLiteral("ConditionsOK"));
+    ConditionsOK->setDefault(true);
+    cmdDecline = new QPushButton(QStringLiteral("&Decline"), this);
+    cmdDecline->setObjectName(QStringLiteral("cmdDecline"));
+    setTabOrder(List1, ConditionsOK);
+    setTabOrder(ConditionsOK, cmdDecline);
+
+    setMinimumSize(formwidth / 2, formheight / 2);
+    resize(formwidth, formheight);
+    centreon(*this, nullptr);
+}
+
+void frmConditions::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    const int menuheight = menus->sizeHint().height();
+    menus->setGeometry(0, 0, width(), menuheight);
+
+    const int buttontop = static_cast<int>(height() / 1.25);
+    const int listbottom = buttontop - gap / 2;
+    const int listheight = 2 * listbottom - height();
+    const int listwidth = width() - 2 * gap;
+    List1->setGeometry((width() - listwidth) / 2, (height() - listheight) / 2, listwidth, listheight);
+
+    const int headroom = List1->y() - menuheight;
+    heading->setGeometry(0, menuheight, width(), headroom * 3 / 5);
+    lead->setGeometry(0, menuheight + headroom * 3 / 5, width(), headroom * 2 / 5);
+
+    ConditionsOK->setGeometry(width() / 2 - gap / 2 - buttonwidth, buttontop, buttonwidth, buttonheight);
+    cmdDecline->setGeometry(width() / 2 + gap / 2, buttontop, buttonwidth, buttonheight);
+}
+
+void frmConditions::accept() {
+    if (onaccepted) onaccepted();
+    QDialog::accept();
+}
+
+void frmConditions::reject() {
+    if (ondeclined) ondeclined();
+    QDialog::reject();
+}
+
+void frmConditions::mnuRestoreDefaults_Click() {
+    restoredefaults(services.folders, services.messages, folders);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,48 @@
+// The ports of a sea area as the port selection lists them: in the order of the file or by name, picked by text and
+// found by part of a name. Must not show anything.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "portdata/records.h"
+
+namespace tarvane {
+
+struct PortList {
+    std::vector<HarmonicRecord> displaylist;  ///< in the order shown
+    std::vector<HarmonicRecord> filelist;     ///< in the order of the file: element i is record i + 1
+    std::int16_t selectedport = 0;            ///< record number of the port picked; 0 before the first pick
+    std::int16_t searchposition = -1;         ///< place of the last search hit in `displaylist`; -1 for none
+};
+
+/// Reads every port of an area file into both lists and forgets the last search hit. A missing file gives empty lists.
+void loadportlist(PortList& list, const std::string& areafile);
+
+/// Orders `displaylist` by lower-cased name, by ordinal character code, equal names as they stood; the list loses its
+/// last entry of before the sort each time. Forgets the last search hit.
+void sortbyname(PortList& list);
+
+/// The trimmed names of `displaylist`.
+std::vector<std::string> portnames(const PortList& list);
+
+/// Makes the port of an entry's text the selected one and gives its name; of ports with the same name the last in the
+/// file. Nothing, the selection staying, when no port has that name.
+std::optional<std::string> pickport(PortList& list, std::string_view entry);
+
+/// Place in `displaylist` of the first port with `part` anywhere in its name, whatever the case; an empty text is in
+/// every name. A hit becomes `searchposition`; nothing is given for a hit without a name. No hit leaves
+/// `searchposition`.
+std::optional<std::size_t> searchfromstart(PortList& list, std::string_view part);
+
+/// The same from the entry behind the last hit. No hit sets `searchposition` to -1, so that the next call starts at the
+/// top.
+std::optional<std::size_t> searchnext(PortList& list, std::string_view part);
+
+/// True if any entry of `displaylist` has `part` in its name.
+bool searchhits(const PortList& list, std::string_view part);
+
+}  // namespace tarvane

@@ -9,8 +9,8 @@ namespace tarvane {
 /// anew and shows the list. The clock time is left corrected for the port's zone.
 void calculatemonth(MainContext& context);
 
-/// Sees to a month table before it is saved or copied: one that has fewer than `fewest` rows is calculated. False, the user having
-/// been told, when it has ten rows or fewer after that.
+/// Sees to a table before it is saved or copied: a list of fewer than 10 rows is calculated. False, the user having
+/// been told, when it holds 10 rows or fewer then.
 bool havemonthtable(MainContext& context);
 
 }  // namespace tarvane

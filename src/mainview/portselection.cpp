@@ -1,0 +1,101 @@
+#include "mainview/portselection.h"
+
+#include "mainview/loading.h"
+#include "mainview/usernotes.h"
+#include "portdata/recordfiles.h"
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+/// Reads the record anew; if its file has vanished, what was last read stands.
+void rereadconfig(Session& session) {
+    if (canopen(session.folders.cfgpath())) session.settings.configrec = LoadConfig(session.folders);
+}
+
+/// Writes the choice into the configuration, the fields of others surviving.
+void storechoice(MainContext& context, bool sortedbyname) {
+    Session& session = context.session;
+    Settings& settings = session.settings;
+    rereadconfig(session);
+    settings.configrec.portnumber = settings.currentport;
+    settings.configrec.hcfilepath = trim(settings.areafile);
+    settings.configrec.sortmode = sortedbyname ? -1 : 0;
+    if (SaveConfig(session.folders, settings.configrec)) return;
+    context.services.messages.show("The choice of port can't be stored: " + session.folders.cfgpath(), "Tarvane",
+                                   MessageIcon::exclamation);
+}
+
+}  // namespace
+
+void reloadforportlist(MainContext& context) {
+    Session& session = context.session;
+    Settings& settings = session.settings;
+    rereadconfig(session);
+    const ConfigRecord& record = settings.configrec;
+    settings.currentport = cint(record.portnumber);
+    settings.hcfile = trim(record.hcfilepath);
+    settings.areafile = settings.hcfile;
+    settings.currentoutput = record.outputoption;
+    settings.currentdraught = record.draught;
+    settings.currentukc = record.ukc;
+}
+
+bool choosesearea(MainContext& context) {
+    FileRequest request;
+    request.title = "Select Sea Area";
+    request.folder = context.session.folders.programfolder;
+    request.filter = "Harmonics (*.HC)|*.hc";
+    const std::string chosen = context.services.filedialogs.open(request).value_or("");
+    if (chosen.empty()) return false;
+    if (!canopen(chosen)) {
+        context.services.messages.show("File name not recognised- you should click on a sea area.", "");
+        return false;
+    }
+    context.session.settings.areafile = trim(chosen);
+    return true;
+}
+
+bool portconfigok(MainContext& context, const PortList& list, int listindex, bool sortedbyname) {
+    Session& session = context.session;
+    Settings& settings = session.settings;
+    if (listindex < 0 || list.selectedport < 1) {
+        context.services.messages.show("Select a port", "Tarvane");
+        return false;
+    }
+    settings.currentport = list.selectedport;
+    storechoice(context, sortedbyname);
+    // The path as the record holds it: a long one is cut there.
+    const std::string stored = trim(decodeconfig(encode(settings.configrec)).hcfilepath);
+    // kept: tested only now that the record is written, bad number and all
+    if (settings.configrec.portnumber > portcount(stored)) {
+        context.services.messages.show(
+            "Error in Port selection, Port number greater than the number of records in the file", "");
+        return false;
+    }
+    settings.hcfile = stored;
+    takecurrentport(session, true);
+    setportbox(session);
+    ensuredepths(context);
+    session.timenow = clockhours(context.services.clock);
+    refreshday(context);
+    context.surfaces.picture.clear();
+    clearmonthlist(session);
+    return true;
+}
+
+void portconfigcancel(MainContext& context) {
+    Session& session = context.session;
+    Settings& settings = session.settings;
+    rereadconfig(session);
+    const ConfigRecord& record = settings.configrec;
+    settings.currentdraught = record.draught;
+    settings.currentport = cint(record.portnumber);
+    settings.hcfile = trim(record.hcfilepath);
+    settings.currentukc = record.ukc;
+    settings.currentoutput = record.outputoption;
+    settings.wayfile = trim(record.wayfilepath);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,197 @@
+#include "mainview/usernotes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+
+#include "mainview/mainfixture.h"
+
+namespace tarvane::tests {
+namespace {
+
+constexpr std::size_t depthat = 37;
+constexpr std::size_t noteat = 49;
+
+class UserNotesTest : public testing::Test, protected MainFixture {
+  protected:
+    UserNotesTest() { load(); }
+
+    std::string notebytes(int recordnumber) const {
+        const auto bytes = readwhole(settings.depfile);
+        const std::size_t start = static_cast<std::size_t>(recordnumber - 1) * userdepthrecordsize + noteat;
+        return {reinterpret_cast<const char*>(bytes.data()) + start, longestnote};
+    }
+
+    Settings& settings = session.settings;
+};
+
+TEST_F(UserNotesTest, OpensOnTheCurrentPortWithEveryPortListed) {
+    const UserNotes notes = loadusernotes(context);
+    ASSERT_EQ(notes.rows.size(), 4U);
+    EXPECT_EQ(notes.rows[1], "2  Birch Sound" + std::string(24, ' '));
+    EXPECT_EQ(notes.portlabel, "Alder Quay");
+    EXPECT_EQ(notes.portnolabel, "1");
+    EXPECT_EQ(notes.depth, "0");
+    EXPECT_EQ(notes.usernotes.substr(0, 8), "Position");
+    EXPECT_EQ(std::filesystem::file_size(settings.depfile), 4 * userdepthrecordsize);
+}
+
+TEST_F(UserNotesTest, AnEnteredDepthAndNoteStandInTheirRecordAlone) {
+    UserNotes notes = loadusernotes(context);
+    pickusernotes(settings, notes, 2);
+    const auto before = readwhole(settings.depfile);
+    EXPECT_TRUE(enterusernotes(context, notes, "-2.5", "Bar dries\nFerry \u20AC5, caf\u00E9"));
+    const auto after = readwhole(settings.depfile);
+    ASSERT_EQ(after.size(), before.size());
+    const auto start = static_cast<std::ptrdiff_t>(2 * userdepthrecordsize);
+    const auto depth = start + static_cast<std::ptrdiff_t>(depthat);
+    EXPECT_TRUE(std::equal(before.begin(), before.begin() + depth, after.begin()));
+    EXPECT_TRUE(std::equal(before.begin() + depth + 4, before.begin() + depth + 12, after.begin() + depth + 4));
+    EXPECT_TRUE(std::equal(before.begin() + start + 305, before.end(), after.begin() + start + 305));
+    EXPECT_EQ(after[static_cast<std::size_t>(depth) + 3], std::byte{0xC0});
+    EXPECT_EQ(after[static_cast<std::size_t>(depth) + 2], std::byte{0x20});
+    const std::string note =
+        "Bar dries\r\nFerry \x80"
+        "5, caf\xE9";
+    EXPECT_EQ(notebytes(3), note + std::string(longestnote - note.size(), ' '));
+
+    pickusernotes(settings, notes, 3);
+    EXPECT_EQ(notes.depth, "0");
+    pickusernotes(settings, notes, 2);
+    EXPECT_EQ(notes.depth, "-2.5");
+    EXPECT_EQ(notes.usernotes, "Bar dries\nFerry \u20AC5, caf\u00E9");
+    EXPECT_EQ(settings.userdepth, 0) << "the module's depth isn't touched";
+    EXPECT_EQ(settings.currentport, 1);
+}
+
+TEST_F(UserNotesTest, DepthsAreTheLeadingNumberOfTheText) {
+    const std::pair<const char*, const char*> rows[] = {{"", "0"},    {"-", "0"},    {"..", "0"},      {"1.2.3", "1.2"},
+                                                        {"5-3", "5"}, {".5", "0.5"}, {"-.25", "-0.25"}};
+    UserNotes notes = loadusernotes(context);
+    for (const auto& [typed, shown] : rows) {
+        ASSERT_TRUE(enterusernotes(context, notes, typed, ""));
+        EXPECT_EQ(notes.depth, shown) << typed;
+    }
+    ASSERT_TRUE(enterusernotes(context, notes, std::string(400, '9'), ""));
+    EXPECT_TRUE(std::isfinite(readdepth(settings.depfile, 1).UserDepth));
+}
+
+TEST_F(UserNotesTest, ANoteIsCutAt256Characters) {
+    UserNotes notes = loadusernotes(context);
+    ASSERT_TRUE(enterusernotes(context, notes, "0", std::string(250, 'a') + "bcdefghijk"));
+    EXPECT_EQ(notebytes(1), std::string(250, 'a') + "bcdefg");
+    EXPECT_EQ(notebytes(2).substr(0, 8), "Position");
+
+    const std::string full(longestnote, 'x');
+    EXPECT_EQ(admittednote(full + "y", 0), full);
+    EXPECT_EQ(admittednote("abc", 254), "ab");
+    EXPECT_EQ(admittednote("a\nb", 254), "a") << "a line end takes two";
+    EXPECT_EQ(admittednote("\u2192t\u00E9\x01\x7F \u20AC\t\U0001F30A!", 0), "t\u00E9 \u20AC\t!");
+    EXPECT_EQ(notelength("\u00E9\n\u20AC"), 4U);
+}
+
+TEST_F(UserNotesTest, ADoubleClickRenamesThePortOnShowOnly) {
+    UserNotes notes = loadusernotes(context);
+    pickandnameport(session, notes, 2);
+    EXPECT_EQ(notes.portnolabel, "3");
+    EXPECT_EQ(session.port.portname, "Cedar Head");
+    EXPECT_EQ(settings.currentport, 1);
+    const double level = session.prediction.z0level;
+    closeusernotes(context);
+    EXPECT_EQ(session.view.portbox, "Port    : Cedar Head");
+    EXPECT_EQ(session.daytable.daylines[1], "Port : Cedar Head");
+    EXPECT_EQ(session.prediction.z0level, level) << "the tides are still those of the current port";
+}
+
+TEST_F(UserNotesTest, LeavingShowsTheNewDepthWhereTheOutputAsksForIt) {
+    for (const float output : {1.0F, 2.0F, 3.0F}) {
+        ConfigRecord record = stored();
+        record.outputoption = output;
+        SaveConfig(session.folders, record);
+        UserNotes notes = loadusernotes(context);
+        enterusernotes(context, notes, "0", "");
+        closeusernotes(context);
+        const double before = session.prediction.curvesamples[60].height;
+        session.view.monthvisible = true;
+        session.month.monthtitle = "Monthly";
+        session.month.monthspredictions = {"a row"};
+        session.month.monthcells[1][1][1] = "03:00";
+        scripted.clock.reading.minute = 45;
+
+        notes = loadusernotes(context);
+        enterusernotes(context, notes, "4", "");
+        EXPECT_EQ(settings.userdepth, 0);
+        closeusernotes(context);
+        EXPECT_NEAR(session.prediction.curvesamples[60].height, before + (output == 1 ? 0 : 4), 1e-6) << output;
+        EXPECT_EQ(settings.userdepth, 4);
+        EXPECT_DOUBLE_EQ(session.timenow, 14.75);
+        EXPECT_FALSE(session.view.monthvisible);
+        EXPECT_EQ(session.month.monthtitle, "");
+        EXPECT_EQ(session.month.monthcells[1][1][1], "");
+        EXPECT_EQ(session.month.monthspredictions.size(), 1U) << "the list is hidden, not emptied";
+    }
+}
+
+TEST_F(UserNotesTest, AVanishedConfigurationComesBackWithPort73) {
+    settings.configrec.sortmode = 0;
+    settings.configrec.wayfilepath = "/somewhere/My.way";
+    settings.configrec.draught = 3;
+    std::filesystem::remove(session.folders.cfgpath());
+    const UserNotes notes = loadusernotes(context);
+    const ConfigRecord record = stored();
+    EXPECT_EQ(record.portnumber, 73);
+    EXPECT_EQ(record.hcfilepath, area());
+    EXPECT_EQ(record.ownermark.substr(0, 13), "Owner Tarvane");
+    EXPECT_EQ(record.wayfilepath, "/somewhere/My.way");
+    EXPECT_EQ(record.sortmode, 0);
+    EXPECT_EQ(record.draught, 0.5F);
+    EXPECT_EQ(settings.currentport, 73);
+    EXPECT_EQ(settings.currentdraught, 0.5F);
+    EXPECT_EQ(notes.portnolabel, "73");
+    EXPECT_EQ(notes.portlabel, "");
+    EXPECT_EQ(notes.rows.size(), 4U);
+}
+
+TEST_F(UserNotesTest, OpeningTakesTheConfigurationsValues) {
+    ConfigRecord record = stored();
+    record.portnumber = 2;
+    record.outputoption = 1;
+    record.draught = 1.5F;
+    record.ukc = 0.25F;
+    record.summertimeflag = -1;
+    SaveConfig(session.folders, record);
+    const UserNotes notes = loadusernotes(context);
+    EXPECT_EQ(notes.portlabel, "Birch Sound");
+    EXPECT_EQ(settings.currentoutput, 1);
+    EXPECT_EQ(settings.currentdraught, 1.5F);
+    EXPECT_EQ(settings.currentukc, 0.25F);
+    EXPECT_EQ(settings.currentsummer, -1);
+    EXPECT_EQ(settings.summerflag2, 0) << "the dates' copy isn't among what this dialog loads";
+}
+
+TEST_F(UserNotesTest, WhatCannotBeStoredIsTold) {
+    UserNotes notes = loadusernotes(context);
+    UserNotes nowhere = notes;
+    pickusernotes(settings, nowhere, 8);
+    const auto before = readwhole(settings.depfile);
+    scripted.messages.expectshow("There is no port 9 in " + area(), "Tarvane");
+    EXPECT_FALSE(enterusernotes(context, nowhere, "1", "lost"));
+    EXPECT_EQ(readwhole(settings.depfile), before);
+
+    std::filesystem::remove_all(session.folders.depthsfolder());
+    scripted.messages.expectshow("The depth and the note can't be written: " + settings.depfile, "Tarvane");
+    EXPECT_FALSE(enterusernotes(context, notes, "1", "lost"));
+    EXPECT_EQ(notes.depth, "0");
+    scripted.messages.expectshow("The file of user depths and notes can't be made: " + settings.depfile, "Tarvane");
+    EXPECT_EQ(loadusernotes(context).rows.size(), 4U);
+
+    std::filesystem::remove_all(session.folders.configfolder());
+    scripted.messages.expectshow("The configuration can't be written: " + session.folders.cfgpath(), "Tarvane");
+    scripted.messages.expectshow("The file of user depths and notes can't be made: " + settings.depfile, "Tarvane");
+    EXPECT_EQ(loadusernotes(context).portnolabel, "73");
+}
+
+}  // namespace
+}  // namespace tarvane::tests

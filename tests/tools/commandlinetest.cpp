@@ -39,6 +39,7 @@ TEST(CommandLine, FaultsAreOneLineAndNoOutput) {
         {{"--port", "1", "--port", "2"}, "--port is given twice"},
         {{"--sun", "--sun"}, "--sun is given twice"},
         {{"--sun", "--samples"}, "--sun and --samples exclude each other"},
+        {{"--month", "--sun"}, "--month and --sun exclude each other"},
         {{"--format", "xml"}, "text, csv or json"},
         {{"--format", "CSV"}, "text, csv or json"},
         {{"--summer", "yes"}, "on or off"},
@@ -60,6 +61,7 @@ TEST(CommandLine, FaultsAreOneLineAndNoOutput) {
         {{"--area", machine.folder / "None.hc", "--orbital"}, "None.hc can't be read"},
         {{"--date", "1990-01-01", "--format", "csv"}, "1990-01-01"},
         {{"--date", "1990-01-02", "--format", "json", "--samples"}, "1990-01-02"},
+        {{"--date", "1990-01-20", "--format", "csv", "--month"}, "1990-01-01"},
         {{"--date", "1989-12-31", "--days", "3", "--format", "csv", "--orbital"}, "1990-01-01"},
     };
     for (const auto& row : rows)
@@ -129,8 +131,8 @@ TEST(CommandLine, HelpShowsEveryOption) {
     const Outcome outcome = machine.run({"--nonsense", "--help"});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.err, "");
-    for (const char* option : {"--area", "--port", "--date", "--days", "--summer", "--samples", "--sun", "--orbital",
-                               "--list", "--format"}) {
+    for (const char* option : {"--area", "--port", "--date", "--days", "--summer", "--samples", "--month", "--sun",
+                               "--orbital", "--list", "--format"}) {
         EXPECT_NE(outcome.out.find(option), std::string::npos) << option;
     }
 }

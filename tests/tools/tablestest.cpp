@@ -79,7 +79,8 @@ class JsonReader {
     std::size_t at = 0;
 };
 
-const std::vector<std::vector<std::string>> viewoptions{{}, {"--samples"}, {"--sun"}, {"--orbital"}, {"--list"}};
+const std::vector<std::vector<std::string>> viewoptions{{},        {"--samples"}, {"--month"},
+                                                        {"--sun"}, {"--orbital"}, {"--list"}};
 
 std::vector<std::string> with(std::vector<std::string> arguments, const std::vector<std::string>& more) {
     arguments.insert(arguments.end(), more.begin(), more.end());

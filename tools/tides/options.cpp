@@ -141,7 +141,7 @@ std::string usagetext() {
     };
     std::string text =
         "usage: tides [--area FILE.hc] [--port NUMBER|NAME|all] [--date YYYY-MM-DD] [--days N]\n"
-        "             [--summer on|off] [--samples | --sun | --orbital | --list] [--format text|csv|json]\n\n"
+        "             [--summer on|off] [--samples | --month | --sun | --orbital | --list] [--format text|csv|json]\n\n"
         "Tides of Tarvane Tides on the terminal, from the program's own files, none of which it writes.\n"
         "Without options: the stored sea area, port and summer choice, today.\n\n";
     for (const ValueOption& row : valueoptions)
@@ -151,6 +151,8 @@ std::string usagetext() {
         text += line(*view.option ? view.option : "(none of these)", view.help);
     return text +
            "\n--list and --orbital are about no port: --port is ignored with them, and --date and --days with --list.\n"
+           "--month is about the month that --date lies in: --days is ignored with it, and the summer time of --date\n"
+           "holds for every day of the month.\n"
            "A time of 00:00 behind the day's other tides is midnight at the day's end.\n"
            "Exit status: 0, or 2 with one line on standard error and nothing on standard output.\n";
 }

@@ -51,8 +51,13 @@ std::string takeports(const Options& options, ViewContext& context) {
 }
 
 std::string takedays(const Options& options, Date today, ViewContext& context) {
-    context.first = options.date.value_or(today);
+    context.dateonshow = options.date.value_or(today);
+    context.first = context.dateonshow;
     context.days = options.days;
+    if (options.view->wholemonth) {
+        context.first -= std::chrono::days(dayof(context.dateonshow) - 1);
+        context.days = DaysInMonth(yearof(context.dateonshow), monthof(context.dateonshow));
+    }
     const Date last = context.first + std::chrono::days(context.days - 1);
     return last > makedate(9999, 12, 31) ? "the days run past 9999-12-31" : "";
 }

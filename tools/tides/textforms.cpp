@@ -1,7 +1,6 @@
 #include "tides/textforms.h"
 
 #include <algorithm>
-#include <array>
 
 #include "dates/summertime.h"
 #include "engine/springs.h"
@@ -9,15 +8,12 @@
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 #include "text/timetext.h"
+#include "tides/englishlocale.h"
+#include "tides/monthview.h"
 
 namespace tarvane {
 
 namespace {
-
-constexpr std::array<const char*, 7> weekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                              "Thursday", "Friday", "Saturday"};
-constexpr std::array<const char*, 12> months{"January", "February", "March",     "April",   "May",      "June",
-                                             "July",    "August",   "September", "October", "November", "December"};
 
 constexpr const char* undefinedday =
     "No prediction for this day: the arithmetic of its orbital constants divides by zero.";
@@ -85,6 +81,33 @@ void tidestext(ViewContext& context, std::ostream& out) {
     for (const PortInHand& port : context.ports) {
         portheading(context, port, out);
         eachday(context, [&](Date date) { daytext(context, port, date, prediction, out); });
+    }
+    out << "\n" << caution << "\n";
+}
+
+void monthtext(ViewContext& context, std::ostream& out) {
+    for (const PortInHand& port : context.ports) {
+        portheading(context, port, out);
+        const MonthTable table = monthofport(context, port);
+        out << "\n"
+            << formatdate(EnglishLocale(), context.first, "mmmm yyyy") << "\n"
+            << timeline(context, port, context.dateonshow) << "\n"
+            << datumline(context.settings) << "\n";
+        eachday(context, [&](Date date) {
+            const auto& cells = table.monthcells[static_cast<std::size_t>(dayof(date))];
+            const int count = turningcountof(table, dayof(date));
+            out << formatdate(EnglishLocale(), date, "ddd ") << padleft(numbertext(dayof(date)), 2);
+            for (int i = 1; i <= count; ++i) {
+                const auto point = static_cast<std::size_t>(i);
+                out << "   " << cells[1][point] << padleft(cells[2][point], 7);
+            }
+            if (!haspredictions(date)) {
+                out << "   " << undefinedday;
+            } else if (count == 0) {
+                out << "   No high or low water on this day";
+            }
+            out << "\n";
+        });
     }
     out << "\n" << caution << "\n";
 }
@@ -174,8 +197,7 @@ void listtext(ViewContext& context, std::ostream& out) {
 }
 
 std::string longdate(Date date) {
-    return std::string(weekdays[static_cast<std::size_t>(weekdayof(date))]) + " " + numbertext(dayof(date)) + " " +
-           months[static_cast<std::size_t>(monthof(date) - 1)] + " " + numbertext(yearof(date));
+    return formatdate(EnglishLocale(), date, "dddd d mmmm yyyy");
 }
 
 std::string universaltext(int hoursahead) {

@@ -10,6 +10,7 @@
 namespace tarvane {
 
 void tidestext(ViewContext& context, std::ostream& out);
+void monthtext(ViewContext& context, std::ostream& out);
 void samplestext(ViewContext& context, std::ostream& out);
 void suntext(ViewContext& context, std::ostream& out);
 void orbitaltext(ViewContext& context, std::ostream& out);

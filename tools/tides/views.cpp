@@ -6,6 +6,7 @@
 #include "dates/summertime.h"
 #include "text/numbers.h"
 #include "text/timetext.h"
+#include "tides/monthview.h"
 #include "tides/textforms.h"
 
 namespace tarvane {
@@ -42,6 +43,14 @@ constexpr std::array<GroupColumns, 4> groups{{
 
 constexpr std::array<Column, 6> tidecolumns{
     {{"port", true}, {"name", false}, {"date", false}, {"time", false}, {"height", true}, {"kind", false}}};
+constexpr std::array<Column, 8> monthcolumns{{{"port", true},
+                                              {"name", false},
+                                              {"year", true},
+                                              {"month", true},
+                                              {"day", true},
+                                              {"weekday", false},
+                                              {"time", false},
+                                              {"height", true}}};
 constexpr std::array<Column, 12> samplecolumns{{{"port", true},
                                                 {"date", false},
                                                 {"row", true},
@@ -82,11 +91,6 @@ constexpr int factordecimals = 12;
 
 bool hasconstants(Date date) {
     return orbitalconstants(yearof(date), dayofyear(date)).has_value();
-}
-
-/// A prediction stands on the constants of the day before and of the day.
-bool haspredictions(Date date) {
-    return orbitalconstants(yearof(date), dayofyear(date) - 1).has_value() && hasconstants(date);
 }
 
 void tiderows(ViewContext& context, RowWriter& writer) {
@@ -155,14 +159,16 @@ void listrows(ViewContext& context, RowWriter& writer) {
     }
 }
 
-constexpr std::array<View, 5> allviews{{
-    {"", "the high and low waters of each day", tidecolumns, true, true, haspredictions, tiderows, tidestext},
-    {"--samples", "the day's curve every ten minutes, with each constituent's part", samplecolumns, true, true,
+constexpr std::array<View, 6> allviews{{
+    {"", "the high and low waters of each day", tidecolumns, true, true, false, haspredictions, tiderows, tidestext},
+    {"--samples", "the day's curve every ten minutes, with each constituent's part", samplecolumns, true, true, false,
      haspredictions, samplerows, samplestext},
-    {"--sun", "dawns, sunrise, sunset and dusks", suntablecolumns, true, true, nullptr, sunrows, suntext},
-    {"--orbital", "the day's angles and factors, the same for every port", orbitalcolumns, false, false, hasconstants,
-     orbitalrows, orbitaltext},
-    {"--list", "the ports of the sea area", listcolumns, true, false, nullptr, listrows, listtext},
+    {"--month", "the high and low waters of the whole month of the date, as the month table has them", monthcolumns,
+     true, true, true, haspredictions, monthrows, monthtext},
+    {"--sun", "dawns, sunrise, sunset and dusks", suntablecolumns, true, true, false, nullptr, sunrows, suntext},
+    {"--orbital", "the day's angles and factors, the same for every port", orbitalcolumns, false, false, false,
+     hasconstants, orbitalrows, orbitaltext},
+    {"--list", "the ports of the sea area", listcolumns, true, false, false, nullptr, listrows, listtext},
 }};
 
 }  // namespace
@@ -200,6 +206,10 @@ bool ishighwater(const Prediction& prediction, int turningpoint) {
     const TimedValue& point = prediction.turningpoints[static_cast<std::size_t>(turningpoint)];
     const auto row = static_cast<std::size_t>(std::lround(point.time * 6) + 1);
     return point.height > prediction.curvesamples[row - 1].height;
+}
+
+bool haspredictions(Date date) {
+    return orbitalconstants(yearof(date), dayofyear(date) - 1).has_value() && hasconstants(date);
 }
 
 std::string isodate(Date date) {

@@ -28,7 +28,8 @@ struct ViewContext {
     Settings settings;
     std::vector<PortInHand> ports;  ///< those asked for, or all of the area's for the list
     std::string areaname;
-    Date first{};
+    Date dateonshow{};  ///< the date asked for
+    Date first{};       ///< it, or the first of its month
     int days = 1;
 };
 
@@ -38,6 +39,7 @@ struct View {
     std::span<const Column> columns;  ///< of its CSV and JSON
     bool needsarea;                   ///< it reads a sea area file
     bool needsport;                   ///< it is about the ports asked for
+    bool wholemonth;                  ///< its days are those of the month, however many are asked for
     bool (*computable)(Date);         ///< false for a day without a result; null when every day has one
     void (*rows)(ViewContext&, RowWriter&);
     void (*text)(ViewContext&, std::ostream&);
@@ -74,6 +76,9 @@ void predictport(ViewContext& context, const PortInHand& port, Date date, Predic
 
 /// The sun of a day at a port under the context's summer choice.
 SunHours sunofport(const ViewContext& context, const PortInHand& port, Date date);
+
+/// False for a day without a prediction: it stands on the constants of the day before and of the day.
+bool haspredictions(Date date);
 
 /// True if the turning point of that index (from 1) is a high water, told by the sample before it.
 bool ishighwater(const Prediction& prediction, int turningpoint);

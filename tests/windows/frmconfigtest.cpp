@@ -1,0 +1,183 @@
+#include "portdata/frmconfig.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "mainview/mainfixture.h"
+#include "mainview/portselection.h"
+#include "portdata/portscsv.h"
+#include "windows/controls.h"
+
+namespace tarvane::tests {
+namespace {
+
+class FrmConfig : public testing::Test, protected MainFixture {
+  protected:
+    FrmConfig() {
+        std::ifstream file(TARVANE_DATA "/uk-ports.csv");
+        std::stringstream text;
+        text << file.rdbuf();
+        std::vector<std::byte> bytes;
+        for (const HarmonicRecord& port : readportscsv(text.str()).ports) {
+            const auto record = encode(port);
+            bytes.insert(bytes.end(), record.begin(), record.end());
+        }
+        replacefile(area(), bytes);
+        ports = portcount(area());
+        load();
+        reloadforportlist(context);
+    }
+
+    static QString highlighted(const frmconfig& form) {
+        const auto selected = form.portlist2->selectedItems();
+        return selected.isEmpty() ? QString() : selected.first()->text();
+    }
+    static std::vector<QString> shown(const frmconfig& form) {
+        std::vector<QString> texts;
+        for (int i = 0; i < form.portlist2->count(); ++i)
+            texts.push_back(form.portlist2->item(i)->text());
+        return texts;
+    }
+
+    int ports = 0;
+};
+
+TEST_F(FrmConfig, ASailorTypesPartOfANameAndPressesEnter) {
+    frmconfig form(context);
+    present(form);
+    EXPECT_EQ(form.windowname(), "frmconfig");
+    EXPECT_EQ(form.windowTitle(), "Select Port");
+    expectroomfortexts(form);
+    EXPECT_EQ(defaultbutton(form), "portconfigok");
+    EXPECT_EQ(taborder(form), (std::vector<std::string>{"txtSearch", "cmdSearch", "portlist2", "optSortbyName",
+                                                        "cmdSort", "portconfigok", "portconfigcancel"}));
+    EXPECT_TRUE(form.optSortbyName->isChecked());
+    EXPECT_EQ(form.portlist2->count(), ports - 1);
+    EXPECT_EQ(form.portconfigbox->text(), "St Mary's");
+    EXPECT_EQ(highlighted(form), "");
+    ASSERT_EQ(QApplication::focusWidget(), form.txtSearch);
+
+    QTest::keyClicks(form.txtSearch, "malo");
+    EXPECT_EQ(highlighted(form), "Saint-Malo");
+    EXPECT_EQ(form.portconfigbox->text(), "Saint-Malo");
+    QTest::keyClick(form.txtSearch, Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.result(), QDialog::Accepted);
+    EXPECT_EQ(stored().portnumber, 80);
+    EXPECT_EQ(stored().sortmode, -1);
+    EXPECT_EQ(session.view.portbox, "Port    : Saint-Malo");
+}
+
+TEST_F(FrmConfig, EnterOnATextThatNoPortHasTakesNoPort) {
+    frmconfig form(context);
+    present(form);
+    QTest::keyClick(form.txtSearch, Qt::Key_P);
+    QTest::keyClick(form.txtSearch, Qt::Key_O);
+    const QString before = highlighted(form);
+    ASSERT_FALSE(before.isEmpty());
+    QTest::keyClicks(form.txtSearch, "x");
+    EXPECT_EQ(highlighted(form), before) << "a text without a hit leaves the selection";
+    EXPECT_EQ(form.txtSearch->palette().color(QPalette::Text), QColor(Qt::red));
+    QTest::keyClick(form.txtSearch, Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(scripted.messages.beeps, 1);
+    EXPECT_EQ(stored().portnumber, 1);
+    QTest::keyClick(form.txtSearch, Qt::Key_Backspace);
+    EXPECT_NE(form.txtSearch->palette().color(QPalette::Text), QColor(Qt::red));
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(session.settings.currentport, 1);
+}
+
+TEST_F(FrmConfig, SearchStepsFromHitToHitAndStartsAgain) {
+    frmconfig form(context);
+    present(form);
+    form.optSortGeog->setChecked(true);
+    EXPECT_EQ(form.portlist2->count(), ports - 1) << "an option does nothing by itself";
+    QTest::mouseClick(form.cmdSort, Qt::LeftButton);
+    ASSERT_EQ(form.portlist2->count(), ports);
+    EXPECT_EQ(form.portlist2->item(0)->text(), "St Mary's");
+    QTest::keyClicks(form.txtSearch, "saint");
+    std::vector<QString> hits{highlighted(form)};
+    for (int i = 0; i < 3; ++i) {
+        QTest::mouseClick(form.cmdSearch, Qt::LeftButton);
+        hits.push_back(highlighted(form));
+    }
+    EXPECT_EQ(hits, (std::vector<QString>{"Saint-Malo", "Saint-Quay-Portrieux", "Saint-Quay-Portrieux", "Saint-Malo"}));
+
+    form.txtSearch->setFocus();
+    QTest::keyClick(form.txtSearch, Qt::Key_Down);
+    EXPECT_EQ(highlighted(form), "Saint-Quay-Portrieux") << "the arrows move the list while the text is typed";
+    EXPECT_EQ(form.portconfigbox->text(), "Saint-Quay-Portrieux");
+}
+
+TEST_F(FrmConfig, SortingAgainTakesEntriesOffAndTheFileOrderBringsThemBack) {
+    frmconfig form(context);
+    present(form);
+    EXPECT_TRUE(form.portlist2->findItems("Brest", Qt::MatchExactly).isEmpty()) << "the file's last port";
+    const auto first = shown(form);
+    QTest::mouseClick(form.cmdSort, Qt::LeftButton);
+    EXPECT_EQ(shown(form), std::vector<QString>(first.begin(), first.end() - 1));
+    form.optSortGeog->setChecked(true);
+    QTest::mouseClick(form.cmdSort, Qt::LeftButton);
+    EXPECT_EQ(form.portlist2->count(), ports);
+    EXPECT_EQ(highlighted(form), "");
+    scripted.messages.expectshow("Select a port", "Tarvane");
+    QTest::mouseClick(form.portconfigok, Qt::LeftButton);
+    ASSERT_TRUE(form.isVisible());
+
+    const auto brest = form.portlist2->findItems("Brest", Qt::MatchExactly);
+    ASSERT_EQ(brest.size(), 1);
+    form.portlist2->scrollToItem(brest.first());
+    const QPoint place = form.portlist2->visualItemRect(brest.first()).center();
+    QTest::mouseClick(form.portlist2->viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(form.portlist2->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(stored().portnumber, ports);
+    EXPECT_EQ(stored().sortmode, 0);
+
+    frmconfig again(context);
+    EXPECT_TRUE(again.optSortGeog->isChecked());
+    EXPECT_EQ(again.portlist2->count(), ports);
+    EXPECT_EQ(again.portconfigbox->text(), "Brest");
+}
+
+TEST_F(FrmConfig, FocusAloneSelectsNothing) {
+    frmconfig form(context);
+    present(form);
+    form.portlist2->setFocus();
+    EXPECT_EQ(highlighted(form), "");
+    scripted.messages.expectshow("Select a port", "Tarvane");
+    QTest::keyClick(form.portlist2, Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible());
+    QTest::keyClick(form.portlist2, Qt::Key_P);
+    QTest::keyClick(form.portlist2, Qt::Key_P);
+    EXPECT_TRUE(highlighted(form).startsWith("P"));
+    EXPECT_EQ(form.portconfigbox->text(), highlighted(form));
+}
+
+TEST_F(FrmConfig, AnotherAreaIsListedAndCancelLeavesTheOldOne) {
+    const std::string second = session.folders.programfolder + "/Two.hc";
+    writeport(second, 1, fixtureport("Dunlin & <b>Point</b>", 7));
+    writeport(second, 2, fixtureport("Eider Bay", 8));
+    scripted.filedialogs.expectopen(second);
+    ASSERT_TRUE(choosesearea(context));
+    frmconfig form(context);
+    present(form);
+    EXPECT_EQ(form.portconfigbox->text(), "Dunlin & <b>Point</b>") << "the port of the same number in the new area";
+    EXPECT_EQ(form.portconfigbox->textFormat(), Qt::PlainText);
+    EXPECT_EQ(form.portlist2->count(), 1);
+    form.portlist2->setCurrentRow(0);
+    form.close();
+    EXPECT_EQ(session.settings.hcfile, area());
+    EXPECT_EQ(stored().hcfilepath, area());
+    EXPECT_EQ(session.view.portbox, "Port    : St Mary's");
+}
+
+}  // namespace
+}  // namespace tarvane::tests

@@ -1,0 +1,21 @@
+// The four commands of the "&Print" menu: each asks first, prints to the default printer, and tells where a PDF went
+// that stands in for it. Must not know any control.
+#pragma once
+
+#include "mainview/session.h"
+
+namespace tarvane {
+
+/// `mnudayprint_Click`: the curve of the day on show, which is drawn anew on the screen afterwards.
+void printcurve(MainContext& context);
+
+/// `mnuhrprint_Click`: the day's heights every 10 minutes.
+void printtenminutes(MainContext& context);
+
+/// `mnumonthprint_Click`: the month's tides, calculated first when none are there.
+void printmonth(MainContext& context);
+
+/// `mnusunprint_Click`: the month's sun times and lunar phases, which must have been calculated.
+void printsun(MainContext& context);
+
+}  // namespace tarvane

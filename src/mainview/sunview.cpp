@@ -1,0 +1,155 @@
+#include "mainview/sunview.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <string_view>
+
+#include "dates/summertime.h"
+#include "portdata/coordinates.h"
+#include "portdata/recordfiles.h"
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+#include "text/timetext.h"
+
+namespace tarvane {
+namespace {
+
+const char* const lineend = "\r\n";
+
+/// How one of the two position boxes is read.
+struct PositionRule {
+    std::size_t longest;  ///< characters
+    std::string_view letters;
+    double (*parse)(std::string_view);
+    double limit;  ///< degrees, itself refused
+};
+
+constexpr PositionRule latituderule{9, "NS", ParseLatitude, 90};
+constexpr PositionRule longituderule{10, "WE", ParseLongitude, 180};
+
+std::optional<double> position(const std::string& typed, const PositionRule& rule) {
+    const std::string text = trim(typed);
+    const auto isletter = [&](char c) { return rule.letters.find(c) != std::string_view::npos; };
+    if (text.empty() || charactercount(text) > rule.longest) return std::nullopt;
+    if (!isletter(text.back()) || isletter(text.front())) return std::nullopt;
+    const double degrees = rule.parse(text);
+    if (!(std::fabs(degrees) < rule.limit)) return std::nullopt;
+    return degrees;
+}
+
+char positionkey(char key, char first, char second) {
+    const char capital = key >= 'a' && key <= 'z' ? static_cast<char>(key - 'a' + 'A') : key;
+    if (capital == first || capital == second) return capital;
+    const bool taken = (key >= '0' && key <= '9') || key == '.' || key == 8 || key == 127;
+    return taken ? key : '\0';
+}
+
+int yearonshow(const Session& session) {
+    return static_cast<int>(session.onshow.tideyear);
+}
+
+int monthonshow(const Session& session) {
+    return static_cast<int>(session.onshow.tidemonth);
+}
+
+/// Columns of the table in the order of the CSV behind the date.
+constexpr std::array<std::size_t, 6> csvcolumns{4, 5, 3, 6, 2, 7};
+
+}  // namespace
+
+const char* const userentry = "User entry";
+
+void preparesunview(Session& session) {
+    LunarPhases(monthonshow(session), yearonshow(session), session.lunar);
+}
+
+SunInput portsuninput(const Session& session) {
+    const HarmonicRecord port = readport(session.settings.hcfile, session.settings.currentport);
+    return {rtrim(port.PortName), LatitudeText(port.PortLat), LongitudeText(port.PortLong)};
+}
+
+char latitudekey(char key) {
+    return positionkey(key, 'N', 'S');
+}
+
+char longitudekey(char key) {
+    return positionkey(key, 'E', 'W');
+}
+
+SunOutcome calculatesun(MainContext& context, const SunInput& input) {
+    Session& session = context.session;
+    clearsuntable(session.suntable);
+    const std::optional<double> longitude = position(input.longitude, longituderule);
+    const std::optional<double> latitude = position(input.latitude, latituderule);
+    if (!longitude || !latitude) {
+        context.services.messages.beep();
+        return longitude ? SunOutcome::badlatitude : SunOutcome::badlongitude;
+    }
+    session.suntable.titles = {{{}, rtrim(input.port), rtrim(input.longitude), rtrim(input.latitude)}};
+    const SunMonthOnShow month{yearonshow(session), monthonshow(session),
+                               summershift(session.onshow.tidedate, session.settings.summerflag2),
+                               session.port.zonehours};
+    fillsuntable(session.suntable, month, {*latitude, *longitude}, context.services.locale);
+    return SunOutcome::calculated;
+}
+
+int opensunresults(Session& session) {
+    session.view.stepbuttonsvisible = true;
+    double& day = session.onshow.tideday;
+    day = std::min(day, static_cast<double>(daysonshow(session)));
+    return static_cast<int>(day);
+}
+
+int daysonshow(const Session& session) {
+    return DaysInMonth(yearonshow(session), monthonshow(session));
+}
+
+void leavesunresults(Session& session) {
+    session.view.stepbuttonsvisible = true;
+}
+
+void savesuncsv(MainContext& context) {
+    Session& session = context.session;
+    Messages& messages = context.services.messages;
+    FileRequest request;
+    request.folder = session.folders.programfolder;
+    request.filter = "CSV file | *csv";
+    const std::optional<std::string> chosen = context.services.filedialogs.save(request);
+    if (!chosen || chosen->empty()) return;
+    const std::string path = csvpath(*chosen);
+    if (canopen(path) && !messages.ask("File exist - Overwrite?", "Tarvane")) return;
+    if (!replacefile(path, tosinglebyte(suncsvtext(session))))
+        messages.show("The file could not be written:\r" + path, "Tarvane", MessageIcon::exclamation);
+}
+
+std::string csvpath(const std::string& chosen) {
+    const std::size_t folderend = chosen.find_last_of('/');
+    const std::size_t point = chosen.find('.', folderend == std::string::npos ? 0 : folderend);
+    return chosen.substr(0, point) + ".csv";
+}
+
+std::string suncsvtext(Session& session) {
+    const HarmonicRecord port = readport(session.settings.hcfile, session.settings.currentport);
+    const bool summer = session.settings.currentsummer != 0;
+    // kept: the port's own position stands here, also over the times of a typed one
+    std::string text = trim(port.PortName) + (summer ? ",Time Zone = Summer Time," : ",Time Zone = Standard Time,") +
+                       LatitudeText(port.PortLat) + "," + LongitudeText(port.PortLong) + lineend +
+                       "Date,Sunrise,Sunset,Civil Dawn,Civil Dusk,Nautical Dawn,Nautical Dusk" + lineend;
+    SunTable& table = session.suntable;
+    const int days = daysonshow(session);
+    for (int day = 1; day <= days; ++day) {
+        const auto row = static_cast<std::size_t>(day);
+        // kept: the window shows this form of the date from now on
+        table.suntext[row][1] =
+            numbertext(day) + "/" + numbertext(monthonshow(session)) + "/" + numbertext(yearonshow(session));
+        text += table.suntext[row][1];
+        for (const std::size_t column : csvcolumns)
+            text += "," + clocktext(table.sunvalues[row][column]);
+        text += lineend;
+    }
+    return text;
+}
+
+}  // namespace tarvane

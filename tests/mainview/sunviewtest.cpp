@@ -1,0 +1,209 @@
+#include "mainview/sunview.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "mainview/mainfixture.h"
+
+namespace tarvane::tests {
+namespace {
+
+class SunView : public MainFixture, public testing::Test {
+  protected:
+    SunView() { load(); }
+
+    SunOutcome calculate(const std::string& latitude, const std::string& longitude) {
+        return calculatesun(context, {"User entry", latitude, longitude});
+    }
+
+    std::string contents(const std::string& path) const {
+        std::ifstream file(path, std::ios::binary);
+        std::stringstream all;
+        all << file.rdbuf();
+        return all.str();
+    }
+
+    static std::vector<std::string> lines(const std::string& text) {
+        std::vector<std::string> all;
+        for (std::size_t from = 0; from < text.size();) {
+            const std::size_t end = text.find("\r\n", from);
+            all.push_back(text.substr(from, end - from));
+            from = end == std::string::npos ? text.size() : end + 2;
+        }
+        return all;
+    }
+
+    std::string file(const std::string& name) const { return folder / name; }
+};
+
+TEST_F(SunView, ComesUpWithThePortsPosition) {
+    const SunInput input = portsuninput(session);
+    EXPECT_EQ(input.port, "Alder Quay");
+    EXPECT_EQ(input.latitude, " 50.30N");
+    EXPECT_EQ(input.longitude, " 1.15W");
+    EXPECT_EQ(calculatesun(context, input), SunOutcome::calculated);
+    EXPECT_EQ(session.suntable.titles[1], "Alder Quay");
+    EXPECT_EQ(session.suntable.titles[2], " 1.15W");
+    EXPECT_EQ(session.suntable.titles[3], " 50.30N");
+    EXPECT_EQ(session.suntable.suntext[30][1], " 30Apr  2024");
+    EXPECT_EQ(session.suntable.suntext[31][1], "");
+}
+
+TEST_F(SunView, PositionsTakenAndRefused) {
+    struct Case {
+        const char* latitude;
+        const char* longitude;
+        SunOutcome outcome;
+    };
+    constexpr auto good = SunOutcome::calculated, lat = SunOutcome::badlatitude, lon = SunOutcome::badlongitude;
+    const std::vector<Case> cases{
+        {"50.45N", "1.30W", good},    {"  50.45.00N  ", " 001.30.00W ", good},
+        {"89.59S", "179.59W", good},  {"50N", "1W", good},
+        {"50.45N", "180.00E", lon},   {"50.45N", "180E", lon},
+        {"90.00N", "1.30W", lat},     {"95.00S", "1.30W", lat},
+        {"S50.45", "1.30W", lat},     {"S50.45N", "1.30W", lat},
+        {"050.45.00N", "1.30W", lat}, {"50.45N", "0001.30.00W", lon},
+        {"50.45N", "W1.30E", lon},    {"50.45N", "1.30", lon},
+        {"50.45", "1.30W", lat},      {"50.45n", "1.30W", lat},
+        {"50.45N", "1.30N", lon},     {"", "1.30W", lat},
+        {"50.45N", "", lon},          {"N", "1.30W", lat},
+        {"bad", "bad", lon},          {"50.45N", "1.30W\xc3\xa9", lon},
+    };
+    for (const Case& row : cases) {
+        const int beeps = scripted.messages.beeps;
+        EXPECT_EQ(calculate(row.latitude, row.longitude), row.outcome) << row.latitude << " " << row.longitude;
+        EXPECT_EQ(scripted.messages.beeps - beeps, row.outcome == good ? 0 : 1);
+        EXPECT_EQ(session.suntable.suntext[1][1].empty(), row.outcome != good) << row.latitude << " " << row.longitude;
+    }
+}
+
+TEST_F(SunView, ATypedPositionTakesThePortsZone) {
+    session.settings.currentport = 2;
+    takecurrentport(session, true);
+    ASSERT_EQ(session.port.zonehours, -1);
+    ASSERT_EQ(calculate("10.30S", "20.15E"), SunOutcome::calculated);
+    const SunHours sun = SunTimes(-10.5, 20.25, 7, 4, 2024, 0, -1);
+    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[7][4], sun.sunrise);
+    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[7][7], sun.nautdusk);
+}
+
+TEST_F(SunView, OneShiftServesTheWholeMonth) {
+    setdateonshow(session.onshow, makedate(2024, 3, 31));
+    session.settings.summerflag2 = 0;
+    calculate("50.30N", "1.15W");
+    const double plain = session.suntable.sunvalues[1][4];
+    session.settings.summerflag2 = -1;
+    calculate("50.30N", "1.15W");
+    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[1][4], plain + 1);
+    setdateonshow(session.onshow, makedate(2024, 3, 30));
+    calculate("50.30N", "1.15W");
+    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[31][4] + 1, SunTimes(50.5, -1.25, 31, 3, 2024, -1, 0).sunrise);
+}
+
+TEST_F(SunView, LunarPhasesOfTheMonthOnShow) {
+    setdateonshow(session.onshow, makedate(2024, 3, 15));
+    preparesunview(session);
+    EXPECT_EQ(session.lunar.lunarlist[2], "   02 Mar 2024       LAST QUARTER ");
+}
+
+TEST_F(SunView, ADayBehindTheMonthsEndIsPutBack) {
+    session.view.stepbuttonsvisible = false;
+    setdateonshow(session.onshow, makedate(2023, 1, 31));
+    EXPECT_EQ(opensunresults(session), 31);
+    EXPECT_TRUE(session.view.stepbuttonsvisible);
+    session.onshow.tidemonth = 2;
+    EXPECT_EQ(opensunresults(session), 28);
+    EXPECT_EQ(session.onshow.tideday, 28);
+}
+
+TEST(SunViewKeys, EveryKey) {
+    for (int code = 1; code < 256; ++code) {
+        const char key = static_cast<char>(code);
+        const bool both = (key >= '0' && key <= '9') || key == '.' || code == 8 || code == 127;
+        const bool north = key == 'N' || key == 'n', south = key == 'S' || key == 's';
+        const bool east = key == 'E' || key == 'e', west = key == 'W' || key == 'w';
+        EXPECT_EQ(latitudekey(key), both ? key : north ? 'N' : south ? 'S' : '\0') << code;
+        EXPECT_EQ(longitudekey(key), both ? key : east ? 'E' : west ? 'W' : '\0') << code;
+    }
+}
+
+TEST(SunViewPaths, ExtensionIsCutAndPut) {
+    for (const auto& [chosen, path] : std::vector<std::pair<std::string, std::string>>{{"/a/sun", "/a/sun.csv"},
+                                                                                       {"/a/sun.csv", "/a/sun.csv"},
+                                                                                       {"/a/sun.txt", "/a/sun.csv"},
+                                                                                       {"/a/s.un.txt", "/a/s.csv"},
+                                                                                       {"/a.b/sun", "/a.b/sun.csv"},
+                                                                                       {"/a.b/sun.x", "/a.b/sun.csv"},
+                                                                                       {"sun.", "sun.csv"}})
+        EXPECT_EQ(csvpath(chosen), path);
+}
+
+TEST_F(SunView, CsvText) {
+    calculate("69.00N", "20.00E");
+    const std::vector<std::string> csv = lines(suncsvtext(session));
+    ASSERT_EQ(csv.size(), 32U);
+    EXPECT_EQ(csv[0], "Alder Quay,Time Zone = Standard Time, 50.30N, 1.15W");
+    EXPECT_EQ(csv[1], "Date,Sunrise,Sunset,Civil Dawn,Civil Dusk,Nautical Dawn,Nautical Dusk");
+    EXPECT_EQ(csv[2].substr(0, 9), "1/4/2024,");
+    // By the end of April there is no nautical dusk so far north: it reads as midnight.
+    EXPECT_EQ(session.suntable.suntext[30][7], "None");
+    EXPECT_EQ(csv[31].substr(csv[31].size() - 18), ",00:00:00,00:00:00");
+    EXPECT_EQ(session.suntable.suntext[30][1], "30/4/2024") << "the window shows the file's form afterwards";
+    EXPECT_EQ(sundayonshow(session.suntable, 9).risedate, "9/4/2024");
+}
+
+TEST_F(SunView, CsvTimesToTheSecondInTheirOrder) {
+    calculate("50.30N", "1.15W");
+    auto& hours = session.suntable.sunvalues[1];
+    hours = {0, 1, 2.25, 3.5, 4.0 + 59.0 / 3600, 25.2, 20.0 + 1.0 / 3, 23.999999, 0};
+    session.settings.currentsummer = -1;
+    const std::vector<std::string> csv = lines(suncsvtext(session));
+    EXPECT_EQ(csv[0], "Alder Quay,Time Zone = Summer Time, 50.30N, 1.15W");
+    EXPECT_EQ(csv[2], "1/4/2024,04:00:59,01:12:00,03:30:00,20:20:00,02:15:00,00:00:00");
+}
+
+TEST_F(SunView, SavesWhereTheUserChose) {
+    calculate("50.30N", "1.15W");
+    scripted.filedialogs.expectsave(file("sun.text"));
+    savesuncsv(context);
+    EXPECT_EQ(lines(contents(file("sun.csv"))).size(), 32U);
+    const FileRequest& request = scripted.filedialogs.requests.front();
+    EXPECT_EQ(request.folder, session.folders.programfolder);
+    EXPECT_EQ(request.filter, "CSV file | *csv");
+    EXPECT_FALSE(request.askoverwrite);
+}
+
+TEST_F(SunView, AFileThatStandsIsReplacedOnYesOnly) {
+    calculate("50.30N", "1.15W");
+    std::ofstream(file("sun.csv")) << "old";
+    for (const bool answer : {false, true}) {
+        scripted.filedialogs.expectsave(file("sun"));
+        scripted.messages.expectask("File exist - Overwrite?", answer, "Tarvane", MessageIcon::question);
+        savesuncsv(context);
+        EXPECT_EQ(contents(file("sun.csv")) == "old", !answer);
+    }
+}
+
+TEST_F(SunView, NothingIsSavedWithoutAName) {
+    calculate("50.30N", "1.15W");
+    for (const std::optional<std::string>& answer : {std::optional<std::string>{}, std::optional<std::string>{""}}) {
+        scripted.filedialogs.expectsave(answer);
+        savesuncsv(context);
+        EXPECT_EQ(session.suntable.suntext[1][1], " 1Apr  2024");
+    }
+}
+
+TEST_F(SunView, AWriteThatFailsIsTold) {
+    calculate("50.30N", "1.15W");
+    const std::string path = file("nowhere/sun.csv");
+    scripted.filedialogs.expectsave(path);
+    scripted.messages.expectshow("The file could not be written:\r" + path, "Tarvane", MessageIcon::exclamation);
+    savesuncsv(context);
+}
+
+}  // namespace
+}  // namespace tarvane::tests

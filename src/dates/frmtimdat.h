@@ -1,0 +1,54 @@
+// "Date Entry": a date picker and three lists, each set with its own way of confirming. Only controls and copying.
+#pragma once
+
+#include <QCalendarWidget>
+#include <QDateEdit>
+#include <QFrame>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "mainview/dateentry.h"
+#include "platform/qt/modaldialog.h"
+
+namespace tarvane {
+
+class Frmtimdat : public ModalDialog {
+  public:
+    explicit Frmtimdat(MainContext& context, QWidget* parent = nullptr);
+
+    QLabel* Label1 = nullptr;
+    QDateEdit* DTPicker = nullptr;
+    QLabel* txtDayName = nullptr;
+    QPushButton *cmdOK = nullptr, *cmdReset = nullptr, *datecancel = nullptr;
+
+    QLabel* Text3 = nullptr;
+    QListWidget *daylist = nullptr, *monthlist = nullptr, *yearlist = nullptr;
+    QLabel *selectedday = nullptr, *selectedmonth = nullptr, *selectedyear = nullptr, *PredictedDay = nullptr;
+    QPushButton *date1ok = nullptr, *Command1 = nullptr;
+
+  private:
+    void buildlayout();
+    QFrame* buildpickerset();
+    QFrame* buildlistset();
+    void setcolumns();
+    void connectcontrols();
+
+    void showpicker();
+    void filllists();
+    void filldays();
+    void showselected();
+
+    void DTPicker_Change(const QDate& date);
+    void cmdOK_Click();
+    void cmdReset_Click();
+    void yearlist_Click();
+    void monthlist_Click();
+    void daylist_Click();
+    void date1ok_Click();
+
+    MainContext& context;
+    DateEntry entry;
+};
+
+}  // namespace tarvane

@@ -1,0 +1,126 @@
+#include "mainview/programsettings.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "dates/summertime.h"
+#include "mainview/loading.h"
+#include "portdata/recordfiles.h"
+#include "portdata/userdepths.h"
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+/// Nothing is taken when the configuration has gone while the program runs: zeros would leave it without area and port.
+void takerecord(Session& session, bool withsummer) {
+    if (!canopen(session.folders.cfgpath())) return;
+    const ConfigRecord record = LoadConfig(session.folders);
+    Settings& settings = session.settings;
+    settings.currentdraught = record.draught;
+    // kept: after port steps the record holds the port before the last, which becomes current under the old name
+    settings.currentport = cint(record.portnumber);
+    settings.hcfile = trim(record.hcfilepath);
+    settings.currentukc = record.ukc;
+    settings.currentoutput = record.outputoption;
+    if (withsummer) settings.currentsummer = record.summertimeflag;
+}
+
+float typedmetres(const std::string& text) {
+    constexpr double most = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(val(trim(text)), -most, most));
+}
+
+void storeoptions(MainContext& context) {
+    const Session& session = context.session;
+    const Settings& settings = session.settings;
+    ConfigRecord record = canopen(session.folders.cfgpath()) ? LoadConfig(session.folders) : settings.configrec;
+    record.outputoption = settings.currentoutput;
+    record.draught = settings.currentdraught;
+    record.ukc = settings.currentukc;
+    record.spareoption = settings.spareoptionvalue;
+    record.summertimeflag = settings.currentsummer;
+    if (SaveConfig(session.folders, record)) return;
+    context.services.messages.show(
+        "The program settings can't be stored in " + session.folders.cfgpath() + ". They are in force all the same.",
+        "Tarvane", MessageIcon::exclamation);
+}
+
+std::string outputtext(float output) {
+    if (output == 1) return " From chart datum only";
+    if (output == 2) return " Includes charted depth";
+    if (output == 3) return " Charted depth, draught and prog.ukc";
+    return {};
+}
+
+}  // namespace
+
+std::string optiontext(float metres) {
+    const std::string text = trim(str(metres));
+    if (text.empty() || text == "0") return "0.0";
+    return text.front() == '.' ? "0" + text : text;
+}
+
+ProgramOptions openoptions(Session& session) {
+    takerecord(session, true);
+    const Settings& settings = session.settings;
+    ProgramOptions options;
+    if (settings.currentoutput == 2) options.displayoption = 2;
+    if (settings.currentoutput == 3) options.displayoption = 3;
+    options.optDaylightSavings = settings.currentsummer == -1;
+    options.optNonDaylightsavings = settings.currentsummer == 0;
+    options.draughttext = optiontext(settings.currentdraught);
+    options.ukctext = optiontext(settings.currentukc);
+    return options;
+}
+
+void chooseoutput(Session& session, ProgramOptions& options, int option) {
+    options.displayoption = option;
+    // kept: the output changes before anything is confirmed
+    session.settings.currentoutput = static_cast<float>(option);
+}
+
+void offermaintenance(Session& session) {
+    // kept: taking the tick away shows the menus too
+    session.view.maintenancevisible = true;
+}
+
+void confirmoptions(MainContext& context, const ProgramOptions& options) {
+    Session& session = context.session;
+    Settings& settings = session.settings;
+    settings.currentsummer = options.optDaylightSavings ? -1 : 0;
+    settings.currentoutput = static_cast<float>(options.displayoption);
+    settings.currentdraught = typedmetres(options.draughttext);
+    settings.currentukc = typedmetres(options.ukctext);
+    storeoptions(context);
+    settings.summerflag2 = settings.currentsummer;
+    clearmonthcells(session.month);
+    clearmonthlist(session);
+    settings.userdepth = readdepth(settings.depfile, settings.currentport).UserDepth;
+    setportbox(session);
+    session.daytable.daystide1.clear();
+    session.timenow = clockhours(context.services.clock);
+    refreshday(context);
+    const bool adjusted = summershift(session.onshow.tidedate, settings.summerflag2) != 0;
+    session.view.disclaimer = disclaimeraccuracyfirst(adjusted ? adjustedline : uncorrectedline);
+}
+
+ConfigurationView openconfiguration(Session& session) {
+    takerecord(session, false);
+    Settings& settings = session.settings;
+    settings.depfile = depfileof(session.folders, settings.hcfile);
+    ConfigurationView view;
+    view.sealabel = hcbasename(session.folders, settings.hcfile);
+    view.confdraughtbox = numbertext(settings.currentdraught);
+    view.confukcbox = numbertext(settings.currentukc);
+    view.confoutputoption = outputtext(settings.currentoutput);
+    pickusernotes(settings, view.port, settings.currentport - 1);
+    int number = 0;
+    for (const HarmonicRecord& port : readports(settings.hcfile))
+        view.port.rows.push_back(numbertext(++number) + "  " + trimmedname(port));
+    if (settings.currentport >= 1 && settings.currentport <= number) view.selectedrow = settings.currentport - 1;
+    return view;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,198 @@
+#include "mainview/dateentry.h"
+
+#include <gtest/gtest.h>
+
+#include "dates/summertime.h"
+#include "mainview/mainfixture.h"
+
+namespace tarvane::tests {
+namespace {
+
+class DateEntryTest : public testing::Test, protected MainFixture {
+  protected:
+    DateEntryTest() { load(); }
+    DateEntry open() { return opendateentry(context.services); }
+    void pickandconfirm(int year, int month, int day) {
+        DateEntry entry = open();
+        pickdate(entry, scripted.locale, {year, month, day});
+        confirmpicker(context, entry);
+    }
+};
+
+TEST_F(DateEntryTest, OpensOnTodayWhateverDayIsOnShow) {
+    pickandconfirm(2030, 1, 31);
+    const DateEntry entry = open();
+    EXPECT_EQ(entry.pickeddate, makedate(2024, 4, 9));
+    EXPECT_EQ(entry.yearstart, makedate(2024, 1, 1));
+    EXPECT_EQ(entry.txtDayName, "(Tuesday)");
+    const DateLists& lists = entry.lists;
+    ASSERT_EQ(lists.yearlist.size(), 51U);
+    EXPECT_EQ(lists.yearlist.front(), "2024");
+    EXPECT_EQ(lists.yearlist.back(), "2074");
+    ASSERT_EQ(lists.monthlist.size(), 12U);
+    EXPECT_EQ(lists.monthlist.front(), "January");
+    EXPECT_EQ(lists.monthlist.back(), "December");
+    EXPECT_EQ(lists.daylist.size(), 30U);
+    EXPECT_EQ(predictedday(lists, scripted.locale), "(Tuesday)");
+}
+
+TEST_F(DateEntryTest, TheYearsStartFromTheLastFourCharactersOfTodaysText) {
+    const struct {
+        const char *shorttext, *first, *last;
+    } rows[] = {{"09/04/2024", "2024", "2074"},
+                {"9.4.2024", "2024", "2074"},
+                {"2024-04-09", "4", "54"},
+                {"2024/11/22", "1", "51"},
+                {"2024.11.22", "1", "51"},
+                {"2024-1-07", "1", "51"},
+                {"9 Apr 2024", "2024", "2074"},
+                {"09 Apr 24", "0", "50"},
+                {"2024\u5e744\u67089\u65e5", "4", "54"},
+                {"7", "7", "57"},
+                {"", "0", "50"}};
+    for (const auto& row : rows) {
+        scripted.locale.shorttext = row.shorttext;
+        const DateEntry entry = open();
+        ASSERT_EQ(entry.lists.yearlist.size(), 51U) << row.shorttext;
+        EXPECT_EQ(entry.lists.yearlist.front(), row.first) << row.shorttext;
+        EXPECT_EQ(entry.lists.yearlist.back(), row.last) << row.shorttext;
+        EXPECT_EQ(entry.lists.selected.year, 2024) << row.shorttext;
+    }
+}
+
+TEST_F(DateEntryTest, EveryMonthOfferedGetsItsDays) {
+    DateLists lists = open().lists;
+    for (int year = 0; year < 51; ++year) {
+        chooseyear(lists, year);
+        for (int month = 0; month < 12; ++month) {
+            chooseday(lists, 27);
+            choosemonth(lists, month);
+            const std::chrono::year_month_day_last end{
+                std::chrono::year{2024 + year},
+                std::chrono::month_day_last{std::chrono::month{static_cast<unsigned>(month + 1)}}};
+            ASSERT_EQ(lists.daylist.size(), static_cast<unsigned>(end.day())) << 2024 + year << " " << month + 1;
+            ASSERT_EQ(lists.daylist.back(), std::to_string(lists.daylist.size()));
+            ASSERT_EQ(lists.selected.day, 28);
+        }
+    }
+}
+
+TEST_F(DateEntryTest, ADayPastTheMonthsEndBecomesItsLast) {
+    DateLists lists = open().lists;
+    choosemonth(lists, 0);
+    chooseday(lists, 30);
+    choosemonth(lists, 1);
+    EXPECT_EQ(lists.selected.day, 29);
+    chooseyear(lists, 1);
+    EXPECT_EQ(lists.selected.day, 28);
+    EXPECT_EQ(lists.daylist.size(), 28U);
+    EXPECT_EQ(predictedday(lists, scripted.locale), "(Friday)");
+    choosemonth(lists, 2);
+    EXPECT_EQ(lists.selected.day, 28);
+}
+
+TEST_F(DateEntryTest, ThePickersDateComesOnShow) {
+    const struct {
+        int year, month, day, dayofyear;
+        const char* tidedatebox;
+    } rows[] = {{2024, 1, 1, 1, "Date   : 01 January 2024 (Monday)"},
+                {2024, 12, 31, 366, "Date   : 31 December 2024 (Tuesday)"},
+                {2023, 12, 31, 365, "Date   : 31 December 2023 (Sunday)"},
+                {2000, 2, 29, 60, "Date   : 29 February 2000 (Tuesday)"},
+                {1900, 3, 1, 60, "Date   : 01 March 1900 (Thursday)"},
+                {100, 1, 1, 1, "Date   : 01 January 0100 (Friday)"},
+                {9999, 12, 31, 365, "Date   : 31 December 9999 (Friday)"}};
+    scripted.locale.order = "YMD";
+    for (const auto& row : rows) {
+        pickandconfirm(row.year, row.month, row.day);
+        const DateOnShow& onshow = session.onshow;
+        EXPECT_EQ(onshow.tidedate, makedate(row.year, row.month, row.day));
+        EXPECT_EQ(onshow.tideyear, row.year);
+        EXPECT_EQ(onshow.tidemonth, row.month);
+        EXPECT_EQ(onshow.tideday, row.day);
+        EXPECT_EQ(onshow.tidedayofyear, row.dayofyear);
+        EXPECT_EQ(session.view.tidedatebox, row.tidedatebox);
+        EXPECT_EQ(session.daytable.daylines[2], "Date : " + std::to_string(row.day) + "/" + std::to_string(row.month) +
+                                                    "/" + std::to_string(row.year));
+    }
+}
+
+TEST_F(DateEntryTest, ConfirmingComputesTheDayAndDropsTheMonth) {
+    const std::string before = session.daytable.daystide1;
+    const auto drawn = picture.persistentlayer.size();
+    session.month.monthspredictions = {"a month"};
+    session.month.monthcells[31][2][8] = "4.2";
+    session.view.monthvisible = true;
+    pickandconfirm(2024, 4, 16);
+    const std::string after = session.daytable.daystide1;
+    EXPECT_NE(after, before);
+    EXPECT_TRUE(after.starts_with("  Predictions\r\n"));
+    EXPECT_GT(picture.persistentclears, 1);
+    EXPECT_GT(drawn, 100U);
+    EXPECT_TRUE(session.month.monthspredictions.empty());
+    EXPECT_EQ(session.month.monthcells[31][2][8], "");
+    EXPECT_FALSE(session.view.monthvisible);
+    pickandconfirm(2024, 4, 9);
+    EXPECT_EQ(session.daytable.daystide1, before);
+}
+
+TEST_F(DateEntryTest, TheListsConfirmTheirOwnDate) {
+    DateEntry entry = open();
+    pickdate(entry, scripted.locale, {2031, 5, 5});
+    chooseyear(entry.lists, 4);
+    choosemonth(entry.lists, 11);
+    chooseday(entry.lists, 30);
+    confirmlists(context, entry);
+    EXPECT_EQ(session.onshow.tidedate, makedate(2028, 12, 31));
+    EXPECT_EQ(session.onshow.tidedayofyear, 366);
+    EXPECT_EQ(session.view.tidedatebox, "Date   : 31 December 2028 (Sunday)");
+    EXPECT_EQ(entry.yearstart, makedate(2028, 1, 1));
+}
+
+TEST_F(DateEntryTest, AYearFirstSystemOffersTheFirstCentury) {
+    scripted.locale.order = "YMD";
+    scripted.locale.separator = "-";
+    scripted.clock.set(2024, 11, 22);
+    DateEntry entry = open();
+    confirmlists(context, entry);
+    EXPECT_EQ(session.onshow.tidedate, makedate(2024, 11, 22));
+    chooseyear(entry.lists, 0);
+    confirmlists(context, entry);
+    EXPECT_EQ(session.onshow.tidedate, makedate(1, 11, 22));
+    EXPECT_EQ(session.onshow.tideyear, 1);
+}
+
+TEST_F(DateEntryTest, TheCorrectionLineFollowsTheUsersChoice) {
+    const struct {
+        std::int16_t currentsummer;
+        int month, day;
+        const char* line;
+    } rows[] = {{-1, 3, 30, uncorrectedline},    {-1, 3, 31, adjustedline},     {-1, 10, 26, adjustedline},
+                {-1, 10, 27, uncorrectedline},   {-1, 12, 25, uncorrectedline}, {0, 7, 1, uncorrectedoffline},
+                {0, 12, 25, uncorrectedoffline}, {1, 7, 1, uncorrectedoffline}};
+    for (const auto& row : rows) {
+        session.settings.currentsummer = session.settings.summerflag2 = row.currentsummer;
+        pickandconfirm(2024, row.month, row.day);
+        EXPECT_EQ(session.view.disclaimer,
+                  "Heights in Metres, all data are derived and should therefore be considered as approximate\r\n" +
+                      std::string(row.line))
+            << row.currentsummer << " " << row.month << "/" << row.day;
+    }
+}
+
+TEST_F(DateEntryTest, ResetBringsTodayBackIntoThePickerAlone) {
+    DateEntry entry = open();
+    pickdate(entry, scripted.locale, {1999, 12, 31});
+    EXPECT_EQ(entry.txtDayName, "(Friday)");
+    choosemonth(entry.lists, 7);
+    scripted.clock.set(2025, 1, 1, 0, 0, 1);
+    resetpicker(entry, context.services);
+    EXPECT_EQ(entry.pickeddate, makedate(2025, 1, 1));
+    EXPECT_EQ(entry.yearstart, makedate(2025, 1, 1));
+    EXPECT_EQ(entry.txtDayName, "(Wednesday)");
+    EXPECT_EQ(entry.lists.selected.month, 8);
+    EXPECT_EQ(session.onshow.tidedate, makedate(2024, 4, 9));
+}
+
+}  // namespace
+}  // namespace tarvane::tests

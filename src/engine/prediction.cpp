@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "engine/vectorstate.h"
 #include "portdata/recordfiles.h"
 
 namespace tarvane {
@@ -19,6 +20,7 @@ void clearlayers(Prediction& prediction) {
 /// Reads the port and makes ready what its samples need, from the constants of `baseday` and the day after it. Nothing
 /// where these divide by zero, the prediction then being marked so.
 std::optional<HeightInputs> prepare(Settings& settings, const TideDay& day, int baseday, Prediction& prediction) {
+    settlevectors();
     prediction.curvesamples.fill({});
     prediction.turningpoints.fill({});
     prediction.turningcount = 0;

@@ -5,6 +5,7 @@
 #include "mainview/tidecurve.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
+#include "text/programcaption.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -38,10 +39,6 @@ void refresh(MainContext& context, bool setdisclaimer) {
 }
 
 }  // namespace
-
-std::string programcaption() {
-    return std::string("Tarvane Tides") + "   (v9.5.0)";
-}
 
 void loadmainwindow(MainContext& context) {
     Session& session = context.session;

@@ -8,9 +8,6 @@
 
 namespace tarvane {
 
-/// "Tarvane Tides" and its version, as captions carry them.
-std::string programcaption();
-
 /// The load of the main window: configuration, user depths, port, date, first prediction, pictures and texts.
 void loadmainwindow(MainContext& context);
 

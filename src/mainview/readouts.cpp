@@ -6,6 +6,7 @@
 #include "mainview/loading.h"
 #include "mainview/tidecurve.h"
 #include "text/numbers.h"
+#include "text/programcaption.h"
 #include "text/timetext.h"
 
 namespace tarvane {

@@ -172,8 +172,9 @@ void drawtimemarker(Session& session, DrawSurface& picture) {
     const TimedValue& sample = session.prediction.curvesamples[i];
     session.cursorheight = sample.height;
     session.cursortime = sample.time;
-    view.timeval = timetext(session.cursortime);
-    view.hiteval = session.prediction.defined ? heighttext(session.cursorheight) : std::string{};
+    const bool defined = session.prediction.defined;
+    view.timeval = defined ? timetext(session.cursortime) : std::string{};
+    view.hiteval = defined ? heighttext(session.cursorheight) : std::string{};
     picture.line(session.timenow, session.curve.curvetop, session.timenow, session.curve.curvebottom, red);
 }
 

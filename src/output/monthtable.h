@@ -1,5 +1,5 @@
-// The month table: every day's high and low waters as list rows, as two parallel lists of texts for saving, printing and
-// copying, and as cells by day. Must not show anything.
+// The month table: every day's high and low waters as list rows, as two parallel lists of texts for saving, printing
+// and copying, and as cells by day. Must not show anything.
 #pragma once
 
 #include <array>
@@ -27,8 +27,8 @@ struct MonthTable {
 /// Empties the cells; the lists stay.
 void clearmonthcells(MonthTable& table);
 
-/// Rebuilds the whole table for the month of `onshow.tidedate`, one summer shift (that of the day on show) serving for all its days.
-/// `settings` is only left with its user depth reloaded.
+/// Rebuilds the whole table for the month of `onshow.tidedate`, one summer shift (that of the day on show) serving for
+/// all its days. `settings` is only left with its user depth reloaded.
 void buildmonthtable(MonthTable& table, Settings& settings, const CurrentPort& port, const DateOnShow& onshow,
                      const Locale& locale);
 

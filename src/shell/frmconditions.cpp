@@ -10,6 +10,7 @@
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/twips.h"
 #include "shell/conditions.h"
+#include "text/programcaption.h"
 
 namespace tarvane {
 
@@ -31,7 +32,7 @@ QAction* entry(QMenu* menu, const QString& text, const char* name) {
 
 frmConditions::frmConditions(const Services& given, const ProgramFolders& where) : services(given), folders(where) {
     setObjectName(QStringLiteral("frmConditions"));
-    setWindowTitle(QString::fromUtf8(conditionscaption));
+    setWindowTitle(QString::fromStdString(programcaption()));
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint);
     buildlayout();

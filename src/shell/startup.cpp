@@ -12,8 +12,6 @@ std::filesystem::path systempath(const std::string& utf8) {
 
 }  // namespace
 
-const char* const conditionscaption = "Tarvane Tides   (v9.5.0)";
-
 ProgramFolders findfolders(const Folders& system) {
     ProgramFolders folders;
     folders.programfolder = system.program();

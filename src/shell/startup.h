@@ -11,9 +11,6 @@
 
 namespace tarvane {
 
-/// "Tarvane Tides" and its version, the start form's caption.
-extern const char* const conditionscaption;
-
 /// What a start that went well hands on.
 struct Started {
     ProgramFolders folders;

@@ -12,7 +12,10 @@ namespace tarvane::fakes {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tarvaneXXXXXX").string();
+        // In memory where the system has such a folder: the program flushes each file that it replaces to the disk.
+        const bool inmemory = access("/dev/shm", W_OK) == 0;
+        std::string name =
+            (inmemory ? "/dev/shm" : std::filesystem::temp_directory_path()) / std::filesystem::path("tarvaneXXXXXX");
         if (mkdtemp(name.data())) folder = name;
     }
     ~TemporaryFolder() {

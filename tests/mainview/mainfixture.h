@@ -59,6 +59,8 @@ class MainFixture {
     std::string area() const { return session.folders.programfolder + "/UK.hc"; }
     ConfigRecord stored() const { return LoadConfig(session.folders); }
 
+    MainSurfaces& surfaces() { return context.surfaces; }
+
     /// The start of the main window, as after Accept.
     void load() { loadmainwindow(context); }
 

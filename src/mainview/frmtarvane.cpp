@@ -1,0 +1,185 @@
+#include "mainview/frmtarvane.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMouseEvent>
+
+#include "mainview/layersview.h"
+#include "mainview/loading.h"
+#include "mainview/stepping.h"
+#include "mainview/tidecurve.h"
+#include "platform/qt/modaldialog.h"
+#include "platform/qt/screentext.h"
+#include "platform/qt/twips.h"
+
+namespace tarvane {
+
+frmtarvane::frmtarvane(Session& owner, const Services& services, QWidget* parent)
+    : QMainWindow(parent),
+      Picture1(new PictureBox),
+      pctSpringsStatus(new PictureBox),
+      session(owner),
+      surface(new PictureBox(this)),
+      context{owner, services, {*Picture1, *pctSpringsStatus, *surface, {}}} {
+    setObjectName("frmtarvane");
+    buildlayout();
+    buildmenus();
+    connectcontrols();
+    const QSize told(twips(9720), twips(7400));
+    setMinimumSize(told);
+    resize(told);
+    centreon(*this, nullptr);
+}
+
+void frmtarvane::load() {
+    layers.HideLevelControls();
+    layoutcontrols();
+    loadmainwindow(context);
+    loaded = true;
+    showview();
+    Timer1->start();
+    Timer2->start();
+}
+
+void frmtarvane::showview() {
+    const MainView& view = session.view;
+    setWindowTitle(screentext(view.caption));
+    const std::pair<QLabel*, const std::string*> labels[] = {
+        {portbox, &view.portbox},       {tidedatebox, &view.tidedatebox},
+        {timeval, &view.timeval},       {hiteval, &view.hiteval},
+        {lblrate, &view.lblrate},       {lblmousestatus, &view.lblmousestatus},
+        {lblSprings, &view.lblSprings}, {lblNeap, &view.lblNeap},
+        {disclaimer, &view.disclaimer}, {daystide1, &session.daytable.daystide1}};
+    for (const auto& [label, text] : labels)
+        label->setText(screentext(*text));
+    if (laidoutmode != session.layersmode) layoutcontrols();
+    layers.show(session);
+    for (const char* menu : {"mnutides", "mnuCalc", "mnuconfig"})
+        menuentry(menu)->setEnabled(view.topmenusenabled);
+    menuentry("mnuSpecial")->setVisible(view.specialvisible);
+    menuentry("mnumaintenance")->setVisible(view.maintenancevisible);
+    menuentry("mnuLayersShow")->setChecked(session.layersmode == 1);
+    Nextday->setVisible(view.stepbuttonsvisible);
+    Previousday->setVisible(view.stepbuttonsvisible);
+    if (session.layersmode == 1)
+        layers.showlevelcontrols();
+    else
+        layers.HideLevelControls();
+    showmonthlist();
+}
+
+void frmtarvane::showmonthlist() {
+    const auto& rows = session.month.monthspredictions;
+    monthspredictions->setUpdatesEnabled(false);
+    monthspredictions->clear();
+    for (const std::string& row : rows)
+        monthspredictions->addItem(screentext(row));
+    monthspredictions->setUpdatesEnabled(true);
+    monthspredictions->setVisible(session.view.monthvisible);
+    if (session.view.monthvisible) monthspredictions->raise();
+}
+
+void frmtarvane::connectcontrols() {
+    connect(Nextday, &QPushButton::clicked, this, &frmtarvane::Nextday_Click);
+    connect(Previousday, &QPushButton::clicked, this, &frmtarvane::Previousday_Click);
+    Picture1->onmousemove = [this](double x, double) { Picture1_MouseMove(x); };
+    Picture1->onmousedown = [this](double, double) { Picture1_MouseDown(); };
+    for (PictureBox* box : {Picture1, pctSpringsStatus, surface})
+        box->onresized = [this] { redraw(); };
+    Timer1 = new QTimer(this);
+    Timer1->setInterval(300);
+    connect(Timer1, &QTimer::timeout, this, &frmtarvane::Timer1_Timer);
+    Timer2 = new QTimer(this);
+    Timer2->setInterval(60000);
+    connect(Timer2, &QTimer::timeout, this, &frmtarvane::Timer2_Timer);
+    hitelabel->installEventFilter(this);
+    hiteval->installEventFilter(this);
+    layers.Label1->installEventFilter(this);
+}
+
+void frmtarvane::runcommand(const std::function<void()>& command) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    command();
+    QApplication::restoreOverrideCursor();
+    showview();
+}
+
+void frmtarvane::redraw() {
+    if (!loaded) return;
+    drawtidecurve(session, context.surfaces);
+    drawtimemarker(session, *Picture1);
+    showview();
+}
+
+void frmtarvane::Nextday_Click() {
+    nextday(context);
+    showview();
+}
+
+void frmtarvane::Previousday_Click() {
+    previousday(context);
+    showview();
+}
+
+void frmtarvane::mnuNextPort_Click() {
+    nextport(context);
+    showview();
+}
+
+void frmtarvane::mnuPrevPort_Click() {
+    previousport(context);
+    showview();
+}
+
+void frmtarvane::mnuLayersShow_Click() {
+    togglelayers(context);
+    showview();
+}
+
+void frmtarvane::Picture1_MouseMove(double x) {
+    picturemousemove(session, *Picture1, x);
+    timeval->setText(screentext(session.view.timeval));
+    hiteval->setText(screentext(session.view.hiteval));
+    lblrate->setText(screentext(session.view.lblrate));
+    if (session.layersmode == 1) layers.showvalues(session.layervalues);
+}
+
+void frmtarvane::Picture1_MouseDown() {
+    picturemousedown(session);
+    lblmousestatus->setText(screentext(session.view.lblmousestatus));
+}
+
+void frmtarvane::Timer1_Timer() {
+    if (timer1tick(firstdrawing, session, context.surfaces)) showview();
+}
+
+void frmtarvane::Timer2_Timer() {
+    rewritetitle(session, context.services.clock);
+    setWindowTitle(screentext(session.view.caption));
+}
+
+void frmtarvane::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    layoutcontrols();
+}
+
+bool frmtarvane::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && loaded) Timer2_Timer();
+    return QMainWindow::event(event);
+}
+
+bool frmtarvane::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == layers.Label1 && event->type() == QEvent::MouseButtonDblClick) {
+        session.view.specialvisible = true;
+        session.showconstants = true;
+        showview();
+    } else if (watched != layers.Label1 && event->type() == QEvent::MouseButtonPress) {
+        session.view.stepbuttonsvisible = true;
+        enabletopmenus(session);
+        showview();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,15 @@
+// How the program looks on every desktop: style, colours, font and icon. Must be called once, before the first window.
+#pragma once
+
+#include <QApplication>
+
+namespace tarvane {
+
+/// Sets the application up. The process's number conventions go back to "C", which creating the application had
+/// changed.
+void setappearance(QApplication& application);
+
+/// The program's icon, drawn: a tide's curve under the sun.
+QIcon programicon();
+
+}  // namespace tarvane

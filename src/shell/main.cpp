@@ -1,0 +1,33 @@
+// The program's entry: makes the services and the session, shows the conditions and, once they are accepted, the main
+// window.
+#include <QApplication>
+#include <memory>
+
+#include "mainview/frmtarvane.h"
+#include "platform/qt/appearance.h"
+#include "platform/qt/qtservices.h"
+#include "shell/frmconditions.h"
+
+int main(int argc, char** argv) {
+    using namespace tarvane;
+    QApplication application(argc, argv);
+    setappearance(application);
+    QtServices services;
+    const std::optional<Started> started = startup(services.services());
+    if (!started) return 1;
+    services.printer.setpdffolder(started->folders.textoutputfolder);
+    Session session;
+    session.folders = started->folders;
+    session.conventions = started->conventions;
+    std::unique_ptr<frmtarvane> window;
+    frmConditions conditions(services.services(), started->folders);
+    conditions.onaccepted = [&] {
+        window = std::make_unique<frmtarvane>(session, services.services());
+        window->load();
+        window->show();
+        conditions.hide();
+    };
+    conditions.ondeclined = [] { QApplication::exit(0); };
+    conditions.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,126 @@
+#include "sunmoon/frmriseresults.h"
+
+#include <QWheelEvent>
+
+#include "mainview/mainfixture.h"
+#include "mainview/sunview.h"
+#include "windows/controls.h"
+
+namespace tarvane::tests {
+namespace {
+
+class FrmriseresultsTest : public testing::Test, protected MainFixture {
+  protected:
+    FrmriseresultsTest() {
+        load();
+        preparesunview(session);
+        calculatesun(context, portsuninput(session));
+    }
+
+    static void wheel(QWidget& over, int delta) {
+        QWheelEvent event(QPointF(2, 2), QPointF(2, 2), {}, {0, delta}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(&over, &event);
+    }
+};
+
+TEST_F(FrmriseresultsTest, ComesUpOnTheDayOnShow) {
+    session.view.stepbuttonsvisible = false;
+    Frmriseresults form(context);
+    present(form);
+    EXPECT_EQ(shown(*form.risedate), " 9Apr  2024");
+    const auto& row = session.suntable.suntext[9];
+    const QLabel* labels[] = {form.nautdawn, form.civildawn, form.risetime,
+                              form.settime,  form.civildusk, form.nautdusk};
+    for (std::size_t i = 0; i < 6; ++i)
+        EXPECT_EQ(shown(*labels[i]), row[i + 2]);
+    EXPECT_EQ(shown(*form.Label1), "Daylight hours");
+    EXPECT_EQ(shown(*form.Label4), "incl. civil twilight)");
+    EXPECT_EQ(shown(*form.twilighthours).front(), '(');
+    EXPECT_TRUE(form.Label2->text().contains("\n   08 Apr 2024       NEW MOON     \n"));
+    EXPECT_TRUE(session.view.stepbuttonsvisible);
+    EXPECT_EQ(infocus(form), "VScroll1");
+    EXPECT_EQ(defaultbutton(form), "cancel");
+    EXPECT_EQ(form.VScroll1->singleStep(), form.VScroll1->height() / 5);
+    EXPECT_EQ(form.VScroll1->pageStep(), form.VScroll1->height() / 3);
+    expectroomfortexts(form);
+}
+
+TEST_F(FrmriseresultsTest, ArrowsStepADayWhereverTheFocusIs) {
+    Frmriseresults form(context);
+    present(form);
+    for (QWidget* focus : {static_cast<QWidget*>(form.VScroll1), static_cast<QWidget*>(form.Command1)}) {
+        focus->setFocus();
+        QTest::keyClick(focus, Qt::Key_Down);
+        EXPECT_EQ(shown(*form.risedate), " 10Apr  2024");
+        QTest::keyClick(focus, Qt::Key_Up);
+        EXPECT_EQ(shown(*form.risedate), " 9Apr  2024");
+    }
+    for (int i = 0; i < 40; ++i)
+        QTest::keyClick(form.VScroll1, Qt::Key_Down);
+    EXPECT_EQ(shown(*form.risedate), " 30Apr  2024");
+    for (int i = 0; i < 40; ++i)
+        QTest::keyClick(form.cancel, Qt::Key_Up);
+    EXPECT_EQ(shown(*form.risedate), " 1Apr  2024");
+}
+
+TEST_F(FrmriseresultsTest, ANotchOfTheWheelIsADay) {
+    Frmriseresults form(context);
+    present(form);
+    for (QWidget* over : {static_cast<QWidget*>(form.VScroll1), static_cast<QWidget*>(&form)}) {
+        wheel(*over, -120);
+        EXPECT_EQ(shown(*form.risedate), " 10Apr  2024") << over->objectName().toStdString();
+        wheel(*over, 60);
+        EXPECT_EQ(shown(*form.risedate), " 10Apr  2024") << over->objectName().toStdString();
+        wheel(*over, 60);
+        EXPECT_EQ(shown(*form.risedate), " 9Apr  2024");
+    }
+}
+
+TEST_F(FrmriseresultsTest, APolarDayHasNoLengths) {
+    setdateonshow(session.onshow, makedate(2024, 6, 21));
+    ASSERT_EQ(calculatesun(context, {"User entry", "70.00N", "20.00E"}), SunOutcome::calculated);
+    session.settings.summerflag2 = 0;
+    Frmriseresults form(context);
+    present(form);
+    EXPECT_EQ(shown(*form.risedate), " 21Jun  2024");
+    EXPECT_EQ(shown(*form.risetime), "None");
+    for (const QLabel* label : {form.Label1, form.daylighthours, form.Label4, form.twilighthours})
+        EXPECT_EQ(shown(*label), "");
+    form.VScroll1->setValue(0);
+    expectroomfortexts(form);
+}
+
+TEST_F(FrmriseresultsTest, SavingLeavesTheFilesDateOnShow) {
+    Frmriseresults form(context);
+    present(form);
+    scripted.filedialogs.expectsave(folder / "sun");
+    QTest::mouseClick(form.Command1, Qt::LeftButton);
+    EXPECT_EQ(shown(*form.risedate), "9/4/2024");
+    EXPECT_TRUE(canopen(folder / "sun.csv"));
+}
+
+TEST_F(FrmriseresultsTest, PrintsTheMonth) {
+    Frmriseresults form(context);
+    present(form);
+    scripted.messages.expectask("Print Sun and Lunar times?", true);
+    QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return scripted.printer.documents == 1; }));
+}
+
+TEST_F(FrmriseresultsTest, LeavingShowsTheStepButtons) {
+    for (const bool byescape : {true, false}) {
+        Frmriseresults form(context);
+        present(form);
+        session.view.stepbuttonsvisible = false;
+        if (byescape)
+            QTest::keyClick(form.VScroll1, Qt::Key_Escape);
+        else
+            QTest::mouseClick(form.cancel, Qt::LeftButton);
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_TRUE(session.view.stepbuttonsvisible);
+    }
+}
+
+}  // namespace
+}  // namespace tarvane::tests

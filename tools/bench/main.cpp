@@ -1,0 +1,117 @@
+// Timings of what the user waits for: a day, a month, a year, a redraw, a mouse move. Run it from the release build:
+// build/release/bin/bench
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "mainview/loading.h"
+#include "mainview/monthcommand.h"
+#include "mainview/readouts.h"
+#include "mainview/stepping.h"
+#include "mainview/tidecurve.h"
+#include "platform/qt/appearance.h"
+#include "platform/qt/imagesurface.h"
+#include "platform/qt/qtservices.h"
+#include "portdata/recordfiles.h"
+#include "portdata/userdepths.h"
+
+namespace {
+
+using namespace tarvane;
+
+/// The program's commands over pictures in memory at the main window's size, on the area that ships.
+struct Bench {
+    Bench() : surfaces{picture, bar, window, {100, 800, 5883, 3415}} {
+        const std::string root = folder.path().toStdString();
+        session.folders = {root, root, root, root};
+        services.folders.make(session.folders.configfolder());
+        services.folders.make(session.folders.depthsfolder());
+        const std::string area = QApplication::applicationDirPath().toStdString() + "/UK.hc";
+        replacefile(root + "/UK.hc", readwhole(area));
+        session.conventions = {"DD/MM/YYYY", "/"};
+        loadmainwindow(context);
+    }
+
+    QTemporaryDir folder;
+    QtServices services;
+    ImageSurface picture{QSize(392, 228)}, bar{QSize(280, 14)}, window{QSize(648, 470)};
+    MainSurfaces surfaces;
+    Session session;
+    MainContext context{session, services.services(), surfaces};
+};
+
+void day(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state) {
+        predictday(bench.session.settings, {2026, 7, 195, 0}, bench.session.prediction);
+        findturningpoints(bench.session.prediction);
+        benchmark::DoNotOptimize(bench.session.prediction);
+    }
+}
+BENCHMARK(day)->Unit(benchmark::kMicrosecond);
+
+void days(benchmark::State& state) {
+    Bench bench;
+    const auto count = static_cast<std::int16_t>(state.range(0));
+    for (auto _ : state)
+        for (std::int16_t number = 1; number <= count; ++number) {
+            predictday(bench.session.settings, {2026, 1, number, 0}, bench.session.prediction);
+            findturningpoints(bench.session.prediction);
+        }
+}
+BENCHMARK(days)->Arg(31)->Arg(365)->Unit(benchmark::kMillisecond);
+
+void monthtable(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state)
+        buildmonthtable(bench.session.month, bench.session.settings, bench.session.port, bench.session.onshow,
+                        bench.services.locale);
+}
+BENCHMARK(monthtable)->Unit(benchmark::kMillisecond);
+
+void redraw(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state)
+        drawtidecurve(bench.session, bench.surfaces);
+}
+BENCHMARK(redraw)->Unit(benchmark::kMillisecond);
+
+void daystep(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state)
+        nextday(bench.context);
+}
+BENCHMARK(daystep)->Unit(benchmark::kMillisecond);
+
+void portstep(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state) {
+        bench.session.settings.currentport = static_cast<std::int16_t>(1 + state.iterations() % 80);
+        nextport(bench.context);
+    }
+}
+BENCHMARK(portstep)->Unit(benchmark::kMillisecond);
+
+void mousemove(benchmark::State& state) {
+    Bench bench;
+    double x = 0;
+    for (auto _ : state) {
+        x = x < 24 ? x + 0.05 : 0;
+        picturemousemove(bench.session, bench.picture, x);
+    }
+}
+BENCHMARK(mousemove)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    tarvane::setappearance(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

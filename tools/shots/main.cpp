@@ -1,0 +1,177 @@
+// Pictures of every window there is, offscreen: "shots [--out FOLDER] [--area FILE.hc] [--scale N]" with a standing
+// clock, "shots --mainwindow FILE.png" of the main window as this user would see it now.
+#include <QApplication>
+#include <QDir>
+#include <cstdio>
+
+#include "dates/frmtimdat.h"
+#include "mainview/monthcommand.h"
+#include "mainview/readouts.h"
+#include "mainview/sunview.h"
+#include "platform/qt/appearance.h"
+#include "portdata/frmchartdepth.h"
+#include "portdata/frmconfig.h"
+#include "portdata/frmoutoptions.h"
+#include "portdata/frmshowconf.h"
+#include "shell/form1.h"
+#include "shell/frmconditions.h"
+#include "shots/stage.h"
+#include "sunmoon/frmriseresults.h"
+#include "sunmoon/frmsunrise.h"
+
+namespace tarvane::shots {
+namespace {
+
+struct Options {
+    QString out = "shots";
+    QString area;
+    QString mainwindow;
+};
+
+/// False for a call that can't be taken.
+bool readoptions(const QStringList& arguments, Options& options) {
+    for (qsizetype i = 1; i < arguments.size(); i += 2) {
+        if (i + 1 >= arguments.size()) return false;
+        const QString& value = arguments[i + 1];
+        if (arguments[i] == "--out")
+            options.out = value;
+        else if (arguments[i] == "--area")
+            options.area = value;
+        else if (arguments[i] == "--mainwindow")
+            options.mainwindow = value;
+        else if (arguments[i] != "--scale")
+            return false;
+    }
+    return true;
+}
+
+/// Collects the pictures and what went wrong with them.
+struct Album {
+    QDir folder;
+    int failures = 0;
+
+    void take(QWidget& window, const QString& name) {
+        window.show();
+        QApplication::processEvents();
+        if (!window.grab().save(folder.filePath(name + ".png"))) {
+            std::fprintf(stderr, "shots: can't write %s\n", qPrintable(folder.filePath(name + ".png")));
+            ++failures;
+        }
+    }
+
+    template <typename Dialog>
+    void takedialog(Stage& stage, const QString& name) {
+        MainContext context = stage.context();
+        Dialog dialog(context, &stage.window());
+        take(dialog, name);
+    }
+};
+
+void takeday(Album& album, Stage& stage) {
+    Session& session = stage.sessiononstage();
+    frmtarvane& window = stage.window();
+    album.take(window, "frmtarvane");
+    picturemousemove(session, *window.Picture1, 15.2);
+    window.showview();
+    album.take(window, "frmtarvane-mouse");
+    picturemousedown(session);
+    window.showview();
+    album.take(window, "frmtarvane-frozen");
+    picturemousedown(session);
+    stage.show(80, makedate(2026, 3, 21), 1);
+    album.take(window, "frmtarvane-datum-springs");
+    window.resize(1100, 700);
+    QApplication::processEvents();
+    stage.settle();
+    album.take(window, "frmtarvane-stretched");
+    window.resize(window.minimumSize());
+    stage.show(9, makedate(1990, 1, 1));
+    album.take(window, "frmtarvane-undefined-day");
+    stage.show(77, makedate(2026, 7, 14));
+}
+
+void takelayers(Album& album, Stage& stage) {
+    Session& session = stage.sessiononstage();
+    frmtarvane& window = stage.window();
+    for (QCheckBox* box : {window.layers.chkM2, window.layers.chkS2, window.layers.chkK1, window.layers.chkO1,
+                           window.layers.chkf4, window.layers.chkf6, window.layers.chkZ0})
+        box->click();
+    window.menuentry("mnuLayersShow")->trigger();
+    stage.settle();
+    picturemousemove(session, *window.Picture1, 9.4);
+    session.showconstants = true;
+    window.showview();
+    album.take(window, "frmtarvane-constituents");
+    window.menuentry("mnuLayersShow")->trigger();
+    stage.settle();
+}
+
+void takeeverything(Album& album, const std::string& area) {
+    const ClockReading at{makedate(2026, 7, 14), 14, 32, 0};
+    Stage stage(area, at);
+    takeday(album, stage);
+    takelayers(album, stage);
+    MainContext context = stage.context();
+    calculatemonth(context);
+    stage.window().showview();
+    album.take(stage.window(), "frmtarvane-month");
+    stage.sessiononstage().view.monthvisible = false;
+    stage.window().showview();
+    album.takedialog<frmconfig>(stage, "frmconfig");
+    album.takedialog<frmChartdepth>(stage, "frmChartdepth");
+    album.takedialog<Frmtimdat>(stage, "Frmtimdat");
+    album.takedialog<frmoutoptions>(stage, "frmoutoptions");
+    album.takedialog<frmshowconf>(stage, "frmshowconf");
+    preparesunview(stage.sessiononstage());
+    album.takedialog<Frmsunrise>(stage, "Frmsunrise");
+    calculatesun(context, portsuninput(stage.sessiononstage()));
+    album.takedialog<Frmriseresults>(stage, "Frmriseresults");
+    frmConditions conditions(context.services, stage.sessiononstage().folders);
+    album.take(conditions, "frmConditions");
+    Form1 locales(context.services.locale);
+    album.take(locales, "Form1");
+}
+
+void takeoddtides(Album& album) {
+    QTemporaryDir folder;
+    Stage stage(oddarea(folder.filePath("odd.hc").toStdString()), {makedate(2026, 7, 14), 14, 32, 0});
+    const char* names[] = {"negative", "flat", "one-turning-point", "great-range"};
+    for (std::int16_t port = 1; port <= 4; ++port) {
+        stage.show(port, makedate(2026, 7, 14));
+        album.take(stage.window(), QString("frmtarvane-") + names[port - 1]);
+    }
+}
+
+int run(const Options& options) {
+    Album album{QDir(options.out)};
+    if (!options.mainwindow.isEmpty()) {
+        const QFileInfo file(options.mainwindow);
+        album.folder = file.absoluteDir();
+        Stage stage;
+        album.take(stage.window(), file.completeBaseName());
+        return album.failures ? 1 : 0;
+    }
+    QDir().mkpath(options.out);
+    const QString area = options.area.isEmpty() ? QApplication::applicationDirPath() + "/UK.hc" : QString(options.area);
+    takeeverything(album, area.toStdString());
+    takeoddtides(album);
+    return album.failures ? 1 : 0;
+}
+
+}  // namespace
+}  // namespace tarvane::shots
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    for (int i = 1; i + 1 < argc; ++i)
+        if (QByteArray(argv[i]) == "--scale") qputenv("QT_SCALE_FACTOR", argv[i + 1]);
+    QApplication application(argc, argv);
+    tarvane::setappearance(application);
+    tarvane::shots::Options options;
+    if (!tarvane::shots::readoptions(QApplication::arguments(), options)) {
+        std::fprintf(stderr,
+                     "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] | shots --mainwindow FILE.png\n");
+        return 2;
+    }
+    return tarvane::shots::run(options);
+}

@@ -1,5 +1,5 @@
-// A drawing surface with a scale of the caller's choosing and two layers: a persistent one, and a passing one over it that
-// the next clearing takes away. Screens, pictures and a test's log stand behind the same calls.
+// A drawing surface with a scale of the caller's choosing and two layers: a persistent one, and a passing one over it
+// that the next clearing takes away. Screens, pictures and a test's log stand behind the same calls.
 #pragma once
 
 #include <cstdint>

@@ -9,13 +9,13 @@ class Printer {
   public:
     virtual ~Printer() = default;
 
-    /// Opens a document. False if nothing can be printed to. Coordinates start as twips (1440 to the inch) from the top left of the
-    /// printable page; font size 9, not bold, the current position at the origin.
+    /// Opens a document. False if nothing can be printed to. Coordinates start as twips (1440 to the inch) from the top
+    /// left of the printable page; font size 9, not bold, the current position at the origin.
     virtual bool begin(const std::string& title) = 0;
 
-    virtual double width() const = 0;        ///< printable width of the page, twips
-    virtual double height() const = 0;       ///< printable height, twips
-    virtual double scalewidth() const = 0;   ///< width in the scale in force
+    virtual double width() const = 0;       ///< printable width of the page, twips
+    virtual double height() const = 0;      ///< printable height, twips
+    virtual double scalewidth() const = 0;  ///< width in the scale in force
     virtual double scaleheight() const = 0;
 
     /// Moves the origin: the page's left and top edges get these coordinates, the unit staying.
@@ -32,8 +32,9 @@ class Printer {
     virtual double textwidth(const std::string& text) const = 0;
     virtual double textheight() const = 0;  ///< height of one line in the font in force
 
-    /// Prints at the current position and goes to the start (the page's left edge, x = the scale's left) of the next line. A tab goes to the
-    /// next tab stop; CR, LF and CR LF inside start a new line at the x at which the text began.
+    /// Prints at the current position and goes to the start (the page's left edge, x = the scale's left) of the next
+    /// line. A tab goes to the next tab stop; CR, LF and CR LF inside start a new line at the x at which the text
+    /// began.
     virtual void print(const std::string& text) = 0;
 
     /// Prints at the current position and stays behind the text.

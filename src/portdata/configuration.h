@@ -15,10 +15,10 @@ struct ProgramFolders {
     std::string appdatafolder;     ///< the user's local application data
     std::string textoutputfolder;  ///< where saved texts go by default
 
-    std::string cfgpath() const;        ///< appdatafolder/TarvaneTides/TarTidesv9.cfg
-    std::string configfolder() const;   ///< appdatafolder/TarvaneTides
-    std::string userfolder() const;     ///< docsfolder/TarvaneTides
-    std::string depthsfolder() const;   ///< docsfolder/TarvaneTides/UserDepths
+    std::string cfgpath() const;       ///< appdatafolder/TarvaneTides/TarTidesv9.cfg
+    std::string configfolder() const;  ///< appdatafolder/TarvaneTides
+    std::string userfolder() const;    ///< docsfolder/TarvaneTides
+    std::string depthsfolder() const;  ///< docsfolder/TarvaneTides/UserDepths
 };
 
 /// Values read from the configuration, and the paths of the two files in use.
@@ -51,8 +51,8 @@ ConfigRecord defaultconfig(const ProgramFolders& folders);
 /// the same.
 bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record);
 
-/// Reads the configuration, writing the values of a first start before that when the file can't be opened, and derives all
-/// module values from it.
+/// Reads the configuration, writing the values of a first start before that when the file can't be opened, and derives
+/// all module values from it.
 void loadsettings(const ProgramFolders& folders, Settings& settings);
 
 /// Copies every module value that mirrors the record out of `settings.configrec`, trimming its paths.

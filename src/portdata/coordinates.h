@@ -9,8 +9,8 @@ namespace tarvane {
 /// How the system writes decimals; it decides the route by which the edit forms are made.
 enum class DecimalMark { point, comma };
 
-/// "50.45.00N" to 50.75: degrees up to the first ".", minutes from there to the second; what follows is never read. Each
-/// "S" (latitude) or "W" (longitude) in the text turns the sign. Never fails; no number reads 0.
+/// "50.45.00N" to 50.75: degrees up to the first ".", minutes from there to the second; what follows is never read.
+/// Each "S" (latitude) or "W" (longitude) in the text turns the sign. Never fails; no number reads 0.
 double ParseLatitude(std::string_view text);
 double ParseLongitude(std::string_view text);
 

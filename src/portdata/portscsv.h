@@ -10,7 +10,8 @@
 
 namespace tarvane {
 
-/// Where a table is wrong and why. Line and column count from 1; the column is the field's position, 0 for the whole row.
+/// Where a table is wrong and why. Line and column count from 1; the column is the field's position, 0 for the whole
+/// row.
 struct CsvFault {
     std::size_t line = 0;
     std::size_t column = 0;
@@ -23,11 +24,12 @@ struct PortsTable {
     std::optional<CsvFault> fault;  ///< set: the table is refused and `ports` is empty
 };
 
-/// Reads a table with the columns number, name, latitude, longitude, zone, z0, m2g, m2h, s2g, s2h, k1g, k1h, o1g, o1h, f4,
-/// F4, f6, F6, dz01 to dz12 and, optionally, source, in this order under a header line. UTF-8, fields quoted or not. Refused:
-/// a wrong header, a wrong number of fields, a field that is no number or out of its range (latitude -90..90, longitude -180..180,
-/// phases 0..360, amplitudes and Z0 within sane limits), a zone that is no letter from A to W, numbers that don't run 1, 2, 3 ..., an
-/// empty name or one over 35 characters or outside Windows-1252, no rows. Monthly M2 amplitudes are the annual one.
+/// Reads a table with the columns number, name, latitude, longitude, zone, z0, m2g, m2h, s2g, s2h, k1g, k1h, o1g, o1h,
+/// f4, F4, f6, F6, dz01 to dz12 and, optionally, source, in this order under a header line. UTF-8, fields quoted or
+/// not. Refused: a wrong header, a wrong number of fields, a field that is no number or out of its range (latitude
+/// -90..90, longitude -180..180, phases 0..360, amplitudes and Z0 within sane limits), a zone that is no letter from A
+/// to W, numbers that don't run 1, 2, 3 ..., an empty name or one over 35 characters or outside Windows-1252, no rows.
+/// Monthly M2 amplitudes are the annual one.
 PortsTable readportscsv(std::string_view text);
 
 }  // namespace tarvane

@@ -43,8 +43,8 @@ struct UserDepthRecord {
     std::string Notes;
 };
 
-/// All that the program remembers between runs. Path fields are trimmed UTF-8; a path that Windows-1252 can't hold is stored
-/// in its own UTF-8 bytes, and read back as such.
+/// All that the program remembers between runs. Path fields are trimmed UTF-8; a path that Windows-1252 can't hold is
+/// stored in its own UTF-8 bytes, and read back as such.
 struct ConfigRecord {
     std::string hcfilepath;
     std::string ownermark;

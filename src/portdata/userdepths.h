@@ -14,8 +14,8 @@ std::string hcbasename(const ProgramFolders& folders, const std::string& hcfile)
 /// Path of the user file of an area: documents/TarvaneTides/UserDepths/NAME.DEP.
 std::string depfileof(const ProgramFolders& folders, const std::string& hcfile);
 
-/// Builds `settings.depfile` for `settings.hcfile` and makes the file, one record a port, when it can't be opened. False if it
-/// is still missing afterwards.
+/// Builds `settings.depfile` for `settings.hcfile` and makes the file, one record a port, when it can't be opened.
+/// False if it is still missing afterwards.
 bool EnsureDepFile(const ProgramFolders& folders, Settings& settings);
 
 /// The record that a port starts with: depth 0 and its position as a note.

@@ -15,8 +15,8 @@ std::int16_t cint(double value);
 /// Nearest whole number, halves to the even number, not narrowed. NaN gives NaN.
 double roundeven(double value);
 
-/// The leading number of a text: blanks (also tabs and line ends) are skipped wherever they stand, then sign, digits, one point,
-/// an exponent. 0 when there is none; never fails. "1.2.3" gives 1.2, "-" 0, "1e3" 1000, " 5 m" 5.
+/// The leading number of a text: blanks (also tabs and line ends) are skipped wherever they stand, then sign, digits,
+/// one point, an exponent. 0 when there is none; never fails. "1.2.3" gives 1.2, "-" 0, "1e3" 1000, " 5 m" 5.
 double val(std::string_view text);
 
 /// Plain number text that keeps its leading place: a blank or "-", no leading zero (" .5", "-.5", " 12").
@@ -30,9 +30,10 @@ std::string numbertext(double value);
 std::string numbertext(float value);
 std::string numbertext(int value);
 
-/// A value under one of the patterns of digits ("0", "#"), point, grouping comma and sections (";"): "0.0", "000", "00.00",
-/// "#,#0.0;;;", "#,##0.00;;;", "###000", "###,000", "##0.0" and their like. Decimal rounding is half away from zero on the
-/// 15-digit text of the value; an empty section falls back to the first, so a negative keeps its sign and a zero is
+/// A value under one of the patterns of digits ("0", "#"), point, grouping comma and sections (";"): "0.0", "000",
+/// "00.00",
+/// "#,#0.0;;;", "#,##0.00;;;", "###000", "###,000", "##0.0" and their like. Decimal rounding is half away from zero on
+/// the 15-digit text of the value; an empty section falls back to the first, so a negative keeps its sign and a zero is
 /// written. A value that rounds to zero carries no sign. The point is always "." and the grouping mark ",".
 /// Not a number or infinite: "nan", "inf" or "-inf" is never written; an empty text comes back.
 std::string format(double value, std::string_view pattern);

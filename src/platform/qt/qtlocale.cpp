@@ -195,7 +195,10 @@ std::optional<std::chrono::sys_days> QtLocale::parsedate(std::string_view text) 
     const int first = (*numbers)[yearfirst ? 1 : 0].toInt();
     const int second = (*numbers)[yearfirst ? 2 : 1].toInt();
     const int month = dayfirst ? second : first;
-    const std::chrono::year_month_day date = std::chrono::year{fullyear(year)} / month / (dayfirst ? first : second);
+    const int day = dayfirst ? first : second;
+    // the calendar keeps a month and a day in a byte each, where 257 would pass for 1
+    if (month > 12 || day > 31) return std::nullopt;
+    const std::chrono::year_month_day date = std::chrono::year{fullyear(year)} / month / day;
     if (!date.ok()) return std::nullopt;
     return date;
 }

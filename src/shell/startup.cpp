@@ -4,14 +4,6 @@
 
 namespace tarvane {
 
-namespace {
-
-std::filesystem::path systempath(const std::string& utf8) {
-    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
-}
-
-}  // namespace
-
 ProgramFolders findfolders(const Folders& system) {
     ProgramFolders folders;
     folders.programfolder = system.program();
@@ -47,15 +39,8 @@ std::optional<Started> startup(const Services& services) {
 void restoredefaults(Folders& system, Messages& messages, const ProgramFolders& folders) {
     const std::string path = folders.cfgpath();
     std::error_code error;
-    if (!std::filesystem::exists(systempath(path), error)) {
-        messages.show("There are no saved settings: the default settings will be used.", "Tarvane",
-                      MessageIcon::information);
-    } else if (system.remove(path)) {
-        messages.show("The saved settings have been removed: the default settings will be used.", "Tarvane",
-                      MessageIcon::information);
-    } else {
-        messages.show("The saved settings could not be removed:\n" + path, "Tarvane", MessageIcon::exclamation);
-    }
+    if (system.remove(path) || !std::filesystem::exists(path, error)) return;
+    messages.show("The saved settings could not be removed:\n" + path, "Tarvane", MessageIcon::exclamation);
 }
 
 }  // namespace tarvane

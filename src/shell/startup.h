@@ -29,8 +29,8 @@ void makefolders(Folders& system, const ProgramFolders& folders);
 /// has been told and the program must end.
 std::optional<Started> startup(const Services& services);
 
-/// Deletes the configuration file, so that the next main window starts with the default settings, and tells what was
-/// done.
+/// Deletes the configuration file and does nothing else, so that the next main window starts with the default settings.
+/// Silent, also without a file; a file that can't be deleted is told.
 void restoredefaults(Folders& system, Messages& messages, const ProgramFolders& folders);
 
 }  // namespace tarvane

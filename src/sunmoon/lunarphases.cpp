@@ -39,6 +39,7 @@ struct Term {
     int M, Mp, F;
 };
 
+// kept: the coefficient 0.0006000001 of both tables, and the last quarter term's argument 2M - Mp
 constexpr std::array<Term, 13> newandfull{{{0.1734, -0.000393, 1, 0, 0},
                                            {0.0021, 0, 2, 0, 0},
                                            {-0.4068, 0, 0, 1, 0},
@@ -69,8 +70,8 @@ constexpr std::array<Term, 15> quarters{{{0.1721, -0.0004, 1, 0, 0},
                                          {0.0004, 0, 1, -2, 0},
                                          {-0.0003, 0, 2, -1, 0}}};
 
-/// Degrees above 360 brought back below; a negative angle stays.
 double reduced(double degrees) {
+    // kept: only an angle above 360 is brought back, a negative one stays as it is
     if (degrees > 360) degrees = 360 * (degrees / 360 - std::trunc(degrees / 360));
     return degrees;
 }

@@ -21,7 +21,7 @@ constexpr double civil = -0.104528;
 constexpr double nautical = -0.207912;
 constexpr double astronomical = -0.309017;
 
-struct SunPosition {
+struct SolarPosition {
     bool evening = false;
     double T = 0;  ///< days of the year
     double rightascension = 0;
@@ -45,8 +45,8 @@ int daynumber(int day, int month, int year) {
     return 275 * month / 9 + day - K - 30;
 }
 
-SunPosition position(int N, double lonrad, bool evening) {
-    SunPosition sun;
+SolarPosition position(int N, double lonrad, bool evening) {
+    SolarPosition sun;
     sun.evening = evening;
     sun.T = N + (lonrad + (evening ? threequarters : quartercircle)) / wholecircle;
     const double M = 0.017202 * sun.T - 0.0574039;
@@ -99,10 +99,10 @@ SunHours SunTimes(double latitude, double longitude, int day, int month, int yea
     const double latrad = degreetoradian * latitude;
     const double lonrad = -(degreetoradian * longitude);
     const int N = daynumber(day, month, year);
-    const SunPosition morning = position(N, lonrad, false);
-    const SunPosition evening = position(N, lonrad, true);
+    const SolarPosition morning = position(N, lonrad, false);
+    const SolarPosition evening = position(N, lonrad, true);
 
-    const auto event = [&](const SunPosition& sun, double coszenith) {
+    const auto event = [&](const SolarPosition& sun, double coszenith) {
         const double hours = SunEvent(coszenith, sun.declination, latrad, lonrad, quartercircle, sun.evening,
                                       wholecircle, sun.T, sun.rightascension, 0);
         return zoned(hours, zonehours, summer);

@@ -116,12 +116,5 @@ TEST(LunarPhases, EveryMonthAgreesWithTheMeanMoon) {
     }
 }
 
-TEST(LunarPhases, SwapExchanges) {
-    std::string first = "a";
-    std::string second = "b";
-    SwapText(first, second);
-    EXPECT_EQ(first + second, "ba");
-}
-
 }  // namespace
 }  // namespace tarvane

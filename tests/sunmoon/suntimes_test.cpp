@@ -163,15 +163,6 @@ TEST(SunEvent, GrazingTheHorizon) {
     EXPECT_EQ(event(-1.0000001, false), 0);
 }
 
-TEST(SunEvent, ZoneAngleIsTakenOff) {
-    const auto event = [](double zoneangle) {
-        return SunEvent(-0.0145439, 0.2, 0.8, 0.1, 1.5708, true, 6.28319, 100, 1, zoneangle);
-    };
-    EXPECT_NEAR(apart(event(0), event(0.5)), 0.5 * 3.81972, 1e-9);
-    EXPECT_GE(event(7), 0);
-    EXPECT_LE(event(-7), 24.0001);
-}
-
 // A typed position can be anything; the routine must come back.
 TEST(SunTimes, AbsurdPositionsEnd) {
     const double infinite = std::numeric_limits<double>::infinity();

@@ -23,9 +23,8 @@ const char* const nodatesettingstext =
     "      PLEASE CONTACT US IF YOU REQUIRE ANY SUPPORT";
 const char* const nodatesettingstitle = "Apologies !!";
 const char* const incompatibledatetext =
-    "DATE FORMAT INCOMPATIBLE WITH PROGRAM - Change in 'Control Panel' -> 'International Settings' and set short date "
-    "to "
-    "'MM/DD/YY'";
+    "DATE FORMAT INCOMPATIBLE WITH PROGRAM - "
+    "Change in 'Control Panel' -> 'International Settings' and set short date to 'MM/DD/YY'";
 
 namespace {
 

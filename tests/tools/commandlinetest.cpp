@@ -118,14 +118,6 @@ TEST(CommandLine, PortsByNumberNameAndPart) {
     EXPECT_NE(chooseports({}, "1", "Area").fault, "");
 }
 
-TEST(CommandLine, EditDistance) {
-    EXPECT_EQ(editdistance(U"", U""), 0U);
-    EXPECT_EQ(editdistance(U"abc", U""), 3U);
-    EXPECT_EQ(editdistance(U"kitten", U"sitting"), 3U);
-    EXPECT_EQ(editdistance(U"flaw", U"lawn"), 2U);
-    EXPECT_EQ(editdistance(U"île", U"ile"), 1U);
-}
-
 TEST(CommandLine, HelpShowsEveryOption) {
     const Companion machine;
     const Outcome outcome = machine.run({"--nonsense", "--help"});

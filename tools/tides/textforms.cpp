@@ -5,6 +5,7 @@
 #include "dates/summertime.h"
 #include "engine/springs.h"
 #include "portdata/coordinates.h"
+#include "sunmoon/sunmonth.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 #include "text/timetext.h"
@@ -44,10 +45,6 @@ std::string datumline(const Settings& settings) {
     if (settings.currentoutput == 1) return "Heights are above chart datum";
     if (settings.userdepth == 0) return "Heights are above chart datum, no charted depth being set for this port";
     return "Heights include the charted depth of " + format(settings.userdepth, "0.00") + " m set for this port";
-}
-
-std::string eventtext(double hours) {
-    return hours == 0 ? "None" : timetext(hours);
 }
 
 void daytext(ViewContext& context, const PortInHand& port, Date date, Prediction& prediction, std::ostream& out) {

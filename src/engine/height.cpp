@@ -108,6 +108,7 @@ HarmonicConstants seasonalconstants(const HarmonicRecord& port, int tidemonth) {
                                 port.O1Hm, port.SF4,  port.LF4, port.SF6,  port.LF6, port.Z0,   0};
     if (tidemonth >= 1 && tidemonth <= 12) {
         const auto month = static_cast<std::size_t>(tidemonth - 1);
+        // kept: a month's amplitude of 0 means no M2 in it; the annual one doesn't step in
         constants.M2Hm = port.MHm2[month];
         constants.DeltaZ0 = port.DeltaZ0[month];
     }
@@ -132,6 +133,7 @@ InstantHeight heightofconstants(const HarmonicConstants& constants, const Angles
                                 const AnglesAndFactors& next, double time, std::ostream* trace) {
     const SpeedsAndRates rates = speedsandrates(day, next);
     const Four lag = lags(constants, day);
+    // kept: midnight is taken a minute late, the last twelve minutes of the day ten minutes early
     if (time == 0) time = 1.0 / 60;
     if (time + 1.0 / 5 >= 24) time -= 1.0 / 6;
     const auto pass = [&] {

@@ -54,6 +54,7 @@ MeanLongitudes yearrow(int year) {
     if (year >= firsttableyear && year <= 2000) return yeartable[static_cast<std::size_t>(year - firsttableyear)];
     // kept: 1990 has neither a row nor a walk, and is computed from zeros
     if (year == 1990) return {};
+    // kept: years past the table too are walked to from 1992, and needn't follow on from the row of 2000
     MeanLongitudes row = yeartable[walkstart - firsttableyear];
     int length = 366;
     if (year > 2000) {
@@ -212,8 +213,9 @@ double wrap360(double x) {
     if (!std::isfinite(x)) return x;
     // Far out the steps below would be too many, or too small to count; fmod gives what they would.
     if (std::abs(x) > 1e7) {
-        x = std::fmod(x, 360);
-        if (x == 0) return 360;
+        const double rest = std::fmod(x, 360);
+        if (rest == 0) return x < 0 ? 0 : 360;
+        x = rest;
     }
     if (x < 0) {
         while (x < 0)
@@ -221,6 +223,7 @@ double wrap360(double x) {
         return x;
     }
     if (x > 360) {
+        // kept: what comes down to exactly 360 stays 360; only 360 itself gives 0
         while (x > 360)
             x -= 360;
         return x;

@@ -97,6 +97,7 @@ void findturningpoints(Prediction& prediction) {
     auto& points = prediction.turningpoints;
     int count = 0;
     const int most = static_cast<int>(points.size()) - 1;
+    // kept: row 1 is never a turning point, and two equal samples at a crest are none
     for (std::size_t i = 1; i <= 144 && count < most; ++i) {
         const double left = samples[i].height, middle = samples[i + 1].height, right = samples[i + 2].height;
         const bool low = left > middle && middle < right;

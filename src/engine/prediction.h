@@ -15,7 +15,7 @@ struct TimedValue {
     double height = 0;
 };
 
-/// What a prediction leaves behind; each overwrites it whole. Row 0 of every array is unused.
+/// What a prediction leaves behind; each overwrites it. Row 0 of every array is unused.
 struct Prediction {
     std::array<TimedValue, 501> curvesamples{};
     std::array<TimedValue, 201> m2layer{}, s2layer{}, k1layer{}, o1layer{}, f4layer{}, f6layer{}, sumlayer{};
@@ -24,8 +24,8 @@ struct Prediction {
     std::array<TimedValue, 16> turningpoints{};
     int turningcount = 0;
     double dayrange = 0;
-    bool defined =
-        true;  ///< false where the day's constants divide by zero: all samples are then 0 and nothing is to be shown
+    /// False where the day's constants divide by zero: all samples are then 0 and nothing is to be shown.
+    bool defined = true;
     HarmonicRecord port;  ///< the record as read, for the labels of the constituents view
 };
 
@@ -38,14 +38,16 @@ struct TideDay {
 };
 
 /// Predicts a day of `settings.currentport`. Reads both files and leaves `settings.userdepth` set. Rows 1 to 149 (152
-/// in summer time) of the samples and layers are filled, row k holding clock time (k - 1)/6 hours; the rest is cleared.
+/// in summer time) of the samples and layers are filled, row k holding clock time (k - 1)/6 hours; the samples' other
+/// rows are cleared, the layers' stay as they were.
 void predictday(Settings& settings, const TideDay& day, Prediction& prediction);
 
 /// The variant of the adjust workspace: constants of the day itself, 147 samples from 00:00, the height of the next
 /// morning as row 148. `before` and `after` come from `heightat`.
 void predictdaylinked(Settings& settings, const TideDay& day, double before, double after, Prediction& prediction);
 
-/// Picks the high and low waters out of rows 2 to 145 by strict comparison, and the range over rows 1 to 145.
+/// Picks the high and low waters out of rows 2 to 145 by strict comparison, 15 at most, and the range over rows 1 to
+/// 145.
 void findturningpoints(Prediction& prediction);
 
 }  // namespace tarvane

@@ -55,6 +55,7 @@ std::optional<double> findspringslag(const Prediction& prediction) {
     const PeakList s2peaks = findpeaks(s2, prediction.samplecount);
     const PeakList m2peaks = findpeaks(m2, prediction.samplecount);
     if (s2peaks.count == 0) return std::nullopt;
+    // Of a single peak the second is the unused row 0, whose height is 0.
     const std::size_t first = s2peaks.rows[1], second = s2peaks.rows[2];
     const std::size_t s = s2[first].height > s2[second].height ? first : second;
     for (std::size_t j = 1; j <= 4; ++j) {

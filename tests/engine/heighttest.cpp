@@ -33,6 +33,10 @@ TEST(Height, WorkedExample) {
     EXPECT_NEAR(height.second, 1.5409, 0.00005);
     EXPECT_NEAR(height.time, 19.05, 1e-12);
     EXPECT_EQ(height.risefalltext, "metres (Falling)");
+    EXPECT_EQ(heightofconstants(exampleport, exampleday, examplenext, 12).risefalltext, "metres (Rising)");
+    const InstantHeight flat = heightofconstants({}, exampleday, examplenext, 6);
+    EXPECT_EQ(flat.first, 0);
+    EXPECT_EQ(flat.risefalltext, "");
 }
 
 TEST(Height, TraceFollowsTheForm) {
@@ -73,6 +77,7 @@ TEST(Height, InstantLeavesOutMonthlyLevelAndDepth) {
     EXPECT_EQ(files.settings.userdepth, 5.0F);
     // The curve reckons from 00:00 of the day before and changes each factor at its own rate: a few centimetres.
     EXPECT_NEAR(prediction.curvesamples[61].height - height.first, 5.1, 0.05);
+    EXPECT_FALSE(heightat(files.settings, 1, 1990, 0, 12).defined);
 }
 
 TEST(Height, MonthWithoutAmplitudeHasNone) {
@@ -86,19 +91,6 @@ TEST(Height, MonthWithoutAmplitudeHasNone) {
         EXPECT_EQ(seasonalconstants(port, outside).M2Hm, 1.5);
         EXPECT_EQ(seasonalconstants(port, outside).DeltaZ0, 0);
     }
-}
-
-TEST(Height, FlatWaterNeitherRisesNorFalls) {
-    const InstantHeight height = heightofconstants({}, exampleday, examplenext, 6);
-    EXPECT_EQ(height.first, 0);
-    EXPECT_EQ(height.risefalltext, "");
-}
-
-TEST(Height, UndefinedDayIsSaidSo) {
-    PortFiles files;
-    EXPECT_FALSE(heightat(files.settings, 1, 1990, 1, 12).defined);
-    EXPECT_FALSE(heightat(files.settings, 1, 1990, 0, 12).defined);
-    EXPECT_TRUE(heightat(files.settings, 1, 1990, 2, 12).defined);
 }
 
 TEST(Height, ZoneTimeHandsOnlyTheNextDayOn) {

@@ -2,46 +2,44 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace tarvane {
 namespace {
 
-struct DayFigures {
-    int year, day;
-    int ma, sa, ka, oa;
-    double mf, sf, kf, of;
-};
-
-TEST(Orbital, WorkedDays) {
-    const DayFigures rows[] = {
-        {1998, 1, 58, 4, 359, 68, 1.1284, 0.8633, 1.2480, 0.9240},
-        {2024, 100, 7, 355, 240, 115, 1.1976, 1.3083, 0.9395, 1.4669},
-    };
-    for (const DayFigures& row : rows) {
+/// Figures made apart from the program: the two worked days, then both walks, the gap, and days past a year's ends. In
+/// the backward walk nearly every year counts 366 days, and 2001 needn't agree with what follows on from 2000.
+TEST(Orbital, DaysOfEveryKindOfYear) {
+    const struct {
+        int year, day, ma, sa, ka, oa;
+        double mf, sf, kf, of;
+    } rows[] = {{1998, 1, 58, 4, 359, 68, 1.1283849358, 0.8632875599, 1.2480295336, 0.9240250259},
+                {2024, 100, 7, 355, 240, 115, 1.1976208571, 1.3082696607, 0.9394822186, 1.4668897598},
+                {2001, 1, 141, 1, 4, 137, 0.8763216704, 0.8025236644, 1.2775494743, 0.8326395476},
+                {2000, 367, 141, 1, 4, 137, 0.8763256867, 0.8025187380, 1.2775293468, 0.8326086282},
+                {1990, 2, 24, 359, 266, 120, 1.2123390304, 1.4147175953, 0.8517102257, 1.5316620989},
+                {1989, 365, 357, 10, 354, 12, 0.8943549084, 0.7637246728, 1.3885107391, 1.0422735077},
+                {1899, 60, 198, 5, 351, 209, 1.0817918833, 0.7835037697, 1.3816482485, 1.0790701261},
+                {1800, 0, 245, 18, 151, 107, 1.0684891254, 0.9867856326, 1.1614988675, 1.2275718891},
+                {2100, 366, 22, 13, 349, 43, 1.1323988957, 0.7768934912, 1.4464409057, 1.3725923874},
+                {9999, 367, 48, 5, 350, 64, 0.9475040104, 0.7832401239, 1.1359299184, 0.7221854273}};
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.year);
         const auto day = orbitalconstants(row.year, row.day);
         ASSERT_TRUE(day);
-        EXPECT_EQ(day->ma, row.ma);
-        EXPECT_EQ(day->sa, row.sa);
-        EXPECT_EQ(day->ka, row.ka);
-        EXPECT_EQ(day->oa, row.oa);
-        EXPECT_NEAR(day->mf, row.mf, 0.00005);
-        EXPECT_NEAR(day->sf, row.sf, 0.00005);
-        EXPECT_NEAR(day->kf, row.kf, 0.00005);
-        EXPECT_NEAR(day->of, row.of, 0.00005);
+        const int angles[] = {day->ma, day->sa, day->ka, day->oa}, wanted[] = {row.ma, row.sa, row.ka, row.oa};
+        EXPECT_TRUE(std::equal(angles, angles + 4, wanted)) << testing::PrintToString(angles);
+        EXPECT_NEAR(day->mf, row.mf, 1e-9);
+        EXPECT_NEAR(day->sf, row.sf, 1e-9);
+        EXPECT_NEAR(day->kf, row.kf, 1e-9);
+        EXPECT_NEAR(day->of, row.of, 1e-9);
     }
 }
 
 TEST(Orbital, SpeedsOfAWorkedDay) {
-    const auto day = orbitalconstants(2024, 100), next = orbitalconstants(2024, 101);
-    ASSERT_TRUE(day && next);
-    EXPECT_EQ(next->ma, 35);
-    EXPECT_EQ(next->sa, 354);
-    EXPECT_EQ(next->ka, 238);
-    EXPECT_EQ(next->oa, 143);
-    const SpeedsAndRates rates = speedsandrates(*day, *next);
+    const SpeedsAndRates rates = speedsandrates(*orbitalconstants(2024, 100), *orbitalconstants(2024, 101));
     EXPECT_DOUBLE_EQ(rates.dam * 24, 692);
     EXPECT_DOUBLE_EQ(rates.das * 24, 721);
     EXPECT_DOUBLE_EQ(rates.dak * 24, 362);
@@ -51,8 +49,9 @@ TEST(Orbital, SpeedsOfAWorkedDay) {
 TEST(Orbital, WrapKeepsItsEdges) {
     const struct {
         double given, wrapped;
-    } rows[] = {{0, 0},   {360, 0},       {720, 360},      {1080, 360},  {-360, 0},          {-1, 359},
-                {361, 1}, {359.5, 359.5}, {-720.5, 359.5}, {7.2e8, 360}, {-3.6e9 - 90, 270}, {1e7 + 40, 320}};
+    } rows[] = {{0, 0},      {360, 0},           {720, 360},     {1080, 360},     {-360, 0},
+                {-1, 359},   {361, 1},           {359.5, 359.5}, {-720.5, 359.5}, {7.2e8, 360},
+                {-7.2e8, 0}, {-3.6e9 - 90, 270}, {1e7 + 40, 320}};
     for (const auto& row : rows)
         EXPECT_DOUBLE_EQ(wrap360(row.given), row.wrapped) << row.given;
     EXPECT_TRUE(std::isinf(wrap360(std::numeric_limits<double>::infinity())));
@@ -86,40 +85,16 @@ TEST(Orbital, The1990GapDividesByZeroOnOneDayOnly) {
     for (int day = 2; day <= 366; ++day)
         EXPECT_TRUE(orbitalconstants(1990, day)) << day;
     EXPECT_TRUE(orbitalconstants(1990, 0));
-    EXPECT_TRUE(orbitalconstants(1989, 365));
-}
-
-TEST(Orbital, YearsAreReachedByTheirOwnWalks) {
-    // Day 367 of 2000 is reached from the table's own row and need not agree with day 1 of 2001 in the factors.
-    const auto walked = orbitalconstants(2001, 1), ranpast = orbitalconstants(2000, 367);
-    ASSERT_TRUE(walked && ranpast);
-    EXPECT_NE(walked->mf, ranpast->mf);
-    EXPECT_NEAR(walked->mf, ranpast->mf, 0.001);
-    // Going back, a year that was left behind keeps its 366 days: 1989 lies 3 steps of 366 days before 1992.
-    const auto back = orbitalconstants(1989, 1), extended = orbitalconstants(1992, 1 - 3 * 366);
-    ASSERT_TRUE(back && extended);
-    EXPECT_EQ(back->ma, extended->ma);
-    EXPECT_NEAR(back->mf, extended->mf, 1e-6);
-    // Past a century the length is 365 from there on until a leap year: 1899 is one 365-day step before 1900.
-    const auto before = orbitalconstants(1899, 1), shorter = orbitalconstants(1900, 1 - 365);
-    ASSERT_TRUE(before && shorter);
-    EXPECT_EQ(before->ma, shorter->ma);
 }
 
 TEST(Orbital, FarYearsStayInRange) {
-    for (const int year : {-4000, 0, 1, 1582, 1900, 2100, 2400, 9999, 30000}) {
-        for (const int day : {0, 1, 60, 366, 367}) {
-            const auto constants = orbitalconstants(year, day);
-            ASSERT_TRUE(constants) << year;
-            for (const int angle : {constants->ma, constants->sa, constants->ka, constants->oa}) {
-                EXPECT_GE(angle, 0);
-                EXPECT_LE(angle, 360);
-            }
-            for (const double factor : {constants->mf, constants->sf, constants->kf, constants->of}) {
-                EXPECT_GT(factor, 0.3);
-                EXPECT_LT(factor, 2);
-            }
-        }
+    for (const int year : {-4000, 0, 1, 1582, 2400, 30000}) {
+        const auto constants = orbitalconstants(year, 60);
+        ASSERT_TRUE(constants) << year;
+        for (const int angle : {constants->ma, constants->sa, constants->ka, constants->oa})
+            EXPECT_TRUE(angle >= 0 && angle <= 360) << year;
+        for (const double factor : {constants->mf, constants->sf, constants->kf, constants->of})
+            EXPECT_TRUE(factor > 0.3 && factor < 2) << year;
     }
 }
 

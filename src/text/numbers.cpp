@@ -1,5 +1,6 @@
 #include "text/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -160,6 +161,22 @@ std::size_t digitrun(std::string_view text, std::size_t start) {
     return end - start;
 }
 
+/// What an unsigned number outside the range of doubles reads as: the greatest double, or 0 for one too near to 0.
+double outofrange(std::string_view number) {
+    const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+    if (number.find_first_of("123456789") >= mark) return 0;
+    double exponent = 0;
+    if (mark < number.size()) {
+        const bool below = number[mark + 1] == '-';
+        for (const char c : number.substr(mark + 1))
+            if (isdigit(c)) exponent = exponent * 10 + (c - '0');
+        if (below) exponent = -exponent;
+    }
+    const auto point = static_cast<double>(std::min(number.find('.'), mark));
+    const auto leading = static_cast<double>(number.find_first_of("123456789"));
+    return point - leading + exponent > 0 ? std::numeric_limits<double>::max() : 0;
+}
+
 }  // namespace
 
 double roundeven(double value) {
@@ -198,10 +215,8 @@ double val(std::string_view text) {
     }
     double value = 0;
     const auto read = std::from_chars(packed.data() + start, packed.data() + end, value);
-    if (read.ec == std::errc::result_out_of_range) {
-        const bool tiny = std::string_view(packed).substr(start, end - start).find("-") != std::string_view::npos;
-        value = tiny ? 0 : std::numeric_limits<double>::max();
-    }
+    if (read.ec == std::errc::result_out_of_range)
+        value = outofrange(std::string_view(packed).substr(start, end - start));
     return negative ? -value : value;
 }
 

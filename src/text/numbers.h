@@ -31,11 +31,10 @@ std::string numbertext(float value);
 std::string numbertext(int value);
 
 /// A value under one of the patterns of digits ("0", "#"), point, grouping comma and sections (";"): "0.0", "000",
-/// "00.00",
-/// "#,#0.0;;;", "#,##0.00;;;", "###000", "###,000", "##0.0" and their like. Decimal rounding is half away from zero on
-/// the 15-digit text of the value; an empty section falls back to the first, so a negative keeps its sign and a zero is
-/// written. A value that rounds to zero carries no sign. The point is always "." and the grouping mark ",".
-/// Not a number or infinite: "nan", "inf" or "-inf" is never written; an empty text comes back.
+/// "00.00", "#,#0.0;;;", "#,##0.00;;;", "###000", "###,000", "##0.0" and their like. Decimal rounding is half away from
+/// zero on the 15-digit text of the value; an empty section falls back to the first, so a negative keeps its sign and a
+/// zero is written. A value that rounds to zero carries no sign. The point is always "." and the grouping mark ",". Not
+/// a number or infinite gives an empty text.
 std::string format(double value, std::string_view pattern);
 
 }  // namespace tarvane

@@ -200,7 +200,7 @@ bool replacefile(const std::string& path, const std::string& bytes) {
 }
 
 std::string trimmedname(const HarmonicRecord& record) {
-    return trim(record.PortName.substr(0, record.PortName.find('\0')));
+    return trim(record.PortName);
 }
 
 }  // namespace tarvane

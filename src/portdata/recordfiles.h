@@ -40,7 +40,7 @@ std::vector<std::byte> readwhole(const std::string& path);
 bool replacefile(const std::string& path, std::span<const std::byte> bytes);
 bool replacefile(const std::string& path, const std::string& bytes);
 
-/// The name without the blanks at its ends and without anything from the first NUL on.
+/// The name without the blanks at its ends.
 std::string trimmedname(const HarmonicRecord& record);
 
 }  // namespace tarvane

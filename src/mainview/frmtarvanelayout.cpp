@@ -66,11 +66,9 @@ void frmtarvane::buildlayout() {
     });
     Previousday = new QPushButton("Prev day", surface);
     Previousday->setObjectName("Previousday");
-    Previousday->setShortcut(Qt::Key_PageUp);
     Previousday->setToolTip("The day before (Page Up)");
     Nextday = new QPushButton("Next day", surface);
     Nextday->setObjectName("Nextday");
-    Nextday->setShortcut(Qt::Key_PageDown);
     Nextday->setToolTip("The day after (Page Down)");
     monthspredictions = new QListWidget(surface);
     monthspredictions->setObjectName("monthspredictions");

@@ -1,0 +1,167 @@
+#include "mainview/frmtarvane.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QTest>
+
+#include "mainview/mainfixture.h"
+#include "platform/qt/twips.h"
+#include "portdata/frmchartdepth.h"
+#include "portdata/frmoutoptions.h"
+#include "windows/controls.h"
+
+namespace tarvane::tests {
+namespace {
+
+class FrmTarvane : public testing::Test, protected MainFixture {
+  protected:
+    FrmTarvane() : window(session, scripted.services()) {
+        window.load();
+        window.Timer1->stop();
+        window.Timer2->stop();
+        present(window);
+        QApplication::processEvents();
+    }
+
+    void choose(const char* entry) { window.menuentry(entry)->trigger(); }
+
+    /// Pixels nearer to a colour than to any grey, or of that grey, as the widget is on the screen.
+    static int pixels(QWidget& widget, QColor colour) {
+        const QImage image = widget.grab().toImage();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor seen = image.pixelColor(x, y);
+                const int off = std::abs(seen.red() - colour.red()) + std::abs(seen.green() - colour.green()) +
+                                std::abs(seen.blue() - colour.blue());
+                count += off < 250 ? 1 : 0;
+            }
+        return count;
+    }
+
+    void movemouse(double hours) {
+        const QPoint place(static_cast<int>(hours / 24 * window.Picture1->width()), 40);
+        QTest::mouseMove(window.Picture1, place);
+        QApplication::processEvents();
+    }
+
+    frmtarvane window;
+};
+
+TEST_F(FrmTarvane, ComesUpWhole) {
+    EXPECT_EQ(window.portbox->text(), "Port    : Alder Quay");
+    EXPECT_EQ(window.tidedatebox->text(), "Date   : 9 April 2024 (Tuesday)");
+    EXPECT_TRUE(window.daystide1->text().contains("04:40   5.5\n"));
+    EXPECT_TRUE(window.windowTitle().startsWith("Tarvane Tides   (v9.5.0)     [Time Now 14:32 : Height = "));
+    EXPECT_EQ(window.disclaimer->text().count('\n'), 1);
+    expectroomfortexts(window);
+    EXPECT_EQ(window.Picture1->height(), twips(3415));
+    EXPECT_EQ(window.Picture1->width(), twips(static_cast<int>(115.0 / 190 * 9720)));
+    EXPECT_GT(pixels(*window.Picture1, Qt::black), 1000);
+    EXPECT_GT(pixels(*window.pctSpringsStatus, Qt::black), 0);
+}
+
+TEST_F(FrmTarvane, MenuTreeAndItsHiddenParts) {
+    QStringList menus;
+    for (const QAction* action : window.menuBar()->actions())
+        if (action->isVisible()) menus << action->text();
+    EXPECT_EQ(menus, (QStringList{" &File", "&Date", "  &Select Port ", "&Calculate  ", "Clip&board", "C&onfigure",
+                                  " &Advanced", "Help"}));
+    for (const char* name : {"mnuSpecial", "mnuAdjustLoad", "mnuCopyDiamonds", "mnucopyconstants", "mnumaintenance"})
+        EXPECT_FALSE(window.menuentry(name)->isVisible()) << name;
+    EXPECT_FALSE(window.menuentry("mnuHelp")->isEnabled());
+    QTest::mouseDClick(window.layers.Label1, Qt::LeftButton);
+    EXPECT_TRUE(window.menuentry("mnuSpecial")->isVisible());
+    EXPECT_EQ(window.layers.lblm2Harm->text(), " (g 120 : Hm 1.50)");
+    EXPECT_EQ(window.layers.lblZ0harm->text(), " (Z0 3.00)");
+}
+
+TEST_F(FrmTarvane, KeysAndButtonsStepDaysAndPorts) {
+    QTest::keyClick(&window, Qt::Key_PageDown);
+    EXPECT_EQ(window.tidedatebox->text(), "Date   : 10 April 2024 (Wednesday)");
+    QTest::mouseClick(window.Nextday, Qt::LeftButton);
+    EXPECT_EQ(session.onshow.tidedayofyear, 102);
+    QTest::mouseClick(window.Previousday, Qt::LeftButton);
+    QTest::keyClick(&window, Qt::Key_PageUp);
+    EXPECT_EQ(session.onshow.tidedayofyear, 100);
+    choose("mnuNextPort");
+    EXPECT_TRUE(window.portbox->text().startsWith("Port    : Birch Sound"));
+    choose("mnuPrevPort");
+    EXPECT_TRUE(window.portbox->text().startsWith("Port    : Alder Quay"));
+}
+
+TEST_F(FrmTarvane, TheReadoutFollowsTheMouseUntilAClick) {
+    movemouse(4.7);
+    EXPECT_EQ(window.timeval->text(), "04:40");
+    EXPECT_TRUE(window.lblrate->text().startsWith("(Falling @ ")) << window.lblrate->text().toStdString();
+    EXPECT_GT(pixels(*window.Picture1, Qt::red), window.Picture1->height() / 2);
+    QTest::mouseClick(window.Picture1, Qt::RightButton, {}, QPoint(100, 40));
+    EXPECT_EQ(window.lblmousestatus->text(), "(Click mouse to unfreeze)");
+    movemouse(12);
+    EXPECT_EQ(window.timeval->text().left(1), "0");
+    QTest::mouseClick(window.Picture1, Qt::LeftButton, {}, QPoint(100, 40));
+    movemouse(17);
+    EXPECT_EQ(window.hiteval->text(), "5.5");
+}
+
+TEST_F(FrmTarvane, ConstituentsComeAndGo) {
+    EXPECT_FALSE(window.layers.chkM2->isVisible());
+    choose("mnuLayersShow");
+    EXPECT_TRUE(window.menuentry("mnuLayersShow")->isChecked());
+    EXPECT_TRUE(window.layers.chkM2->isVisible());
+    expectroomfortexts(window);
+    EXPECT_EQ(pixels(*window.Picture1, Qt::blue), 0);
+    QTest::mouseClick(window.layers.chkM2, Qt::LeftButton, {}, QPoint(8, window.layers.chkM2->height() / 2));
+    EXPECT_GT(pixels(*window.Picture1, Qt::blue), 50);
+    movemouse(9);
+    EXPECT_EQ(window.layers.lblSumHt->text(), window.hiteval->text());
+    EXPECT_FALSE(window.layers.lblSumHt->text().isEmpty());
+    choose("mnumonth");
+    EXPECT_FALSE(window.layers.chkM2->isVisible());
+    EXPECT_FALSE(window.menuentry("mnuLayersShow")->isChecked());
+    EXPECT_TRUE(window.monthspredictions->isVisible());
+    EXPECT_EQ(window.monthspredictions->item(0)->text(), " Months");
+    choose("mnuNextPort");
+    EXPECT_FALSE(window.monthspredictions->isVisible());
+}
+
+TEST_F(FrmTarvane, AStretchedWindowIsDrawnAnew) {
+    window.resize(1200, 800);
+    QApplication::processEvents();
+    EXPECT_EQ(window.Picture1->width(), twips(static_cast<int>(115.0 / 190 * 1200 * 15)));
+    EXPECT_GT(window.Picture1->height(), twips(3415));
+    EXPECT_GT(pixels(*window.Picture1, Qt::black), 2000);
+    expectroomfortexts(window);
+    window.resize(100, 100);
+    EXPECT_EQ(window.size(), window.minimumSize());
+}
+
+TEST_F(FrmTarvane, DialogsOpenThroughTheOneDoor) {
+    scripted.windows.expect("frmoutoptions", [this](ModalWindow& modal) {
+        auto& options = dynamic_cast<frmoutoptions&>(modal);
+        options.Check1->click();
+        options.draughttext->setText("1.8");
+        options.optionsok->click();
+        EXPECT_EQ(stored().draught, 1.8F);
+    });
+    choose("mnuoutputoptions");
+    EXPECT_TRUE(window.menuentry("mnumaintenance")->isVisible());
+    EXPECT_FALSE(window.menuentry("mnumaintainfile")->isEnabled());
+    movemouse(10);
+    EXPECT_TRUE(window.lblrate->text().contains(" : Draft=1.8M")) << window.lblrate->text().toStdString();
+    for (const auto& [entry, name] : {std::pair{"mnutidedate", "Frmtimdat"},
+                                      {"mnuPortList", "frmconfig"},
+                                      {"mnuchartdepth", "frmChartdepth"},
+                                      {"Mnushowconfig", "frmshowconf"},
+                                      {"mnusunrise", "Frmsunrise"}}) {
+        scripted.windows.expect(name, [](ModalWindow&) {});
+        choose(entry);
+    }
+    scripted.filedialogs.expectopen(std::nullopt, "Select Sea Area");
+    choose("mnuArea");
+}
+
+}  // namespace
+}  // namespace tarvane::tests

@@ -3,7 +3,9 @@
 #include "dates/summertime.h"
 #include "mainview/monthcommand.h"
 #include "output/clipboardtexts.h"
+#include "output/suntimestext.h"
 #include "portdata/recordfiles.h"
+#include "sunmoon/sunmonth.h"
 
 namespace tarvane {
 namespace {
@@ -37,13 +39,16 @@ void copydayssuntimes(MainContext& context) {
 void copymonthssuntimes(MainContext& context) {
     Session& session = context.session;
     const Settings& settings = session.settings;
-    SunMonth month;
-    month.portname = session.port.portname;
-    month.port = readport(settings.hcfile, settings.currentport);
-    month.zonehours = session.port.zonehours;
-    month.shift = summershift(session.onshow.tidedate, settings.summerflag2);
-    month.currentsummer = settings.currentsummer;
-    copytext(context, monthssuntext(session.suntable, month, session.onshow));
+    const DateOnShow& onshow = session.onshow;
+    const HarmonicRecord port = readport(settings.hcfile, settings.currentport);
+    const int year = static_cast<int>(onshow.tideyear), month = static_cast<int>(onshow.tidemonth);
+    clearsuntable(session.suntable);
+    // kept: the times go into the table's values alone, and only the dates into its texts
+    fillsunvalues(session.suntable,
+                  {year, month, summershift(onshow.tidedate, settings.summerflag2), session.port.zonehours},
+                  {port.PortLat, port.PortLong});
+    const SunHeading heading{session.port.portname, port.PortLat, port.PortLong, settings.currentsummer};
+    copytext(context, suntimestext(session.suntable, heading, year, month, "\t"));
     context.services.messages.show("Months sunrise and sunset times have been copied to the clipboard", "Tarvane");
 }
 

@@ -1,22 +1,18 @@
 #include "mainview/sunview.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <optional>
 #include <string_view>
 
 #include "dates/summertime.h"
+#include "output/suntimestext.h"
 #include "portdata/coordinates.h"
 #include "portdata/recordfiles.h"
-#include "text/numbers.h"
 #include "text/singlebyte.h"
-#include "text/timetext.h"
 
 namespace tarvane {
 namespace {
-
-const char* const lineend = "\r\n";
 
 /// How one of the two position boxes is read.
 struct PositionRule {
@@ -53,9 +49,6 @@ int yearonshow(const Session& session) {
 int monthonshow(const Session& session) {
     return static_cast<int>(session.onshow.tidemonth);
 }
-
-/// Columns of the table in the order of the CSV behind the date.
-constexpr std::array<std::size_t, 6> csvcolumns{4, 5, 3, 6, 2, 7};
 
 }  // namespace
 
@@ -132,24 +125,9 @@ std::string csvpath(const std::string& chosen) {
 
 std::string suncsvtext(Session& session) {
     const HarmonicRecord port = readport(session.settings.hcfile, session.settings.currentport);
-    const bool summer = session.settings.currentsummer != 0;
-    // kept: the port's own position stands here, also over the times of a typed one
-    std::string text = trim(port.PortName) + (summer ? ",Time Zone = Summer Time," : ",Time Zone = Standard Time,") +
-                       LatitudeText(port.PortLat) + "," + LongitudeText(port.PortLong) + lineend +
-                       "Date,Sunrise,Sunset,Civil Dawn,Civil Dusk,Nautical Dawn,Nautical Dusk" + lineend;
-    SunTable& table = session.suntable;
-    const int days = daysonshow(session);
-    for (int day = 1; day <= days; ++day) {
-        const auto row = static_cast<std::size_t>(day);
-        // kept: the window shows this form of the date from now on
-        table.suntext[row][1] =
-            numbertext(day) + "/" + numbertext(monthonshow(session)) + "/" + numbertext(yearonshow(session));
-        text += table.suntext[row][1];
-        for (const std::size_t column : csvcolumns)
-            text += "," + clocktext(table.sunvalues[row][column]);
-        text += lineend;
-    }
-    return text;
+    // kept: the port's own position stands over the times, also over those of a typed one
+    const SunHeading heading{trim(port.PortName), port.PortLat, port.PortLong, session.settings.currentsummer};
+    return suntimestext(session.suntable, heading, yearonshow(session), monthonshow(session), ",");
 }
 
 }  // namespace tarvane

@@ -17,8 +17,7 @@ void buildpredictiontext(DayTable& table, const Prediction& prediction, int n, c
                          const DateOnShow& onshow) {
     std::fill(table.daylines.begin() + 1, table.daylines.begin() + 201, std::string{});
     table.daylines[1] = "Port : " + trim(portname);
-    table.daylines[2] =
-        "Date : " + numbertext(onshow.tideday) + "/" + numbertext(onshow.tidemonth) + "/" + numbertext(onshow.tideyear);
+    table.daylines[2] = "Date : " + slashdate(onshow.tideday, onshow.tidemonth, onshow.tideyear);
     table.daystide1 = "  Predictions\r\n";
     if (!prediction.defined) {
         table.daylines[4] = undefinedday;
@@ -35,6 +34,10 @@ void buildpredictiontext(DayTable& table, const Prediction& prediction, int n, c
         table.daylines[static_cast<std::size_t>(i) + 3] = text.time + "   " + text.height;
     }
     table.daylinecount = n + 4;
+}
+
+std::string slashdate(double day, double month, double year) {
+    return numbertext(day) + "/" + numbertext(month) + "/" + numbertext(year);
 }
 
 std::string heighttext(double height) {

@@ -27,6 +27,12 @@ struct DayTable {
 void buildpredictiontext(DayTable& table, const Prediction& prediction, int n, const std::string& portname,
                          const DateOnShow& onshow);
 
+/// The line end of files and of clipboard texts.
+inline constexpr const char* lineend = "\r\n";
+
+/// A date day first under every locale, "9/4/2024".
+std::string slashdate(double day, double month, double year);
+
 /// A height as the readouts show it: metres, one decimal.
 std::string heighttext(double height);
 

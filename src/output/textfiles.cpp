@@ -3,14 +3,13 @@
 #include <array>
 #include <filesystem>
 
+#include "output/daytable.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 #include "text/timetext.h"
 
 namespace tarvane {
 namespace {
-
-const char* const lineend = "\r\n";
 
 /// Not the system's names: files are called the same in every language.
 constexpr std::array<const char*, 13> englishmonths{"",    "Jan", "Feb", "Mar", "Apr", "May", "Jun",

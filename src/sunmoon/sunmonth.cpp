@@ -9,6 +9,7 @@ namespace tarvane {
 namespace {
 
 /// The events of columns 2 to 7.
+constexpr std::size_t firstevent = 2;
 constexpr std::array<double SunHours::*, 6> eventcolumns{&SunHours::nautdawn,  &SunHours::civildawn,
                                                          &SunHours::sunrise,   &SunHours::sunset,
                                                          &SunHours::civildusk, &SunHours::nautdusk};
@@ -19,20 +20,28 @@ std::string eventtext(double hours) {
     return hours == 0 ? "None" : timetext(hours);
 }
 
-void fillsuntable(SunTable& table, const SunMonthOnShow& month, SunPosition position, const Locale& locale) {
-    const std::string name = locale.monthabbreviation(month.month);
+void fillsunvalues(SunTable& table, const SunMonthOnShow& month, SunPosition position) {
     const int days = DaysInMonth(month.year, month.month);
     for (int day = 1; day <= days; ++day) {
         // kept: one summer flag serves the whole month, also the one in which summer time begins or ends
         const SunHours sun = SunTimes(position.latitude, position.longitude, day, month.month, month.year, month.summer,
                                       month.zonehours);
+        auto& values = table.sunvalues[static_cast<std::size_t>(day)];
+        values[1] = day;
+        for (std::size_t i = 0; i < eventcolumns.size(); ++i)
+            values[i + firstevent] = sun.*eventcolumns[i];
+    }
+}
+
+void fillsuntable(SunTable& table, const SunMonthOnShow& month, SunPosition position, const Locale& locale) {
+    fillsunvalues(table, month, position);
+    const std::string name = locale.monthabbreviation(month.month);
+    const int days = DaysInMonth(month.year, month.month);
+    for (int day = 1; day <= days; ++day) {
         const auto row = static_cast<std::size_t>(day);
         table.suntext[row][1] = str(day) + name + " " + str(month.year);
-        table.sunvalues[row][1] = day;
-        for (std::size_t i = 0; i < eventcolumns.size(); ++i) {
-            table.sunvalues[row][i + 2] = sun.*eventcolumns[i];
-            table.suntext[row][i + 2] = eventtext(sun.*eventcolumns[i]);
-        }
+        for (std::size_t column = firstevent; column < firstevent + eventcolumns.size(); ++column)
+            table.suntext[row][column] = eventtext(table.sunvalues[row][column]);
     }
 }
 

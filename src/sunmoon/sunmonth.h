@@ -27,6 +27,9 @@ struct SunMonthOnShow {
 /// "hh:mm", or "None" for exactly 0, which marks an event that doesn't happen.
 std::string eventtext(double hours);
 
+/// Fills the hours of the month's days and their numbers; texts, titles and later rows stay.
+void fillsunvalues(SunTable& table, const SunMonthOnShow& month, SunPosition position);
+
 /// Fills the rows of the month's days; titles and later rows stay. Dates read as " 5Nov  2026", the month's short name
 /// in the system's language.
 void fillsuntable(SunTable& table, const SunMonthOnShow& month, SunPosition position, const Locale& locale);

@@ -65,31 +65,20 @@ TEST_F(PrintCommands, EachHandsOverOneDocument) {
     }
 }
 
-TEST_F(PrintCommands, APdfIsToldOf) {
-    scripted.printer.place = "/somewhere/curve.pdf";
-    for (const Command& command : commands) {
-        scripted.messages.expectask(command.question, true);
-        scripted.messages.expectshow("Printed to the file\r/somewhere/curve.pdf", "Tarvane", MessageIcon::information);
-        command.run(context);
+TEST_F(PrintCommands, APdfIsToldOfAndSoIsARefusal) {
+    for (const bool refuse : {false, true}) {
+        scripted.printer.refuse = refuse;
+        scripted.printer.place = "/somewhere/curve.pdf";
+        scripted.printer.printed.clear();
+        for (const Command& command : commands) {
+            scripted.messages.expectask(command.question, true);
+            scripted.messages.expectshow(
+                refuse ? "There is nothing to print to" : "Printed to the file\r/somewhere/curve.pdf", "Tarvane",
+                refuse ? MessageIcon::exclamation : MessageIcon::information);
+            command.run(context);
+        }
+        EXPECT_EQ(scripted.printer.printed.empty(), refuse);
     }
-}
-
-TEST_F(PrintCommands, NothingToPrintTo) {
-    scripted.printer.refuse = true;
-    for (const Command& command : commands) {
-        scripted.messages.expectask(command.question, true);
-        scripted.messages.expectshow("There is nothing to print to", "Tarvane", MessageIcon::exclamation);
-        command.run(context);
-    }
-    EXPECT_TRUE(scripted.printer.printed.empty());
-}
-
-TEST_F(PrintCommands, TheCurveIsDrawnAnewAfterPrinting) {
-    const int drawn = picture.persistentclears;
-    run(commands[0]);
-    EXPECT_EQ(picture.persistentclears, drawn + 1);
-    run(commands[0], false);
-    EXPECT_EQ(picture.persistentclears, drawn + 1);
 }
 
 TEST_F(PrintCommands, AMonthIsCalculatedOnceOnly) {
@@ -113,11 +102,14 @@ TEST_F(PrintCommands, SunTimesMustHaveBeenCalculated) {
     EXPECT_EQ(scripted.printer.documents, 0);
 }
 
-TEST_F(PrintCommands, TheCurveOnShowIsPrintedWithItsDayTable) {
+TEST_F(PrintCommands, TheCurveOnShowIsPrintedWithItsDayTableAndDrawnAnew) {
     nextday(context);
+    const int drawn = picture.persistentclears;
+    run(commands[0], false);
+    EXPECT_EQ(picture.persistentclears, drawn);
     run(commands[0]);
+    EXPECT_EQ(picture.persistentclears, drawn + 1);
     EXPECT_TRUE(printed(session.view.tidedatebox));
-    EXPECT_TRUE(printed("   Time    Ht."));
     const auto& first = session.daytable.turningtext[1];
     EXPECT_TRUE(printed("   " + first.time + "   " + first.height));
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 
 #include "output/goldenfile.h"
+#include "output/suntimestext.h"
+#include "sunmoon/sunmonth.h"
 #include "text/timetext.h"
 
 namespace tarvane {
@@ -68,42 +70,22 @@ TEST(ClipboardTexts, ADaysSunStaysInTheDayTable) {
               "Sunrise : 00:00:00\r\nSunset  : 00:00:00\r\n");
 }
 
-SunMonth sunmonth(float latitude, float longitude) {
-    SunMonth month;
-    month.portname = "Alder Quay";
-    month.port.PortLat = latitude;
-    month.port.PortLong = longitude;
-    return month;
-}
-
-TEST(ClipboardTexts, AMonthsSun) {
-    SunMonth month = sunmonth(50.5F, -1.25F);
-    month.shift = month.currentsummer = -1;
+TEST(SunTimesText, AMonthInColumns) {
     SunTable table;
-    table.suntext[31][7] = "left over";
-    table.titles[1] = "left over";
-    const std::string golden = tests::goldenfile("clipboard-sun-april.txt");
-    ASSERT_FALSE(golden.empty());
-    EXPECT_EQ(monthssuntext(table, month, dateonshow(2024, 4, 9)), golden);
-    EXPECT_EQ(table.suntext[30][1], "30/4/2024");
-    EXPECT_EQ(table.suntext[30][4] + table.suntext[31][1] + table.suntext[31][7] + table.titles[1], "");
-    EXPECT_EQ(table.sunvalues[30][1], 30);
-    const double* day = table.sunvalues[30].data();
-    EXPECT_TRUE(std::is_sorted(day + 2, day + 8));
-    EXPECT_EQ(table.sunvalues[31][1], 0);
-    for (std::size_t d = 1; d <= 30; ++d)
-        EXPECT_NE(golden.find(clocktext(table.sunvalues[d][4])), std::string::npos);
-}
-
-TEST(ClipboardTexts, ASunThatDoesNotRiseReadsMidnight) {
-    SunTable table;
-    const std::string text = monthssuntext(table, sunmonth(70, 20), dateonshow(2024, 2, 1));
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 2 + 29);
-    EXPECT_NE(text.find("\r\n29/2/2024\t0"), std::string::npos);
-    const std::string june = monthssuntext(table, sunmonth(70, 20), dateonshow(2024, 6, 1));
-    EXPECT_NE(june.find("\r\n21/6/2024\t00:00:00\t00:00:00\t00:00:00\t00:00:00\t00:00:00\t00:00:00\r\n"),
-              std::string::npos);
-    EXPECT_TRUE(june.starts_with("Alder Quay\tTime Zone = Standard Time\t 70.00N\t 20.00E\r\nDate\tSunrise"));
+    fillsunvalues(table, {2024, 4, -1, 0}, {50.5, -1.25});
+    std::string expected = tests::goldenfile("clipboard-sun-april.txt");
+    ASSERT_FALSE(expected.empty());
+    EXPECT_EQ(suntimestext(table, {"Alder Quay", 50.5F, -1.25F, -1}, 2024, 4, "\t"), expected);
+    EXPECT_EQ(table.suntext[30][1] + table.suntext[31][1] + table.suntext[30][4], "30/4/2024");
+    std::replace(expected.begin(), expected.end(), '\t', ',');
+    EXPECT_EQ(suntimestext(table, {"Alder Quay", 50.5F, -1.25F, -1}, 2024, 4, ","), expected);
+    // the sun doesn't set: every time reads midnight; the heading is another place's
+    fillsunvalues(table, {2024, 6, 0, 0}, {70, 20});
+    const std::string june = suntimestext(table, {"Quay", -1, 20, 0}, 2024, 6, ",");
+    EXPECT_TRUE(june.starts_with("Quay,Time Zone = Standard Time, 1.00S, 20.00E\r\nDate,Sunrise,")) << june;
+    EXPECT_NE(june.find("\r\n21/6/2024,00:00:00,00:00:00,00:00:00,00:00:00,00:00:00,00:00:00\r\n"), std::string::npos);
+    const std::string february = suntimestext(table, {}, 2024, 2, ",");
+    EXPECT_EQ(std::count(february.begin(), february.end(), '\n'), 2 + 29);
 }
 
 TEST(ClockText, CarriesAndWraps) {

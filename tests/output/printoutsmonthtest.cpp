@@ -54,7 +54,7 @@ class MonthPrintout : public testing::Test {
     ScriptedPrinter printer;
 };
 
-TEST_F(MonthPrintout, TitleRows) {
+TEST_F(MonthPrintout, TitleRowsAndClosingLinesAroundTheWeeks) {
     print(monthlist(28, 0, fourrows));
     const Printed title = only(printer, "Port : Alder Quay  Tarvane Tides Months Predictions");
     const Printed second = only(printer, "Year : 2026 - Heights to Chart Datum");
@@ -64,37 +64,16 @@ TEST_F(MonthPrintout, TitleRows) {
         EXPECT_EQ(row.size, 9);
     }
     EXPECT_EQ(second.y, title.y + 216);
+    EXPECT_EQ(only(printer, "All data are derived and should therefore be considered as approximate").y,
+              only(printer, "1 Mar (Mon)").y + 56 * 216);
     print(monthlist(28, 0, fourrows), 15120, 2.5F);
     only(printer, "Year : 2026 - Heights include user charted depth of 2.5 Metres");
 }
 
-TEST_F(MonthPrintout, FebruaryFromMondayTakesFourColumns) {
-    print(monthlist(28, 0, fourrows));
-    EXPECT_EQ(printer.pages, 1);
-    const Printed first = only(printer, "1 Mar (Mon)"), last = only(printer, "28 Mar (Sun)");
-    EXPECT_DOUBLE_EQ(first.x, column(1));
-    EXPECT_DOUBLE_EQ(last.x, column(4));
-    EXPECT_EQ(last.y, first.y + 6 * 8 * 216);
-    EXPECT_EQ(only(printer, "All data are derived and should therefore be considered as approximate").y,
-              first.y + 56 * 216);
-}
-
-TEST_F(MonthPrintout, LongMonthFromSundayRunsOn) {
+TEST_F(MonthPrintout, AMonthThatRunsOnRepeatsTitleAndClosingLines) {
     const auto list = monthlist(31, 6, fourrows);
     print(list);
-    EXPECT_EQ(printer.pages, 2);
     expectcomplete(list);
-    const Printed sunday = only(printer, "1 Mar (Sun)"), monday = only(printer, "2 Mar (Mon)");
-    EXPECT_DOUBLE_EQ(sunday.x, column(1));
-    EXPECT_DOUBLE_EQ(monday.x, column(2));
-    EXPECT_EQ(sunday.y, monday.y + 48 * 216);
-    for (const auto& [text, place] : {std::pair{"30 Mar (Mon)", 0}, std::pair{"31 Mar (Tue)", 8}}) {
-        const Printed head = only(printer, text);
-        EXPECT_EQ(head.page, 2);
-        EXPECT_DOUBLE_EQ(head.x, column(1));
-        EXPECT_EQ(head.y, monday.y + place * 216);
-        EXPECT_TRUE(head.bold);
-    }
     EXPECT_FALSE(only(printer, "31:03   3.21").bold);
     for (const char* repeated : {"Port : Alder Quay  Tarvane Tides Months Predictions",
                                  "All data are derived and should therefore be considered as approximate"})
@@ -130,13 +109,6 @@ TEST_F(MonthPrintout, EveryMonthShapeOnBothPapers) {
                 }
                 EXPECT_EQ(tops.size(), 1U) << "all columns start at one height";
             }
-}
-
-TEST_F(MonthPrintout, AMonthWithoutTheRowOnTime) {
-    const auto list = monthlist(30, 2, fourrows, false);
-    print(list);
-    expectcomplete(list);
-    EXPECT_DOUBLE_EQ(only(printer, "1 Mar (Wed)").x, column(1));
 }
 
 TEST_F(MonthPrintout, DaysTooFullAreNotSetByWeeks) {

@@ -91,21 +91,16 @@ TEST_F(FrmriseresultsTest, APolarDayHasNoLengths) {
     expectroomfortexts(form);
 }
 
-TEST_F(FrmriseresultsTest, SavingLeavesTheFilesDateOnShow) {
-    Frmriseresults form(context);
-    present(form);
-    scripted.filedialogs.expectsave(folder / "sun");
-    QTest::mouseClick(form.Command1, Qt::LeftButton);
-    EXPECT_EQ(shown(*form.risedate), "9/4/2024");
-    EXPECT_TRUE(canopen(folder / "sun.csv"));
-}
-
-TEST_F(FrmriseresultsTest, PrintsTheMonth) {
+TEST_F(FrmriseresultsTest, SavesAndPrintsTheMonth) {
     Frmriseresults form(context);
     present(form);
     scripted.messages.expectask("Print Sun and Lunar times?", true);
     QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return scripted.printer.documents == 1; }));
+    scripted.filedialogs.expectsave(folder / "sun");
+    QTest::mouseClick(form.Command1, Qt::LeftButton);
+    EXPECT_EQ(shown(*form.risedate), "9/4/2024") << "the file's form of the date stays on show";
+    EXPECT_TRUE(canopen(folder / "sun.csv"));
 }
 
 TEST_F(FrmriseresultsTest, LeavingShowsTheStepButtons) {

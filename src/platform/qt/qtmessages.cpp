@@ -30,13 +30,24 @@ void prepare(QMessageBox& box, const std::string& text, const std::string& title
     box.setIcon(boxicon(icon));
 }
 
+/// Opens the box. The hourglass of a running command gives way to the plain pointer while the user reads and answers.
+int opened(QMessageBox& box) {
+    const QCursor* running = QApplication::overrideCursor();
+    if (!running) return box.exec();
+    const QCursor hourglass = *running;
+    QApplication::changeOverrideCursor(Qt::ArrowCursor);
+    const int answer = box.exec();
+    QApplication::changeOverrideCursor(hourglass);
+    return answer;
+}
+
 }  // namespace
 
 void QtMessages::show(const std::string& text, const std::string& title, MessageIcon icon) {
     QMessageBox box(QApplication::activeWindow());
     prepare(box, text, title, icon);
     box.setStandardButtons(QMessageBox::Ok);
-    box.exec();
+    opened(box);
 }
 
 bool QtMessages::ask(const std::string& text, const std::string& title, MessageIcon icon) {
@@ -45,7 +56,7 @@ bool QtMessages::ask(const std::string& text, const std::string& title, MessageI
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::Yes);
     box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+    return opened(box) == QMessageBox::Yes;
 }
 
 void QtMessages::beep() {

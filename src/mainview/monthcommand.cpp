@@ -37,6 +37,7 @@ void calculatemonth(MainContext& context) {
 
 bool havemonthtable(MainContext& context) {
     const auto& rows = context.session.month.monthspredictions;
+    // kept: a list that stands is taken as it is, also when steps of the date have led into another month
     if (rows.size() < 10) calculatemonth(context);
     // kept: a list of exactly 10 rows is neither calculated nor taken
     if (rows.size() > 10) return true;

@@ -75,7 +75,7 @@ void LayersPanel::place(const QRect& area, const QRect& line) {
     const int heading = 2 * metrics.height() + 4;
     const int pitch = (line.top() - 3 - area.top() - heading) / 7;
     const int boxwidth = chkZ0->sizeHint().width() + 2;
-    // Contributions end a little behind the line; the mean level's many digits reach back to its short constant.
+    // Contributions end a little behind the line; the mean level's many digits take the row's whole rest.
     const int valueright = line.right() + 18;
     const int constantleft = area.left() + boxwidth;
     Label1->setGeometry(area.left(), area.top(), line.left() - area.left() - 6, heading);
@@ -88,6 +88,8 @@ void LayersPanel::place(const QRect& area, const QRect& line) {
         row.value->raise();
         y += pitch;
     }
+    lblHtZ0->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    lblHtZ0->resize(area.right() - lblHtZ0->x(), lblHtZ0->height());
     Line1->setGeometry(line);
     lblSum->setGeometry(area.left(), line.bottom() + 3, line.left() - area.left() - 6, metrics.height() + 2);
     lblSumHt->setGeometry(line.left(), line.bottom() + 3, valueright - line.left(), metrics.height() + 2);

@@ -18,6 +18,9 @@
 namespace tarvane {
 namespace {
 
+/// A pipe has no records, and must not make the program wait for a writer.
+constexpr int forreading = O_RDONLY | O_NONBLOCK;
+
 /// A file descriptor that closes itself.
 class File {
   public:
@@ -65,7 +68,7 @@ bool writeall(const File& file, std::span<const std::byte> bytes) {
 
 /// The file's bytes; none for a file that isn't there; nothing when it can't be read.
 std::optional<std::vector<std::byte>> wholefile(const std::string& path) {
-    const File file(path, O_RDONLY);
+    const File file(path, forreading);
     if (!file.isopen()) {
         if (errno == ENOENT) return std::vector<std::byte>{};
         return std::nullopt;
@@ -82,7 +85,7 @@ std::optional<std::vector<std::byte>> wholefile(const std::string& path) {
 template <std::size_t size>
 std::size_t readrecord(const std::string& path, std::int16_t recordnumber, std::array<std::byte, size>& bytes) {
     if (recordnumber < 1) return 0;
-    const File file(path, O_RDONLY);
+    const File file(path, forreading);
     if (!file.isopen()) return 0;
     return readat(file, bytes, (recordnumber - 1) * static_cast<off_t>(size)).value_or(0);
 }
@@ -135,7 +138,7 @@ bool writescratch(const std::string& scratch, std::span<const std::byte> bytes, 
 }  // namespace
 
 bool canopen(const std::string& path) {
-    const File file(path, O_RDONLY);
+    const File file(path, forreading);
     struct stat status {};
     return file.isopen() && ::fstat(file.number(), &status) == 0 && !S_ISDIR(status.st_mode);
 }

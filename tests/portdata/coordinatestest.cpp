@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace tarvane {
 namespace {
 
@@ -12,28 +10,19 @@ TEST(Coordinates, Parse) {
         const char* text;
         double latitude;
         double longitude;
-    } rows[] = {{"50.45.00N", 50.75, 50.75},
-                {"001.23.00W", 1 + 23 / 60.0, -1 - 23 / 60.0},
-                {"50.30.00S", -50.5, 50.5},
-                {"50.30.59N", 50.5, 50.5},
-                {"50.30.00SS", 50.5, 50.5},
-                {"50S.30S.00S", -50.5, 50.5},
-                {"50.30.00s", 50.5, 50.5},
-                {"W1.30", 1.0 / 2, -1.0 / 2},
-                {"001.30.00E", 1.5, 1.5},
-                {"-1.30.00", -0.5, -0.5},
-                {" 50. 30 .00N", 50.5, 50.5},
-                {".30", 0.5, 0.5},
-                {"50", 50, 50},
-                {"50W", 50, -50},
-                {"50.", 50, 50},
-                {"..", 0, 0},
-                {"N", 0, 0},
-                {"", 0, 0}};
+    } rows[] = {{"50.45.00N", 50.75, 50.75},  {"001.23.00W", 1 + 23 / 60.0, -1 - 23 / 60.0},
+                {"50.30.00S", -50.5, 50.5},   {"50.30.59N", 50.5, 50.5},
+                {"50.30.00SS", 50.5, 50.5},   {"50S.30S.00S", -50.5, 50.5},
+                {"50.30.00s", 50.5, 50.5},    {"W1.30", 1.0 / 2, -1.0 / 2},
+                {"001.30.00E", 1.5, 1.5},     {"-1.30.00", -0.5, -0.5},
+                {" 50. 30 .00N", 50.5, 50.5}, {"50W", 50, -50},
+                {".30.N", 0.5, 0.5}};
     for (const auto& row : rows) {
         EXPECT_DOUBLE_EQ(ParseLatitude(row.text), row.latitude) << row.text;
         EXPECT_DOUBLE_EQ(ParseLongitude(row.text), row.longitude) << row.text;
     }
+    for (const char* nothing : {"", ".", "..", "N", "N.E"})
+        EXPECT_EQ(ParseLatitude(nothing), 0) << nothing;
 }
 
 TEST(Coordinates, ShortTexts) {
@@ -82,10 +71,11 @@ TEST(Coordinates, EditTextsByBothRoutes) {
         EXPECT_EQ(LatitudeEditText(row.degrees), row.point) << row.degrees;
         EXPECT_EQ(LatitudeEditText(row.degrees, DecimalMark::comma), row.comma) << row.degrees;
     }
-    EXPECT_EQ(LongitudeEditText(-1.5), "001.30.00W");
-    EXPECT_EQ(LongitudeEditText(-1.5, DecimalMark::comma), "001.30.00W");
-    EXPECT_EQ(LongitudeEditText(0, DecimalMark::comma), "000.00.00E");
-    EXPECT_EQ(LongitudeEditText(179.75), "179.45.00E");
+    for (const DecimalMark mark : {DecimalMark::point, DecimalMark::comma}) {
+        EXPECT_EQ(LongitudeEditText(-1.5, mark), "001.30.00W");
+        EXPECT_EQ(LongitudeEditText(0, mark), "000.00.00E");
+        EXPECT_EQ(LongitudeEditText(179.75, mark), "179.45.00E");
+    }
 }
 
 // Every whole minute comes back, from the double as it is computed and from the single that a record holds.

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "engine/testport.h"
 #include "fakes/scriptedsurface.h"
 #include "fakes/services.h"
 #include "fakes/temporaryfolder.h"
@@ -13,23 +14,12 @@
 namespace tarvane::tests {
 
 inline HarmonicRecord fixtureport(const std::string& name, float level, const std::string& zone = "L") {
-    HarmonicRecord port;
+    HarmonicRecord port = roundport();
     port.PortName = name;
     port.PortLat = 50.5F;
     port.PortLong = -1.25F;
     port.TimeZoneLetter = zone;
     port.Z0 = level;
-    port.M2g = 120;
-    port.M2Hm = 1.5F;
-    port.S2g = 170;
-    port.S2Hm = 0.5F;
-    port.K1g = 60;
-    port.K1Hm = 0.07F;
-    port.O1g = 320;
-    port.O1Hm = 0.06F;
-    port.LF4 = 0.02F;
-    port.LF6 = 0.001F;
-    port.MHm2.fill(1.5F);
     return port;
 }
 

@@ -102,9 +102,14 @@ void frmtarvane::connectcontrols() {
     layers.Label1->installEventFilter(this);
 }
 
-void frmtarvane::runcommand(const std::function<void()>& command) {
+void frmtarvane::run(Command command) {
+    command(context);
+    showview();
+}
+
+void frmtarvane::runlong(Command command) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    command();
+    command(context);
     QApplication::restoreOverrideCursor();
     showview();
 }
@@ -117,13 +122,11 @@ void frmtarvane::redraw() {
 }
 
 void frmtarvane::Nextday_Click() {
-    nextday(context);
-    showview();
+    run(nextday);
 }
 
 void frmtarvane::Previousday_Click() {
-    previousday(context);
-    showview();
+    run(previousday);
 }
 
 void frmtarvane::mnuNextPort_Click() {
@@ -137,8 +140,7 @@ void frmtarvane::mnuPrevPort_Click() {
 }
 
 void frmtarvane::mnuLayersShow_Click() {
-    togglelayers(context);
-    showview();
+    run(togglelayers);
 }
 
 void frmtarvane::Picture1_MouseMove(double x) {

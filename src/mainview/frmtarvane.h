@@ -90,8 +90,10 @@ class frmtarvane : public QMainWindow {
     void Timer1_Timer();
     void Timer2_Timer();
 
-    /// Runs a command under the hourglass and shows what it left.
-    void runcommand(const std::function<void()>& command);
+    /// Runs a command, under the hourglass when it takes long, and shows what it left.
+    using Command = void (*)(MainContext&);
+    void run(Command command);
+    void runlong(Command command);
 
     Session& session;
     PictureBox* surface = nullptr;  ///< the window's own surface, on which the controls lie

@@ -53,7 +53,7 @@ void frmtarvane::mnuArea_Click() {
 }
 
 void frmtarvane::mnumonth_Click() {
-    runcommand([this] { calculatemonth(context); });
+    runlong(calculatemonth);
 }
 
 void frmtarvane::mnusunrise_Click() {
@@ -84,54 +84,47 @@ void frmtarvane::mnuExit_Click() {
 }
 
 void frmtarvane::mnusavmonth_Click() {
-    savemonth(context);
-    showview();
+    run(savemonth);
 }
 
 void frmtarvane::mnusaveday_Click() {
-    saveday(context);
-    showview();
+    run(saveday);
 }
 
 void frmtarvane::mnusavesun_Click() {
-    savesun(context);
-    showview();
+    run(savesun);
 }
 
 void frmtarvane::mnumonthprint_Click() {
-    runcommand([this] { printmonth(context); });
+    runlong(printmonth);
 }
 
 void frmtarvane::mnuhrprint_Click() {
-    runcommand([this] { printtenminutes(context); });
+    runlong(printtenminutes);
 }
 
 void frmtarvane::mnudayprint_Click() {
-    runcommand([this] { printcurve(context); });
+    runlong(printcurve);
 }
 
 void frmtarvane::mnusunprint_Click() {
-    runcommand([this] { printsun(context); });
+    runlong(printsun);
 }
 
 void frmtarvane::mnuCopyDaysTides_Click() {
-    copydaystides(context);
-    showview();
+    run(copydaystides);
 }
 
 void frmtarvane::mnuCopyMonth_Click() {
-    copymonthstides(context);
-    showview();
+    run(copymonthstides);
 }
 
 void frmtarvane::mnuCopySunTimes_Click() {
-    copydayssuntimes(context);
-    showview();
+    run(copydayssuntimes);
 }
 
 void frmtarvane::mnuCopyMonthSunTimes_Click() {
-    copymonthssuntimes(context);
-    showview();
+    run(copymonthssuntimes);
 }
 
 }  // namespace tarvane

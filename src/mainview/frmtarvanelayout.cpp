@@ -2,6 +2,7 @@
 #include <QPaintEvent>
 
 #include "mainview/frmtarvane.h"
+#include "platform/qt/named.h"
 #include "platform/qt/twips.h"
 
 namespace tarvane {
@@ -10,12 +11,6 @@ namespace {
 constexpr int toldheight = 7400;
 constexpr int pictureheight = 3415;
 constexpr Colour boxgrey = 0xE0E0E0;
-
-QLabel* makelabel(QWidget* parent, const char* name, const char* text = "") {
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(name);
-    return label;
-}
 
 void setbackground(QWidget* widget, Colour colour) {
     QPalette palette = widget->palette();
@@ -41,18 +36,18 @@ void frmtarvane::buildlayout() {
     pctSpringsStatus->setObjectName("pctSpringsStatus");
     pctSpringsStatus->setbackcolour(boxgrey);
     pctSpringsStatus->setToolTip("How far the day stands from springs or neaps");
-    portbox = makelabel(surface, "portbox");
-    tidedatebox = makelabel(surface, "tidedatebox");
-    timelabel = makelabel(surface, "timelabel", "Time   :");
-    timeval = makelabel(surface, "timeval");
-    hitelabel = makelabel(surface, "hitelabel", "Height :");
-    hiteval = makelabel(surface, "hiteval");
-    lblrate = makelabel(surface, "lblrate");
-    lblmousestatus = makelabel(surface, "lblmousestatus", "(Click curve to change)");
-    lblSprings = makelabel(surface, "lblSprings", "Springs");
-    lblNeap = makelabel(surface, "lblNeap", "Neaps");
-    disclaimer = makelabel(surface, "disclaimer");
-    daystide1 = makelabel(surface, "daystide1", "Predicted Tides      ");
+    portbox = namedlabel("portbox", surface);
+    tidedatebox = namedlabel("tidedatebox", surface);
+    timelabel = namedlabel("timelabel", surface, "Time   :");
+    timeval = namedlabel("timeval", surface);
+    hitelabel = namedlabel("hitelabel", surface, "Height :");
+    hiteval = namedlabel("hiteval", surface);
+    lblrate = namedlabel("lblrate", surface);
+    lblmousestatus = namedlabel("lblmousestatus", surface, "(Click curve to change)");
+    lblSprings = namedlabel("lblSprings", surface, "Springs");
+    lblNeap = namedlabel("lblNeap", surface, "Neaps");
+    disclaimer = namedlabel("disclaimer", surface);
+    daystide1 = namedlabel("daystide1", surface, "Predicted Tides      ");
     daystide1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     daystide1->setMargin(6);
     setbackground(daystide1, boxgrey);

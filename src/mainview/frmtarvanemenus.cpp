@@ -7,13 +7,13 @@
 namespace tarvane {
 namespace {
 
-using Command = void (frmtarvane::*)();
+using Click = void (frmtarvane::*)();
 
 struct MenuEntry {
     const char* menu;  ///< the menu that it stands in
     const char* name;
     const char* caption;
-    Command command;  ///< nothing: not to be had
+    Click click;  ///< nothing: not to be had
     const char* shortcut;
 };
 
@@ -76,9 +76,9 @@ void frmtarvane::buildmenus() {
     for (const MenuEntry& entry : entries) {
         QAction* action = findChild<QMenu*>(entry.menu)->addAction(entry.caption);
         action->setObjectName(entry.name);
-        action->setEnabled(entry.command != nullptr);
+        action->setEnabled(entry.click != nullptr);
         if (*entry.shortcut) action->setShortcut(QKeySequence(entry.shortcut));
-        if (entry.command) connect(action, &QAction::triggered, this, entry.command);
+        if (entry.click) connect(action, &QAction::triggered, this, entry.click);
     }
     menuentry("mnuLayersShow")->setCheckable(true);
     for (const char* hidden : {"mnuSpecial", "mnuAdjustLoad", "mnuCopyDiamonds", "mnucopyconstants", "mnumaintenance"})

@@ -1,6 +1,7 @@
 #include "mainview/layerspanel.h"
 
 #include "platform/qt/marks.h"
+#include "platform/qt/named.h"
 
 namespace tarvane {
 namespace {
@@ -27,12 +28,6 @@ constexpr std::array<RowPlan, 7> rowplans{{
     {&P::chkf6, &P::lblf6Harm, &P::lblHtf6, "chkf6", "lblf6Harm", "lblHtf6", "f6", magenta},
 }};
 
-QLabel* makelabel(QWidget* parent, const char* name, const QString& text = {}) {
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(name);
-    return label;
-}
-
 void colourbox(QCheckBox* box, Colour colour) {
     QPalette palette = box->palette();
     palette.setColor(QPalette::WindowText, screencolour(colour));
@@ -44,8 +39,8 @@ void colourbox(QCheckBox* box, Colour colour) {
 }  // namespace
 
 void LayersPanel::build(QWidget* parent, const std::function<void()>& onclick) {
-    Label1 = makelabel(parent, "Label1", "Tide Raising Constituent");
-    Label3 = makelabel(parent, "Label3", "Contribution to Height (M)");
+    Label1 = namedlabel("Label1", parent, "Tide Raising Constituent");
+    Label3 = namedlabel("Label3", parent, "Contribution to Height (M)");
     for (QLabel* heading : {Label1, Label3})
         heading->setWordWrap(true);
     for (const RowPlan& plan : rowplans) {
@@ -54,18 +49,18 @@ void LayersPanel::build(QWidget* parent, const std::function<void()>& onclick) {
         colourbox(box, plan.colour);
         QObject::connect(box, &QCheckBox::clicked, parent, [onclick] { onclick(); });
         this->*plan.box = box;
-        QLabel* constant = this->*plan.constant = makelabel(parent, plan.constantname);
+        QLabel* constant = this->*plan.constant = namedlabel(plan.constantname, parent);
         QFont small = constant->font();
         small.setPointSizeF(small.pointSizeF() * 0.85);
         constant->setFont(small);
-        QLabel* value = this->*plan.value = makelabel(parent, plan.valuename);
+        QLabel* value = this->*plan.value = namedlabel(plan.valuename, parent);
         value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     Line1 = new QFrame(parent);
     Line1->setObjectName("Line1");
     Line1->setFrameStyle(QFrame::HLine | QFrame::Plain);
-    lblSum = makelabel(parent, "lblSum", "Sum");
-    lblSumHt = makelabel(parent, "lblSumHt");
+    lblSum = namedlabel("lblSum", parent, "Sum");
+    lblSumHt = namedlabel("lblSumHt", parent);
     lblSumHt->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     HideLevelControls();
 }

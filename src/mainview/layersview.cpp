@@ -1,7 +1,6 @@
 #include "mainview/layersview.h"
 
 #include "mainview/loading.h"
-#include "mainview/tidecurve.h"
 
 namespace tarvane {
 namespace {
@@ -32,13 +31,7 @@ void togglelayers(MainContext& context) {
     setdateonshow(onshow, date);
     session.view.tidedatebox = datelineinorder(context, date);
     session.daytable.daystide1.clear();
-    context.surfaces.window.setpersistent(true);
-    context.surfaces.window.clear();
-    const std::int16_t shift = predictdayonshow(session);
-    drawtidecurve(session, context.surfaces);
-    drawtimemarker(session, context.surfaces.picture);
-    refreshsun(session, shift);
-    context.surfaces.picture.setpersistent(false);
+    redrawday(context);
 }
 
 std::string datelineinorder(const MainContext& context, Date date) {

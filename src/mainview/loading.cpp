@@ -25,14 +25,7 @@ void settoday(MainContext& context) {
 
 void refresh(MainContext& context, bool setdisclaimer) {
     Session& session = context.session;
-    context.surfaces.window.setpersistent(true);
-    context.surfaces.window.clear();
-    const std::int16_t shift = predictdayonshow(session);
-    drawtidecurve(session, context.surfaces);
-    drawtimemarker(session, context.surfaces.picture);
-    // The dashed lines just drawn are those of the sun times held from before this.
-    refreshsun(session, shift);
-    context.surfaces.picture.setpersistent(false);
+    const std::int16_t shift = redrawday(context);
     if (setdisclaimer)
         session.view.disclaimer = disclaimercorrectionfirst(correctionline(shift, session.onshow.tidedate));
     rewritetitle(session, context.services.clock);
@@ -56,16 +49,24 @@ void loadmainwindow(MainContext& context) {
     setportbox(session);
     settoday(context);
     session.timenow = clockhours(context.services.clock);
-    context.surfaces.window.setpersistent(true);
-    context.surfaces.window.clear();
-    const std::int16_t shift = predictdayonshow(session);
     session.clocktime = session.timenow;
-    drawtidecurve(session, context.surfaces);
-    drawtimemarker(session, context.surfaces.picture);
-    refreshsun(session, shift);
+    const std::int16_t shift = redrawday(context);
     drawsunlines(session, context.surfaces.picture);
     rewritetitle(session, context.services.clock);
     view.disclaimer = disclaimercorrectionfirst(correctionline(shift, session.onshow.tidedate));
+}
+
+std::int16_t redrawday(MainContext& context) {
+    Session& session = context.session;
+    context.surfaces.window.setpersistent(true);
+    context.surfaces.window.clear();
+    const std::int16_t shift = predictdayonshow(session);
+    drawtidecurve(session, context.surfaces);
+    drawtimemarker(session, context.surfaces.picture);
+    // The dashed lines just drawn are those of the sun times held from before this.
+    refreshsun(session, shift);
+    context.surfaces.picture.setpersistent(false);
+    return shift;
 }
 
 void refreshday(MainContext& context) {

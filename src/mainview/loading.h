@@ -14,7 +14,11 @@ void loadmainwindow(MainContext& context);
 /// Recomputes and redraws the day on show, and sets the correction lines and the title.
 void refreshday(MainContext& context);
 
-/// The same without the correction lines, for the port steps.
+/// What stands in its middle: predicts the day on show, draws it with its marker, refreshes the sun times and turns
+/// persistent drawing off. Returns the summer shift.
+std::int16_t redrawday(MainContext& context);
+
+/// The same as `refreshday` without the correction lines, for the port steps.
 void refreshdaykeepingdisclaimer(MainContext& context);
 
 /// The first prediction of the sequence alone: summer shift, day, turning points and day table. Returns the shift.

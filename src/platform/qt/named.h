@@ -14,6 +14,13 @@ Control* named(const char* name, Arguments&&... arguments) {
     return control;
 }
 
+/// A label that lies on `parent` where its owner puts it. Never taken for rich text.
+inline QLabel* namedlabel(const char* name, QWidget* parent, const QString& text = {}) {
+    auto* label = named<QLabel>(name, text, parent);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
 /// A label in a sunken frame for a value that the user can't change. Never taken for rich text.
 inline QLabel* namedvalue(const char* name) {
     auto* label = named<QLabel>(name);

@@ -3,7 +3,6 @@
 #include "mainview/loading.h"
 #include "mainview/usernotes.h"
 #include "portdata/recordfiles.h"
-#include "text/numbers.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -33,13 +32,8 @@ void reloadforportlist(MainContext& context) {
     Session& session = context.session;
     Settings& settings = session.settings;
     rereadconfig(session);
-    const ConfigRecord& record = settings.configrec;
-    settings.currentport = cint(record.portnumber);
-    settings.hcfile = trim(record.hcfilepath);
+    takechoices(settings, settings.configrec);
     settings.areafile = settings.hcfile;
-    settings.currentoutput = record.outputoption;
-    settings.currentdraught = record.draught;
-    settings.currentukc = record.ukc;
 }
 
 bool choosesearea(MainContext& context) {
@@ -89,13 +83,8 @@ void portconfigcancel(MainContext& context) {
     Session& session = context.session;
     Settings& settings = session.settings;
     rereadconfig(session);
-    const ConfigRecord& record = settings.configrec;
-    settings.currentdraught = record.draught;
-    settings.currentport = cint(record.portnumber);
-    settings.hcfile = trim(record.hcfilepath);
-    settings.currentukc = record.ukc;
-    settings.currentoutput = record.outputoption;
-    settings.wayfile = trim(record.wayfilepath);
+    takechoices(settings, settings.configrec);
+    settings.wayfile = trim(settings.configrec.wayfilepath);
 }
 
 }  // namespace tarvane

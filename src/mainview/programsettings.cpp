@@ -1,8 +1,5 @@
 #include "mainview/programsettings.h"
 
-#include <algorithm>
-#include <limits>
-
 #include "dates/summertime.h"
 #include "mainview/loading.h"
 #include "portdata/recordfiles.h"
@@ -17,19 +14,9 @@ namespace {
 void takerecord(Session& session, bool withsummer) {
     if (!canopen(session.folders.cfgpath())) return;
     const ConfigRecord record = LoadConfig(session.folders);
-    Settings& settings = session.settings;
-    settings.currentdraught = record.draught;
     // kept: after port steps the record holds the port before the last, which becomes current under the old name
-    settings.currentport = cint(record.portnumber);
-    settings.hcfile = trim(record.hcfilepath);
-    settings.currentukc = record.ukc;
-    settings.currentoutput = record.outputoption;
-    if (withsummer) settings.currentsummer = record.summertimeflag;
-}
-
-float typedmetres(const std::string& text) {
-    constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(val(trim(text)), -most, most));
+    takechoices(session.settings, record);
+    if (withsummer) session.settings.currentsummer = record.summertimeflag;
 }
 
 void storeoptions(MainContext& context) {
@@ -116,10 +103,9 @@ ConfigurationView openconfiguration(Session& session) {
     view.confukcbox = numbertext(settings.currentukc);
     view.confoutputoption = outputtext(settings.currentoutput);
     pickusernotes(settings, view.port, settings.currentport - 1);
-    int number = 0;
-    for (const HarmonicRecord& port : readports(settings.hcfile))
-        view.port.rows.push_back(numbertext(++number) + "  " + trimmedname(port));
-    if (settings.currentport >= 1 && settings.currentport <= number) view.selectedrow = settings.currentport - 1;
+    view.port.rows = portrows(settings.hcfile);
+    const int row = settings.currentport - 1;
+    if (row >= 0 && row < static_cast<int>(view.port.rows.size())) view.selectedrow = row;
     return view;
 }
 

@@ -39,13 +39,8 @@ void readconfig(MainContext& context) {
     } else {
         settings.configrec = LoadConfig(folders);
     }
-    const ConfigRecord& record = settings.configrec;
-    settings.currentdraught = record.draught;
-    settings.currentport = cint(record.portnumber);
-    settings.hcfile = trim(record.hcfilepath);
-    settings.currentukc = record.ukc;
-    settings.currentoutput = record.outputoption;
-    settings.currentsummer = record.summertimeflag;
+    takechoices(settings, settings.configrec);
+    settings.currentsummer = settings.configrec.summertimeflag;
 }
 
 /// A note's line ends in any form as LF.
@@ -82,12 +77,20 @@ bool notecharacter(std::string_view utf8) {
     return !control && fitssinglebyte(utf8);
 }
 
-float depthof(std::string_view text) {
+}  // namespace
+
+std::vector<std::string> portrows(const std::string& hcfile) {
+    std::vector<std::string> rows;
+    for (const HarmonicRecord& port : readports(hcfile))
+        rows.push_back(numbertext(static_cast<int>(rows.size()) + 1) + "  " +
+                       port.PortName.substr(0, port.PortName.find('\0')));
+    return rows;
+}
+
+float typedmetres(std::string_view text) {
     constexpr double most = std::numeric_limits<float>::max();
     return static_cast<float>(std::clamp(val(text), -most, most));
 }
-
-}  // namespace
 
 void ensuredepths(MainContext& context) {
     Settings& settings = context.session.settings;
@@ -101,9 +104,7 @@ UserNotes loadusernotes(MainContext& context) {
     const Settings& settings = context.session.settings;
     UserNotes notes;
     shownotes(settings, notes, settings.currentport);
-    int recordnumber = 0;
-    for (const HarmonicRecord& port : readports(settings.hcfile))
-        notes.rows.push_back(numbertext(++recordnumber) + "  " + port.PortName);
+    notes.rows = portrows(settings.hcfile);
     return notes;
 }
 
@@ -125,7 +126,7 @@ bool enterusernotes(MainContext& context, UserNotes& notes, std::string_view dep
         return false;
     }
     UserDepthRecord record = readdepth(settings.depfile, recordnumber);
-    record.UserDepth = depthof(depth);
+    record.UserDepth = typedmetres(depth);
     record.Notes = storedlines(usernotes);
     if (!writedepth(settings.depfile, recordnumber, record)) {
         tell(context, "The depth and the note can't be written: " + settings.depfile);

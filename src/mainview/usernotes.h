@@ -16,12 +16,19 @@ inline constexpr std::size_t longestnote = 256;
 
 /// What the dialog shows. Lines of the note end in LF.
 struct UserNotes {
-    std::vector<std::string> rows;  ///< every port: record number, two blanks, name
+    std::vector<std::string> rows;  ///< every port, as `portrows` gives them
     std::string portlabel;          ///< name of the port in hand
     std::string portnolabel;        ///< its record number
     std::string depth;              ///< metres, as plain number
     std::string usernotes;          ///< without the blanks at its ends
 };
+
+/// Every port of an area file as a list shows it: record number, two blanks, the name with the blanks that fill it
+/// and up to the first NUL.
+std::vector<std::string> portrows(const std::string& hcfile);
+
+/// Metres typed into a box: the leading number of the text, within what a record holds; 0 if there is none.
+float typedmetres(std::string_view text);
 
 /// Builds `settings.depfile` and makes the file when it is missing; tells the user if that failed.
 void ensuredepths(MainContext& context);

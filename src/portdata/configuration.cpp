@@ -52,17 +52,21 @@ void loadsettings(const ProgramFolders& folders, Settings& settings) {
     takesettings(settings);
 }
 
-void takesettings(Settings& settings) {
-    ConfigRecord& record = settings.configrec;
-    record.hcfilepath = trim(record.hcfilepath);
-    record.wayfilepath = trim(record.wayfilepath);
-    settings.hcfile = record.hcfilepath;
-    settings.areafile = record.hcfilepath;
-    settings.wayfile = record.wayfilepath;
+void takechoices(Settings& settings, const ConfigRecord& record) {
+    settings.hcfile = trim(record.hcfilepath);
     settings.currentport = cint(record.portnumber);
     settings.currentoutput = record.outputoption;
     settings.currentdraught = record.draught;
     settings.currentukc = record.ukc;
+}
+
+void takesettings(Settings& settings) {
+    ConfigRecord& record = settings.configrec;
+    record.hcfilepath = trim(record.hcfilepath);
+    record.wayfilepath = trim(record.wayfilepath);
+    takechoices(settings, record);
+    settings.areafile = record.hcfilepath;
+    settings.wayfile = record.wayfilepath;
     settings.spareoptionvalue = cint(record.spareoption);
     settings.currentsummer = record.summertimeflag;
     settings.summerflag2 = record.summertimeflag;

@@ -55,6 +55,9 @@ bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record);
 /// all module values from it.
 void loadsettings(const ProgramFolders& folders, Settings& settings);
 
+/// Copies what the dialogs read of a record anew: port, area file, output, draught and clearance.
+void takechoices(Settings& settings, const ConfigRecord& record);
+
 /// Copies every module value that mirrors the record out of `settings.configrec`, trimming its paths.
 void takesettings(Settings& settings);
 

@@ -32,8 +32,7 @@ frmshowconf::frmshowconf(MainContext& maincontext, QWidget* parent)
     connect(Confexit, &QPushButton::clicked, this, &frmshowconf::accept);
     Confexit->setDefault(true);
     confportlist->setFocus();
-    resize(sizeHint());
-    confportlist->scrollToItem(confportlist->currentItem(), QAbstractItemView::PositionAtCenter);
+    adjustSize();
     centreon(*this, parent ? parent->window() : nullptr);
 }
 
@@ -109,6 +108,11 @@ void frmshowconf::showport() {
     put(confportnamebox, view.port.portlabel);
     put(depth, view.port.depth);
     notes->setPlainText(QString::fromStdString(view.port.usernotes));
+}
+
+void frmshowconf::showEvent(QShowEvent* event) {
+    ModalDialog::showEvent(event);
+    confportlist->scrollToItem(confportlist->currentItem(), QAbstractItemView::PositionAtCenter);
 }
 
 void frmshowconf::confportlist_Click() {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 #include "dates/summertime.h"
 #include "mainview/mainfixture.h"
 #include "mainview/stepping.h"
@@ -21,14 +19,6 @@ class ProgramSettingsTest : public testing::Test, protected MainFixture {
         ConfigRecord record = stored();
         change(record);
         ASSERT_TRUE(SaveConfig(session.folders, record));
-    }
-
-    std::vector<std::byte> filebytes() const { return readwhole(session.folders.cfgpath()); }
-
-    /// Puts a file where the configuration's folder was: nothing can be read or written there.
-    void blockconfiguration() {
-        std::filesystem::remove_all(session.folders.configfolder());
-        ASSERT_TRUE(replacefile(session.folders.configfolder(), std::string("in the way")));
     }
 
     void setdepth(std::int16_t port, float metres, const std::string& note) {
@@ -89,19 +79,11 @@ TEST_F(ProgramSettingsTest, OpeningAfterAPortStepTakesThePortLeft) {
 TEST_F(ProgramSettingsTest, AClickOnAnOptionCountsAtOnceAndTheNextOpeningUndoesIt) {
     store([](ConfigRecord& record) { record.outputoption = 1; });
     ProgramOptions options = openoptions(session);
-    const auto before = filebytes();
     chooseoutput(session, options, 3);
     EXPECT_EQ(session.settings.currentoutput, 3);
-    EXPECT_EQ(filebytes(), before);
+    EXPECT_EQ(stored().outputoption, 1);
     EXPECT_EQ(openoptions(session).displayoption, 1);
     EXPECT_EQ(session.settings.currentoutput, 1);
-}
-
-TEST_F(ProgramSettingsTest, MaintenanceIsOfferedAndNeverWithdrawn) {
-    ASSERT_FALSE(session.view.maintenancevisible);
-    offermaintenance(session);
-    offermaintenance(session);
-    EXPECT_TRUE(session.view.maintenancevisible);
 }
 
 TEST_F(ProgramSettingsTest, ConfirmingWritesItsOwnFieldsOnly) {
@@ -112,72 +94,42 @@ TEST_F(ProgramSettingsTest, ConfirmingWritesItsOwnFieldsOnly) {
         record.reserved2 = 77;
     });
     session.settings.spareoptionvalue = 9;
-    const auto before = filebytes();
+    ConfigRecord wanted = stored();
     ProgramOptions options = openoptions(session);
     options.displayoption = 2;
     options.optDaylightSavings = true;
     options.optNonDaylightsavings = false;
-    options.draughttext = "1.85";
+    options.draughttext = " 1.85 m";
     options.ukctext = "abc";
     confirmoptions(context, options);
-    const ConfigRecord record = stored();
-    EXPECT_EQ(record.outputoption, 2);
-    EXPECT_EQ(record.draught, 1.85F);
-    EXPECT_EQ(record.ukc, 0);
-    EXPECT_EQ(record.spareoption, 9);
-    EXPECT_EQ(record.summertimeflag, -1);
-    const auto after = filebytes();
-    ASSERT_EQ(after.size(), 1307U);
-    ASSERT_EQ(before.size(), 1307U);
-    const auto others = [](std::vector<std::byte> bytes) {
-        bytes.erase(bytes.begin() + 1279, bytes.begin() + 1297);
-        return bytes;
-    };
-    EXPECT_EQ(others(before), others(after));
+    wanted.outputoption = 2;
+    wanted.draught = 1.85F;
+    wanted.ukc = 0;
+    wanted.spareoption = 9;
+    wanted.summertimeflag = -1;
+    EXPECT_EQ(encode(stored()), encode(wanted));
     EXPECT_EQ(session.settings.summerflag2, -1);
     EXPECT_EQ(session.settings.currentoutput, 2);
 }
 
-TEST_F(ProgramSettingsTest, AnyTextIsANumber) {
-    const struct {
-        const char* text;
-        float metres;
-    } rows[] = {{"2.5", 2.5F},
-                {"  .75 m", 0.75F},
-                {"-1", -1},
-                {"1.2.3", 1.2F},
-                {"1,5", 1},
-                {"", 0},
-                {"none", 0},
-                {"1e300", std::numeric_limits<float>::max()},
-                {"-1e300", -std::numeric_limits<float>::max()}};
-    for (const auto& row : rows) {
-        ProgramOptions options = openoptions(session);
-        options.displayoption = 1;
-        options.draughttext = options.ukctext = row.text;
-        confirmoptions(context, options);
-        EXPECT_EQ(stored().draught, row.metres) << row.text;
-        EXPECT_EQ(stored().ukc, row.metres) << row.text;
-        EXPECT_EQ(session.settings.currentukc, row.metres) << row.text;
-    }
-}
-
 TEST_F(ProgramSettingsTest, SummerTimeMovesTheDayByAnHour) {
     const double standard = session.prediction.turningpoints[1].time;
-    ProgramOptions options = openoptions(session);
-    options.optDaylightSavings = true;
-    confirmoptions(context, options);
-    EXPECT_EQ(session.view.disclaimer, accuracyfirst + adjustedline);
-    EXPECT_NEAR(session.prediction.turningpoints[1].time, standard + 1, 1e-6);
-    options.optDaylightSavings = false;
-    confirmoptions(context, options);
-    EXPECT_EQ(session.view.disclaimer, accuracyfirst + uncorrectedline);
-    EXPECT_NEAR(session.prediction.turningpoints[1].time, standard, 1e-6);
-    setdateonshow(session.onshow, makedate(2024, 12, 24));
-    options.optDaylightSavings = true;
-    confirmoptions(context, options);
-    EXPECT_EQ(session.view.disclaimer, accuracyfirst + uncorrectedline);
-    EXPECT_EQ(session.settings.summerflag2, -1);
+    const struct {
+        bool savings;
+        int month;
+        const char* line;
+    } rows[] = {{true, 4, adjustedline}, {false, 4, uncorrectedline}, {true, 12, uncorrectedline}};
+    for (const auto& row : rows) {
+        setdateonshow(session.onshow, makedate(2024, row.month, 9));
+        ProgramOptions options = openoptions(session);
+        options.optDaylightSavings = row.savings;
+        confirmoptions(context, options);
+        EXPECT_EQ(session.view.disclaimer, accuracyfirst + row.line);
+        EXPECT_EQ(session.settings.summerflag2, row.savings ? -1 : 0);
+        if (row.month == 4) {
+            EXPECT_NEAR(session.prediction.turningpoints[1].time, standard + (row.savings ? 1 : 0), 1e-6);
+        }
+    }
 }
 
 TEST_F(ProgramSettingsTest, ConfirmingRefreshesTheMainView) {
@@ -202,18 +154,15 @@ TEST_F(ProgramSettingsTest, ConfirmingRefreshesTheMainView) {
 
 TEST_F(ProgramSettingsTest, AFailedWriteIsToldAndTheSettingsHold) {
     ProgramOptions options = openoptions(session);
-    blockconfiguration();
+    std::filesystem::remove_all(session.folders.configfolder());
     options.displayoption = 1;
     options.draughttext = "3";
-    options.optDaylightSavings = true;
     scripted.messages.expectshow(
         "The program settings can't be stored in " + session.folders.cfgpath() + ". They are in force all the same.",
         "Tarvane", MessageIcon::exclamation);
     confirmoptions(context, options);
     EXPECT_EQ(session.settings.currentoutput, 1);
     EXPECT_EQ(session.settings.currentdraught, 3);
-    EXPECT_EQ(session.settings.summerflag2, -1);
-    EXPECT_EQ(session.view.disclaimer, accuracyfirst + adjustedline);
 }
 
 TEST_F(ProgramSettingsTest, AConfigurationThatVanishedIsMadeAgain) {
@@ -228,57 +177,42 @@ TEST_F(ProgramSettingsTest, AConfigurationThatVanishedIsMadeAgain) {
     EXPECT_EQ(stored().portnumber, 1);
 }
 
-TEST_F(ProgramSettingsTest, TheConfigurationViewShowsSettingsAndPort) {
-    const struct {
-        float output;
-        const char* text;
-    } rows[] = {{1, " From chart datum only"},
-                {2, " Includes charted depth"},
-                {3, " Charted depth, draught and prog.ukc"},
-                {0, ""},
-                {3.5F, ""}};
+TEST_F(ProgramSettingsTest, TheConfigurationViewShowsSettingsAndPorts) {
+    const std::pair<float, const char*> rows[] = {{1.0F, " From chart datum only"},
+                                                  {2.0F, " Includes charted depth"},
+                                                  {3.0F, " Charted depth, draught and prog.ukc"},
+                                                  {3.5F, ""}};
     setdepth(3, -0.5F, "   Two berths  ");
-    for (const auto& row : rows) {
+    for (const auto& [output, text] : rows) {
         store([&](ConfigRecord& record) {
-            record.outputoption = row.output;
+            record.outputoption = output;
             record.portnumber = 3;
             record.draught = 1.5F;
             record.ukc = 0.25F;
             record.summertimeflag = -1;
         });
-        const ConfigurationView view = openconfiguration(session);
-        EXPECT_EQ(view.confoutputoption, row.text);
-        EXPECT_EQ(view.port.portnolabel, "3");
-        EXPECT_EQ(view.port.portlabel, "Cedar Head");
-        EXPECT_EQ(view.sealabel, "UK");
-        EXPECT_EQ(view.confdraughtbox, "1.5");
-        EXPECT_EQ(view.confukcbox, "0.25");
-        EXPECT_EQ(view.port.depth, "-0.5");
-        EXPECT_EQ(view.port.usernotes, "Two berths");
-        EXPECT_EQ(view.port.rows,
-                  (std::vector<std::string>{"1  Alder Quay", "2  Birch Sound", "3  Cedar Head", "4  Alder Quay"}));
-        EXPECT_EQ(view.selectedrow, 2);
-        EXPECT_EQ(session.settings.currentsummer, 0);
+        EXPECT_EQ(openconfiguration(session).confoutputoption, text);
     }
-}
-
-TEST_F(ProgramSettingsTest, PickingAListedPortChangesNothingElse) {
-    setdepth(2, 3.25F, "Bar");
-    setdepth(4, 0, "");
-    const auto before = filebytes();
+    const auto before = readwhole(session.folders.cfgpath());
     ConfigurationView view = openconfiguration(session);
-    EXPECT_EQ(view.port.usernotes, "Position 50.30N   1.15W");
+    EXPECT_EQ(view.port.portnolabel, "3");
+    EXPECT_EQ(view.port.portlabel, "Cedar Head");
+    EXPECT_EQ(view.sealabel, "UK");
+    EXPECT_EQ(view.confdraughtbox, "1.5");
+    EXPECT_EQ(view.confukcbox, "0.25");
+    EXPECT_EQ(view.port.depth, "-0.5");
+    EXPECT_EQ(view.port.usernotes, "Two berths");
+    EXPECT_EQ(view.port.rows, portrows(area()));
+    EXPECT_EQ(view.selectedrow, 2);
+    EXPECT_EQ(session.settings.currentsummer, 0) << "not among what this view loads";
+
     pickusernotes(session.settings, view.port, 1);
     EXPECT_EQ(view.port.portnolabel, "2");
     EXPECT_EQ(view.port.portlabel, "Birch Sound");
-    EXPECT_EQ(view.port.depth, "3.25");
-    EXPECT_EQ(view.port.usernotes, "Bar");
-    pickusernotes(session.settings, view.port, 3);
-    EXPECT_EQ(view.port.portlabel, "Alder Quay");
     EXPECT_EQ(view.port.depth, "0");
-    EXPECT_EQ(view.port.usernotes, "");
-    EXPECT_EQ(session.settings.currentport, 1);
-    EXPECT_EQ(filebytes(), before);
+    EXPECT_EQ(view.port.usernotes, "Position 50.30N   1.15W");
+    EXPECT_EQ(session.settings.currentport, 3);
+    EXPECT_EQ(readwhole(session.folders.cfgpath()), before);
 }
 
 TEST_F(ProgramSettingsTest, AViewWithoutItsFilesIsEmpty) {

@@ -21,8 +21,8 @@ std::size_t findpart(const PortList& list, std::size_t start, std::string_view p
 }
 
 std::optional<std::size_t> takehit(PortList& list, std::size_t index) {
-    list.searchposition = static_cast<std::int16_t>(index);
     if (trimmedname(list.displaylist[index]).empty()) return std::nullopt;
+    list.searchposition = static_cast<std::int16_t>(index);
     return index;
 }
 
@@ -31,11 +31,9 @@ std::optional<std::size_t> takehit(PortList& list, std::size_t index) {
 void loadportlist(PortList& list, const std::string& areafile) {
     list.displaylist = readports(trim(areafile));
     list.filelist = list.displaylist;
-    list.searchposition = -1;
 }
 
 void sortbyname(PortList& list) {
-    list.searchposition = -1;
     if (list.displaylist.empty()) return;
     // kept: a real port is overwritten, the last of the list, and the sorted list ends one entry short
     list.displaylist.back().PortName = std::string(8, '~') + std::string(namewidth - 8, ' ');
@@ -79,6 +77,7 @@ std::optional<std::size_t> searchfromstart(PortList& list, std::string_view part
 }
 
 std::optional<std::size_t> searchnext(PortList& list, std::string_view part) {
+    // kept: sorting doesn't forget the place of the last hit, and the search goes on there in the new order
     const std::size_t index = findpart(list, static_cast<std::size_t>(list.searchposition + 1), part);
     if (index < list.displaylist.size()) return takehit(list, index);
     list.searchposition = -1;

@@ -19,11 +19,11 @@ struct PortList {
     std::int16_t searchposition = -1;         ///< place of the last search hit in `displaylist`; -1 for none
 };
 
-/// Reads every port of an area file into both lists and forgets the last search hit. A missing file gives empty lists.
+/// Reads every port of an area file into both lists. A missing file gives empty lists.
 void loadportlist(PortList& list, const std::string& areafile);
 
 /// Orders `displaylist` by lower-cased name, by ordinal character code, equal names as they stood; the list loses its
-/// last entry of before the sort each time. Forgets the last search hit.
+/// last entry of before the sort each time.
 void sortbyname(PortList& list);
 
 /// The trimmed names of `displaylist`.
@@ -34,11 +34,10 @@ std::vector<std::string> portnames(const PortList& list);
 std::optional<std::string> pickport(PortList& list, std::string_view entry);
 
 /// Place in `displaylist` of the first port with `part` anywhere in its name, whatever the case; an empty text is in
-/// every name. A hit becomes `searchposition`; nothing is given for a hit without a name. No hit leaves
-/// `searchposition`.
+/// every name. A hit becomes `searchposition`; no hit, or one without a name, gives nothing and leaves it.
 std::optional<std::size_t> searchfromstart(PortList& list, std::string_view part);
 
-/// The same from the entry behind the last hit. No hit sets `searchposition` to -1, so that the next call starts at the
+/// The same from the entry behind the last hit, also when the list has another order by now. No hit sets `searchposition` to -1, so that the next call starts at the
 /// top.
 std::optional<std::size_t> searchnext(PortList& list, std::string_view part);
 

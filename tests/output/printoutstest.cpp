@@ -302,5 +302,15 @@ TEST_F(SunPrintout, ColumnsOnTabStops) {
     expectclean(printer);
 }
 
+TEST_F(SunPrintout, LongDatesPushTheColumns) {
+    ScriptedLocale finnish;
+    finnish.shortmonths.fill("marrask.");
+    fillsuntable(table, {2024, 3, 0, 0}, {70, 20}, finnish);
+    printsunpage(printer, table, lunar, {0, 3});
+    EXPECT_EQ(only(printer, "Date").x, 720);
+    EXPECT_EQ(only(printer, "Sunrise").x, 2160 + 720);
+    expectclean(printer);
+}
+
 }  // namespace
 }  // namespace tarvane::tests

@@ -23,6 +23,11 @@ echo "There is no display here, so the window can't be opened. Today's tides ins
 echo
 "$build/bin/tides"
 picture=$build/mainwindow.png
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+  XDG_RUNTIME_DIR=$(mktemp -d)
+  export XDG_RUNTIME_DIR
+  trap 'rmdir "$XDG_RUNTIME_DIR"' EXIT
+fi
 "$build/bin/shots" --mainwindow "$picture"
 echo
 echo "A picture of the main window: $picture"

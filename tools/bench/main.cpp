@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <memory>
 
+#include "mainview/frmtarvane.h"
 #include "mainview/loading.h"
 #include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
@@ -21,21 +22,29 @@ namespace {
 
 using namespace tarvane;
 
-/// The program's commands over pictures in memory at the main window's size, on the area that ships.
-struct Bench {
-    Bench() : surfaces{picture, bar, window, {100, 800, 5883, 3415}} {
+/// Folders of the timings' own, with the area that ships.
+struct BenchFolders {
+    BenchFolders() {
         const std::string root = folder.path().toStdString();
-        session.folders = {root, root, root, root};
-        services.folders.make(session.folders.configfolder());
-        services.folders.make(session.folders.depthsfolder());
-        const std::string area = QApplication::applicationDirPath().toStdString() + "/UK.hc";
-        replacefile(root + "/UK.hc", readwhole(area));
-        session.conventions = {"DD/MM/YYYY", "/"};
-        loadmainwindow(context);
+        folders = {root, root, root, root};
+        services.folders.make(folders.configfolder());
+        services.folders.make(folders.depthsfolder());
+        replacefile(root + "/UK.hc", readwhole(QApplication::applicationDirPath().toStdString() + "/UK.hc"));
     }
 
     QTemporaryDir folder;
     QtServices services;
+    ProgramFolders folders;
+};
+
+/// The program's commands over pictures in memory at the main window's size, on the area that ships.
+struct Bench : BenchFolders {
+    Bench() : surfaces{picture, bar, window, {100, 800, 5883, 3415}} {
+        session.folders = folders;
+        session.conventions = {"DD/MM/YYYY", "/"};
+        loadmainwindow(context);
+    }
+
     ImageSurface picture{QSize(392, 228)}, bar{QSize(280, 14)}, window{QSize(648, 470)};
     MainSurfaces surfaces;
     Session session;
@@ -103,6 +112,41 @@ void mousemove(benchmark::State& state) {
     }
 }
 BENCHMARK(mousemove)->Unit(benchmark::kMicrosecond);
+
+/// From Accept to the first painted curve, the window's own picture included.
+void acceptance(benchmark::State& state) {
+    BenchFolders bench;
+    for (auto _ : state) {
+        Session session;
+        session.folders = bench.folders;
+        session.conventions = {"DD/MM/YYYY", "/"};
+        frmtarvane window(session, bench.services.services());
+        window.load();
+        window.show();
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(window.grab());
+    }
+}
+BENCHMARK(acceptance)->Unit(benchmark::kMillisecond);
+
+/// A mouse move over the real picture box, with what it repaints.
+void windowmousemove(benchmark::State& state) {
+    BenchFolders bench;
+    Session session;
+    session.folders = bench.folders;
+    session.conventions = {"DD/MM/YYYY", "/"};
+    frmtarvane window(session, bench.services.services());
+    window.load();
+    window.show();
+    QApplication::processEvents();
+    double x = 0;
+    for (auto _ : state) {
+        x = x < 24 ? x + 0.05 : 0;
+        window.Picture1->onmousemove(x, 1);
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(windowmousemove)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

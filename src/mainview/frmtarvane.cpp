@@ -1,9 +1,7 @@
 #include "mainview/frmtarvane.h"
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QMenuBar>
-#include <QMouseEvent>
+#include <QEvent>
 #include <QShortcut>
 
 #include "mainview/layersview.h"
@@ -33,12 +31,14 @@ frmtarvane::frmtarvane(Session& owner, const Services& services, QWidget* parent
     centreon(*this, nullptr);
 }
 
-void frmtarvane::load() {
+void frmtarvane::Form_Load() {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
     layers.HideLevelControls();
     layoutcontrols();
     loadmainwindow(context);
     loaded = true;
     showview();
+    QApplication::restoreOverrideCursor();
     Timer1->start();
     Timer2->start();
 }
@@ -71,12 +71,14 @@ void frmtarvane::showview() {
 }
 
 void frmtarvane::showmonthlist() {
-    const auto& rows = session.month.monthspredictions;
-    monthspredictions->setUpdatesEnabled(false);
-    monthspredictions->clear();
-    for (const std::string& row : rows)
-        monthspredictions->addItem(screentext(row));
-    monthspredictions->setUpdatesEnabled(true);
+    // Filled only when it changed, so that it stays where the user has scrolled it.
+    if (const auto& rows = session.month.monthspredictions; rows != listedmonth) {
+        listedmonth = rows;
+        monthspredictions->clear();
+        for (const std::string& row : rows)
+            monthspredictions->addItem(screentext(row));
+        monthspredictions->scrollToTop();
+    }
     monthspredictions->setVisible(session.view.monthvisible);
     if (session.view.monthvisible) monthspredictions->raise();
 }
@@ -90,7 +92,7 @@ void frmtarvane::connectcontrols() {
     Picture1->onmousemove = [this](double x, double) { Picture1_MouseMove(x); };
     Picture1->onmousedown = [this](double, double) { Picture1_MouseDown(); };
     for (PictureBox* box : {Picture1, pctSpringsStatus, surface})
-        box->onresized = [this] { redraw(); };
+        box->onresized = [this] { picture_resized(); };
     Timer1 = new QTimer(this);
     Timer1->setInterval(300);
     connect(Timer1, &QTimer::timeout, this, &frmtarvane::Timer1_Timer);
@@ -114,10 +116,16 @@ void frmtarvane::runlong(Command command) {
     showview();
 }
 
-void frmtarvane::redraw() {
-    if (!loaded) return;
+void frmtarvane::picture_resized() {
+    resized = true;
+    if (!layingout) redrawresized();
+}
+
+void frmtarvane::redrawresized() {
+    if (!loaded || !resized) return;
+    resized = false;
     drawtidecurve(session, context.surfaces);
-    drawtimemarker(session, *Picture1);
+    drawmarkerline(session, *Picture1);
     showview();
 }
 
@@ -170,8 +178,12 @@ void frmtarvane::resizeEvent(QResizeEvent* event) {
     layoutcontrols();
 }
 
+void frmtarvane::Form_Activate() {
+    if (loaded) Timer2_Timer();
+}
+
 bool frmtarvane::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate && loaded) Timer2_Timer();
+    if (event->type() == QEvent::WindowActivate) Form_Activate();
     return QMainWindow::event(event);
 }
 

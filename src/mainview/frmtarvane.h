@@ -23,7 +23,7 @@ class frmtarvane : public QMainWindow {
     frmtarvane(Session& session, const Services& services, QWidget* parent = nullptr);
 
     /// The start-up: reads what is stored, predicts today and starts the timers.
-    void load();
+    void Form_Load();
 
     /// Copies the session's view to every control.
     void showview();
@@ -56,10 +56,13 @@ class frmtarvane : public QMainWindow {
     void connectcontrols();
     void layoutcontrols();
     void layoutrightcolumn(int left, int width);
-    void redraw();
+    void placecontrols();
+    void picture_resized();
+    void redrawresized();
     void drawcurveandshow();
     void showmonthlist();
 
+    void Form_Activate();
     void Nextday_Click();
     void Previousday_Click();
     void mnuNextPort_Click();
@@ -99,8 +102,11 @@ class frmtarvane : public QMainWindow {
     PictureBox* surface = nullptr;  ///< the window's own surface, on which the controls lie
     MainContext context;
     FirstDrawing firstdrawing;
-    int laidoutmode = 0;  ///< the layers mode that the layout was made for
+    int laidoutmode = 0;                   ///< the layers mode that the layout was made for
+    std::vector<std::string> listedmonth;  ///< what `monthspredictions` was filled with
     bool loaded = false;
+    bool layingout = false;  ///< the controls are being placed: resized pictures wait
+    bool resized = false;    ///< a picture is empty and waits to be drawn anew
 };
 
 }  // namespace tarvane

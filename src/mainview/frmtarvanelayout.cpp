@@ -1,6 +1,4 @@
 // The controls of the main window and where they stand.
-#include <QPaintEvent>
-
 #include "mainview/frmtarvane.h"
 #include "platform/qt/named.h"
 #include "platform/qt/twips.h"
@@ -57,7 +55,7 @@ void frmtarvane::buildlayout() {
         label->setFont(bold);
     layers.build(surface, [this] {
         session.layers = layers.choice();
-        redraw();
+        drawcurveandshow();
     });
     Previousday = new QPushButton("Prev day", surface);
     Previousday->setObjectName("Previousday");
@@ -72,6 +70,13 @@ void frmtarvane::buildlayout() {
 }
 
 void frmtarvane::layoutcontrols() {
+    layingout = true;
+    placecontrols();
+    layingout = false;
+    redrawresized();
+}
+
+void frmtarvane::placecontrols() {
     const int width = surface->width();
     const int row = fontMetrics().height() + 4;
     const int margin = width / 100;

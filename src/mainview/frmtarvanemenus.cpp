@@ -1,5 +1,4 @@
 // The menu tree of the main window. An entry without a command stands in the tree, disabled.
-#include <QApplication>
 #include <QMenuBar>
 
 #include "mainview/frmtarvane.h"

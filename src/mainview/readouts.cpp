@@ -46,7 +46,8 @@ bool constituentsmove(Session& session, DrawSurface& picture, std::size_t i, dou
     session.view.timeval = timetext(prediction.curvesamples[i].time);
     if (!tendency.rate) return false;
     picture.clear();
-    picture.line(x, session.curve.curvetop, x, session.curve.curvebottom, red);
+    session.markertime = x;
+    drawmarkerline(session, picture);
     session.layervalues = layerreadout(prediction, i);
     session.view.hiteval = session.layervalues.sum;
     return true;
@@ -64,7 +65,8 @@ bool curvemove(Session& session, DrawSurface& picture, std::size_t i, double x) 
     picture.clear();
     view.lblrate = std::string("(") + tendency.word + " @ " + format(*tendency.rate, "0.00") + " Mtrs/Hr " +
                    session.curve.curvenote + ")";
-    picture.line(x, session.curve.curvetop, x, session.curve.curvebottom, red);
+    session.markertime = x;
+    drawmarkerline(session, picture);
     return true;
 }
 

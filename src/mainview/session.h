@@ -63,8 +63,9 @@ struct Session {
     double timenow = 0;    ///< clock time as hours + minutes/60; where the red marker stands
     double clocktime = 0;  ///< its copy at start, for the adjust workspace
     double cursortime = 0, cursorheight = 0;
-    int mousefrozen = 0;  ///< 0 the readout follows the mouse, 1 it stands still
-    int layersmode = 0;   ///< 0 tide curve, 1 constituents view
+    double markertime = 0;  ///< where the red line was last drawn, hours
+    int mousefrozen = 0;    ///< 0 the readout follows the mouse, 1 it stands still
+    int layersmode = 0;     ///< 0 tide curve, 1 constituents view
     bool showconstants = false;
     LayerChoice layers;
     LayerReadout layervalues;

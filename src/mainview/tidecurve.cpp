@@ -15,19 +15,14 @@ namespace {
 /// Beyond this many metres a line a metre would only blacken the picture.
 constexpr double mostgridlines = 500;
 
-/// Starts the persistent picture anew and gives it the scale of the day's series.
-CurveSeries startpicture(Session& session, DrawSurface& picture) {
-    const int count = session.prediction.samplecount;
-    const auto& samples = session.prediction.curvesamples;
+/// Starts the persistent picture anew and gives it the scale of a series.
+void startpicture(Session& session, DrawSurface& picture, const CurveSeries& series) {
     picture.setpersistent(true);
     picture.clear();
-    CurveSeries series = curveseries(samples, count, session.settings);
-    const CurveLimits limits = curvelimits(series, samples, count);
+    const CurveLimits limits = curvelimits(series, session.prediction.curvesamples, session.prediction.samplecount);
     session.curve.curvetop = limits.curvetop;
     session.curve.curvebottom = limits.curvebottom;
-    session.curve.curvenote = series.curvenote;
     picture.setscale(0, limits.curvetop, 24, limits.curvebottom);
-    return series;
 }
 
 template <typename Row>
@@ -74,7 +69,6 @@ void drawspringsbar(Session& session, DrawSurface& bar) {
     }
     session.curve.springslag = *lag;
     const double d = *lag * 6;
-    bar.setscale(0, 0, 39, 1);
     bar.setpersistent(true);
     bar.clear();
     // The ends of the bar change names half way through the cycle; their trailing blanks are part of the texts.
@@ -120,7 +114,9 @@ void drawlayer(DrawSurface& picture, const std::array<TimedValue, 201>& layer, i
 void drawconstituents(Session& session, MainSurfaces& surfaces) {
     DrawSurface& picture = surfaces.picture;
     const Prediction& prediction = session.prediction;
-    startpicture(session, picture);
+    CurveSeries total;
+    total.curve1 = prediction.curvesamples;
+    startpicture(session, picture, total);
     drawseries(picture, prediction.curvesamples, prediction.samplecount, black);
     for (const LayerLine& line : layerlines) {
         if (!(session.layers.*line.ticked)) continue;
@@ -144,7 +140,9 @@ void drawtidecurve(Session& session, MainSurfaces& surfaces) {
     DrawSurface& picture = surfaces.picture;
     const Prediction& prediction = session.prediction;
     session.curve.curvesamplescopy = prediction.curvesamples;
-    const CurveSeries series = startpicture(session, picture);
+    const CurveSeries series = curveseries(prediction.curvesamples, prediction.samplecount, session.settings);
+    session.curve.curvenote = series.curvenote;
+    startpicture(session, picture, series);
     if (series.drawn && prediction.defined) {
         drawseries(picture, series.curve1, prediction.samplecount, black);
         if (series.dotted) drawpoints(picture, series.curve2, prediction.samplecount, black);
@@ -175,7 +173,12 @@ void drawtimemarker(Session& session, DrawSurface& picture) {
     const bool defined = session.prediction.defined;
     view.timeval = defined ? timetext(session.cursortime) : std::string{};
     view.hiteval = defined ? heighttext(session.cursorheight) : std::string{};
-    picture.line(session.timenow, session.curve.curvetop, session.timenow, session.curve.curvebottom, red);
+    session.markertime = session.timenow;
+    drawmarkerline(session, picture);
+}
+
+void drawmarkerline(const Session& session, DrawSurface& picture) {
+    picture.line(session.markertime, session.curve.curvetop, session.markertime, session.curve.curvebottom, red);
 }
 
 std::size_t sampleindex(double hours, int samplecount) {

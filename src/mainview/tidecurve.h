@@ -16,6 +16,9 @@ void drawsunlines(const Session& session, DrawSurface& picture);
 /// The red line at `timenow`, and the readout of that moment.
 void drawtimemarker(Session& session, DrawSurface& picture);
 
+/// The red line where it was last drawn, as a picture of another size needs it.
+void drawmarkerline(const Session& session, DrawSurface& picture);
+
 /// The row of a time in decimal hours: to the nearest ten minutes, halves to even, from 1 for 00:00 and inside the
 /// samples.
 std::size_t sampleindex(double hours, int samplecount);

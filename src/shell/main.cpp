@@ -23,7 +23,7 @@ int main(int argc, char** argv) {
     frmConditions conditions(services.services(), started->folders);
     conditions.onaccepted = [&] {
         window = std::make_unique<frmtarvane>(session, services.services());
-        window->load();
+        window->Form_Load();
         window->show();
         conditions.hide();
     };

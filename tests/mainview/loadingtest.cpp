@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "mainview/mainfixture.h"
+#include "mainview/readouts.h"
 
 namespace tarvane {
 namespace {
@@ -45,8 +46,14 @@ TEST(Loading, FirstRunWritesItsDefaultsAndShowsPort77) {
     EXPECT_EQ(main.session.settings.currentoutput, 3);
 }
 
-TEST(Loading, BrokenFilesComeUpFlatAndUnharmed) {
+TEST(Loading, BrokenFilesAndAPortPastTheEndComeUpFlatAndUnharmed) {
     MainFixture main;
+    ConfigRecord record = main.stored();
+    record.portnumber = 4000;
+    SaveConfig(main.session.folders, record);
+    main.load();
+    EXPECT_EQ(main.session.prediction.dayrange, 0);
+    EXPECT_EQ(main.session.port.zonehours, 0);
     replacefile(main.session.folders.cfgpath(), std::string("short"));
     replacefile(main.area(), std::string(60, '\0'));
     main.load();
@@ -59,22 +66,13 @@ TEST(Loading, BrokenFilesComeUpFlatAndUnharmed) {
     EXPECT_FALSE(std::filesystem::exists(main.area()));
 }
 
-TEST(Loading, PortPastTheEndIsFlatWater) {
-    MainFixture main;
-    ConfigRecord record = main.stored();
-    record.portnumber = 4000;
-    SaveConfig(main.session.folders, record);
-    main.load();
-    EXPECT_EQ(main.session.prediction.dayrange, 0);
-    EXPECT_EQ(main.session.port.zonehours, 0);
-}
-
 TEST(Loading, UndefinedDayIsSaidPlainly) {
     MainFixture main;
     main.scripted.clock.reading.today = makedate(1990, 1, 2);
     main.load();
     EXPECT_NE(main.session.daytable.daystide1.find("constants divide"), std::string::npos);
     EXPECT_EQ(main.session.view.hiteval, "");
+    EXPECT_FALSE(picturemousemove(main.session, main.picture, 9));
     EXPECT_EQ(ScriptedSurface::log(main.picture.persistentlayer).find("nan"), std::string::npos);
     main.session.onshow.tidedayofyear = 3;
     refreshday(main.context);

@@ -71,20 +71,6 @@ TEST(Readouts, MouseTouchesThePassingLayerAlone) {
     EXPECT_EQ(lines[0].y1, main.session.curve.curvetop);
 }
 
-TEST(Readouts, AClickFreezesAndTheNextThaws) {
-    MainFixture main;
-    main.load();
-    picturemousemove(main.session, main.picture, 5);
-    picturemousedown(main.session);
-    EXPECT_EQ(main.session.view.lblmousestatus, "(Click mouse to unfreeze)");
-    EXPECT_FALSE(picturemousemove(main.session, main.picture, 9));
-    EXPECT_EQ(main.session.view.timeval, "05:00");
-    picturemousedown(main.session);
-    EXPECT_EQ(main.session.view.lblmousestatus, "(Click mouse to freeze)");
-    EXPECT_TRUE(picturemousemove(main.session, main.picture, 9));
-    EXPECT_EQ(main.session.view.timeval, "09:00");
-}
-
 TEST(Readouts, SecondTickDrawsOnceMoreAndNoOtherDoes) {
     MainFixture main;
     main.load();
@@ -108,13 +94,6 @@ TEST(Readouts, ConstituentsAddUpAtTheMouse) {
                        std::stod(values.f4) + std::stod(values.f6) + 3;
     EXPECT_NEAR(sum, std::stod(values.sum), 0.035);
     EXPECT_NEAR(std::stod(values.sum), main.session.prediction.curvesamples[46].height, 0.006);
-}
-
-TEST(Readouts, UndefinedDayHasNoReadout) {
-    MainFixture main;
-    main.scripted.clock.reading.today = makedate(1990, 1, 1);
-    main.load();
-    EXPECT_FALSE(picturemousemove(main.session, main.picture, 9));
 }
 
 }  // namespace

@@ -114,6 +114,7 @@ TEST(TideCurve, MarkerStandsAtTheClockOnThePassingLayer) {
 
 TEST(SpringsBar, ChangesItsEndsHalfWay) {
     MainFixture main;
+    main.load();
     const struct {
         double lag;
         const char *left, *right;
@@ -148,6 +149,7 @@ TEST(Constituents, TickedSeriesOverTheTotal) {
     MainFixture main;
     main.load();
     main.session.layersmode = 1;
+    main.session.settings.currentoutput = 7;
     const std::size_t whole = 146, grid = 8 + 8;
     drawtidecurve(main.session, main.surfaces());
     EXPECT_EQ(ScriptedSurface::only(main.picture.persistentlayer, Kind::line).size(), whole + grid);

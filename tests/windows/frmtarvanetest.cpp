@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QTest>
 
 #include "mainview/mainfixture.h"
@@ -18,7 +19,7 @@ namespace {
 class FrmTarvane : public testing::Test, protected MainFixture {
   protected:
     FrmTarvane() : window(session, scripted.services()) {
-        window.load();
+        window.Form_Load();
         window.Timer1->stop();
         window.Timer2->stop();
         present(window);
@@ -28,8 +29,8 @@ class FrmTarvane : public testing::Test, protected MainFixture {
     void choose(const char* entry) { window.menuentry(entry)->trigger(); }
 
     /// Pixels nearer to a colour than to any grey, or of that grey, as the widget is on the screen.
-    static int pixels(QWidget& widget, QColor colour) {
-        const QImage image = widget.grab().toImage();
+    static int pixels(QWidget& widget, QColor colour, QRect part = {0, 0, -1, -1}) {
+        const QImage image = widget.grab(part).toImage();
         int count = 0;
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x) {
@@ -116,6 +117,8 @@ TEST_F(FrmTarvane, ConstituentsComeAndGo) {
     QTest::mouseClick(window.layers.chkM2, Qt::LeftButton, {}, QPoint(8, window.layers.chkM2->height() / 2));
     EXPECT_GT(pixels(*window.Picture1, Qt::blue), 50);
     movemouse(9);
+    QTest::mouseClick(window.layers.chkS2, Qt::LeftButton, {}, QPoint(8, window.layers.chkS2->height() / 2));
+    EXPECT_EQ(window.timeval->text(), "09:00") << "a tick leaves the readout as it is";
     EXPECT_EQ(window.layers.lblSumHt->text(), window.hiteval->text());
     EXPECT_FALSE(window.layers.lblSumHt->text().isEmpty());
     choose("mnumonth");
@@ -123,17 +126,31 @@ TEST_F(FrmTarvane, ConstituentsComeAndGo) {
     EXPECT_FALSE(window.menuentry("mnuLayersShow")->isChecked());
     EXPECT_TRUE(window.monthspredictions->isVisible());
     EXPECT_EQ(window.monthspredictions->item(0)->text(), " Months");
+    window.monthspredictions->scrollToBottom();
+    QTest::mouseClick(window.hitelabel, Qt::LeftButton);
+    EXPECT_GT(window.monthspredictions->verticalScrollBar()->value(), 0);
     choose("mnuNextPort");
     EXPECT_FALSE(window.monthspredictions->isVisible());
+    choose("mnumonth");
+    EXPECT_EQ(window.monthspredictions->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(FrmTarvane, AStretchedWindowIsDrawnAnew) {
-    window.resize(1200, 800);
-    QApplication::processEvents();
-    EXPECT_EQ(window.Picture1->width(), twips(static_cast<int>(115.0 / 190 * 1200 * 15)));
-    EXPECT_GT(window.Picture1->height(), twips(3415));
-    EXPECT_GT(pixels(*window.Picture1, Qt::black), 2000);
-    expectroomfortexts(window);
+    movemouse(4.7);
+    QTest::mouseClick(window.Picture1, Qt::LeftButton, {}, QPoint(100, 40));
+    const QString rate = window.lblrate->text();
+    for (const QSize size : {QSize(window.width(), 700), QSize(1200, 800)}) {
+        window.resize(size);
+        QApplication::processEvents();
+        EXPECT_EQ(window.Picture1->width(), twips(static_cast<int>(115.0 / 190 * size.width() * 15)));
+        EXPECT_GT(window.Picture1->height(), twips(3415));
+        EXPECT_GT(pixels(*window.Picture1, Qt::black), 2000);
+        const QPoint under = window.Picture1->mapTo(&window, QPoint(0, window.Picture1->height() + 2));
+        EXPECT_GT(pixels(window, Qt::black, {under, QSize(window.Picture1->width(), 10)}), 50) << "the hour labels";
+        EXPECT_EQ(window.lblrate->text(), rate);
+        EXPECT_GT(pixels(*window.Picture1, Qt::red), window.Picture1->height() / 2);
+        expectroomfortexts(window);
+    }
     window.resize(100, 100);
     EXPECT_EQ(window.size(), window.minimumSize());
 }

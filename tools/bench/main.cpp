@@ -121,7 +121,7 @@ void acceptance(benchmark::State& state) {
         session.folders = bench.folders;
         session.conventions = {"DD/MM/YYYY", "/"};
         frmtarvane window(session, bench.services.services());
-        window.load();
+        window.Form_Load();
         window.show();
         QApplication::processEvents();
         benchmark::DoNotOptimize(window.grab());
@@ -136,7 +136,7 @@ void windowmousemove(benchmark::State& state) {
     session.folders = bench.folders;
     session.conventions = {"DD/MM/YYYY", "/"};
     frmtarvane window(session, bench.services.services());
-    window.load();
+    window.Form_Load();
     window.show();
     QApplication::processEvents();
     double x = 0;

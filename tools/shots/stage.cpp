@@ -77,7 +77,7 @@ void Stage::open() {
     const Services services{real.messages, real.filedialogs, real.printer, real.clipboard,
                             *clock,        real.locale,      real.folders, real.windows};
     mainwindow = std::make_unique<frmtarvane>(session, services);
-    mainwindow->load();
+    mainwindow->Form_Load();
     mainwindow->show();
     settle();
 }

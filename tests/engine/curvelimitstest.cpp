@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 namespace tarvane {
 namespace {
@@ -25,52 +26,31 @@ Settings option(float output, float draught = 0.5F, float ukc = 0.25F, float dep
 
 TEST(CurveLimits, TopAndBottomBands) {
     const double infinite = std::numeric_limits<double>::infinity();
-    const struct {
-        double least, greatest, bottom, top;
-    } rows[] = {{0, 4.0, 0, 5},
-                {0.5, 3.99, 0, 4},
-                {-0.3, 1, -1, 2},
-                {-1, 1, -1, 2},
-                {-1.000000005, 1, -1.000000005, 2},
-                {-0.00000005, 0, -0.00000005, 1},
-                {-1.5, 0, -2, 1},
-                {-2.5, 0, -3, 1},
-                {-4, 0, -4, 1},
-                {-4.5, 0, -4.5, 1},
-                {-3.0, -3, -3, 1},
-                {-infinite, infinite, 0, 1}};
-    for (const auto& row : rows) {
-        const auto samples = curvebetween(row.least, row.greatest);
-        const CurveLimits limits = curvelimits(curveseries(samples, 147, option(1)), samples, 147);
-        EXPECT_EQ(limits.curvebottom, row.bottom) << row.least;
-        EXPECT_EQ(limits.curvetop, row.top) << row.greatest;
+    using Row = std::tuple<double, double, double, double>;
+    for (const auto& [least, greatest, bottom, top] :
+         {Row{0, 4.0, 0, 5}, Row{0.5, 3.99, 0, 4}, Row{-0.3, 1, -1, 2}, Row{-1, 1, -1, 2},
+          Row{-1.000000005, 1, -1.000000005, 2}, Row{-0.00000005, 0, -0.00000005, 1}, Row{-1.5, 0, -2, 1},
+          Row{-2.5, 0, -3, 1}, Row{-4, 0, -4, 1}, Row{-4.5, 0, -4.5, 1}, Row{-3.0, -3, -3, 1},
+          Row{-infinite, infinite, 0, 1}}) {
+        auto samples = curvebetween(least, greatest);
+        samples[147].height = 50;  // neither the last sample nor the dotted curve counts
+        const CurveLimits limits = curvelimits(curveseries(samples, 147, option(3, 20, 20)), samples, 147);
+        EXPECT_EQ(limits.curvebottom, bottom) << least;
+        EXPECT_EQ(limits.curvetop, top) << greatest;
     }
-}
-
-TEST(CurveLimits, LastSampleAndTheDottedCurveDoNotCount) {
-    auto samples = curvebetween(0, 2);
-    samples[147].height = 50;
-    const CurveLimits limits = curvelimits(curveseries(samples, 147, option(3, 20, 20)), samples, 147);
-    EXPECT_EQ(limits.curvetop, 3);
-    EXPECT_EQ(limits.curvebottom, 0);
 }
 
 TEST(CurveSeries, NotesAndSecondCurveGoByTheOption) {
     const auto samples = curvebetween(0, 2);
-    const struct {
-        Settings settings;
-        const char* note;
-        double second;
-    } rows[] = {{option(1), "Depths to Chart Datum", 2},
-                {option(2), ": User depth=2M", 2},
-                {option(3), " : Draft=0.5M : Clearance=0.25M: User depth=2M", 1.25},
-                {option(3, 0, 0, 0), "", 2},
-                {option(3, 1.8F, 0, 0), " : Draft=1.8M", 2 - double{1.8F}}};
-    for (const auto& row : rows) {
-        const CurveSeries series = curveseries(samples, 147, row.settings);
+    using Row = std::tuple<Settings, const char*, double>;
+    for (const auto& [settings, note, second] :
+         {Row{option(1), "Depths to Chart Datum", 2}, Row{option(2), ": User depth=2M", 2},
+          Row{option(3), " : Draft=0.5M : Clearance=0.25M: User depth=2M", 1.25}, Row{option(3, 0, 0, 0), "", 2},
+          Row{option(3, 1.8F, 0, 0), " : Draft=1.8M", 2 - double{1.8F}}}) {
+        const CurveSeries series = curveseries(samples, 147, settings);
         EXPECT_TRUE(series.drawn);
-        EXPECT_EQ(series.curvenote, row.note);
-        EXPECT_DOUBLE_EQ(series.curve2[20].height, row.second);
+        EXPECT_EQ(series.curvenote, note);
+        EXPECT_DOUBLE_EQ(series.curve2[20].height, second);
     }
     const CurveSeries empty = curveseries(samples, 147, option(2.5F));
     EXPECT_FALSE(empty.drawn);

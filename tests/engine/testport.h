@@ -10,22 +10,10 @@
 namespace tarvane::tests {
 
 inline HarmonicRecord roundport() {
-    HarmonicRecord port;
-    port.PortNo = "1";
-    port.PortName = "Round Haven";
-    port.TimeZoneLetter = "L";
-    port.Z0 = 3.0F;
-    port.M2g = 120;
-    port.M2Hm = 1.5F;
-    port.S2g = 170;
-    port.S2Hm = 0.5F;
-    port.K1g = 60;
-    port.K1Hm = 0.07F;
-    port.O1g = 320;
-    port.O1Hm = 0.06F;
-    port.LF4 = 0.02F;
-    port.LF6 = 0.001F;
-    port.MHm2.fill(1.5F);
+    // number, name, position, zone, Z0, then phase and amplitude of M2, S2, K1 and O1, and the two shallow-water pairs
+    HarmonicRecord port{"1", "Round Haven", 0,   0,     "L", 3,     120, 1.5F,  170, 0.5F,
+                        60,  0.07F,         320, 0.06F, 0,   0.02F, 0,   0.001F};
+    port.MHm2.fill(port.M2Hm);
     return port;
 }
 

@@ -9,7 +9,9 @@ namespace {
 
 SunTable filled(SunPosition position, int year, int month, std::int16_t summer = 0, std::int16_t zone = 0) {
     SunTable table;
-    fillsuntable(table, {year, month, summer, zone}, position, ScriptedLocale{});
+    ScriptedLocale french;
+    french.shortmonths[6] = "juil.";
+    fillsuntable(table, {year, month, summer, zone}, position, french);
     return table;
 }
 
@@ -23,32 +25,12 @@ std::string row(const SunTable& table, std::size_t day) {
 TEST(SunMonth, RowsOfKnownDays) {
     const SunTable june = filled({50.9, -1.4}, 2024, 6);
     EXPECT_EQ(row(june, 21), " 21Jun  2024|01:55|03:05|03:52|20:23|21:10|22:20|");
-    EXPECT_EQ(june.suntext[1][1], " 1Jun  2024");
-    EXPECT_EQ(june.sunvalues[21][1], 21);
-    const SunTable december = filled({50.9, -1.4}, 2024, 12);
-    EXPECT_EQ(row(december, 21), " 21Dec  2024|06:44|07:27|08:06|16:02|16:42|17:24|");
+    EXPECT_EQ(row(filled({50.9, -1.4}, 2024, 12), 21), " 21Dec  2024|06:44|07:27|08:06|16:02|16:42|17:24|");
     EXPECT_EQ(row(filled({0, 0}, 2024, 3), 21), " 21Mar  2024|05:19|05:43|06:04|18:10|18:31|18:55|");
-}
-
-TEST(SunMonth, MonthNamesAreTheSystems) {
-    ScriptedLocale french;
-    french.shortmonths[6] = "juil.";
-    SunTable table;
-    fillsuntable(table, {2024, 7, 0, 0}, {48, -4}, french);
-    EXPECT_EQ(table.suntext[14][1], " 14juil.  2024");
-}
-
-TEST(SunMonth, RowsEndWithTheMonth) {
-    struct Case {
-        int year, month;
-        std::size_t days;
-    };
-    for (const Case& expected : {Case{1900, 2, 28}, Case{2000, 2, 29}, Case{2023, 2, 28}, Case{2024, 2, 29},
-                                 Case{2024, 4, 30}, Case{2023, 12, 31}}) {
-        const SunTable table = filled({50, 0}, expected.year, expected.month);
+    EXPECT_EQ(filled({48, -4}, 2024, 7).suntext[1][1], " 1juil.  2024") << "the system's name of the month";
+    for (const auto& [year, days] : {std::pair{1900, 28U}, std::pair{2000, 29U}, std::pair{2023, 28U}})
         for (std::size_t day = 1; day <= 31; ++day)
-            EXPECT_EQ(table.suntext[day][1].empty(), day > expected.days) << expected.year << " day " << day;
-    }
+            EXPECT_EQ(filled({50, 0}, year, 2).suntext[day][1].empty(), day > days) << year << " day " << day;
 }
 
 TEST(SunMonth, AMissingEventReadsNoneAtZoneZeroOnly) {
@@ -59,19 +41,13 @@ TEST(SunMonth, AMissingEventReadsNoneAtZoneZeroOnly) {
 }
 
 TEST(SunMonth, LengthOfTheDay) {
-    const SunDay summer = sundayonshow(filled({50.9, -1.4}, 2024, 6), 21);
-    EXPECT_EQ(summer.risetime, "03:52");
-    EXPECT_EQ(summer.settime, "20:23");
-    EXPECT_EQ(summer.nautdusk, "22:20");
-    EXPECT_EQ(summer.Label1 + " " + summer.daylighthours, "Daylight hours 16:32");
-    EXPECT_EQ(summer.twilighthours + " " + summer.Label4, "(18:05 incl. civil twilight)");
-
-    const SunDay polar = sundayonshow(filled({70, 20}, 2024, 12), 21);
-    EXPECT_EQ(polar.Label1 + polar.daylighthours, "");
-    EXPECT_EQ(polar.twilighthours + " " + polar.Label4, "(04:07 incl. civil twilight)");
-    const SunDay midnightsun = sundayonshow(filled({70, 20}, 2024, 6), 21);
-    EXPECT_EQ(midnightsun.risetime, "None");
-    EXPECT_EQ(midnightsun.Label4 + midnightsun.twilighthours + midnightsun.Label1, "");
+    const auto lengths = [](SunPosition position, int month) {
+        const SunDay day = sundayonshow(filled(position, 2024, month), 21);
+        return day.risetime + " " + day.Label1 + day.daylighthours + day.twilighthours + day.Label4;
+    };
+    EXPECT_EQ(lengths({50.9, -1.4}, 6), "03:52 Daylight hours16:32(18:05incl. civil twilight)");
+    EXPECT_EQ(lengths({70, 20}, 12), "None (04:07incl. civil twilight)");
+    EXPECT_EQ(lengths({70, 20}, 6), "None ");
 }
 
 TEST(SunMonth, ScrollValuesAndDays) {

@@ -103,6 +103,10 @@ void leavesunresults(Session& session) {
     session.view.stepbuttonsvisible = true;
 }
 
+std::int16_t FileExists(const std::string& path) {
+    return canopen(path) ? -1 : 0;
+}
+
 void savesuncsv(MainContext& context) {
     Session& session = context.session;
     Messages& messages = context.services.messages;
@@ -112,7 +116,7 @@ void savesuncsv(MainContext& context) {
     const std::optional<std::string> chosen = context.services.filedialogs.save(request);
     if (!chosen || chosen->empty()) return;
     const std::string path = csvpath(*chosen);
-    if (canopen(path) && !messages.ask("File exist - Overwrite?", "Tarvane")) return;
+    if (FileExists(path) == -1 && !messages.ask("File exist - Overwrite?", "Tarvane")) return;
     if (!replacefile(path, tosinglebyte(suncsvtext(session))))
         messages.show("The file could not be written:\r" + path, "Tarvane", MessageIcon::exclamation);
 }

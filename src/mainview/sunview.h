@@ -42,6 +42,9 @@ int daysonshow(const Session& session);
 /// `Exit` of the result window.
 void leavesunresults(Session& session);
 
+/// -1 when the file can be opened for reading, else 0.
+std::int16_t FileExists(const std::string& path);
+
 /// `Command1`, saving to CSV: asks for a file and writes the month. Column 1 of the table is left in the file's form.
 void savesuncsv(MainContext& context);
 

@@ -15,8 +15,10 @@ namespace {
 /// Beyond this many metres a line a metre would only blacken the picture.
 constexpr double mostgridlines = 500;
 
-/// Starts the persistent picture anew and gives it the scale of a series.
+/// Starts the persistent picture anew, gives it the scale of a series and keeps a copy of the samples for saving and
+/// printing.
 void startpicture(Session& session, DrawSurface& picture, const CurveSeries& series) {
+    session.curve.curvesamplescopy = session.prediction.curvesamples;
     picture.setpersistent(true);
     picture.clear();
     const CurveLimits limits = curvelimits(series, session.prediction.curvesamples, session.prediction.samplecount);
@@ -139,7 +141,6 @@ void drawtidecurve(Session& session, MainSurfaces& surfaces) {
     }
     DrawSurface& picture = surfaces.picture;
     const Prediction& prediction = session.prediction;
-    session.curve.curvesamplescopy = prediction.curvesamples;
     const CurveSeries series = curveseries(prediction.curvesamples, prediction.samplecount, session.settings);
     session.curve.curvenote = series.curvenote;
     startpicture(session, picture, series);
@@ -184,7 +185,8 @@ void drawmarkerline(const Session& session, DrawSurface& picture) {
 std::size_t sampleindex(double hours, int samplecount) {
     if (std::isnan(hours)) return 1;
     const double i = roundeven(hours / (1.0 / 6)) + 1;
-    return static_cast<std::size_t>(std::clamp(i, 1.0, static_cast<double>(samplecount)));
+    // Not std::clamp: it would hand on what is no number.
+    return i >= 1 ? static_cast<std::size_t>(std::min(i, static_cast<double>(samplecount))) : 1;
 }
 
 }  // namespace tarvane

@@ -30,6 +30,14 @@ TEST(LayersView, TurnsOnAndOffAndCatchesTheDateUp) {
     EXPECT_EQ(main.picture.backcolour, 0xFFFFFFU);
 }
 
+TEST(LayersView, SavingAndPrintingFollowADateStep) {
+    MainFixture main;
+    main.load();
+    togglelayers(main.context);
+    nextday(main.context);
+    EXPECT_EQ(main.session.curve.curvesamplescopy[20].height, main.session.prediction.curvesamples[20].height);
+}
+
 TEST(LayersView, ADayPastTheYearBecomesTheNextYearsFirst) {
     const struct { int year, past; } rows[] = {{2024, 367}, {2023, 366}, {1900, 366}, {2000, 367}};
     for (const auto& row : rows) {

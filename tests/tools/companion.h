@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -33,15 +34,15 @@ inline std::vector<std::string> linesof(const std::string& text) {
 
 /// Fields of a CSV line in which nothing is quoted.
 inline std::vector<std::string> fieldsof(const std::string& line) {
-    std::vector<std::string> fields(1);
-    for (const char character : line) {
-        if (character == ',') {
-            fields.emplace_back();
-        } else {
-            fields.back() += character;
-        }
-    }
+    std::istringstream stream(line);
+    std::vector<std::string> fields;
+    for (std::string field; std::getline(stream, field, ',');)
+        fields.push_back(field);
     return fields;
+}
+
+inline bool has(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
 }
 
 class Companion {
@@ -82,12 +83,17 @@ class Companion {
         writedepth(depths + "/" + name, 1, record);
     }
 
-    Outcome run(const std::vector<std::string>& arguments) const {
-        std::ostringstream out;
-        std::ostringstream err;
+    /// Runs `tides` with the words of a line, one blank between them.
+    Outcome run(const std::string& line) const {
+        std::istringstream words(line);
+        return runwith({std::istream_iterator<std::string>(words), {}});
+    }
+    Outcome runwith(const std::vector<std::string>& arguments) const {
+        std::ostringstream out, err;
         const int status = runtides(arguments, environment, out, err);
         return {status, out.str(), err.str()};
     }
+    std::string csv(const std::string& line) const { return run(line + " --format csv").out; }
 
     /// Every file and folder under the temporary one with its size.
     std::map<std::string, std::uintmax_t> everything() const {

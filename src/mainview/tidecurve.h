@@ -20,7 +20,7 @@ void drawtimemarker(Session& session, DrawSurface& picture);
 void drawmarkerline(const Session& session, DrawSurface& picture);
 
 /// The row of a time in decimal hours: to the nearest ten minutes, halves to even, from 1 for 00:00 and inside the
-/// samples.
+/// samples. What is no number gives 1.
 std::size_t sampleindex(double hours, int samplecount);
 
 }  // namespace tarvane

@@ -17,14 +17,6 @@ DateOnShow dateonshow(int year, int month, int day) {
     return onshow;
 }
 
-/// Three rows, the last with what separators could be mistaken for.
-MonthTable smalltable() {
-    MonthTable table;
-    table.monthcolumn1 = {"Fécamp", "", "1 Apr"};
-    table.monthcolumn2 = {"avril 2024", "", "(Mon, \"1\")"};
-    return table;
-}
-
 TEST(TextFiles, AMonthOfAFlatPort) {
     HarmonicRecord record;
     record.PortName = "Still Water";
@@ -38,8 +30,11 @@ TEST(TextFiles, AMonthOfAFlatPort) {
 }
 
 TEST(TextFiles, TheMonthsLastLineAndSeparators) {
+    MonthTable table;
+    table.monthcolumn1 = {"Fécamp", "", "1 Apr"};
+    table.monthcolumn2 = {"avril 2024", "", "(Mon, \"1\")"};
     struct Row {
-        const char* separator;
+        std::string separator;
         std::int16_t option;
         int month;
         const char* last;
@@ -47,10 +42,9 @@ TEST(TextFiles, TheMonthsLastLineAndSeparators) {
     for (const Row& row :
          {Row{"\t", -1, 3, "Standard Time"}, Row{"\t", -1, 4, "Summer Time"}, Row{"\t", -1, 10, "Summer Time"},
           Row{"\t", -1, 11, "Standard Time"}, Row{"\t", 0, 7, "Times are for :\tStandard Time"},
-          Row{"\t", 0, 1, "Times are for :\tStandard Time"}, Row{",", -1, 7, "Times are for :,Summer Time"},
           Row{",", -1, 1, "Times are for :,Summer Time"}, Row{",", 0, 7, "Times are for :,Standard Time"}}) {
-        const std::string s = row.separator;
-        EXPECT_EQ(monthfile(smalltable(), s, row.option, dateonshow(2024, row.month, 1)),
+        const std::string& s = row.separator;
+        EXPECT_EQ(monthfile(table, s, row.option, dateonshow(2024, row.month, 1)),
                   "F\xE9"
                   "camp" +
                       s + "avril 2024\r\n" + s + "\r\n1 Apr" + s + "(Mon, \"1\")\r\n" + row.last + "\r\n");
@@ -62,9 +56,8 @@ TEST(TextFiles, CommasForACsvInTheNameAlone) {
         const char* path;
         const char* separator;
     };
-    for (const Row& row : {Row{"/home/anne/april.csv", ","}, Row{"april.csv.txt", ","}, Row{".csv", ","},
-                           Row{"/home/a.csv/april.txt", "\t"}, Row{"/home/anne/april.CSV", "\t"},
-                           Row{"/home/anne/aprilcsv", "\t"}, Row{"april", "\t"}})
+    for (const Row& row :
+         {Row{"april.csv.txt", ","}, Row{"/home/a.csv/april.txt", "\t"}, Row{"april.CSV", "\t"}, Row{"aprilcsv", "\t"}})
         EXPECT_EQ(tableseparator(row.path), row.separator) << row.path;
 }
 
@@ -91,8 +84,6 @@ TEST(TextFiles, ADayEveryTenMinutes) {
     EXPECT_EQ(undefineddayfile("None: é", port, date),
               "Port    : F\xE9"
               "camp\r\nDate   : 9 April 2024 (Tuesday)\r\nNone: \xE9\r\n");
-    curve.curvesamplescopy[1].height = 1234567.125;
-    EXPECT_NE(dayfile(curve, port, date).find("\t00:00\t1,234,567.13\r\n"), std::string::npos);
 }
 
 TEST(TextFiles, TheSunsColumnsInTheFilesOrder) {

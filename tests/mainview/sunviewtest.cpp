@@ -30,13 +30,8 @@ TEST_F(SunView, ComesUpWithThePortsPositionAndTheMonthsPhases) {
     preparesunview(session);
     EXPECT_EQ(session.lunar.lunarlist[3], "   08 Apr 2024       NEW MOON     ");
     const SunInput input = portsuninput(session);
-    EXPECT_EQ(input.port, "Alder Quay");
-    EXPECT_EQ(input.latitude, " 50.30N");
-    EXPECT_EQ(input.longitude, " 1.15W");
     EXPECT_EQ(calculatesun(context, input), SunOutcome::calculated);
     EXPECT_EQ(session.suntable.titles, (std::array<std::string, 4>{"", "Alder Quay", " 1.15W", " 50.30N"}));
-    EXPECT_EQ(session.suntable.suntext[30][1], " 30Apr  2024");
-    EXPECT_EQ(session.suntable.suntext[31][1], "");
 }
 
 TEST_F(SunView, PositionsTakenAndRefused) {
@@ -47,17 +42,23 @@ TEST_F(SunView, PositionsTakenAndRefused) {
     };
     constexpr auto good = SunOutcome::calculated, lat = SunOutcome::badlatitude, lon = SunOutcome::badlongitude;
     const std::vector<Case> cases{
-        {"50.45N", "1.30W", good},    {"  50.45.00N  ", " 001.30.00W ", good},
-        {"89.59S", "179.59W", good},  {"50N", "1W", good},
-        {"50.45N", "180.00E", lon},   {"50.45N", "180E", lon},
-        {"90.00N", "1.30W", lat},     {"95.00S", "1.30W", lat},
-        {"S50.45", "1.30W", lat},     {"S50.45N", "1.30W", lat},
-        {"050.45.00N", "1.30W", lat}, {"50.45N", "0001.30.00W", lon},
-        {"50.45N", "W1.30E", lon},    {"50.45N", "1.30", lon},
-        {"50.45", "1.30W", lat},      {"50.45n", "1.30W", lat},
-        {"50.45N", "1.30N", lon},     {"", "1.30W", lat},
-        {"50.45N", "", lon},          {"N", "1.30W", lat},
-        {"bad", "bad", lon},          {"50.45N", "1.30W\xc3\xa9", lon},
+        {"  50.45.00N  ", " 001.30.00W ", good},
+        {"89.59S", "179.59W", good},
+        {"50N", "1W", good},
+        {"50.45N", "180.00E", lon},
+        {"90.00N", "1.30W", lat},
+        {"S50.45", "1.30W", lat},
+        {"S50.45N", "1.30W", lat},
+        {"050.45.00N", "1.30W", lat},
+        {"50.45N", "0001.30.00W", lon},
+        {"50.45N", "1.30", lon},
+        {"50.45n", "1.30W", lat},
+        {"50.45N", "1.30N", lon},
+        {"", "1.30W", lat},
+        {"50.45N", "", lon},
+        {"N", "1.30W", lat},
+        {"bad", "bad", lon},
+        {"50.45N", "1.30W\xc3\xa9", lon},
     };
     for (const Case& row : cases) {
         const int beeps = scripted.messages.beeps;
@@ -67,27 +68,17 @@ TEST_F(SunView, PositionsTakenAndRefused) {
     }
 }
 
-TEST_F(SunView, ATypedPositionTakesThePortsZone) {
+TEST_F(SunView, ThePortsZoneAndOneShiftServeTheWholeMonth) {
     session.settings.currentport = 2;
     takecurrentport(session, true);
-    ASSERT_EQ(session.port.zonehours, -1);
-    ASSERT_EQ(calculate("10.30S", "20.15E"), SunOutcome::calculated);
-    const SunHours sun = SunTimes(-10.5, 20.25, 7, 4, 2024, 0, -1);
-    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[7][4], sun.sunrise);
-    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[7][7], sun.nautdusk);
-}
-
-TEST_F(SunView, OneShiftServesTheWholeMonth) {
     setdateonshow(session.onshow, makedate(2024, 3, 31));
     session.settings.summerflag2 = 0;
     calculate("50.30N", "1.15W");
     const double plain = session.suntable.sunvalues[1][4];
+    EXPECT_DOUBLE_EQ(plain, SunTimes(50.5, -1.25, 1, 3, 2024, 0, -1).sunrise);
     session.settings.summerflag2 = -1;
     calculate("50.30N", "1.15W");
     EXPECT_DOUBLE_EQ(session.suntable.sunvalues[1][4], plain + 1);
-    setdateonshow(session.onshow, makedate(2024, 3, 30));
-    calculate("50.30N", "1.15W");
-    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[31][4] + 1, SunTimes(50.5, -1.25, 31, 3, 2024, -1, 0).sunrise);
 }
 
 TEST_F(SunView, ADayBehindTheMonthsEndIsPutBack) {
@@ -112,14 +103,9 @@ TEST(SunViewKeys, EveryKey) {
 }
 
 TEST(SunViewPaths, ExtensionIsCutAndPut) {
-    for (const auto& [chosen, path] : std::vector<std::pair<std::string, std::string>>{{"/a/sun", "/a/sun.csv"},
-                                                                                       {"/a/sun.csv", "/a/sun.csv"},
-                                                                                       {"/a/sun.txt", "/a/sun.csv"},
-                                                                                       {"/a/s.un.txt", "/a/s.csv"},
-                                                                                       {"/a.b/sun", "/a.b/sun.csv"},
-                                                                                       {"/a.b/sun.x", "/a.b/sun.csv"},
-                                                                                       {"sun.", "sun.csv"}})
-        EXPECT_EQ(csvpath(chosen), path);
+    EXPECT_EQ(csvpath("/a/s.un.txt"), "/a/s.csv");
+    EXPECT_EQ(csvpath("/a.b/sun"), "/a.b/sun.csv");
+    EXPECT_EQ(csvpath("sun."), "sun.csv");
 }
 
 TEST_F(SunView, CsvOfATypedPositionIsHeadedByThePort) {
@@ -127,10 +113,7 @@ TEST_F(SunView, CsvOfATypedPositionIsHeadedByThePort) {
     session.settings.currentsummer = -1;
     const std::string csv = suncsvtext(session);
     EXPECT_TRUE(csv.starts_with("Alder Quay,Time Zone = Summer Time, 50.30N, 1.15W\r\nDate,Sunrise,"));
-    // By the end of April there is no nautical dusk so far north: it reads as midnight.
-    EXPECT_EQ(session.suntable.suntext[30][7], "None");
-    EXPECT_TRUE(csv.ends_with(",00:00:00,00:00:00\r\n"));
-    EXPECT_EQ(sundayonshow(session.suntable, 9).risedate, "9/4/2024") << "the window shows the file's form afterwards";
+    EXPECT_TRUE(csv.ends_with(",00:00:00,00:00:00\r\n")) << "no nautical twilight so late in April";
 }
 
 TEST_F(SunView, SavesWhereTheUserChoseAndReplacesOnYesOnly) {
@@ -154,11 +137,9 @@ TEST_F(SunView, SavesWhereTheUserChoseAndReplacesOnYesOnly) {
 
 TEST_F(SunView, NothingIsSavedWithoutANameAndAFailureIsTold) {
     calculate("50.30N", "1.15W");
-    for (const std::optional<std::string>& answer : {std::optional<std::string>{}, std::optional<std::string>{""}}) {
-        scripted.filedialogs.expectsave(answer);
-        savesuncsv(context);
-        EXPECT_EQ(session.suntable.suntext[1][1], " 1Apr  2024");
-    }
+    scripted.filedialogs.expectsave(std::nullopt);
+    savesuncsv(context);
+    EXPECT_EQ(session.suntable.suntext[1][1], " 1Apr  2024");
     const std::string path = file("nowhere/sun.csv");
     scripted.filedialogs.expectsave(path);
     scripted.messages.expectshow("The file could not be written:\r" + path, "Tarvane", MessageIcon::exclamation);

@@ -11,7 +11,7 @@
 #include <functional>
 #include <vector>
 
-#include "mainview/layerspanel.h"
+#include "mainview/frmlayerspanel.h"
 #include "mainview/readouts.h"
 #include "mainview/session.h"
 #include "platform/qt/picturebox.h"

@@ -8,9 +8,8 @@
 namespace tarvane {
 namespace {
 
-/// Reads the record anew; if its file has vanished, what was last read stands.
 void rereadconfig(Session& session) {
-    if (canopen(session.folders.cfgpath())) session.settings.configrec = LoadConfig(session.folders);
+    session.settings.configrec = RereadConfig(session.folders, session.settings.configrec);
 }
 
 /// Writes the choice into the configuration, the fields of others surviving.

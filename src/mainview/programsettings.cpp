@@ -22,7 +22,7 @@ void takerecord(Session& session, bool withsummer) {
 void storeoptions(MainContext& context) {
     const Session& session = context.session;
     const Settings& settings = session.settings;
-    ConfigRecord record = canopen(session.folders.cfgpath()) ? LoadConfig(session.folders) : settings.configrec;
+    ConfigRecord record = RereadConfig(session.folders, settings.configrec);
     record.outputoption = settings.currentoutput;
     record.draught = settings.currentdraught;
     record.ukc = settings.currentukc;

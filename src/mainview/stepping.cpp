@@ -24,7 +24,7 @@ void stepto(MainContext& context, Date date, bool updatemonth) {
 
 void storeportleft(Session& session) {
     // kept: the file holds the port before the step, and a restart comes up one port behind
-    ConfigRecord record = LoadConfig(session.folders);
+    ConfigRecord record = RereadConfig(session.folders, session.settings.configrec);
     record.portnumber = session.settings.currentport;
     if (SaveConfig(session.folders, record)) session.settings.configrec = record;
 }

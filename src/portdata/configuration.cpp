@@ -23,6 +23,10 @@ ConfigRecord LoadConfig(const ProgramFolders& folders) {
     return decodeconfig(readwhole(folders.cfgpath()));
 }
 
+ConfigRecord RereadConfig(const ProgramFolders& folders, const ConfigRecord& last) {
+    return canopen(folders.cfgpath()) ? LoadConfig(folders) : last;
+}
+
 bool SaveConfig(const ProgramFolders& folders, const ConfigRecord& record) {
     return replacefile(folders.cfgpath(), encode(record));
 }

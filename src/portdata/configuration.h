@@ -41,6 +41,9 @@ struct Settings {
 /// Record 1 of the configuration file; a short or missing file reads as if followed by zeros.
 ConfigRecord LoadConfig(const ProgramFolders& folders);
 
+/// The record as it stands in the file now; if the file has vanished, `last`, what was read last.
+ConfigRecord RereadConfig(const ProgramFolders& folders, const ConfigRecord& last);
+
 /// Writes record 1. False if it couldn't, the file being as it was.
 bool SaveConfig(const ProgramFolders& folders, const ConfigRecord& record);
 

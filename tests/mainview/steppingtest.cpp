@@ -59,6 +59,15 @@ TEST(PortStep, KeepsThePortLeftInTheFile) {
     EXPECT_EQ(main.session.port.zonehours, -1);
 }
 
+TEST(PortStep, AVanishedConfigurationComesBackWhole) {
+    MainFixture main;
+    main.load();
+    std::filesystem::remove(main.session.folders.cfgpath());
+    nextport(main.context);
+    EXPECT_EQ(main.stored().portnumber, 1.0F);
+    EXPECT_EQ(main.stored().hcfilepath, main.area());
+}
+
 TEST(PortStep, StaysAtBothEnds) {
     MainFixture main;
     main.load();

@@ -1,4 +1,4 @@
-#include "mainview/layerspanel.h"
+#include "mainview/frmlayerspanel.h"
 
 #include "platform/qt/marks.h"
 #include "platform/qt/named.h"

@@ -11,16 +11,12 @@ class ScriptedClipboard : public Clipboard {
   public:
     std::string contents;
     int clears = 0;
-    int copies = 0;
 
     void clear() override {
         contents.clear();
         ++clears;
     }
-    void settext(const std::string& text) override {
-        contents = text;
-        ++copies;
-    }
+    void settext(const std::string& text) override { contents = text; }
 };
 
 }  // namespace tarvane

@@ -2,63 +2,43 @@
 // test. Must not look at the disk.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <deque>
-#include <optional>
-#include <string>
 #include <vector>
 
+#include "fakes/script.h"
 #include "platform/filedialogs.h"
 
 namespace tarvane {
 
 class ScriptedFileDialogs : public FileDialogs {
   public:
+    using Text = std::optional<std::string>;
+
     std::vector<FileRequest> requests;  ///< every request that came, in order
 
-    ScriptedFileDialogs() = default;
-    ScriptedFileDialogs(const ScriptedFileDialogs&) = delete;
-    ScriptedFileDialogs& operator=(const ScriptedFileDialogs&) = delete;
-    ~ScriptedFileDialogs() override {
-        for (const Expected& left : queue)
-            ADD_FAILURE() << "a file dialog never came: " << kind(left.saving);
-    }
-
     /// The path chosen; nothing for Cancel. The title is compared only where given.
-    void expectopen(std::optional<std::string> answer, std::optional<std::string> title = {}) {
-        queue.push_back({false, std::move(answer), std::move(title)});
-    }
-    void expectsave(std::optional<std::string> answer, std::optional<std::string> title = {}) {
-        queue.push_back({true, std::move(answer), std::move(title)});
-    }
+    void expectopen(Text answer, Text title = {}) { script.expect({"open", std::move(answer), std::move(title)}); }
+    void expectsave(Text answer, Text title = {}) { script.expect({"save", std::move(answer), std::move(title)}); }
 
-    std::optional<std::string> open(const FileRequest& request) override { return take(false, request); }
-    std::optional<std::string> save(const FileRequest& request) override { return take(true, request); }
+    Text open(const FileRequest& request) override { return take("open", request); }
+    Text save(const FileRequest& request) override { return take("save", request); }
 
   private:
     struct Expected {
-        bool saving = false;
-        std::optional<std::string> answer;
-        std::optional<std::string> title;
+        std::string name;
+        Text answer;
+        Text title;
     };
 
-    static const char* kind(bool saving) { return saving ? "save" : "open"; }
-
-    std::optional<std::string> take(bool saving, const FileRequest& request) {
+    Text take(const std::string& kind, const FileRequest& request) {
         requests.push_back(request);
-        if (queue.empty()) {
-            ADD_FAILURE() << "an unforeseen file dialog: " << kind(saving) << " " << request.title;
-            return std::nullopt;
-        }
-        const Expected expected = queue.front();
-        queue.pop_front();
-        EXPECT_STREQ(kind(saving), kind(expected.saving));
-        EXPECT_EQ(request.title, expected.title.value_or(request.title));
-        return expected.answer;
+        const std::optional<Expected> expected = script.take(kind + " " + request.title);
+        if (!expected) return std::nullopt;
+        EXPECT_EQ(kind, expected->name);
+        EXPECT_EQ(request.title, expected->title.value_or(request.title));
+        return expected->answer;
     }
 
-    std::deque<Expected> queue;
+    Script<Expected> script{"a file dialog"};
 };
 
 }  // namespace tarvane

@@ -1,4 +1,4 @@
-// Folders inside a temporary one of the test's own; making and removing is real there and is noted. Must not reach
+// Folders inside a temporary one of the test's own; making and removing is real there. Must not reach
 // outside it unless a test sets a path that does.
 #pragma once
 
@@ -6,7 +6,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "fakes/temporaryfolder.h"
 #include "platform/folders.h"
@@ -19,9 +18,7 @@ class ScriptedFolders : public Folders {
     std::string programfolder = root / "program";
     std::optional<std::string> documentsfolder = root / "documents";
     std::string appdatafolder = root / "appdata";
-    std::set<std::string> refused;     ///< paths that can't be made or removed
-    std::vector<std::string> made;     ///< every path asked for, in order
-    std::vector<std::string> removed;  ///< every file asked to be removed, in order
+    std::set<std::string> refused;  ///< paths that can't be made or removed
 
     ScriptedFolders() {
         for (const std::string& path : {programfolder, *documentsfolder, appdatafolder})
@@ -33,7 +30,6 @@ class ScriptedFolders : public Folders {
     std::string localappdata() const override { return appdatafolder; }
 
     bool make(const std::string& path) override {
-        made.push_back(path);
         if (refused.contains(path)) return false;
         std::error_code error;
         std::filesystem::create_directories(path, error);
@@ -41,7 +37,6 @@ class ScriptedFolders : public Folders {
     }
 
     bool remove(const std::string& path) override {
-        removed.push_back(path);
         if (refused.contains(path)) return false;
         std::error_code error;
         return std::filesystem::is_regular_file(path, error) && std::filesystem::remove(path, error);

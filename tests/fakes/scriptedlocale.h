@@ -3,10 +3,11 @@
 #pragma once
 
 #include <array>
-#include <cctype>
 #include <chrono>
+#include <cstdio>
 #include <map>
 #include <optional>
+#include <regex>
 #include <string>
 #include <string_view>
 
@@ -78,27 +79,17 @@ class ScriptedLocale : public Locale {
     std::string dayabbreviation(int weekday) const override { return shortdays.at(static_cast<std::size_t>(weekday)); }
 
   private:
-    static std::string digits(int value, std::size_t width) {
-        std::string text = std::to_string(value);
-        return text.size() < width ? std::string(width - text.size(), '0') + text : text;
+    static std::string digits(int value, int width) {
+        std::array<char, 16> text;
+        std::snprintf(text.data(), text.size(), "%0*d", width, value);
+        return text.data();
     }
 
     static std::optional<std::array<int, 3>> threenumbers(std::string_view text) {
-        std::array<int, 3> numbers{};
-        std::size_t index = 0;
-        std::size_t width = 0;
-        for (const char c : text) {
-            if (c == '/' || c == '-' || c == '.') {
-                if (width == 0 || ++index > 2) return std::nullopt;
-                width = 0;
-            } else if (std::isdigit(static_cast<unsigned char>(c)) != 0 && ++width <= 4) {
-                numbers[index] = numbers[index] * 10 + (c - '0');
-            } else {
-                return std::nullopt;
-            }
-        }
-        if (index != 2 || width == 0) return std::nullopt;
-        return numbers;
+        const std::regex pattern("([0-9]{1,4})[-/.]([0-9]{1,4})[-/.]([0-9]{1,4})");
+        std::cmatch match;
+        if (!std::regex_match(text.data(), text.data() + text.size(), match, pattern)) return std::nullopt;
+        return std::array{std::stoi(match[1]), std::stoi(match[2]), std::stoi(match[3])};
     }
 };
 

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -42,10 +42,17 @@ class ScriptedPrinter : public Printer {
 
     /// Every entry a line: "1 text 0 240 9 bold Port". Coordinates are rounded to whole twips.
     std::string log() const {
-        std::string all;
-        for (const Printed& entry : printed)
-            all += logline(entry) + "\n";
-        return all;
+        constexpr const char* names[] = {"text", "line", "point"};
+        std::ostringstream all;
+        for (const Printed& entry : printed) {
+            const auto whole = [](double twips) { return static_cast<long>(std::nearbyint(twips)); };
+            all << entry.page << ' ' << names[static_cast<int>(entry.kind)] << ' ' << whole(entry.x) << ' '
+                << whole(entry.y);
+            if (entry.kind == Kind::line) all << ' ' << whole(entry.x2) << ' ' << whole(entry.y2);
+            if (entry.kind == Kind::text) all << ' ' << entry.size << (entry.bold ? " bold " : " plain ") << entry.text;
+            all << '\n';
+        }
+        return all.str();
     }
 
     /// The texts alone, in the order printed.
@@ -152,22 +159,6 @@ class ScriptedPrinter : public Printer {
             if (!piece.empty()) printed.push_back({Kind::text, pages, start, y, 0, 0, size, bold, piece});
             x = behind(piece, start);
         }
-    }
-
-    static std::string logline(const Printed& entry) {
-        char head[160];
-        const bool isline = entry.kind == Kind::line;
-        if (entry.kind == Kind::text) {
-            std::snprintf(head, sizeof head, "%d text %.0f %.0f %g %s", entry.page, entry.x, entry.y, entry.size,
-                          entry.bold ? "bold" : "plain");
-            return head + (" " + entry.text);
-        }
-        if (isline)
-            std::snprintf(head, sizeof head, "%d line %.0f %.0f %.0f %.0f", entry.page, entry.x, entry.y, entry.x2,
-                          entry.y2);
-        else
-            std::snprintf(head, sizeof head, "%d point %.0f %.0f", entry.page, entry.x, entry.y);
-        return head;
     }
 };
 

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdio>
+#include <iomanip>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,6 @@ class ScriptedSurface : public DrawSurface {
     Colour backcolour = white;
     bool persistent = false;
     int persistentclears = 0;
-    int passingclears = 0;
     int linewidth = 1;
 
     /// One layer as text, an entry a line: "line 0 4 0 -1 000000 1", "text 0 4 4M".
@@ -56,8 +56,9 @@ class ScriptedSurface : public DrawSurface {
     void setpersistent(bool on) override { persistent = on; }
     void clear() override {
         passinglayer.clear();
-        if (persistent) persistentlayer.clear();
-        ++(persistent ? persistentclears : passingclears);
+        if (!persistent) return;
+        persistentlayer.clear();
+        ++persistentclears;
     }
     void setbackcolour(Colour colour) override { backcolour = colour; }
     void setlinewidth(int pixels) override { linewidth = pixels; }
@@ -76,18 +77,15 @@ class ScriptedSurface : public DrawSurface {
     void put(Drawn entry) { (persistent ? persistentlayer : passinglayer).push_back(std::move(entry)); }
 
     static std::string logline(const Drawn& entry) {
-        char line[200];
-        if (entry.kind == Kind::text) {
-            std::snprintf(line, sizeof line, "text %.7g %.7g ", entry.x1, entry.y1);
-            return line + entry.text;
-        }
-        if (entry.kind == Kind::point)
-            std::snprintf(line, sizeof line, "point %.7g %.7g %06X", entry.x1, entry.y1, entry.colour);
-        else
-            std::snprintf(line, sizeof line, "%s %.7g %.7g %.7g %.7g %06X %d",
-                          entry.kind == Kind::line ? "line" : "box", entry.x1, entry.y1, entry.x2, entry.y2,
-                          entry.colour, entry.width);
-        return line;
+        constexpr const char* names[] = {"line", "box", "point", "text"};
+        std::ostringstream line;
+        line << std::setprecision(7) << names[static_cast<int>(entry.kind)] << ' ' << entry.x1 << ' ' << entry.y1
+             << ' ';
+        if (entry.kind == Kind::text) return line.str() + entry.text;
+        if (entry.kind != Kind::point) line << entry.x2 << ' ' << entry.y2 << ' ';
+        line << std::hex << std::uppercase << std::setfill('0') << std::setw(6) << entry.colour;
+        if (entry.kind != Kind::point) line << std::dec << ' ' << entry.width;
+        return line.str();
     }
 };
 

@@ -2,32 +2,18 @@
 // unforeseen window, or one that never comes, fails the test. Must not show anything itself.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <deque>
 #include <functional>
-#include <string>
-#include <vector>
 
+#include "fakes/script.h"
 #include "platform/windows.h"
 
 namespace tarvane {
 
 class ScriptedWindows : public Windows {
   public:
-    std::vector<std::string> opened;  ///< names of every window that came, in order
-
-    ScriptedWindows() = default;
-    ScriptedWindows(const ScriptedWindows&) = delete;
-    ScriptedWindows& operator=(const ScriptedWindows&) = delete;
-    ~ScriptedWindows() override {
-        for (const Expected& left : queue)
-            ADD_FAILURE() << "a window never came: " << left.name;
-    }
-
     /// What the user does in the window; without it the window is closed at once.
     void expect(std::string name, std::function<void(ModalWindow&)> act = {}) {
-        queue.push_back({std::move(name), std::move(act)});
+        script.expect({std::move(name), std::move(act)});
     }
 
     /// The same for a window of a known class.
@@ -42,15 +28,10 @@ class ScriptedWindows : public Windows {
     }
 
     void showmodal(ModalWindow& window) override {
-        opened.push_back(window.windowname());
-        if (queue.empty()) {
-            ADD_FAILURE() << "an unforeseen window: " << window.windowname();
-            return;
-        }
-        const Expected expected = std::move(queue.front());
-        queue.pop_front();
-        EXPECT_EQ(window.windowname(), expected.name);
-        if (window.windowname() == expected.name && expected.act) expected.act(window);
+        const std::optional<Expected> expected = script.take(window.windowname());
+        if (!expected) return;
+        EXPECT_EQ(window.windowname(), expected->name);
+        if (window.windowname() == expected->name && expected->act) expected->act(window);
     }
 
   private:
@@ -59,7 +40,7 @@ class ScriptedWindows : public Windows {
         std::function<void(ModalWindow&)> act;
     };
 
-    std::deque<Expected> queue;
+    Script<Expected> script{"a window"};
 };
 
 }  // namespace tarvane

@@ -13,18 +13,16 @@ Date date(int year, int month, int day) {
     return std::chrono::year{year} / month / day;
 }
 
-std::string probe(const char* name, Date today = date(2026, 11, 22)) {
-    ProbedDate probed;
-    const QtLocale locale{QLocale(QString::fromLatin1(name))};
-    const std::string found = CheckDateFormat(locale, today, probed).dateformat;
-    EXPECT_EQ(probed.day, dayof(today)) << name;
-    EXPECT_EQ(probed.month, monthof(today)) << name;
-    EXPECT_EQ(probed.year, yearof(today)) << name;
-    return found;
-}
-
 QtLocale named(const char* name) {
     return QtLocale{QLocale(QString::fromLatin1(name))};
+}
+
+std::string probe(const QtLocale& locale, Date today = date(2026, 11, 22)) {
+    ProbedDate probed;
+    const std::string found = CheckDateFormat(locale, today, probed).dateformat;
+    EXPECT_EQ(std::tuple(probed.year, probed.month, probed.day),
+              std::tuple(yearof(today), monthof(today), dayof(today)));
+    return found;
 }
 
 TEST(qtlocale, probefindsorder) {
@@ -32,17 +30,12 @@ TEST(qtlocale, probefindsorder) {
     for (const auto& [name, form, shortdate] :
          {Row{"C", "DD/MM/YYYY", "05/03/2024"}, Row{"en_GB", "DD/MM/YYYY", "05/03/2024"},
           Row{"en_US", "MM/DD/YYYY", "3/5/2024"}, Row{"en_ZA", "YYYY/MM/DD", "2024/03/05"},
-          Row{"en_CA", "YYYY-MM-DD", "2024-03-05"}, Row{"fr_FR", "DD/MM/YYYY", "05/03/2024"},
-          Row{"de_DE", "DD.MM.YYYY", "05.03.2024"}, Row{"es_ES", "DD/MM/YYYY", "5/3/2024"},
-          Row{"pt_PT", "DD/MM/YYYY", "05/03/2024"}, Row{"nb_NO", "DD.MM.YYYY", "05.03.2024"},
-          Row{"nn_NO", "DD.MM.YYYY", "05.03.2024"}, Row{"it_IT", "DD/MM/YYYY", "05/03/2024"},
+          Row{"en_CA", "YYYY-MM-DD", "2024-03-05"}, Row{"de_DE", "DD.MM.YYYY", "05.03.2024"},
           Row{"nl_NL", "DD-MM-YYYY", "05-03-2024"}, Row{"nl_BE", "DD/MM/YYYY", "5/03/2024"},
-          Row{"eu_ES", "YYYY/MM/DD", "2024/3/5"}}) {
-        EXPECT_EQ(probe(name), form) << name;
+          Row{"eu_ES", "YYYY/MM/DD", "2024/3/5"}, Row{"ja_JP", "", "2024/03/05"}, Row{"pl_PL", "", "5.03.2024"}}) {
+        EXPECT_EQ(probe(named(name)), form) << name;
         EXPECT_EQ(named(name).shortdate(date(2024, 3, 5)), shortdate) << name;
     }
-    for (const char* name : {"sv_SE", "pl_PL", "ru_RU", "ja_JP", "ar_EG"})
-        EXPECT_EQ(probe(name), "") << name << ": no language of the program";
 }
 
 /// Every territory of the nine languages passes, whatever the day of the year on which the program starts.
@@ -52,11 +45,10 @@ TEST(qtlocale, everyterritorypasses) {
          {QLocale::English, QLocale::Basque, QLocale::French, QLocale::German, QLocale::Spanish, QLocale::Portuguese,
           QLocale::NorwegianBokmal, QLocale::Italian, QLocale::Dutch, QLocale::NorwegianNynorsk}) {
         for (const QLocale& locale : QLocale::matchingLocales(language, QLocale::LatinScript, QLocale::AnyTerritory)) {
-            const std::string name = locale.name().toStdString();
-            const std::string form = probe(name.c_str());
-            EXPECT_NE(form, "") << name;
-            EXPECT_EQ(probe(name.c_str(), date(2001, 1, 1)), form) << name;
-            EXPECT_EQ(probe(name.c_str(), date(2028, 12, 31)), form) << name;
+            const std::string form = probe(QtLocale{locale});
+            EXPECT_NE(form, "") << locale.name().toStdString();
+            for (const Date day : {date(2001, 1, 1), date(2028, 12, 31)})
+                EXPECT_EQ(probe(QtLocale{locale}, day), form) << locale.name().toStdString();
             ++count;
         }
     }

@@ -122,6 +122,17 @@ TEST(PredictDay, MissingRecordsGiveFlatWaterAndNonsenseDoesNoHarm) {
     }
 }
 
+TEST(PredictDay, SeesAChangedRecordAtOnce) {
+    PortFiles files;
+    Prediction before, after;
+    predictday(files.settings, {2024, 4, 100, 0}, before);
+    HarmonicRecord port = roundport();
+    port.Z0 = 4.0F;
+    files.store(port);
+    predictday(files.settings, {2024, 4, 100, 0}, after);
+    EXPECT_NEAR(after.curvesamples[1].height - before.curvesamples[1].height, 1, 1e-6);
+}
+
 TEST(FindTurningPoints, TakesStrictExtremesOnly) {
     Prediction prediction;
     const auto height = [&](std::size_t row) -> double& { return prediction.curvesamples[row].height; };

@@ -113,18 +113,26 @@ void mousemove(benchmark::State& state) {
 }
 BENCHMARK(mousemove)->Unit(benchmark::kMicrosecond);
 
+/// The program's window on the screen, as Accept leaves it.
+struct OpenWindow {
+    explicit OpenWindow(BenchFolders& bench) : window(session, bench.services.services()) {
+        session.folders = bench.folders;
+        session.conventions = {"DD/MM/YYYY", "/"};
+        window.Form_Load();
+        window.show();
+        QApplication::processEvents();
+    }
+
+    Session session;
+    frmtarvane window;
+};
+
 /// From Accept to the first painted curve, the window's own picture included.
 void acceptance(benchmark::State& state) {
     BenchFolders bench;
     for (auto _ : state) {
-        Session session;
-        session.folders = bench.folders;
-        session.conventions = {"DD/MM/YYYY", "/"};
-        frmtarvane window(session, bench.services.services());
-        window.Form_Load();
-        window.show();
-        QApplication::processEvents();
-        benchmark::DoNotOptimize(window.grab());
+        OpenWindow open(bench);
+        benchmark::DoNotOptimize(open.window.grab());
     }
 }
 BENCHMARK(acceptance)->Unit(benchmark::kMillisecond);
@@ -132,17 +140,11 @@ BENCHMARK(acceptance)->Unit(benchmark::kMillisecond);
 /// A mouse move over the real picture box, with what it repaints.
 void windowmousemove(benchmark::State& state) {
     BenchFolders bench;
-    Session session;
-    session.folders = bench.folders;
-    session.conventions = {"DD/MM/YYYY", "/"};
-    frmtarvane window(session, bench.services.services());
-    window.Form_Load();
-    window.show();
-    QApplication::processEvents();
+    OpenWindow open(bench);
     double x = 0;
     for (auto _ : state) {
         x = x < 24 ? x + 0.05 : 0;
-        window.Picture1->onmousemove(x, 1);
+        open.window.Picture1->onmousemove(x, 1);
         QApplication::processEvents();
     }
 }

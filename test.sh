@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Sets the machine up, builds everything, checks the source's layout, runs every test shuffled, and runs the toolkit-free
-# tests once more under the address and undefined-behaviour sanitizers.
+# Sets the machine up, checks the source's layout and its arrows, builds everything, runs every test shuffled, and runs the
+# toolkit-free tests once more under the address and undefined-behaviour sanitizers.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
@@ -8,6 +8,9 @@ tools/setup.sh test
 
 echo "Layout of the source ..."
 find src tools tests -name '*.cpp' -o -name '*.h' | sort | xargs clang-format --dry-run --Werror
+
+echo "Arrows between the folders ..."
+tools/arrows.sh
 
 for preset in dev asan; do
   echo "Building '$preset' ..."

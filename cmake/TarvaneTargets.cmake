@@ -17,6 +17,14 @@ if(TARVANE_SANITIZE)
   target_link_options(tarvane_rules INTERFACE -fsanitize=address,undefined)
 endif()
 
+# The tests' own code, which tarvane_fakes hands on to all of it: built for a short build, not for speed. A precompiled
+# header serves equal options alone, so the position-independent code that Qt asks for is asked for everywhere.
+add_library(tarvane_testrules INTERFACE)
+target_include_directories(tarvane_testrules INTERFACE ${CMAKE_SOURCE_DIR}/tests)
+target_compile_definitions(tarvane_testrules INTERFACE TARVANE_DATA="${CMAKE_SOURCE_DIR}/data"
+                                                       TARVANE_TESTDATA="${CMAKE_SOURCE_DIR}/tests/data")
+target_compile_options(tarvane_testrules INTERFACE -O0 -g1 -fPIC)
+
 # tarvane_library(NAME SOURCES a.cpp ... LINKS tarvane::b ...)
 function(tarvane_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
@@ -30,14 +38,17 @@ function(tarvane_library name)
   add_library(tarvane::${name} ALIAS tarvane_${name})
 endfunction()
 
-# tarvane_test(FOLDER SOURCES a.cpp ... LINKS tarvane::a ...): one executable a folder, shuffled.
+# tarvane_test(FOLDER SOURCES a.cpp ... LINKS tarvane::a ...): one executable a folder, shuffled. PRECOMPILED headers take
+# the place of those that the other tests share.
 function(tarvane_test folder)
-  cmake_parse_arguments(arg "OWN_MAIN" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(arg "OWN_MAIN" "" "SOURCES;LINKS;PRECOMPILED" ${ARGN})
   add_executable(test_${folder} ${arg_SOURCES})
-  target_include_directories(test_${folder} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_compile_definitions(test_${folder} PRIVATE TARVANE_DATA="${CMAKE_SOURCE_DIR}/data"
-                                                    TARVANE_TESTDATA="${CMAKE_SOURCE_DIR}/tests/data")
-  target_link_libraries(test_${folder} PRIVATE ${arg_LINKS} GTest::gtest)
+  if(arg_PRECOMPILED)
+    target_precompile_headers(test_${folder} PRIVATE ${arg_PRECOMPILED})
+  else()
+    target_precompile_headers(test_${folder} REUSE_FROM tarvane_fakes)
+  endif()
+  target_link_libraries(test_${folder} PRIVATE ${arg_LINKS} tarvane::fakes)
   if(NOT arg_OWN_MAIN)
     target_link_libraries(test_${folder} PRIVATE GTest::gtest_main)
   endif()

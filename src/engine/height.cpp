@@ -3,6 +3,7 @@
 #include <cmath>
 #include <ostream>
 
+#include "engine/vectorstate.h"
 #include "portdata/recordfiles.h"
 #include "text/numbers.h"
 
@@ -115,6 +116,16 @@ HarmonicConstants seasonalconstants(const HarmonicRecord& port, int tidemonth) {
     return constants;
 }
 
+std::optional<HeightInputs> heightinputs(const HarmonicRecord& port, int tidemonth, int year, int baseday,
+                                         float userdepth, float currentoutput) {
+    const auto day = orbitalconstants(year, baseday);
+    const auto next = orbitalconstants(year, baseday + 1);
+    if (!day || !next) return std::nullopt;
+    const HarmonicConstants constants = seasonalconstants(port, tidemonth);
+    return HeightInputs{constants, *day,         *next, speedsandrates(*day, *next), constants.Z0 + constants.DeltaZ0,
+                        userdepth, currentoutput};
+}
+
 HeightParts heightformula(const HeightInputs& inputs, double t, std::ostream* trace) {
     const SpeedsAndRates& rates = inputs.rates;
     const AnglesAndFactors& day = inputs.day;
@@ -127,6 +138,15 @@ HeightParts heightformula(const HeightInputs& inputs, double t, std::ostream* tr
     finishform(w, inputs.constants, inputs.z0level, inputs.currentoutput != 1.0F ? inputs.userdepth : 0);
     if (trace) traceform(*trace, w, day, inputs.next, rates);
     return w.parts;
+}
+
+void sampleheights(const HeightInputs& inputs, double start, double step, std::span<HeightParts> samples) {
+    settlevectors();
+    double t = start;
+    for (HeightParts& sample : samples) {
+        sample = heightformula(inputs, t);
+        t += step;
+    }
 }
 
 InstantHeight heightofconstants(const HarmonicConstants& constants, const AnglesAndFactors& day,
@@ -161,19 +181,19 @@ InstantHeight heightofconstants(const HarmonicConstants& constants, const Angles
     return result;
 }
 
-InstantHeight heightat(Settings& settings, int tidemonth, int year, int daynumber, double time, std::ostream* trace) {
+InstantHeight heightat(const Settings& settings, int tidemonth, int year, int daynumber, double time,
+                       std::ostream* trace) {
     if (trace) traceline(*trace, "", int{portcount(settings.hcfile)}, int{settings.currentport});
-    settings.userdepth = readdepth(settings.depfile, settings.currentport).UserDepth;
+    const float userdepth = readdepth(settings.depfile, settings.currentport).UserDepth;
     const HarmonicConstants constants = seasonalconstants(readport(settings.hcfile, settings.currentport), tidemonth);
     const auto day = orbitalconstants(year, daynumber);
     const auto next = orbitalconstants(year, daynumber + 1);
-    if (!day || !next) {
-        InstantHeight nothing;
-        nothing.time = time;
-        nothing.defined = false;
-        return nothing;
-    }
-    return heightofconstants(constants, *day, *next, time, trace);
+    InstantHeight result;
+    result.time = time;
+    result.defined = day && next;
+    if (result.defined) result = heightofconstants(constants, *day, *next, time, trace);
+    result.userdepth = userdepth;
+    return result;
 }
 
 void zonetime(double time, int day, std::int16_t zonehours, double& zonedtime, int& zoneday) {

@@ -5,6 +5,8 @@
 
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
+#include <span>
 #include <string>
 
 #include "engine/orbital.h"
@@ -41,9 +43,21 @@ struct HeightInputs {
     float currentoutput = 1;
 };
 
+/// What the heights of one span of time stand on: a port's record in memory, the seasonal values of `tidemonth` (1 to
+/// 12; any other takes the annual ones), and the orbital constants of `baseday` of `year` and of the day after it, from
+/// whose 00:00 all times count. `userdepth` in metres is added unless `currentoutput` is 1. Nothing where the constants
+/// divide by zero.
+std::optional<HeightInputs> heightinputs(const HarmonicRecord& port, int tidemonth, int year, int baseday,
+                                         float userdepth = 0, float currentoutput = 1);
+
 /// The height `t` hours after 00:00 of the base day, and its parts. With `trace` set the form's lines are written to
 /// it.
 HeightParts heightformula(const HeightInputs& inputs, double t, std::ostream* trace = nullptr);
+
+/// Fills `samples` with the heights at `start` hours after 00:00 of the base day and every `step` hours from there,
+/// each time being the one before plus the step. The constants fit the base day and the day after; beyond them heights
+/// drift.
+void sampleheights(const HeightInputs& inputs, double start, double step, std::span<HeightParts> samples);
 
 /// Height at an instant and three minutes later.
 struct InstantHeight {
@@ -52,12 +66,13 @@ struct InstantHeight {
     double time = 0;           ///< decimal hours of `second`
     std::string risefalltext;  ///< "metres (Falling)", "metres (Rising)" or empty
     bool defined = true;       ///< false where the day's constants divide by zero
+    float userdepth = 0;       ///< the port's charted depth as read beside it, metres
 };
 
 /// Height of `settings.currentport` at `time` hours (0 becomes 1/60; from 23.8 on 1/6 is taken off) of day `daynumber`
-/// of `year`, the seasonal choice by `tidemonth`. Reads both files; leaves `settings.userdepth` set. Unlike the curve
-/// it takes no monthly level, no user depth, and the M2 rate for all factors.
-InstantHeight heightat(Settings& settings, int tidemonth, int year, int daynumber, double time,
+/// of `year`, the seasonal choice by `tidemonth`. Reads both files. Unlike the curve it takes no monthly level, no user
+/// depth, and the M2 rate for all factors.
+InstantHeight heightat(const Settings& settings, int tidemonth, int year, int daynumber, double time,
                        std::ostream* trace = nullptr);
 
 /// The same for constants in hand.

@@ -1,9 +1,11 @@
 #include "engine/prediction.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
+#include <span>
 
-#include "engine/vectorstate.h"
+#include "engine/constituents.h"
 #include "portdata/recordfiles.h"
 
 namespace tarvane {
@@ -11,85 +13,94 @@ namespace {
 
 constexpr double samplestep = 1.0 / 6;
 
-void clearlayers(Prediction& prediction) {
-    for (auto* layer : {&prediction.m2layer, &prediction.s2layer, &prediction.k1layer, &prediction.o1layer,
-                        &prediction.f4layer, &prediction.f6layer, &prediction.sumlayer})
-        layer->fill({});
-}
-
-/// Reads the port and makes ready what its samples need, from the constants of `baseday` and the day after it. Nothing
-/// where these divide by zero, the prediction then being marked so.
-std::optional<HeightInputs> prepare(Settings& settings, const TideDay& day, int baseday, Prediction& prediction) {
-    settlevectors();
+/// Empties what a prediction will fill and notes what it is for. Nothing where the day has no constants.
+std::optional<HeightInputs> prepare(const PredictedPort& port, const TideDay& day, int baseday,
+                                    Prediction& prediction) {
     prediction.curvesamples.fill({});
     prediction.turningpoints.fill({});
     prediction.turningcount = 0;
     prediction.dayrange = 0;
-    settings.userdepth = readdepth(settings.depfile, settings.currentport).UserDepth;
-    prediction.port = readport(settings.hcfile, settings.currentport);
-    HeightInputs inputs;
-    inputs.constants = seasonalconstants(prediction.port, day.tidemonth);
-    inputs.z0level = inputs.constants.Z0 + inputs.constants.DeltaZ0;
-    inputs.userdepth = settings.userdepth;
-    inputs.currentoutput = settings.currentoutput;
-    prediction.z0level = inputs.z0level;
-    const auto constants = orbitalconstants(day.tideyear, baseday);
-    const auto next = orbitalconstants(day.tideyear, baseday + 1);
-    prediction.defined = constants && next;
-    if (!prediction.defined) {
-        clearlayers(prediction);
-        return std::nullopt;
-    }
-    inputs.day = *constants;
-    inputs.next = *next;
-    inputs.rates = speedsandrates(*constants, *next);
-    return inputs;
+    prediction.port = port;
+    prediction.day = day;
+    prediction.defined = true;
+    prediction.whynot = "";
+    const HarmonicConstants constants = seasonalconstants(port.record, day.tidemonth);
+    prediction.z0level = constants.Z0 + constants.DeltaZ0;
+    return heightinputs(port.record, day.tidemonth, day.tideyear, baseday, port.userdepth, port.currentoutput);
+}
+
+/// Leaves a prediction without samples and layers, and why.
+void leaveundefined(Prediction& prediction, const char* whynot) {
+    prediction.defined = false;
+    prediction.whynot = whynot;
+    prediction.curvesamples.fill({});
+    for (const Constituent& constituent : constituents)
+        (prediction.*constituent.layer).fill({});
 }
 
 void storerow(Prediction& prediction, std::size_t row, double time, const HeightParts& parts) {
     prediction.curvesamples[row] = {time, parts.height};
-    prediction.m2layer[row] = {time, parts.m2};
-    prediction.s2layer[row] = {time, parts.s2};
-    prediction.k1layer[row] = {time, parts.k1};
-    prediction.f4layer[row] = {time, parts.f4};
-    prediction.f6layer[row] = {time, parts.f6};
-    prediction.sumlayer[row] = {time, prediction.z0level};
-    prediction.o1layer[row].height = parts.o1;
+    for (const Constituent& constituent : constituents)
+        (prediction.*constituent.layer)[row] = {time, constituent.part ? parts.*constituent.part : prediction.z0level};
+}
+
+void refusebrokenrecord(Prediction& prediction) {
+    const auto finite = [](const TimedValue& sample) { return std::isfinite(sample.height); };
+    if (!std::all_of(prediction.curvesamples.begin(), prediction.curvesamples.end(), finite))
+        leaveundefined(prediction, brokenrecord);
 }
 
 }  // namespace
 
-void predictday(Settings& settings, const TideDay& day, Prediction& prediction) {
-    const auto inputs = prepare(settings, day, day.dayofyear - 1, prediction);
-    prediction.samplecount = 147;
-    if (!inputs) return;
-    const bool summer = day.summer == -1;
-    const int first = summer ? 139 : 145;
-    const int last = summer ? 290 : 293;
-    // Samples before and behind the window are never looked at; only their share of t's accumulation counts.
-    double t = 0;
-    for (int j = 1; j <= last; ++j, t += samplestep) {
-        if (j < first) continue;
-        const int row = j - first + 1;
-        const double time = (row - 1) / 6.0;
-        storerow(prediction, static_cast<std::size_t>(row), time, heightformula(*inputs, t));
-        // kept: without summer time the time column of the O1 layer is not written
-        if (summer) prediction.o1layer[static_cast<std::size_t>(row)].time = time;
-    }
+PredictedPort predictedport(const Settings& settings) {
+    return {readport(settings.hcfile, settings.currentport), settings.currentport,
+            readdepth(settings.depfile, settings.currentport).UserDepth, settings.currentoutput};
 }
 
-void predictdaylinked(Settings& settings, const TideDay& day, double before, double after, Prediction& prediction) {
-    const auto inputs = prepare(settings, day, day.dayofyear, prediction);
+void predictday(const Settings& settings, const TideDay& day, Prediction& prediction) {
+    predictday(predictedport(settings), day, prediction);
+}
+
+void predictday(const PredictedPort& port, const TideDay& day, Prediction& prediction) {
+    const auto inputs = prepare(port, day, day.dayofyear - 1, prediction);
+    prediction.samplecount = 147;
+    if (!inputs) return leaveundefined(prediction, noconstants);
+    const bool summer = day.summer == -1;
+    const std::size_t first = summer ? 139 : 145;
+    const std::size_t rows = summer ? 152 : 149;
+    // Samples before the window are never looked at; only their share of the time's accumulation counts.
+    double start = 0;
+    for (std::size_t j = 1; j < first; ++j)
+        start += samplestep;
+    std::array<HeightParts, 152> samples;
+    sampleheights(*inputs, start, samplestep, std::span(samples).first(rows));
+    for (std::size_t row = 1; row <= rows; ++row) {
+        const double o1time = prediction.o1layer[row].time;
+        storerow(prediction, row, static_cast<double>(row - 1) / 6, samples[row - 1]);
+        // kept: without summer time the time column of the O1 layer is not written
+        if (!summer) prediction.o1layer[row].time = o1time;
+    }
+    refusebrokenrecord(prediction);
+}
+
+void predictdaylinked(const PredictedPort& port, const TideDay& day, double before, double after,
+                      Prediction& prediction) {
+    const auto inputs = prepare(port, day, day.dayofyear, prediction);
     prediction.samplecount = 148;
-    if (!inputs) return;
+    if (!inputs) return leaveundefined(prediction, noconstants);
     prediction.curvesamples[1] = {-99, before};
+    std::array<HeightParts, 147> samples;
+    sampleheights(*inputs, 0, samplestep, samples);
     double t = 0;
     // kept: the first sample overwrites the -99 row
-    for (std::size_t row = 1; row <= 147; ++row, t += samplestep) {
-        storerow(prediction, row, t, heightformula(*inputs, t));
-        prediction.o1layer[row].time = t;
-    }
+    for (std::size_t row = 1; row <= samples.size(); ++row, t += samplestep)
+        storerow(prediction, row, t, samples[row - 1]);
     prediction.curvesamples[148] = {99, after};
+    refusebrokenrecord(prediction);
+}
+
+bool haspredictions(int year, int dayofyear) {
+    return orbitalconstants(year, dayofyear - 1) && orbitalconstants(year, dayofyear);
 }
 
 void findturningpoints(Prediction& prediction) {

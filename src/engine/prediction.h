@@ -15,19 +15,8 @@ struct TimedValue {
     double height = 0;
 };
 
-/// What a prediction leaves behind; each overwrites it. Row 0 of every array is unused.
-struct Prediction {
-    std::array<TimedValue, 501> curvesamples{};
-    std::array<TimedValue, 201> m2layer{}, s2layer{}, k1layer{}, o1layer{}, f4layer{}, f6layer{}, sumlayer{};
-    double z0level = 0;
-    int samplecount = 0;  ///< 147 after predictday, 148 after predictdaylinked, whatever was filled
-    std::array<TimedValue, 16> turningpoints{};
-    int turningcount = 0;
-    double dayrange = 0;
-    /// False where the day's constants divide by zero: all samples are then 0 and nothing is to be shown.
-    bool defined = true;
-    HarmonicRecord port;  ///< the record as read, for the labels of the constituents view
-};
+/// One constituent's part of the height, or the mean level, on the rows of the samples. Row 0 is unused.
+using Layer = std::array<TimedValue, 201>;
 
 /// The day that a prediction is for.
 struct TideDay {
@@ -37,14 +26,52 @@ struct TideDay {
     std::int16_t summer = 0;  ///< -1 when summer time applies
 };
 
-/// Predicts a day of `settings.currentport`. Reads both files and leaves `settings.userdepth` set. Rows 1 to 149 (152
-/// in summer time) of the samples and layers are filled, row k holding clock time (k - 1)/6 hours; the samples' other
-/// rows are cleared, the layers' stay as they were.
-void predictday(Settings& settings, const TideDay& day, Prediction& prediction);
+/// The port that a prediction is for, as its files have it, and what its heights include.
+struct PredictedPort {
+    HarmonicRecord record;
+    std::int16_t number = 0;  ///< its record number, from 1
+    float userdepth = 0;      ///< the user's charted depth, metres
+    float currentoutput = 1;  ///< 1 leaves the depth out of the heights
+};
+
+/// What a prediction leaves behind; each overwrites it. Row 0 of every array is unused.
+struct Prediction {
+    std::array<TimedValue, 501> curvesamples{};
+    Layer m2layer{}, s2layer{}, k1layer{}, o1layer{}, f4layer{}, f6layer{}, sumlayer{};
+    double z0level = 0;
+    int samplecount = 0;  ///< 147 after predictday, 148 after predictdaylinked, whatever was filled
+    std::array<TimedValue, 16> turningpoints{};
+    int turningcount = 0;
+    double dayrange = 0;
+    /// False where there is no prediction: all samples are then 0 and nothing but `whynot` is to be shown.
+    bool defined = true;
+    const char* whynot = "";  ///< a sentence for the user
+    PredictedPort port;       ///< what it was made for
+    TideDay day;
+};
+
+/// Why there is no prediction.
+inline constexpr const char* noconstants = "The method has no constants for this day";
+inline constexpr const char* brokenrecord = "The port's record holds values that are no numbers";
+
+/// The port of `settings.currentport` as a prediction takes it: its two records read now.
+PredictedPort predictedport(const Settings& settings);
+
+/// Predicts a day of a port: the heights from 00:00 of the day before, of which those of the day are copied out. Rows 1
+/// to 149 (152 in summer time) of the samples and layers are filled, row k holding clock time (k - 1)/6 hours; the
+/// samples' other rows are cleared, the layers' stay as they were.
+void predictday(const PredictedPort& port, const TideDay& day, Prediction& prediction);
+
+/// The same for the current port, whose two files are read.
+void predictday(const Settings& settings, const TideDay& day, Prediction& prediction);
 
 /// The variant of the adjust workspace: constants of the day itself, 147 samples from 00:00, the height of the next
 /// morning as row 148. `before` and `after` come from `heightat`.
-void predictdaylinked(Settings& settings, const TideDay& day, double before, double after, Prediction& prediction);
+void predictdaylinked(const PredictedPort& port, const TideDay& day, double before, double after,
+                      Prediction& prediction);
+
+/// True if the method has constants for a day's prediction: those of the day before and of the day.
+bool haspredictions(int year, int dayofyear);
 
 /// Picks the high and low waters out of rows 2 to 145 by strict comparison, 15 at most, and the range over rows 1 to
 /// 145.

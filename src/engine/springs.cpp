@@ -6,8 +6,6 @@
 namespace tarvane {
 namespace {
 
-using Layer = std::array<TimedValue, 201>;
-
 /// Row numbers from 1, at most ten, just before each peak of a term's magnitude; the rest is 0.
 struct PeakList {
     std::array<std::size_t, 12> rows{};

@@ -1,7 +1,7 @@
 // The four commands of the "Clip&board" menu.
 #pragma once
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "dates/summertime.h"
-#include "mainview/loading.h"
+#include "session/refresh.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
@@ -60,7 +60,7 @@ void confirm(MainContext& context, const DateEntry& entry, DateNumbers chosen) {
     session.view.tidedatebox =
         "Date   : " + formatdate(context.services.locale, entry.pickeddate, "dd mmmm yyyy (dddd)");
     const std::int16_t adjusted = session.settings.currentsummer == -1 ? -1 : 0;
-    session.view.disclaimer = disclaimeraccuracyfirst(correctionline(adjusted, entry.pickeddate));
+    session.view.disclaimer = accuracyfirst(correctionline(adjusted, entry.pickeddate));
 }
 
 }  // namespace

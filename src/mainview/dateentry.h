@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
 

@@ -9,7 +9,7 @@
 #include <array>
 #include <functional>
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
 
@@ -24,30 +24,25 @@ class LayersPanel {
     void HideLevelControls();
     void showlevelcontrols();
 
-    /// The constants behind the names, where the session shows them, and the contributions at the mouse.
+    /// What the session holds of it: whether the table is there, the constants behind the names where they are shown,
+    /// and the contributions at the mouse.
     void show(const Session& session);
-    void showvalues(const LayerReadout& values);
 
     LayerChoice choice() const;
 
     QLabel *Label1 = nullptr, *Label3 = nullptr, *lblSum = nullptr, *lblSumHt = nullptr;
     QFrame* Line1 = nullptr;
 
-    QCheckBox *chkZ0 = nullptr, *chkM2 = nullptr, *chkS2 = nullptr, *chkK1 = nullptr, *chkO1 = nullptr,
-              *chkf4 = nullptr, *chkf6 = nullptr;
-    QLabel *lblZ0harm = nullptr, *lblm2Harm = nullptr, *lblS2Harm = nullptr, *lblK1Harm = nullptr, *lblO1Harm = nullptr,
-           *lblf4Harm = nullptr, *lblf6Harm = nullptr;
-    QLabel *lblHtZ0 = nullptr, *lblHtM2 = nullptr, *lblHtS2 = nullptr, *lblHtK1 = nullptr, *lblHtO1 = nullptr,
-           *lblHtf4 = nullptr, *lblHtf6 = nullptr;
+    /// The controls of one constituent, by its place in `constituents`: chkM2, lblm2Harm and lblHtM2 and their like.
+    struct Row {
+        QCheckBox* box = nullptr;
+        QLabel* constant = nullptr;
+        QLabel* value = nullptr;
+    };
+    std::array<Row, constituents.size()> rows{};
 
   private:
-    struct Row {
-        QCheckBox* box;
-        QLabel* constant;
-        QLabel* value;
-    };
-    std::array<Row, 7> rows() const;
-    std::array<QWidget*, 26> levelcontrols() const;
+    void showcontrols(bool visible);
 };
 
 }  // namespace tarvane

@@ -4,13 +4,14 @@
 #include <QEvent>
 #include <QShortcut>
 
-#include "mainview/layersview.h"
-#include "mainview/loading.h"
 #include "mainview/stepping.h"
-#include "mainview/tidecurve.h"
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/screentext.h"
 #include "platform/qt/twips.h"
+#include "session/loading.h"
+#include "session/refresh.h"
+#include "session/tidecurve.h"
+#include "session/title.h"
 
 namespace tarvane {
 
@@ -33,7 +34,6 @@ frmtarvane::frmtarvane(Session& owner, const Services& services, QWidget* parent
 
 void frmtarvane::Form_Load() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    layers.HideLevelControls();
     layoutcontrols();
     loadmainwindow(context);
     loaded = true;
@@ -56,17 +56,9 @@ void frmtarvane::showview() {
         label->setText(screentext(*text));
     if (laidoutmode != session.layersmode) layoutcontrols();
     layers.show(session);
-    for (const char* menu : {"mnutides", "mnuCalc", "mnuconfig"})
-        menuentry(menu)->setEnabled(view.topmenusenabled);
-    menuentry("mnuSpecial")->setVisible(view.specialvisible);
-    menuentry("mnumaintenance")->setVisible(view.maintenancevisible);
-    menuentry("mnuLayersShow")->setChecked(session.layersmode == 1);
+    showmenus();
     Nextday->setVisible(view.stepbuttonsvisible);
     Previousday->setVisible(view.stepbuttonsvisible);
-    if (session.layersmode == 1)
-        layers.showlevelcontrols();
-    else
-        layers.HideLevelControls();
     showmonthlist();
 }
 
@@ -104,18 +96,6 @@ void frmtarvane::connectcontrols() {
     layers.Label1->installEventFilter(this);
 }
 
-void frmtarvane::run(Command command) {
-    command(context);
-    showview();
-}
-
-void frmtarvane::runlong(Command command) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    command(context);
-    QApplication::restoreOverrideCursor();
-    showview();
-}
-
 void frmtarvane::picture_resized() {
     resized = true;
     if (!layingout) redrawresized();
@@ -130,38 +110,23 @@ void frmtarvane::redrawresized() {
 }
 
 void frmtarvane::Nextday_Click() {
-    run(nextday);
+    nextday(context);
+    showview();
 }
 
 void frmtarvane::Previousday_Click() {
-    run(previousday);
-}
-
-void frmtarvane::mnuNextPort_Click() {
-    nextport(context);
+    previousday(context);
     showview();
-}
-
-void frmtarvane::mnuPrevPort_Click() {
-    previousport(context);
-    showview();
-}
-
-void frmtarvane::mnuLayersShow_Click() {
-    run(togglelayers);
 }
 
 void frmtarvane::Picture1_MouseMove(double x) {
     picturemousemove(session, *Picture1, x);
-    timeval->setText(screentext(session.view.timeval));
-    hiteval->setText(screentext(session.view.hiteval));
-    lblrate->setText(screentext(session.view.lblrate));
-    if (session.layersmode == 1) layers.showvalues(session.layervalues);
+    showview();
 }
 
 void frmtarvane::Picture1_MouseDown() {
     picturemousedown(session);
-    lblmousestatus->setText(screentext(session.view.lblmousestatus));
+    showview();
 }
 
 void frmtarvane::Timer1_Timer() {
@@ -170,7 +135,7 @@ void frmtarvane::Timer1_Timer() {
 
 void frmtarvane::Timer2_Timer() {
     rewritetitle(session, context.services.clock);
-    setWindowTitle(screentext(session.view.caption));
+    showview();
 }
 
 void frmtarvane::resizeEvent(QResizeEvent* event) {
@@ -188,13 +153,9 @@ bool frmtarvane::event(QEvent* event) {
 }
 
 bool frmtarvane::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == layers.Label1 && event->type() == QEvent::MouseButtonDblClick) {
-        session.view.specialvisible = true;
-        session.showconstants = true;
-        showview();
-    } else if (watched != layers.Label1 && event->type() == QEvent::MouseButtonPress) {
-        session.view.stepbuttonsvisible = true;
-        enabletopmenus(session);
+    const bool onlabel = watched == layers.Label1;
+    if (event->type() == (onlabel ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress)) {
+        (onlabel ? showspecial : showsteps)(session);
         showview();
     }
     return QMainWindow::eventFilter(watched, event);

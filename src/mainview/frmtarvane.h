@@ -12,9 +12,10 @@
 #include <vector>
 
 #include "mainview/frmlayerspanel.h"
+#include "mainview/menus.h"
 #include "mainview/readouts.h"
-#include "mainview/session.h"
 #include "platform/qt/picturebox.h"
+#include "session/session.h"
 
 namespace tarvane {
 
@@ -42,7 +43,7 @@ class frmtarvane : public QMainWindow {
     QTimer* Timer1 = nullptr;
     QTimer* Timer2 = nullptr;
 
-    /// A menu entry by its name ("mnuNextPort"); nothing if there is none.
+    /// A menu or an entry by its name ("mnuNextPort"); nothing if there is none.
     QAction* menuentry(const char* name) const;
 
   protected:
@@ -59,48 +60,31 @@ class frmtarvane : public QMainWindow {
     void placecontrols();
     void picture_resized();
     void redrawresized();
-    void drawcurveandshow();
+    void showmenus();
     void showmonthlist();
 
     void Form_Activate();
     void Nextday_Click();
     void Previousday_Click();
-    void mnuNextPort_Click();
-    void mnuPrevPort_Click();
-    void mnuLayersShow_Click();
-    void mnutidedate_Click();
-    void mnuPortList_Click();
-    void mnuArea_Click();
-    void mnumonth_Click();
-    void mnusunrise_Click();
-    void mnuoutputoptions_Click();
-    void mnuchartdepth_Click();
-    void Mnushowconfig_Click();
-    void mnuExit_Click();
-    void mnusavmonth_Click();
-    void mnusaveday_Click();
-    void mnusavesun_Click();
-    void mnumonthprint_Click();
-    void mnuhrprint_Click();
-    void mnudayprint_Click();
-    void mnusunprint_Click();
-    void mnuCopyDaysTides_Click();
-    void mnuCopyMonth_Click();
-    void mnuCopySunTimes_Click();
-    void mnuCopyMonthSunTimes_Click();
     void Picture1_MouseMove(double x);
     void Picture1_MouseDown();
     void Timer1_Timer();
     void Timer2_Timer();
 
-    /// Runs a command, under the hourglass when it takes long, and shows what it left.
-    using Command = void (*)(MainContext&);
-    void run(Command command);
-    void runlong(Command command);
+    void choose(const MenuEntry& entry);
+    void opendialog(Dialog dialog);
+
+    /// A menu or an entry that the view can hide or disable.
+    struct Switched {
+        QAction* action;
+        bool MainView::*visible;
+        bool MainView::*enabled;
+    };
 
     Session& session;
     PictureBox* surface = nullptr;  ///< the window's own surface, on which the controls lie
     MainContext context;
+    std::vector<Switched> switched;
     FirstDrawing firstdrawing;
     int laidoutmode = 0;                   ///< the layers mode that the layout was made for
     std::vector<std::string> listedmonth;  ///< what `monthspredictions` was filled with

@@ -1,5 +1,6 @@
 // The controls of the main window and where they stand.
 #include "mainview/frmtarvane.h"
+#include "mainview/layersview.h"
 #include "platform/qt/named.h"
 #include "platform/qt/twips.h"
 
@@ -54,8 +55,8 @@ void frmtarvane::buildlayout() {
     for (QLabel* label : {portbox, tidedatebox, timeval, hiteval})
         label->setFont(bold);
     layers.build(surface, [this] {
-        session.layers = layers.choice();
-        drawcurveandshow();
+        ticklayers(context, layers.choice());
+        showview();
     });
     Previousday = new QPushButton("Prev day", surface);
     Previousday->setObjectName("Previousday");

@@ -1,91 +1,87 @@
-// The menu tree of the main window. An entry without a command stands in the tree, disabled.
+// The menu tree of the main window as the table has it, and the windows that it opens.
+#include <QApplication>
 #include <QMenuBar>
 
+#include "almanac/frmsunrise.h"
 #include "mainview/frmtarvane.h"
+#include "mainview/frmtimdat.h"
+#include "ports/frmchartdepth.h"
+#include "ports/frmconfig.h"
+#include "ports/frmoutoptions.h"
+#include "ports/frmshowconf.h"
 
 namespace tarvane {
 namespace {
 
-using Click = void (frmtarvane::*)();
-
-struct MenuEntry {
-    const char* menu;  ///< the menu that it stands in
-    const char* name;
-    const char* caption;
-    Click click;  ///< nothing: not to be had
-    const char* shortcut;
-};
-
-/// A menu on the bar or in another menu, in order.
-struct MenuPlace {
-    const char* parent;  ///< empty for the bar
-    const char* name;
-    const char* caption;
-};
+template <typename Window>
+void openmodal(MainContext& context, QWidget* over) {
+    Window window(context, over);
+    context.services.windows.showmodal(window);
+}
 
 }  // namespace
 
+void frmtarvane::opendialog(Dialog dialog) {
+    // What the session holds by now is seen behind the window that opens.
+    showview();
+    switch (dialog) {
+        case Dialog::dateentry:
+            return openmodal<Frmtimdat>(context, this);
+        case Dialog::selectport:
+            return openmodal<frmconfig>(context, this);
+        case Dialog::programoptions:
+            return openmodal<frmoutoptions>(context, this);
+        case Dialog::portnotes:
+            return openmodal<frmChartdepth>(context, this);
+        case Dialog::configuration:
+            return openmodal<frmshowconf>(context, this);
+        case Dialog::sunrise:
+            return openmodal<Frmsunrise>(context, this);
+    }
+}
+
 void frmtarvane::buildmenus() {
-    static constexpr MenuPlace menus[] = {
-        {"", "mnufile", " &File"},         {"mnufile", "mnuS", "&Save"},        {"mnufile", "mnuprint", "&Print"},
-        {"", "mnuDatemenu", "&Date"},      {"", "mnutides", "  &Select Port "}, {"", "mnuCalc", "&Calculate  "},
-        {"", "mnuCopy", "Clip&board"},     {"", "mnuconfig", "C&onfigure"},     {"", "mnumaintenance", "&Maintenance"},
-        {"", "mnuAdvanced", " &Advanced"}, {"", "mnuHelpTop", "Help"},          {"", "mnuSpecial", "Special"},
-    };
-    using F = frmtarvane;
-    static constexpr MenuEntry entries[] = {
-        {"mnuS", "mnusavmonth", "&Months Table", &F::mnusavmonth_Click, ""},
-        {"mnuS", "mnusaveday", "&Hourly Details", &F::mnusaveday_Click, ""},
-        {"mnuS", "mnusavesun", "&Sun times/Lunar Phases", &F::mnusavesun_Click, ""},
-        {"mnuprint", "mnumonthprint", "&Months Table", &F::mnumonthprint_Click, ""},
-        {"mnuprint", "mnuhrprint", "&Hourly Details", &F::mnuhrprint_Click, ""},
-        {"mnuprint", "mnudayprint", "&Curve", &F::mnudayprint_Click, "Ctrl+P"},
-        {"mnuprint", "mnusunprint", "&Sun Times/Lunar Phases", &F::mnusunprint_Click, ""},
-        {"mnufile", "mnuExit", "E&xit", &F::mnuExit_Click, "Ctrl+Q"},
-        {"mnuDatemenu", "mnutidedate", "&Select Date", &F::mnutidedate_Click, "Ctrl+D"},
-        {"mnutides", "mnuPortList", "Port by &Name", &F::mnuPortList_Click, "Ctrl+F"},
-        {"mnutides", "mnuNextPort", "Next Port ", &F::mnuNextPort_Click, "Ctrl+PgDown"},
-        {"mnutides", "mnuPrevPort", "Prev Port", &F::mnuPrevPort_Click, "Ctrl+PgUp"},
-        {"mnutides", "mnuArea", "Sea &Area", &F::mnuArea_Click, ""},
-        {"mnuCalc", "mnumonth", "&Months Tide", &F::mnumonth_Click, "Ctrl+M"},
-        {"mnuCalc", "mnusunrise", "&Sunrise/Lunar phases", &F::mnusunrise_Click, ""},
-        {"mnuCopy", "mnuCopyDaysTides", "C&opy Days Tides", &F::mnuCopyDaysTides_Click, "Ctrl+C"},
-        {"mnuCopy", "mnuCopyMonth", "Copy &Months Tides", &F::mnuCopyMonth_Click, ""},
-        {"mnuCopy", "mnuCopySunTimes", "Copy &Days Sunrise && Sunset Times", &F::mnuCopySunTimes_Click, ""},
-        {"mnuCopy", "mnuCopyMonthSunTimes", "Copy Months Su&nrise && Sunset Times", &F::mnuCopyMonthSunTimes_Click, ""},
-        {"mnuconfig", "mnuoutputoptions", "&Program Options", &F::mnuoutputoptions_Click, ""},
-        {"mnuconfig", "mnuchartdepth", "Port &Notes", &F::mnuchartdepth_Click, "Ctrl+N"},
-        {"mnuconfig", "Mnushowconfig", "Show &Configuration/Notes", &F::Mnushowconfig_Click, ""},
-        {"mnumaintenance", "mnumaintainfile", "&Correct Port Constants", nullptr, ""},
-        {"mnumaintenance", "mnucopyconstants", "&Copy ports", nullptr, ""},
-        {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", nullptr, ""},
-        {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", &F::mnuLayersShow_Click, "Ctrl+T"},
-        {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", nullptr, ""},
-        {"mnuHelpTop", "mnuHelp", "Help", nullptr, ""},
-        {"mnuSpecial", "mnuAnglesAndFactors", "Angles and Factors", nullptr, ""},
-        {"mnuSpecial", "mnuYears", "Years", nullptr, ""},
-        {"mnuSpecial", "mnuCalcOrbitalConst", "Orbital Constants", nullptr, ""},
-    };
-    for (const MenuPlace& place : menus) {
+    for (const MenuPlace& place : menuplaces()) {
         QMenu* menu =
             *place.parent ? findChild<QMenu*>(place.parent)->addMenu(place.caption) : menuBar()->addMenu(place.caption);
         menu->setObjectName(place.name);
+        menu->setToolTipsVisible(true);
         menu->menuAction()->setObjectName(place.name);
+        switched.push_back({menu->menuAction(), place.visible, place.enabled});
     }
-    for (const MenuEntry& entry : entries) {
+    for (const MenuEntry& entry : menuentries()) {
         QAction* action = findChild<QMenu*>(entry.menu)->addAction(entry.caption);
         action->setObjectName(entry.name);
-        action->setEnabled(entry.click != nullptr);
+        action->setEnabled(entry.command != nullptr);
+        if (!entry.command) action->setToolTip(notyettext);
         if (*entry.shortcut) action->setShortcut(QKeySequence(entry.shortcut));
-        if (entry.click) connect(action, &QAction::triggered, this, entry.click);
+        connect(action, &QAction::triggered, this, [this, &entry] { choose(entry); });
+        switched.push_back({action, entry.visible, nullptr});
     }
     menuentry("mnuLayersShow")->setCheckable(true);
-    for (const char* hidden : {"mnuSpecial", "mnuAdjustLoad", "mnuCopyDiamonds", "mnucopyconstants", "mnumaintenance"})
-        menuentry(hidden)->setVisible(false);
+}
+
+void frmtarvane::choose(const MenuEntry& entry) {
+    if (!entry.command) return;
+    Desk desk{context, [this](Dialog dialog) { opendialog(dialog); }, [this] { close(); }};
+    if (entry.slow) QApplication::setOverrideCursor(Qt::WaitCursor);
+    entry.command(desk);
+    if (entry.slow) QApplication::restoreOverrideCursor();
+    showview();
+}
+
+void frmtarvane::showmenus() {
+    for (const Switched& entry : switched) {
+        if (entry.visible) entry.action->setVisible(session.view.*entry.visible);
+        if (entry.enabled) entry.action->setEnabled(session.view.*entry.enabled);
+    }
+    menuentry("mnuLayersShow")->setChecked(session.layersmode == 1);
 }
 
 QAction* frmtarvane::menuentry(const char* name) const {
-    return findChild<QAction*>(name);
+    for (const Switched& entry : switched)
+        if (entry.action->objectName() == QLatin1String(name)) return entry.action;
+    return nullptr;
 }
 
 }  // namespace tarvane

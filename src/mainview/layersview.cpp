@@ -1,6 +1,7 @@
 #include "mainview/layersview.h"
 
-#include "mainview/loading.h"
+#include "session/refresh.h"
+#include "session/tidecurve.h"
 
 namespace tarvane {
 namespace {
@@ -32,6 +33,11 @@ void togglelayers(MainContext& context) {
     session.view.tidedatebox = datelineinorder(context, date);
     session.daytable.daystide1.clear();
     redrawday(context);
+}
+
+void ticklayers(MainContext& context, const LayerChoice& ticked) {
+    context.session.layers = ticked;
+    drawtidecurve(context.session, context.surfaces);
 }
 
 std::string datelineinorder(const MainContext& context, Date date) {

@@ -2,8 +2,9 @@
 
 #include "dates/summertime.h"
 #include "engine/height.h"
-#include "mainview/loading.h"
-#include "mainview/tidecurve.h"
+#include "session/documents.h"
+#include "session/refresh.h"
+#include "session/tidecurve.h"
 
 namespace tarvane {
 namespace {
@@ -32,7 +33,7 @@ void calculatemonth(MainContext& context) {
     session.view.monthvisible = true;
     // kept: without the shift the line has the "are" that it lacks after a date or port step
     const std::string line = shift == 0 ? uncorrectedline : correctionline(shift, session.onshow.tidedate);
-    session.view.disclaimer = disclaimercorrectionfirst(line);
+    session.view.disclaimer = correctionfirst(line);
 }
 
 bool havemonthtable(MainContext& context) {
@@ -41,8 +42,7 @@ bool havemonthtable(MainContext& context) {
     if (rows.size() < 10) calculatemonth(context);
     // kept: a list of exactly 10 rows is neither calculated nor taken
     if (rows.size() > 10) return true;
-    context.services.messages.show("Calculate a months tides\rbefore choosing this option", "Tarvane",
-                                   MessageIcon::information);
+    tellmissing(context, "Calculate a months tides");
     return false;
 }
 

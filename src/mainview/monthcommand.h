@@ -1,7 +1,7 @@
 // "&Months Tide": the month's tides as a list over the day table. Must not know any control.
 #pragma once
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
 

@@ -1,8 +1,8 @@
-// The four commands of the "&Print" menu: each asks first, prints to the default printer, and tells where a PDF went
-// that stands in for it. Must not know any control.
+// The commands of the "&Print" menu about tides: each asks first, prints to the default printer, and tells where a PDF
+// went that stands in for it. Must not know any control.
 #pragma once
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
 
@@ -14,8 +14,5 @@ void printtenminutes(MainContext& context);
 
 /// `mnumonthprint_Click`: the month's tides, calculated first when none are there.
 void printmonth(MainContext& context);
-
-/// `mnusunprint_Click`: the month's sun times and lunar phases, which must have been calculated.
-void printsun(MainContext& context);
 
 }  // namespace tarvane

@@ -1,14 +1,10 @@
-// What keeps the main window alive between commands: the title line with the present height, the readout that follows
-// the mouse, and the timers' ticks. A mouse move touches the passing layer alone.
+// What keeps the main window alive between commands: the readout that follows the mouse, and the first timer's ticks. A
+// mouse move touches the passing layer alone.
 #pragma once
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
-
-/// The title line: height, tendency and rate at today's clock time of the day on show, whichever day that is. It stays
-/// as it was when there is no time difference to reckon a rate with.
-void rewritetitle(Session& session, const Clock& clock);
 
 /// One tick of the 300 ms timer: at the second the curve is drawn once more, the window then being on the screen.
 struct FirstDrawing {

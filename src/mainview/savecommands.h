@@ -1,7 +1,7 @@
-// The three commands of the "&Save" menu. What stood at the chosen place stays when it can't be replaced.
+// The commands of the "&Save" menu about tides. What stood at the chosen place stays when it can't be replaced.
 #pragma once
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
 
@@ -10,8 +10,5 @@ void savemonth(MainContext& context);
 
 /// `mnusaveday_Click`: the heights of the day on show every 10 minutes.
 void saveday(MainContext& context);
-
-/// `mnusavesun_Click`: the sun table, which must have been calculated.
-void savesun(MainContext& context);
 
 }  // namespace tarvane

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "mainview/loading.h"
-#include "mainview/readouts.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
+#include "session/refresh.h"
+#include "session/title.h"
 
 namespace tarvane {
 namespace {
@@ -24,9 +24,8 @@ void stepto(MainContext& context, Date date, bool updatemonth) {
 
 void storeportleft(Session& session) {
     // kept: the file holds the port before the step, and a restart comes up one port behind
-    ConfigRecord record = RereadConfig(session.folders, session.settings.configrec);
-    record.portnumber = session.settings.currentport;
-    if (SaveConfig(session.folders, record)) session.settings.configrec = record;
+    Settings& settings = session.settings;
+    changeconfig(session.folders, settings, [&](ConfigRecord& record) { record.portnumber = settings.currentport; });
 }
 
 void showport(MainContext& context) {
@@ -36,7 +35,7 @@ void showport(MainContext& context) {
     session.settings.depfile = depfileof(session.folders, session.settings.hcfile);
     session.onshow.tideday = dayof(session.onshow.tidedate);
     session.onshow.tidemonth = monthof(session.onshow.tidedate);
-    refreshdaykeepingdisclaimer(context);
+    redrawday(context);
     clearmonthlist(session);
     rewritetitle(session, context.services.clock);
 }

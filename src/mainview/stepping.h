@@ -1,7 +1,7 @@
 // The one-step commands of the main window: next and previous day, next and previous port.
 #pragma once
 
-#include "mainview/session.h"
+#include "session/session.h"
 
 namespace tarvane {
 

@@ -67,7 +67,7 @@ void clearmonthcells(MonthTable& table) {
             column.fill({});
 }
 
-void buildmonthtable(MonthTable& table, Settings& settings, const CurrentPort& port, const DateOnShow& onshow,
+void buildmonthtable(MonthTable& table, const Settings& settings, const CurrentPort& port, const DateOnShow& onshow,
                      const Locale& locale) {
     clearmonthcells(table);
     table.monthcolumn1.clear();

@@ -28,8 +28,8 @@ struct MonthTable {
 void clearmonthcells(MonthTable& table);
 
 /// Rebuilds the whole table for the month of `onshow.tidedate`, one summer shift (that of the day on show) serving for
-/// all its days. `settings` is only left with its user depth reloaded.
-void buildmonthtable(MonthTable& table, Settings& settings, const CurrentPort& port, const DateOnShow& onshow,
+/// all its days.
+void buildmonthtable(MonthTable& table, const Settings& settings, const CurrentPort& port, const DateOnShow& onshow,
                      const Locale& locale);
 
 }  // namespace tarvane

@@ -1,5 +1,6 @@
 #include "portdata/configuration.h"
 
+#include "files/wholefiles.h"
 #include "portdata/recordfiles.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
@@ -21,10 +22,6 @@ std::string ProgramFolders::depthsfolder() const {
 
 ConfigRecord LoadConfig(const ProgramFolders& folders) {
     return decodeconfig(readwhole(folders.cfgpath()));
-}
-
-ConfigRecord RereadConfig(const ProgramFolders& folders, const ConfigRecord& last) {
-    return canopen(folders.cfgpath()) ? LoadConfig(folders) : last;
 }
 
 bool SaveConfig(const ProgramFolders& folders, const ConfigRecord& record) {
@@ -54,6 +51,16 @@ void loadsettings(const ProgramFolders& folders, Settings& settings) {
     const bool unwritable = !canopen(folders.cfgpath()) && !CreateDefaultConfig(folders, settings.configrec);
     if (!unwritable) settings.configrec = LoadConfig(folders);
     takesettings(settings);
+}
+
+void rereadconfig(const ProgramFolders& folders, Settings& settings) {
+    if (canopen(folders.cfgpath())) settings.configrec = LoadConfig(folders);
+}
+
+bool changeconfig(const ProgramFolders& folders, Settings& settings, const std::function<void(ConfigRecord&)>& change) {
+    rereadconfig(folders, settings);
+    change(settings.configrec);
+    return SaveConfig(folders, settings.configrec);
 }
 
 void takechoices(Settings& settings, const ConfigRecord& record) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "portdata/records.h"
@@ -41,9 +42,6 @@ struct Settings {
 /// Record 1 of the configuration file; a short or missing file reads as if followed by zeros.
 ConfigRecord LoadConfig(const ProgramFolders& folders);
 
-/// The record as it stands in the file now; if the file has vanished, `last`, what was read last.
-ConfigRecord RereadConfig(const ProgramFolders& folders, const ConfigRecord& last);
-
 /// Writes record 1. False if it couldn't, the file being as it was.
 bool SaveConfig(const ProgramFolders& folders, const ConfigRecord& record);
 
@@ -57,6 +55,14 @@ bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record);
 /// Reads the configuration, writing the values of a first start before that when the file can't be opened, and derives
 /// all module values from it.
 void loadsettings(const ProgramFolders& folders, Settings& settings);
+
+/// The one way to read the configuration while the program runs: `settings.configrec` becomes the record as it stands
+/// in the file now. When the file has vanished, what was read or written last stays.
+void rereadconfig(const ProgramFolders& folders, Settings& settings);
+
+/// The one way to change it: reread, changed, written, remembered. False when it couldn't be written; it is remembered
+/// all the same, so that the next change writes this one too if the file has vanished.
+bool changeconfig(const ProgramFolders& folders, Settings& settings, const std::function<void(ConfigRecord&)>& change);
 
 /// Copies what the dialogs read of a record anew: port, area file, output, draught and clearance.
 void takechoices(Settings& settings, const ConfigRecord& record);

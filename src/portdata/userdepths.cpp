@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "files/wholefiles.h"
 #include "portdata/coordinates.h"
 #include "portdata/recordfiles.h"
 

@@ -7,7 +7,7 @@
 #include <tuple>
 
 #include "engine/prediction.h"
-#include "engine/testport.h"
+#include "fakes/testport.h"
 
 namespace tarvane {
 namespace {

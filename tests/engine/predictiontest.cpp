@@ -8,7 +8,7 @@
 #include <limits>
 
 #include "engine/springs.h"
-#include "engine/testport.h"
+#include "fakes/testport.h"
 #include "portdata/portscsv.h"
 #include "text/timetext.h"
 
@@ -158,7 +158,7 @@ TEST(FindTurningPoints, TakesStrictExtremesOnly) {
 TEST(PredictDayLinked, GoesByTheDayItself) {
     PortFiles files;
     Prediction linked;
-    predictdaylinked(files.settings, {2024, 4, 100, 0}, 1.25, 2.5, linked);
+    predictdaylinked(predictedport(files.settings), {2024, 4, 100, 0}, 1.25, 2.5, linked);
     const Prediction day = predicted(files, {2024, 4, 100, 0});
     EXPECT_EQ(linked.samplecount, 148);
     EXPECT_EQ(linked.curvesamples[148].time, 99);

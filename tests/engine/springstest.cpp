@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "engine/testport.h"
+#include "fakes/testport.h"
 
 namespace tarvane {
 namespace {

@@ -2,13 +2,15 @@
 // fails the test.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace tarvane {
+
+/// Fails the test that runs.
+void failtest(const std::string& reason);
 
 template <typename Expected>
 class Script {
@@ -18,7 +20,7 @@ class Script {
     Script& operator=(const Script&) = delete;
     ~Script() {
         for (const Expected& left : queue)
-            ADD_FAILURE() << what << " never came: " << left.name;
+            failtest(what + " never came: " + left.name);
     }
 
     void expect(Expected expected) { queue.push_back(std::move(expected)); }
@@ -26,7 +28,7 @@ class Script {
     /// The next one foreseen; nothing, and a failure, when none is left.
     std::optional<Expected> take(const std::string& came) {
         if (queue.empty()) {
-            ADD_FAILURE() << "unforeseen: " << what << " " << came;
+            failtest("unforeseen: " + what + " " + came);
             return std::nullopt;
         }
         std::optional<Expected> next = std::move(queue.front());

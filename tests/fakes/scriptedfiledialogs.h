@@ -2,6 +2,8 @@
 // test. Must not look at the disk.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "fakes/script.h"
@@ -16,11 +18,11 @@ class ScriptedFileDialogs : public FileDialogs {
     std::vector<FileRequest> requests;  ///< every request that came, in order
 
     /// The path chosen; nothing for Cancel. The title is compared only where given.
-    void expectopen(Text answer, Text title = {}) { script.expect({"open", std::move(answer), std::move(title)}); }
-    void expectsave(Text answer, Text title = {}) { script.expect({"save", std::move(answer), std::move(title)}); }
+    void expectopen(Text answer, Text title = {});
+    void expectsave(Text answer, Text title = {});
 
-    Text open(const FileRequest& request) override { return take("open", request); }
-    Text save(const FileRequest& request) override { return take("save", request); }
+    Text open(const FileRequest& request) override;
+    Text save(const FileRequest& request) override;
 
   private:
     struct Expected {
@@ -29,14 +31,7 @@ class ScriptedFileDialogs : public FileDialogs {
         Text title;
     };
 
-    Text take(const std::string& kind, const FileRequest& request) {
-        requests.push_back(request);
-        const std::optional<Expected> expected = script.take(kind + " " + request.title);
-        if (!expected) return std::nullopt;
-        EXPECT_EQ(kind, expected->name);
-        EXPECT_EQ(request.title, expected->title.value_or(request.title));
-        return expected->answer;
-    }
+    Text take(const std::string& kind, const FileRequest& request);
 
     Script<Expected> script{"a file dialog"};
 };

@@ -2,7 +2,6 @@
 // outside it unless a test sets a path that does.
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <set>
 #include <string>
@@ -20,27 +19,14 @@ class ScriptedFolders : public Folders {
     std::string appdatafolder = root / "appdata";
     std::set<std::string> refused;  ///< paths that can't be made or removed
 
-    ScriptedFolders() {
-        for (const std::string& path : {programfolder, *documentsfolder, appdatafolder})
-            std::filesystem::create_directories(path);
-    }
+    ScriptedFolders();
 
     std::string program() const override { return programfolder; }
     std::optional<std::string> documents() const override { return documentsfolder; }
     std::string localappdata() const override { return appdatafolder; }
 
-    bool make(const std::string& path) override {
-        if (refused.contains(path)) return false;
-        std::error_code error;
-        std::filesystem::create_directories(path, error);
-        return std::filesystem::is_directory(path, error);
-    }
-
-    bool remove(const std::string& path) override {
-        if (refused.contains(path)) return false;
-        std::error_code error;
-        return std::filesystem::is_regular_file(path, error) && std::filesystem::remove(path, error);
-    }
+    bool make(const std::string& path) override;
+    bool remove(const std::string& path) override;
 };
 
 }  // namespace tarvane

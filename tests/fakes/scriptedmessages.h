@@ -2,6 +2,9 @@
 // or that never comes, fails the test. Must not show anything.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "fakes/script.h"
 #include "platform/messages.h"
 
@@ -15,19 +18,11 @@ class ScriptedMessages : public Messages {
     int beeps = 0;
 
     /// The whole text is compared; title and icon only where given.
-    void expectshow(std::string text, Title title = {}, Icon icon = {}) {
-        script.expect({std::move(text), false, std::move(title), icon, false});
-    }
-    void expectask(std::string text, bool answer, Title title = {}, Icon icon = {}) {
-        script.expect({std::move(text), true, std::move(title), icon, answer});
-    }
+    void expectshow(std::string text, Title title = {}, Icon icon = {});
+    void expectask(std::string text, bool answer, Title title = {}, Icon icon = {});
 
-    void show(const std::string& text, const std::string& title, MessageIcon icon) override {
-        take(text, false, title, icon);
-    }
-    bool ask(const std::string& text, const std::string& title, MessageIcon icon) override {
-        return take(text, true, title, icon);
-    }
+    void show(const std::string& text, const std::string& title, MessageIcon icon) override;
+    bool ask(const std::string& text, const std::string& title, MessageIcon icon) override;
     void beep() override { ++beeps; }
 
   private:
@@ -39,15 +34,7 @@ class ScriptedMessages : public Messages {
         bool answer;
     };
 
-    bool take(const std::string& text, bool question, const std::string& title, MessageIcon icon) {
-        const std::optional<Expected> expected = script.take(text);
-        if (!expected) return false;
-        EXPECT_EQ(text, expected->name);
-        EXPECT_EQ(question, expected->question) << text;
-        EXPECT_EQ(title, expected->title.value_or(title)) << text;
-        EXPECT_EQ(icon, expected->icon.value_or(icon)) << text;
-        return expected->answer;
-    }
+    bool take(const std::string& text, bool question, const std::string& title, MessageIcon icon);
 
     Script<Expected> script{"a message"};
 };

@@ -3,9 +3,6 @@
 // apart.
 #pragma once
 
-#include <algorithm>
-#include <cmath>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -41,38 +38,12 @@ class ScriptedPrinter : public Printer {
     bool open = false;
 
     /// Every entry a line: "1 text 0 240 9 bold Port". Coordinates are rounded to whole twips.
-    std::string log() const {
-        constexpr const char* names[] = {"text", "line", "point"};
-        std::ostringstream all;
-        for (const Printed& entry : printed) {
-            const auto whole = [](double twips) { return static_cast<long>(std::nearbyint(twips)); };
-            all << entry.page << ' ' << names[static_cast<int>(entry.kind)] << ' ' << whole(entry.x) << ' '
-                << whole(entry.y);
-            if (entry.kind == Kind::line) all << ' ' << whole(entry.x2) << ' ' << whole(entry.y2);
-            if (entry.kind == Kind::text) all << ' ' << entry.size << (entry.bold ? " bold " : " plain ") << entry.text;
-            all << '\n';
-        }
-        return all.str();
-    }
+    std::string log() const;
 
     /// The texts alone, in the order printed.
-    std::vector<std::string> texts() const {
-        std::vector<std::string> all;
-        for (const Printed& entry : printed)
-            if (entry.kind == Kind::text) all.push_back(entry.text);
-        return all;
-    }
+    std::vector<std::string> texts() const;
 
-    bool begin(const std::string& name) override {
-        if (refuse) return false;
-        title = name;
-        open = true;
-        pages = 1;
-        left = top = x = y = 0;
-        size = 9;
-        bold = false;
-        return true;
-    }
+    bool begin(const std::string& name) override;
 
     double width() const override { return pagewidth; }
     double height() const override { return pageheight; }
@@ -91,38 +62,18 @@ class ScriptedPrinter : public Printer {
     void setcurrentx(double newx) override { x = newx; }
     void setcurrenty(double newy) override { y = newy; }
 
-    double textwidth(const std::string& text) const override {
-        double widest = 0;
-        for (const std::string& piece : lines(text))
-            widest = std::max(widest, behind(piece, left) - left);
-        return widest;
-    }
+    double textwidth(const std::string& text) const override;
     double textheight() const override { return 24 * size; }
 
-    void print(const std::string& text) override {
-        put(text);
-        x = left;
-        y += textheight();
-    }
+    void print(const std::string& text) override;
     void printon(const std::string& text) override { put(text); }
 
-    void line(double x1, double y1, double x2, double y2) override {
-        printed.push_back({Kind::line, pages, x1, y1, x2, y2, size, bold, {}});
-    }
-    void point(double px, double py) override { printed.push_back({Kind::point, pages, px, py, 0, 0, size, bold, {}}); }
+    void line(double x1, double y1, double x2, double y2) override;
+    void point(double px, double py) override;
 
-    void newpage() override {
-        ++pages;
-        x = left;
-        y = top;
-    }
+    void newpage() override;
 
-    bool enddocument() override {
-        const bool was = open;
-        open = false;
-        if (was) ++documents;
-        return was;
-    }
+    bool enddocument() override;
     std::string destination() const override { return place; }
 
   private:
@@ -131,35 +82,10 @@ class ScriptedPrinter : public Printer {
     double size = 9;
     bool bold = false;
 
-    static std::vector<std::string> lines(const std::string& text) {
-        std::vector<std::string> all(1);
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
-            if (text[i] == '\r' || text[i] == '\n')
-                all.emplace_back();
-            else
-                all.back() += text[i];
-        }
-        return all;
-    }
-
     /// Where the position stands behind a text that begins at `from`.
-    double behind(const std::string& text, double from) const {
-        for (const char32_t c : codepoints(text))
-            from = c == U'\t' ? left + 720 * (std::floor((from - left) / 720) + 1) : from + (bold ? 11 : 10) * size;
-        return from;
-    }
+    double behind(const std::string& text, double from) const;
 
-    void put(const std::string& text) {
-        const double start = x;
-        bool first = true;
-        for (const std::string& piece : lines(text)) {
-            if (!first) y += textheight();
-            first = false;
-            if (!piece.empty()) printed.push_back({Kind::text, pages, start, y, 0, 0, size, bold, piece});
-            x = behind(piece, start);
-        }
-    }
+    void put(const std::string& text);
 };
 
 }  // namespace tarvane

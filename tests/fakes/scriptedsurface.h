@@ -1,9 +1,6 @@
 // A drawing surface that notes what is drawn, and which of it a clearing has taken away. Must not draw anything.
 #pragma once
 
-#include <algorithm>
-#include <iomanip>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -32,61 +29,23 @@ class ScriptedSurface : public DrawSurface {
     int linewidth = 1;
 
     /// One layer as text, an entry a line: "line 0 4 0 -1 000000 1", "text 0 4 4M".
-    static std::string log(const std::vector<Drawn>& layer) {
-        std::string all;
-        for (const Drawn& entry : layer)
-            all += logline(entry) + "\n";
-        return all;
-    }
+    static std::string log(const std::vector<Drawn>& layer);
 
     /// The entries of one kind and colour in a layer.
-    static std::vector<Drawn> only(const std::vector<Drawn>& layer, Kind kind, Colour colour = black) {
-        std::vector<Drawn> found;
-        std::copy_if(layer.begin(), layer.end(), std::back_inserter(found),
-                     [&](const Drawn& entry) { return entry.kind == kind && entry.colour == colour; });
-        return found;
-    }
+    static std::vector<Drawn> only(const std::vector<Drawn>& layer, Kind kind, Colour colour = black);
 
-    void setscale(double newleft, double newtop, double newright, double newbottom) override {
-        left = newleft;
-        top = newtop;
-        right = newright;
-        bottom = newbottom;
-    }
+    void setscale(double newleft, double newtop, double newright, double newbottom) override;
     void setpersistent(bool on) override { persistent = on; }
-    void clear() override {
-        passinglayer.clear();
-        if (!persistent) return;
-        persistentlayer.clear();
-        ++persistentclears;
-    }
+    void clear() override;
     void setbackcolour(Colour colour) override { backcolour = colour; }
     void setlinewidth(int pixels) override { linewidth = pixels; }
-    void line(double x1, double y1, double x2, double y2, Colour colour) override {
-        put({Kind::line, x1, y1, x2, y2, colour, linewidth, {}});
-    }
-    void box(double x1, double y1, double x2, double y2, Colour colour) override {
-        put({Kind::box, x1, y1, x2, y2, colour, linewidth, {}});
-    }
-    void point(double x, double y, Colour colour) override { put({Kind::point, x, y, 0, 0, colour, linewidth, {}}); }
-    void text(double x, double y, const std::string& text) override {
-        put({Kind::text, x, y, 0, 0, black, linewidth, text});
-    }
+    void line(double x1, double y1, double x2, double y2, Colour colour) override;
+    void box(double x1, double y1, double x2, double y2, Colour colour) override;
+    void point(double x, double y, Colour colour) override;
+    void text(double x, double y, const std::string& text) override;
 
   private:
-    void put(Drawn entry) { (persistent ? persistentlayer : passinglayer).push_back(std::move(entry)); }
-
-    static std::string logline(const Drawn& entry) {
-        constexpr const char* names[] = {"line", "box", "point", "text"};
-        std::ostringstream line;
-        line << std::setprecision(7) << names[static_cast<int>(entry.kind)] << ' ' << entry.x1 << ' ' << entry.y1
-             << ' ';
-        if (entry.kind == Kind::text) return line.str() + entry.text;
-        if (entry.kind != Kind::point) line << entry.x2 << ' ' << entry.y2 << ' ';
-        line << std::hex << std::uppercase << std::setfill('0') << std::setw(6) << entry.colour;
-        if (entry.kind != Kind::point) line << std::dec << ' ' << entry.width;
-        return line.str();
-    }
+    void put(Drawn entry);
 };
 
 }  // namespace tarvane

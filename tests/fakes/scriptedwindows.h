@@ -3,6 +3,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <utility>
 
 #include "fakes/script.h"
 #include "platform/windows.h"
@@ -12,9 +14,7 @@ namespace tarvane {
 class ScriptedWindows : public Windows {
   public:
     /// What the user does in the window; without it the window is closed at once.
-    void expect(std::string name, std::function<void(ModalWindow&)> act = {}) {
-        script.expect({std::move(name), std::move(act)});
-    }
+    void expect(std::string name, std::function<void(ModalWindow&)> act = {});
 
     /// The same for a window of a known class.
     template <class Window>
@@ -23,16 +23,11 @@ class ScriptedWindows : public Windows {
             if (auto* known = dynamic_cast<Window*>(&window))
                 act(*known);
             else
-                ADD_FAILURE() << window.windowname() << " is of another class";
+                failtest(window.windowname() + " is of another class");
         });
     }
 
-    void showmodal(ModalWindow& window) override {
-        const std::optional<Expected> expected = script.take(window.windowname());
-        if (!expected) return;
-        EXPECT_EQ(window.windowname(), expected->name);
-        if (window.windowname() == expected->name && expected->act) expected->act(window);
-    }
+    void showmodal(ModalWindow& window) override;
 
   private:
     struct Expected {

@@ -1,4 +1,4 @@
-// All scripted services together, as a test hands them to the code that it drives.
+// All scripted services together, as a test hands them to the code that it drives. Must not hold a real one.
 #pragma once
 
 #include "fakes/scriptedclipboard.h"
@@ -14,6 +14,9 @@
 namespace tarvane {
 
 struct ScriptedServices {
+    ScriptedServices();
+    ~ScriptedServices();
+
     ScriptedMessages messages;
     ScriptedFileDialogs filedialogs;
     ScriptedPrinter printer;

@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
 #include "mainview/stepping.h"
+#include "session/refresh.h"
 
 namespace tarvane {
 namespace {

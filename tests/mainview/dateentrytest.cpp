@@ -5,7 +5,7 @@
 #include <tuple>
 
 #include "dates/summertime.h"
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
 
 namespace tarvane::tests {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "fakes/mainfixture.h"
 #include "mainview/layersview.h"
-#include "mainview/mainfixture.h"
 #include "mainview/stepping.h"
 
 namespace tarvane {

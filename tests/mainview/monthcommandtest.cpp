@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "dates/summertime.h"
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
 #include "mainview/stepping.h"
+#include "session/refresh.h"
 
 namespace tarvane {
 namespace {
@@ -22,7 +23,7 @@ TEST(MonthCommand, ShowsTheMonthAndRestoresTheDay) {
     const auto samples = session.curve.curvesamplescopy;
     const auto lines = session.daytable.daylines;
     session.layersmode = 1;
-    session.layers.m2 = true;
+    session.layers[0] = true;
     main.picture.backcolour = 0xC0C0C0;
     calculatemonth(main.context);
     EXPECT_TRUE(session.view.monthvisible);

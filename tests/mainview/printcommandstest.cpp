@@ -4,10 +4,11 @@
 
 #include <algorithm>
 
-#include "mainview/mainfixture.h"
+#include "almanac/sunoutput.h"
+#include "almanac/sunview.h"
+#include "fakes/mainfixture.h"
 #include "mainview/monthcommand.h"
 #include "mainview/stepping.h"
-#include "mainview/sunview.h"
 
 namespace tarvane::tests {
 namespace {

@@ -1,11 +1,13 @@
 #include "mainview/readouts.h"
 
+#include "session/title.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "mainview/mainfixture.h"
-#include "mainview/tidecurve.h"
+#include "fakes/mainfixture.h"
+#include "session/tidecurve.h"
 
 namespace tarvane {
 namespace {
@@ -82,16 +84,25 @@ TEST(Readouts, SecondTickDrawsOnceMoreAndNoOtherDoes) {
     EXPECT_FALSE(ScriptedSurface::only(main.picture.persistentlayer, ScriptedSurface::Kind::line, grey).empty());
 }
 
+TEST(Readouts, ADayWithoutPredictionTellsNothing) {
+    MainFixture main;
+    main.scripted.clock.reading.today = makedate(1990, 1, 2);
+    main.load();
+    EXPECT_FALSE(picturemousemove(main.session, main.picture, 9));
+    EXPECT_EQ(main.session.view.hiteval, "");
+}
+
 TEST(Readouts, ConstituentsAddUpAtTheMouse) {
     MainFixture main;
     main.load();
     main.session.layersmode = 1;
     ASSERT_TRUE(picturemousemove(main.session, main.picture, 7.5));
     const LayerReadout& values = main.session.layervalues;
-    EXPECT_EQ(values.z0, "3");
+    EXPECT_EQ(values.parts[meanlevelplace], "3");
     EXPECT_EQ(values.sum, main.session.view.hiteval);
-    const double sum = std::stod(values.m2) + std::stod(values.s2) + std::stod(values.k1) + std::stod(values.o1) +
-                       std::stod(values.f4) + std::stod(values.f6) + 3;
+    double sum = 0;
+    for (const std::string& part : values.parts)
+        sum += std::stod(part);
     EXPECT_NEAR(sum, std::stod(values.sum), 0.035);
     EXPECT_NEAR(std::stod(values.sum), main.session.prediction.curvesamples[46].height, 0.006);
 }

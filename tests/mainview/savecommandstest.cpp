@@ -4,7 +4,9 @@
 
 #include <filesystem>
 
-#include "mainview/mainfixture.h"
+#include "almanac/sunoutput.h"
+#include "fakes/mainfixture.h"
+#include "files/wholefiles.h"
 #include "mainview/stepping.h"
 
 namespace tarvane {

@@ -4,7 +4,8 @@
 
 #include <filesystem>
 
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
+#include "files/wholefiles.h"
 
 namespace tarvane {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "engine/testport.h"
 #include "fakes/scriptedlocale.h"
+#include "fakes/testport.h"
 #include "text/numbers.h"
 
 namespace tarvane {

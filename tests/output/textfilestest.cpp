@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/testport.h"
 #include "fakes/scriptedlocale.h"
+#include "fakes/testport.h"
 #include "output/goldenfile.h"
 
 namespace tarvane {

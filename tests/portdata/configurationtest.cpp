@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "fakes/temporaryfolder.h"
+#include "files/wholefiles.h"
 #include "portdata/bytes.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"

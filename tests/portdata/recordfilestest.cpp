@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "fakes/temporaryfolder.h"
+#include "files/wholefiles.h"
 #include "portdata/bytes.h"
 
 namespace tarvane {

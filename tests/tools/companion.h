@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "engine/testport.h"
 #include "fakes/temporaryfolder.h"
+#include "fakes/testport.h"
 #include "portdata/configuration.h"
 #include "portdata/recordfiles.h"
 #include "tides/runtides.h"

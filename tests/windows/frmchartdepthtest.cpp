@@ -1,4 +1,4 @@
-#include "portdata/frmchartdepth.h"
+#include "ports/frmchartdepth.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,8 @@
 #include <QTest>
 #include <filesystem>
 
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
+#include "files/wholefiles.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {

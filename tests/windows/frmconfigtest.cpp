@@ -1,4 +1,4 @@
-#include "portdata/frmconfig.h"
+#include "ports/frmconfig.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <fstream>
 #include <iterator>
 
-#include "mainview/mainfixture.h"
-#include "mainview/portselection.h"
+#include "fakes/mainfixture.h"
 #include "portdata/portscsv.h"
+#include "ports/portselection.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {

@@ -1,6 +1,7 @@
-#include "portdata/frmoutoptions.h"
+#include "ports/frmoutoptions.h"
 
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
+#include "files/wholefiles.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {

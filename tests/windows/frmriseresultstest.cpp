@@ -1,9 +1,10 @@
-#include "sunmoon/frmriseresults.h"
+#include "almanac/frmriseresults.h"
 
 #include <QWheelEvent>
 
-#include "mainview/mainfixture.h"
-#include "mainview/sunview.h"
+#include "almanac/sunview.h"
+#include "fakes/mainfixture.h"
+#include "files/wholefiles.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {

@@ -1,6 +1,7 @@
-#include "portdata/frmshowconf.h"
+#include "ports/frmshowconf.h"
 
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
+#include "files/wholefiles.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {

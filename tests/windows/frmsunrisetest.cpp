@@ -1,10 +1,10 @@
-#include "sunmoon/frmsunrise.h"
+#include "almanac/frmsunrise.h"
 
 #include <QApplication>
 #include <QClipboard>
 
-#include "mainview/mainfixture.h"
-#include "sunmoon/frmriseresults.h"
+#include "almanac/frmriseresults.h"
+#include "fakes/mainfixture.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {

@@ -1,6 +1,6 @@
-#include "dates/frmtimdat.h"
+#include "mainview/frmtimdat.h"
 
-#include "mainview/mainfixture.h"
+#include "fakes/mainfixture.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {

@@ -6,17 +6,18 @@
 #include <QTemporaryDir>
 #include <memory>
 
+#include "files/wholefiles.h"
 #include "mainview/frmtarvane.h"
-#include "mainview/loading.h"
 #include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
 #include "mainview/stepping.h"
-#include "mainview/tidecurve.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/imagesurface.h"
 #include "platform/qt/qtservices.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
+#include "session/loading.h"
+#include "session/tidecurve.h"
 
 namespace {
 

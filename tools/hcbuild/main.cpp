@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "files/wholefiles.h"
 #include "portdata/portscsv.h"
 #include "portdata/recordfiles.h"
 

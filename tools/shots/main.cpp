@@ -4,20 +4,20 @@
 #include <QDir>
 #include <cstdio>
 
-#include "dates/frmtimdat.h"
+#include "almanac/frmriseresults.h"
+#include "almanac/frmsunrise.h"
+#include "almanac/sunview.h"
+#include "mainview/frmtimdat.h"
 #include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
-#include "mainview/sunview.h"
 #include "platform/qt/appearance.h"
-#include "portdata/frmchartdepth.h"
-#include "portdata/frmconfig.h"
-#include "portdata/frmoutoptions.h"
-#include "portdata/frmshowconf.h"
+#include "ports/frmchartdepth.h"
+#include "ports/frmconfig.h"
+#include "ports/frmoutoptions.h"
+#include "ports/frmshowconf.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
 #include "shots/stage.h"
-#include "sunmoon/frmriseresults.h"
-#include "sunmoon/frmsunrise.h"
 
 namespace tarvane::shots {
 namespace {
@@ -93,9 +93,8 @@ void takeday(Album& album, Stage& stage) {
 void takelayers(Album& album, Stage& stage) {
     Session& session = stage.sessiononstage();
     frmtarvane& window = stage.window();
-    for (QCheckBox* box : {window.layers.chkM2, window.layers.chkS2, window.layers.chkK1, window.layers.chkO1,
-                           window.layers.chkf4, window.layers.chkf6, window.layers.chkZ0})
-        box->click();
+    for (const LayersPanel::Row& row : window.layers.rows)
+        row.box->click();
     window.menuentry("mnuLayersShow")->trigger();
     stage.settle();
     picturemousemove(session, *window.Picture1, 9.4);

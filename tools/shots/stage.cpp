@@ -4,10 +4,10 @@
 #include <QDir>
 #include <filesystem>
 
-#include "mainview/loading.h"
-#include "mainview/tidecurve.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
+#include "session/refresh.h"
+#include "session/tidecurve.h"
 
 namespace tarvane::shots {
 namespace {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "files/wholefiles.h"
 #include "portdata/recordfiles.h"
 #include "text/singlebyte.h"
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "files/wholefiles.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
 #include "text/numbers.h"

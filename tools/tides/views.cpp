@@ -194,6 +194,7 @@ void predictport(ViewContext& context, const PortInHand& port, Date date, Predic
     day.summer = summershift(date, context.settings.summerflag2);
     context.settings.currentport = port.number;
     predictday(context.settings, day, prediction);
+    context.settings.userdepth = prediction.port.userdepth;
     findturningpoints(prediction);
 }
 

@@ -1,0 +1,42 @@
+// A day's curve on a drawing surface: its series, its constituents, grid and sun lines, hours across and metres up. Any
+// prediction can be drawn so. Must not predict, and keeps nothing.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "engine/constituents.h"
+#include "engine/curvelimits.h"
+#include "platform/drawsurface.h"
+#include "sunmoon/suntimes.h"
+
+namespace tarvane {
+
+/// The constituents that are ticked, by their places in `constituents`.
+using LayerChoice = std::array<bool, constituents.size()>;
+
+/// Starts the persistent picture anew with 24 hours across and the limits up; persistent drawing stays on.
+void startpicture(DrawSurface& picture, const CurveLimits& limits);
+
+/// A line from sample to sample, rows 1 to `count`.
+void drawseries(DrawSurface& picture, const std::array<TimedValue, 501>& rows, int count, Colour colour);
+
+/// A dot for each row from 1 to `count`.
+void drawdots(DrawSurface& picture, const std::array<TimedValue, 501>& rows, int count, Colour colour);
+
+/// The ticked constituents of a prediction in their colours.
+void drawlayers(DrawSurface& picture, const Prediction& prediction, const LayerChoice& ticked);
+
+/// A line every three hours and every metre, each metre named and the topmost with `topunit` behind it.
+void drawgrid(DrawSurface& picture, const CurveLimits& limits, const std::string& topunit);
+
+/// The dashed lines at sunrise and sunset, with their names.
+void drawsunlines(DrawSurface& picture, const CurveLimits& limits, const SunHours& sun);
+
+/// An upright line over the whole height at `hours`.
+void drawmarker(DrawSurface& picture, const CurveLimits& limits, double hours, Colour colour);
+
+/// Lines of text, LF between them, where the curve would be.
+void drawnote(DrawSurface& picture, const CurveLimits& limits, const std::string& lines);
+
+}  // namespace tarvane

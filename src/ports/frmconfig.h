@@ -1,0 +1,62 @@
+// "Select Port": the ports of the area in hand, by name or in the order of the file, and the search by part of a name.
+// Controls and copying only; what is chosen and stored is decided by the port list and the port selection.
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <optional>
+
+#include "platform/qt/modaldialog.h"
+#include "ports/portlist.h"
+#include "session/session.h"
+
+namespace tarvane {
+
+class frmconfig : public ModalDialog {
+  public:
+    explicit frmconfig(MainContext& context, QWidget* parent = nullptr);
+
+    /// Escape, the window's cross and Cancel alike.
+    void reject() override;
+
+    QListWidget* portlist2;
+    QLineEdit* txtSearch;
+    QPushButton* cmdSearch;
+    QGroupBox* Frame1;
+    QRadioButton* optSortbyName;
+    QRadioButton* optSortGeog;
+    QPushButton* cmdSort;
+    QPushButton* portconfigok;
+    QPushButton* portconfigcancel;
+    QLabel* confselectedport;
+    QLabel* portconfigbox;
+    QLabel* Label1;
+    QLabel* lblhint;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void buildlayout();
+    void connectcontrols();
+    void loadlist();
+    void showlist();
+    void showhit(std::optional<std::size_t> index);
+    int listindex() const;
+    bool searchkey(QKeyEvent& key);
+
+    void portlist2_Click();
+    void txtSearch_Change();
+    void cmdSearch_Click();
+    void cmdSort_Click();
+    void portconfigok_Click();
+
+    MainContext& context;
+    PortList ports;
+};
+
+}  // namespace tarvane

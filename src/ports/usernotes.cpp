@@ -1,0 +1,174 @@
+#include "ports/usernotes.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "files/wholefiles.h"
+#include "output/monthtable.h"
+#include "portdata/recordfiles.h"
+#include "portdata/userdepths.h"
+#include "session/refresh.h"
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+void tell(MainContext& context, const std::string& text) {
+    context.services.messages.show(text, "Tarvane", MessageIcon::exclamation);
+}
+
+/// The record that this dialog writes when the configuration has vanished.
+ConfigRecord replacedconfig(const Session& session) {
+    const ConfigRecord& before = session.settings.configrec;
+    ConfigRecord record = defaultconfig(session.folders);
+    // kept: port 73 where the start takes 77, and waypoints file and sort order aren't reset
+    record.portnumber = 73;
+    record.wayfilepath = before.wayfilepath;
+    record.sortmode = before.sortmode;
+    return record;
+}
+
+/// Reads the configuration, made anew when it has vanished, and takes the values that this dialog loads.
+void readconfig(MainContext& context) {
+    const ProgramFolders& folders = context.session.folders;
+    Settings& settings = context.session.settings;
+    const bool vanished = !canopen(folders.cfgpath());
+    rereadconfig(folders, settings);
+    const auto replace = [&](ConfigRecord& record) { record = replacedconfig(context.session); };
+    if (vanished && !changeconfig(folders, settings, replace))
+        tell(context, "The configuration can't be written: " + folders.cfgpath());
+    takechoices(settings, settings.configrec);
+    settings.currentsummer = settings.configrec.summertimeflag;
+}
+
+/// A note's line ends in any form as LF.
+std::string plainlines(std::string_view text) {
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool pair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        if (!pair) lines += text[i] == '\r' ? '\n' : text[i];
+    }
+    return lines;
+}
+
+/// A note as its record holds it: lines end in CR LF.
+std::string storedlines(std::string_view text) {
+    std::string stored;
+    for (const char character : plainlines(text)) {
+        if (character == '\n') stored += '\r';
+        stored += character;
+    }
+    return stored;
+}
+
+void shownotes(const Settings& settings, UserNotes& notes, std::int16_t recordnumber) {
+    const UserDepthRecord record = readdepth(settings.depfile, recordnumber);
+    notes.portlabel = trimmedname(readport(settings.hcfile, recordnumber));
+    notes.portnolabel = numbertext(recordnumber);
+    notes.depth = numbertext(record.UserDepth);
+    notes.usernotes = plainlines(trim(record.Notes));
+}
+
+bool notecharacter(std::string_view utf8) {
+    if (utf8 == "\n" || utf8 == "\t") return true;
+    const bool control = utf8.size() == 1 && (static_cast<unsigned char>(utf8[0]) < ' ' || utf8[0] == '\x7F');
+    return !control && fitssinglebyte(utf8);
+}
+
+}  // namespace
+
+std::vector<std::string> portrows(const std::string& hcfile) {
+    std::vector<std::string> rows;
+    for (const HarmonicRecord& port : readports(hcfile))
+        rows.push_back(numbertext(static_cast<int>(rows.size()) + 1) + "  " +
+                       port.PortName.substr(0, port.PortName.find('\0')));
+    return rows;
+}
+
+float typedmetres(std::string_view text) {
+    constexpr double most = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(val(text), -most, most));
+}
+
+void ensuredepths(MainContext& context) {
+    Settings& settings = context.session.settings;
+    if (EnsureDepFile(context.session.folders, settings)) return;
+    tell(context, "The file of user depths and notes can't be made: " + settings.depfile);
+}
+
+UserNotes loadusernotes(MainContext& context) {
+    readconfig(context);
+    ensuredepths(context);
+    const Settings& settings = context.session.settings;
+    UserNotes notes;
+    shownotes(settings, notes, settings.currentport);
+    notes.rows = portrows(settings.hcfile);
+    return notes;
+}
+
+void pickusernotes(const Settings& settings, UserNotes& notes, int index) {
+    shownotes(settings, notes, cint(index + 1));
+}
+
+void pickandnameport(Session& session, UserNotes& notes, int index) {
+    pickusernotes(session.settings, notes, index);
+    // kept: the main window names this port from its next refresh on, while its tides stay those of the current one
+    session.port.portname = notes.portlabel;
+}
+
+bool enterusernotes(MainContext& context, UserNotes& notes, std::string_view depth, std::string_view usernotes) {
+    const Settings& settings = context.session.settings;
+    const std::int16_t recordnumber = cint(val(notes.portnolabel));
+    if (recordnumber < 1 || recordnumber > portcount(settings.hcfile)) {
+        tell(context, "There is no port " + notes.portnolabel + " in " + settings.hcfile);
+        return false;
+    }
+    UserDepthRecord record = readdepth(settings.depfile, recordnumber);
+    record.UserDepth = typedmetres(depth);
+    record.Notes = storedlines(usernotes);
+    if (!writedepth(settings.depfile, recordnumber, record)) {
+        tell(context, "The depth and the note can't be written: " + settings.depfile);
+        return false;
+    }
+    shownotes(settings, notes, recordnumber);
+    return true;
+}
+
+void closeusernotes(MainContext& context) {
+    Session& session = context.session;
+    session.view.monthvisible = false;
+    session.month.monthtitle.clear();
+    clearmonthcells(session.month);
+    session.settings.userdepth = readdepth(session.settings.depfile, session.settings.currentport).UserDepth;
+    setportbox(session);
+    session.daytable.daystide1.clear();
+    session.timenow = clockhours(context.services.clock);
+    refreshday(context);
+}
+
+bool depthcharacter(char32_t character) {
+    return (character >= U'0' && character <= U'9') || character == U'.' || character == U'-';
+}
+
+std::string admittednote(std::string_view typed, std::size_t taken) {
+    std::string admitted;
+    std::size_t end = 0;
+    for (std::size_t start = 0; start < typed.size(); start = end) {
+        end = start + 1;
+        while (end < typed.size() && (static_cast<unsigned char>(typed[end]) & 0xC0) == 0x80)
+            ++end;
+        const std::string_view character = typed.substr(start, end - start);
+        if (!notecharacter(character)) continue;
+        taken += notelength(character);
+        if (taken > longestnote) break;
+        admitted += character;
+    }
+    return admitted;
+}
+
+std::size_t notelength(std::string_view utf8) {
+    return charactercount(storedlines(utf8));
+}
+
+}  // namespace tarvane

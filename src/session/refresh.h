@@ -1,0 +1,45 @@
+// The one sequence that recomputes and redraws the day on show, and the small steps that commands share. Must not know
+// any control.
+#pragma once
+
+#include <cstdint>
+
+#include "session/session.h"
+
+namespace tarvane {
+
+/// Recomputes and redraws the day on show, and sets the correction lines and the title.
+void refreshday(MainContext& context);
+
+/// What stands in its middle: predicts the day on show, draws it with its marker, refreshes the sun times and turns
+/// persistent drawing off. Returns the summer shift.
+std::int16_t redrawday(MainContext& context);
+
+/// The first prediction of the sequence alone: summer shift, day, turning points and day table. Returns the shift.
+std::int16_t predictdayonshow(Session& session);
+
+/// Sun times of the date on show at the current port into the session.
+void refreshsun(Session& session, std::int16_t shift);
+
+/// Makes the port of `settings.currentport` current: its name, place and zone. The name is trimmed or left as read.
+void takecurrentport(Session& session, bool trimname);
+
+/// "Port    : " and the port's name into the port line.
+void setportbox(Session& session);
+
+/// Two lines: on accuracy and on time correction, in the order of the dialogs (accuracy first).
+std::string accuracyfirst(const std::string& correction);
+
+/// Two lines in the order of the main window (correction first).
+std::string correctionfirst(const std::string& correction);
+
+/// Clock time now as hours plus minutes over 60.
+double clockhours(const Clock& clock);
+
+/// Enables the menus of ports, calculation and configuration.
+void enabletopmenus(Session& session);
+
+/// Empties and hides the list of the month's tides.
+void clearmonthlist(Session& session);
+
+}  // namespace tarvane

@@ -1,0 +1,93 @@
+// All that lives as long as the process: settings, the port and date on show, the last prediction, and what the main
+// window shows of them. `main` makes one and hands it on; windows copy the view to their controls.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "dates/calendar.h"
+#include "dates/dateformats.h"
+#include "engine/curvelimits.h"
+#include "engine/prediction.h"
+#include "output/curvepicture.h"
+#include "output/daytable.h"
+#include "output/monthtable.h"
+#include "platform/drawsurface.h"
+#include "platform/services.h"
+#include "portdata/configuration.h"
+#include "portdata/currentport.h"
+#include "sunmoon/lunarphases.h"
+#include "sunmoon/suntable.h"
+#include "sunmoon/suntimes.h"
+
+namespace tarvane {
+
+/// The texts and switches of the main window's controls; line ends as CR LF or CR.
+struct MainView {
+    std::string caption;
+    std::string portbox, tidedatebox;
+    std::string timeval, hiteval, lblrate, lblmousestatus;
+    std::string lblSprings, lblNeap;
+    std::string disclaimer;
+    bool topmenusenabled = true;      ///< mnutides, mnuCalc, mnuconfig
+    bool specialvisible = false;      ///< mnuSpecial
+    bool maintenancevisible = false;  ///< mnumaintenance and mnumaintainfile
+    bool adjustvisible = false;       ///< mnuAdjustLoad
+    bool copyportsvisible = false;    ///< mnucopyconstants
+    bool diamondsvisible = false;     ///< mnuCopyDiamonds
+    bool stepbuttonsvisible = true;   ///< Nextday and Previousday
+    bool monthvisible = false;        ///< the list of the month's tides
+};
+
+/// The values beside the constituents at the mouse, by their places in `constituents`: metres under "0.00", the mean
+/// level as plain text.
+struct LayerReadout {
+    std::array<std::string, constituents.size()> parts;
+    std::string sum;
+};
+
+struct Session {
+    ProgramFolders folders;
+    Settings settings;
+    DateConventions conventions;
+    CurrentPort port;
+    DateOnShow onshow;
+    Prediction prediction;
+    DayTable daytable;
+    MonthTable month;
+    SunTable suntable;
+    LunarTexts lunar;
+    CurveOnShow curve;
+    SunHours sun;  ///< `sunrisehour` and `sunsethour` are its sunrise and sunset
+    MainView view;
+
+    double timenow = 0;    ///< clock time as hours + minutes/60; where the red marker stands
+    double clocktime = 0;  ///< its copy at start, for the adjust workspace
+    double cursortime = 0, cursorheight = 0;
+    double markertime = 0;  ///< where the red line was last drawn, hours
+    int mousefrozen = 0;    ///< 0 the readout follows the mouse, 1 it stands still
+    int layersmode = 0;     ///< 0 tide curve, 1 constituents view
+    bool showconstants = false;
+    LayerChoice layers{};
+    LayerReadout layervalues;
+};
+
+/// The surfaces that the main window is drawn on. The window's own surface is scaled in twips; the picture's place on
+/// it is given so.
+struct MainSurfaces {
+    DrawSurface& picture;  ///< Picture1
+    DrawSurface& bar;      ///< pctSpringsStatus
+    DrawSurface& window;   ///< the window itself
+    struct Place {
+        double left = 0, top = 0, width = 0, height = 0;
+    } pictureplace;
+};
+
+/// What the commands of the main window work with.
+struct MainContext {
+    Session& session;
+    Services services;
+    MainSurfaces surfaces;
+};
+
+}  // namespace tarvane

@@ -1,0 +1,152 @@
+#include "almanac/sunoutput.h"
+#include "almanac/sunview.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "fakes/mainfixture.h"
+#include "session/refresh.h"
+
+namespace tarvane::tests {
+namespace {
+
+class SunView : public MainFixture, public testing::Test {
+  protected:
+    SunView() { load(); }
+
+    SunOutcome calculate(const std::string& latitude, const std::string& longitude) {
+        return calculatesun(context, {"User entry", latitude, longitude});
+    }
+
+    static std::string contents(const std::string& path) {
+        std::ifstream stream(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(stream), {});
+    }
+
+    std::string file(const std::string& name) const { return folder / name; }
+};
+
+TEST_F(SunView, ComesUpWithThePortsPositionAndTheMonthsPhases) {
+    preparesunview(session);
+    EXPECT_EQ(session.lunar.lunarlist[3], "   08 Apr 2024       NEW MOON     ");
+    const SunInput input = portsuninput(session);
+    EXPECT_EQ(calculatesun(context, input), SunOutcome::calculated);
+    EXPECT_EQ(session.suntable.titles, (std::array<std::string, 4>{"", "Alder Quay", " 1.15W", " 50.30N"}));
+}
+
+TEST_F(SunView, PositionsTakenAndRefused) {
+    struct Case {
+        const char* latitude;
+        const char* longitude;
+        SunOutcome outcome;
+    };
+    constexpr auto good = SunOutcome::calculated, lat = SunOutcome::badlatitude, lon = SunOutcome::badlongitude;
+    const std::vector<Case> cases{
+        {"  50.45.00N  ", " 001.30.00W ", good},
+        {"89.59S", "179.59W", good},
+        {"50N", "1W", good},
+        {"50.45N", "180.00E", lon},
+        {"90.00N", "1.30W", lat},
+        {"S50.45", "1.30W", lat},
+        {"S50.45N", "1.30W", lat},
+        {"050.45.00N", "1.30W", lat},
+        {"50.45N", "0001.30.00W", lon},
+        {"50.45N", "1.30", lon},
+        {"50.45n", "1.30W", lat},
+        {"50.45N", "1.30N", lon},
+        {"", "1.30W", lat},
+        {"50.45N", "", lon},
+        {"N", "1.30W", lat},
+        {"bad", "bad", lon},
+        {"50.45N", "1.30W\xc3\xa9", lon},
+    };
+    for (const Case& row : cases) {
+        const int beeps = scripted.messages.beeps;
+        EXPECT_EQ(calculate(row.latitude, row.longitude), row.outcome) << row.latitude << " " << row.longitude;
+        EXPECT_EQ(scripted.messages.beeps - beeps, row.outcome == good ? 0 : 1);
+        EXPECT_EQ(session.suntable.suntext[1][1].empty(), row.outcome != good) << row.latitude << " " << row.longitude;
+    }
+}
+
+TEST_F(SunView, ThePortsZoneAndOneShiftServeTheWholeMonth) {
+    session.settings.currentport = 2;
+    takecurrentport(session, true);
+    setdateonshow(session.onshow, makedate(2024, 3, 31));
+    session.settings.summerflag2 = 0;
+    calculate("50.30N", "1.15W");
+    const double plain = session.suntable.sunvalues[1][4];
+    EXPECT_DOUBLE_EQ(plain, SunTimes(50.5, -1.25, 1, 3, 2024, 0, -1).sunrise);
+    session.settings.summerflag2 = -1;
+    calculate("50.30N", "1.15W");
+    EXPECT_DOUBLE_EQ(session.suntable.sunvalues[1][4], plain + 1);
+}
+
+TEST_F(SunView, ADayBehindTheMonthsEndIsPutBack) {
+    session.view.stepbuttonsvisible = false;
+    setdateonshow(session.onshow, makedate(2023, 1, 31));
+    EXPECT_EQ(opensunresults(session), 31);
+    EXPECT_TRUE(session.view.stepbuttonsvisible);
+    session.onshow.tidemonth = 2;
+    EXPECT_EQ(opensunresults(session), 28);
+    EXPECT_EQ(session.onshow.tideday, 28);
+}
+
+TEST(SunViewKeys, EveryKey) {
+    for (int code = 1; code < 256; ++code) {
+        const char key = static_cast<char>(code);
+        const bool both = (key >= '0' && key <= '9') || key == '.' || code == 8 || code == 127;
+        const bool north = key == 'N' || key == 'n', south = key == 'S' || key == 's';
+        const bool east = key == 'E' || key == 'e', west = key == 'W' || key == 'w';
+        EXPECT_EQ(latitudekey(key), both ? key : north ? 'N' : south ? 'S' : '\0') << code;
+        EXPECT_EQ(longitudekey(key), both ? key : east ? 'E' : west ? 'W' : '\0') << code;
+    }
+}
+
+TEST(SunViewPaths, ExtensionIsCutAndPut) {
+    EXPECT_EQ(csvpath("/a/s.un.txt"), "/a/s.csv");
+    EXPECT_EQ(csvpath("/a.b/sun"), "/a.b/sun.csv");
+    EXPECT_EQ(csvpath("sun."), "sun.csv");
+}
+
+TEST_F(SunView, CsvOfATypedPositionIsHeadedByThePort) {
+    calculate("69.00N", "20.00E");
+    session.settings.currentsummer = -1;
+    const std::string csv = suncsvtext(session);
+    EXPECT_TRUE(csv.starts_with("Alder Quay,Time Zone = Summer Time, 50.30N, 1.15W\r\nDate,Sunrise,"));
+    EXPECT_TRUE(csv.ends_with(",00:00:00,00:00:00\r\n")) << "no nautical twilight so late in April";
+}
+
+TEST_F(SunView, SavesWhereTheUserChoseAndReplacesOnYesOnly) {
+    calculate("50.30N", "1.15W");
+    scripted.filedialogs.expectsave(file("sun.text"));
+    savesuncsv(context);
+    const std::string written = contents(file("sun.csv"));
+    EXPECT_EQ(written, suncsvtext(session));
+    const FileRequest request = scripted.filedialogs.requests.front();
+    EXPECT_EQ(request.folder, session.folders.programfolder);
+    EXPECT_EQ(request.filter, "CSV file | *csv");
+    EXPECT_FALSE(request.askoverwrite);
+    std::ofstream(file("sun.csv")) << "old";
+    for (const bool answer : {false, true}) {
+        scripted.filedialogs.expectsave(file("sun"));
+        scripted.messages.expectask("File exist - Overwrite?", answer, "Tarvane", MessageIcon::question);
+        savesuncsv(context);
+        EXPECT_EQ(contents(file("sun.csv")), answer ? written : "old");
+    }
+}
+
+TEST_F(SunView, NothingIsSavedWithoutANameAndAFailureIsTold) {
+    calculate("50.30N", "1.15W");
+    scripted.filedialogs.expectsave(std::nullopt);
+    savesuncsv(context);
+    EXPECT_EQ(session.suntable.suntext[1][1], " 1Apr  2024");
+    const std::string path = file("nowhere/sun.csv");
+    scripted.filedialogs.expectsave(path);
+    scripted.messages.expectshow("The file could not be written:\r" + path, "Tarvane", MessageIcon::exclamation);
+    savesuncsv(context);
+}
+
+}  // namespace
+}  // namespace tarvane::tests

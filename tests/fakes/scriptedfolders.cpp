@@ -1,0 +1,45 @@
+#include "fakes/scriptedfolders.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+namespace tarvane {
+namespace fakes {
+
+TemporaryFolder::TemporaryFolder() {
+    // In memory where the system has such a folder: the program flushes each file that it replaces to the disk.
+    const bool inmemory = access("/dev/shm", W_OK) == 0;
+    std::string name =
+        (inmemory ? "/dev/shm" : std::filesystem::temp_directory_path()) / std::filesystem::path("tarvaneXXXXXX");
+    if (mkdtemp(name.data())) folder = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+}
+
+}  // namespace fakes
+
+ScriptedFolders::ScriptedFolders() {
+    for (const std::string& path : {programfolder, *documentsfolder, appdatafolder})
+        std::filesystem::create_directories(path);
+}
+
+bool ScriptedFolders::make(const std::string& path) {
+    if (refused.contains(path)) return false;
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
+    return std::filesystem::is_directory(path, error);
+}
+
+bool ScriptedFolders::remove(const std::string& path) {
+    if (refused.contains(path)) return false;
+    std::error_code error;
+    return std::filesystem::is_regular_file(path, error) && std::filesystem::remove(path, error);
+}
+
+}  // namespace tarvane

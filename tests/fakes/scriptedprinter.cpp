@@ -1,0 +1,107 @@
+#include "fakes/scriptedprinter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+
+namespace tarvane {
+namespace {
+
+std::vector<std::string> lines(const std::string& text) {
+    std::vector<std::string> all(1);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+        if (text[i] == '\r' || text[i] == '\n')
+            all.emplace_back();
+        else
+            all.back() += text[i];
+    }
+    return all;
+}
+
+}  // namespace
+
+std::string ScriptedPrinter::log() const {
+    constexpr const char* names[] = {"text", "line", "point"};
+    std::ostringstream all;
+    for (const Printed& entry : printed) {
+        const auto whole = [](double twips) { return static_cast<long>(std::nearbyint(twips)); };
+        all << entry.page << ' ' << names[static_cast<int>(entry.kind)] << ' ' << whole(entry.x) << ' '
+            << whole(entry.y);
+        if (entry.kind == Kind::line) all << ' ' << whole(entry.x2) << ' ' << whole(entry.y2);
+        if (entry.kind == Kind::text) all << ' ' << entry.size << (entry.bold ? " bold " : " plain ") << entry.text;
+        all << '\n';
+    }
+    return all.str();
+}
+
+std::vector<std::string> ScriptedPrinter::texts() const {
+    std::vector<std::string> all;
+    for (const Printed& entry : printed)
+        if (entry.kind == Kind::text) all.push_back(entry.text);
+    return all;
+}
+
+bool ScriptedPrinter::begin(const std::string& name) {
+    if (refuse) return false;
+    title = name;
+    open = true;
+    pages = 1;
+    left = top = x = y = 0;
+    size = 9;
+    bold = false;
+    return true;
+}
+
+double ScriptedPrinter::textwidth(const std::string& text) const {
+    double widest = 0;
+    for (const std::string& piece : lines(text))
+        widest = std::max(widest, behind(piece, left) - left);
+    return widest;
+}
+
+void ScriptedPrinter::print(const std::string& text) {
+    put(text);
+    x = left;
+    y += textheight();
+}
+
+void ScriptedPrinter::line(double x1, double y1, double x2, double y2) {
+    printed.push_back({Kind::line, pages, x1, y1, x2, y2, size, bold, {}});
+}
+
+void ScriptedPrinter::point(double px, double py) {
+    printed.push_back({Kind::point, pages, px, py, 0, 0, size, bold, {}});
+}
+
+void ScriptedPrinter::newpage() {
+    ++pages;
+    x = left;
+    y = top;
+}
+
+bool ScriptedPrinter::enddocument() {
+    const bool was = open;
+    open = false;
+    if (was) ++documents;
+    return was;
+}
+
+double ScriptedPrinter::behind(const std::string& text, double from) const {
+    for (const char32_t c : codepoints(text))
+        from = c == U'\t' ? left + 720 * (std::floor((from - left) / 720) + 1) : from + (bold ? 11 : 10) * size;
+    return from;
+}
+
+void ScriptedPrinter::put(const std::string& text) {
+    const double start = x;
+    bool first = true;
+    for (const std::string& piece : lines(text)) {
+        if (!first) y += textheight();
+        first = false;
+        if (!piece.empty()) printed.push_back({Kind::text, pages, start, y, 0, 0, size, bold, piece});
+        x = behind(piece, start);
+    }
+}
+
+}  // namespace tarvane

@@ -1,0 +1,76 @@
+#include "fakes/scriptedsurface.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <iterator>
+#include <sstream>
+#include <utility>
+
+namespace tarvane {
+namespace {
+
+using Kind = ScriptedSurface::Kind;
+using Drawn = ScriptedSurface::Drawn;
+
+std::string logline(const Drawn& entry) {
+    constexpr const char* names[] = {"line", "box", "point", "text"};
+    std::ostringstream line;
+    line << std::setprecision(7) << names[static_cast<int>(entry.kind)] << ' ' << entry.x1 << ' ' << entry.y1 << ' ';
+    if (entry.kind == Kind::text) return line.str() + entry.text;
+    if (entry.kind != Kind::point) line << entry.x2 << ' ' << entry.y2 << ' ';
+    line << std::hex << std::uppercase << std::setfill('0') << std::setw(6) << entry.colour;
+    if (entry.kind != Kind::point) line << std::dec << ' ' << entry.width;
+    return line.str();
+}
+
+}  // namespace
+
+std::string ScriptedSurface::log(const std::vector<Drawn>& layer) {
+    std::string all;
+    for (const Drawn& entry : layer)
+        all += logline(entry) + "\n";
+    return all;
+}
+
+std::vector<Drawn> ScriptedSurface::only(const std::vector<Drawn>& layer, Kind kind, Colour colour) {
+    std::vector<Drawn> found;
+    std::copy_if(layer.begin(), layer.end(), std::back_inserter(found),
+                 [&](const Drawn& entry) { return entry.kind == kind && entry.colour == colour; });
+    return found;
+}
+
+void ScriptedSurface::setscale(double newleft, double newtop, double newright, double newbottom) {
+    left = newleft;
+    top = newtop;
+    right = newright;
+    bottom = newbottom;
+}
+
+void ScriptedSurface::clear() {
+    passinglayer.clear();
+    if (!persistent) return;
+    persistentlayer.clear();
+    ++persistentclears;
+}
+
+void ScriptedSurface::line(double x1, double y1, double x2, double y2, Colour colour) {
+    put({Kind::line, x1, y1, x2, y2, colour, linewidth, {}});
+}
+
+void ScriptedSurface::box(double x1, double y1, double x2, double y2, Colour colour) {
+    put({Kind::box, x1, y1, x2, y2, colour, linewidth, {}});
+}
+
+void ScriptedSurface::point(double x, double y, Colour colour) {
+    put({Kind::point, x, y, 0, 0, colour, linewidth, {}});
+}
+
+void ScriptedSurface::text(double x, double y, const std::string& text) {
+    put({Kind::text, x, y, 0, 0, black, linewidth, text});
+}
+
+void ScriptedSurface::put(Drawn entry) {
+    (persistent ? persistentlayer : passinglayer).push_back(std::move(entry));
+}
+
+}  // namespace tarvane

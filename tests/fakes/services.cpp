@@ -1,0 +1,8 @@
+#include "fakes/services.h"
+
+namespace tarvane {
+
+ScriptedServices::ScriptedServices() = default;
+ScriptedServices::~ScriptedServices() = default;
+
+}  // namespace tarvane

@@ -1,0 +1,30 @@
+#include "fakes/testport.h"
+
+namespace tarvane::tests {
+
+HarmonicRecord roundport() {
+    // number, name, position, zone, Z0, then phase and amplitude of M2, S2, K1 and O1, and the two shallow-water pairs
+    HarmonicRecord port{"1", "Round Haven", 0,   0,     "L", 3,     120, 1.5F,  170, 0.5F,
+                        60,  0.07F,         320, 0.06F, 0,   0.02F, 0,   0.001F};
+    port.MHm2.fill(port.M2Hm);
+    return port;
+}
+
+PortFiles::PortFiles(const HarmonicRecord& port, float depth) {
+    settings.hcfile = folder / "Area.hc";
+    settings.depfile = folder / "Area.DEP";
+    settings.currentport = 1;
+    settings.currentoutput = 1;
+    store(port);
+    UserDepthRecord user;
+    user.UserDepth = depth;
+    writedepth(settings.depfile, 1, user);
+}
+
+PortFiles::~PortFiles() = default;
+
+void PortFiles::store(const HarmonicRecord& port) {
+    writeport(settings.hcfile, 1, port);
+}
+
+}  // namespace tarvane::tests

@@ -1,0 +1,89 @@
+#include "ports/portlist.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+#include "fakes/temporaryfolder.h"
+#include "portdata/recordfiles.h"
+
+namespace tarvane {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct PortListTest : testing::Test {
+    void store(const Names& names) {
+        std::filesystem::remove(area);
+        HarmonicRecord port;
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            port.PortName = names[i];
+            writeport(area, static_cast<std::int16_t>(i + 1), port);
+        }
+        loadportlist(list, "  " + area + " ");
+    }
+    Names sorted() {
+        sortbyname(list);
+        return portnames(list);
+    }
+
+    fakes::TemporaryFolder folder;
+    std::string area = folder / "Area.hc";
+    PortList list;
+};
+
+TEST_F(PortListTest, SortingTakesTheLastEntryOffEachTime) {
+    const std::tuple<Names, Names, Names> rows[] = {
+        {{"Whitby", "Aberdeen", "Leith", "Dover"}, {"Aberdeen", "Leith", "Whitby"}, {"Aberdeen", "Leith"}},
+        {{"b", "B", "a", "x"}, {"a", "b", "B"}, {"a", "b"}},
+        {{"Alone"}, {}, {}},
+        // The blank that fills a name counts.
+        {{"Port-en-Bessin", "Port Ellen", "Port", "x"},
+         {"Port", "Port Ellen", "Port-en-Bessin"},
+         {"Port", "Port Ellen"}},
+        // A letter past "~" sorts behind the overwritten entry and is the one that goes.
+        {{"\u00CEle", "Zennor", "x"}, {"Zennor", "~~~~~~~~"}, {"Zennor"}}};
+    for (const auto& [file, first, second] : rows) {
+        store(file);
+        EXPECT_EQ(sorted(), first);
+        EXPECT_EQ(sorted(), second);
+        loadportlist(list, area);
+        EXPECT_EQ(portnames(list), file);
+    }
+    loadportlist(list, folder / "nowhere.hc");
+    EXPECT_EQ(sorted(), Names{});
+}
+
+TEST_F(PortListTest, PicksByWholeNameTheLastOfEqualNames) {
+    store({"Dover", "Ryde", "Deal", "Ryde", "Ryde Pier"});
+    EXPECT_EQ(pickport(list, "17\tDover"), "Dover");
+    EXPECT_EQ(pickport(list, "  Ryde "), "Ryde");
+    for (const char* other : {"ryde", "Ryd", "", "Dover\tTown"})
+        EXPECT_EQ(pickport(list, other), std::nullopt) << other;
+    EXPECT_EQ(list.selectedport, 4);
+}
+
+TEST_F(PortListTest, SearchesAnyPartWhateverTheCaseFromHitToHit) {
+    store({"St Mary's", "Newlyn", "Saint-Malo", "\u00C9tretat", "Malin Head"});
+    EXPECT_EQ(searchfromstart(list, "MAL"), 2U);
+    EXPECT_EQ(searchnext(list, "mal"), 4U);
+    EXPECT_EQ(searchnext(list, "mal"), std::nullopt);
+    EXPECT_EQ(searchnext(list, "mal"), 2U) << "from the top again";
+    EXPECT_EQ(searchfromstart(list, "\u00E9TRE"), 3U);
+    EXPECT_EQ(searchfromstart(list, "nowhere"), std::nullopt);
+    EXPECT_EQ(searchnext(list, "mal"), 4U) << "a typed text without a hit leaves the last one";
+    EXPECT_EQ(searchfromstart(list, "newl"), 1U);
+    ASSERT_EQ(sorted().size(), 4U);
+    EXPECT_EQ(searchnext(list, "s"), 2U) << "the new order is searched from behind the old place";
+}
+
+TEST_F(PortListTest, AnEmptyTextStepsUpToAPortWithoutAName) {
+    store({"One", "Two", "", "Four"});
+    EXPECT_EQ(searchnext(list, ""), 0U);
+    EXPECT_EQ(searchnext(list, ""), 1U);
+    EXPECT_EQ(searchnext(list, ""), std::nullopt);
+    EXPECT_EQ(searchnext(list, "o"), 3U) << "neither selected nor passed";
+}
+
+}  // namespace
+}  // namespace tarvane

@@ -29,15 +29,6 @@ std::optional<HeightInputs> prepare(const PredictedPort& port, const TideDay& da
     return heightinputs(port.record, day.tidemonth, day.tideyear, baseday, port.userdepth, port.currentoutput);
 }
 
-/// Leaves a prediction without samples and layers, and why.
-void leaveundefined(Prediction& prediction, const char* whynot) {
-    prediction.defined = false;
-    prediction.whynot = whynot;
-    prediction.curvesamples.fill({});
-    for (const Constituent& constituent : constituents)
-        (prediction.*constituent.layer).fill({});
-}
-
 void storerow(Prediction& prediction, std::size_t row, double time, const HeightParts& parts) {
     prediction.curvesamples[row] = {time, parts.height};
     for (const Constituent& constituent : constituents)
@@ -51,6 +42,17 @@ void refusebrokenrecord(Prediction& prediction) {
 }
 
 }  // namespace
+
+void leaveundefined(Prediction& prediction, const char* whynot) {
+    prediction.defined = false;
+    prediction.whynot = whynot;
+    prediction.curvesamples.fill({});
+    prediction.turningpoints.fill({});
+    prediction.turningcount = 0;
+    prediction.dayrange = 0;
+    for (const Constituent& constituent : constituents)
+        (prediction.*constituent.layer).fill({});
+}
 
 PredictedPort predictedport(const Settings& settings) {
     return {readport(settings.hcfile, settings.currentport), settings.currentport,

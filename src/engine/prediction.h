@@ -24,6 +24,7 @@ struct TideDay {
     int tidemonth = 0;  ///< month of the date on show: it chooses the seasonal values for the whole curve
     std::int16_t dayofyear = 0;
     std::int16_t summer = 0;  ///< -1 when summer time applies
+    bool operator==(const TideDay&) const = default;
 };
 
 /// The port that a prediction is for, as its files have it, and what its heights include.
@@ -49,6 +50,9 @@ struct Prediction {
     PredictedPort port;       ///< what it was made for
     TideDay day;
 };
+
+/// Leaves a prediction without samples and layers, and why.
+void leaveundefined(Prediction& prediction, const char* whynot);
 
 /// Why there is no prediction.
 inline constexpr const char* noconstants = "The method has no constants for this day";

@@ -71,6 +71,7 @@ void LayersPanel::place(const QRect& area, const QRect& line) {
     const QFontMetrics metrics = Label1->fontMetrics();
     const int heading = 2 * metrics.height() + 4;
     const int pitch = (line.top() - 3 - area.top() - heading) / 7;
+    const int height = std::min(pitch - 2, metrics.height() + 6);
     const int boxwidth = rows[meanlevelplace].box->sizeHint().width() + 2;
     // Contributions end a little behind the line; the mean level's many digits take the row's whole rest.
     const int valueright = line.right() + 18;
@@ -80,9 +81,9 @@ void LayersPanel::place(const QRect& area, const QRect& line) {
     int y = area.top() + heading;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const Row& row = rows[placeinrow(i)];
-        row.box->setGeometry(area.left(), y, boxwidth, pitch - 2);
-        row.constant->setGeometry(constantleft, y, valueright - constantleft, pitch - 2);
-        row.value->setGeometry(line.left() - 8, y, valueright - line.left() + 8, pitch - 2);
+        row.box->setGeometry(area.left(), y, boxwidth, height);
+        row.constant->setGeometry(constantleft, y, valueright - constantleft, height);
+        row.value->setGeometry(line.left() - 8, y, valueright - line.left() + 8, height);
         row.value->raise();
         y += pitch;
     }

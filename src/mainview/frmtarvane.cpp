@@ -1,7 +1,7 @@
 #include "mainview/frmtarvane.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QShortcut>
 
 #include "mainview/stepping.h"
@@ -9,11 +9,18 @@
 #include "platform/qt/screentext.h"
 #include "platform/qt/twips.h"
 #include "session/loading.h"
-#include "session/refresh.h"
+#include "session/statusline.h"
 #include "session/tidecurve.h"
 #include "session/title.h"
 
 namespace tarvane {
+namespace {
+
+bool pages(const QKeyEvent& key) {
+    return key.modifiers() == Qt::NoModifier && (key.key() == Qt::Key_PageDown || key.key() == Qt::Key_PageUp);
+}
+
+}  // namespace
 
 frmtarvane::frmtarvane(Session& owner, const Services& services, QWidget* parent)
     : QMainWindow(parent),
@@ -47,19 +54,20 @@ void frmtarvane::showview() {
     const MainView& view = session.view;
     setWindowTitle(screentext(view.caption));
     const std::pair<QLabel*, const std::string*> labels[] = {
-        {portbox, &view.portbox},       {tidedatebox, &view.tidedatebox},
-        {timeval, &view.timeval},       {hiteval, &view.hiteval},
-        {lblrate, &view.lblrate},       {lblmousestatus, &view.lblmousestatus},
-        {lblSprings, &view.lblSprings}, {lblNeap, &view.lblNeap},
-        {disclaimer, &view.disclaimer}, {daystide1, &session.daytable.daystide1}};
+        {portbox, &view.portbox},       {tidedatebox, &view.tidedatebox}, {timeval, &view.timeval},
+        {hiteval, &view.hiteval},       {lblrate, &view.lblrate},         {lblmousestatus, &view.lblmousestatus},
+        {lblSprings, &view.lblSprings}, {lblNeap, &view.lblNeap},         {disclaimer, &view.disclaimer}};
     for (const auto& [label, text] : labels)
         label->setText(screentext(*text));
-    if (laidoutmode != session.layersmode) layoutcontrols();
+    if (laidoutmode != session.layersmode || laidoutlines != tablelines()) layoutcontrols();
+    showdaytable();
     layers.show(session);
     showmenus();
     Nextday->setVisible(view.stepbuttonsvisible);
     Previousday->setVisible(view.stepbuttonsvisible);
     showmonthlist();
+    refreshstatus(context);
+    statusbar->show(view);
 }
 
 void frmtarvane::showmonthlist() {
@@ -94,6 +102,7 @@ void frmtarvane::connectcontrols() {
     hitelabel->installEventFilter(this);
     hiteval->installEventFilter(this);
     layers.Label1->installEventFilter(this);
+    monthspredictions->installEventFilter(this);
 }
 
 void frmtarvane::picture_resized() {
@@ -153,6 +162,11 @@ bool frmtarvane::event(QEvent* event) {
 }
 
 bool frmtarvane::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == monthspredictions) {
+        // The list's own paging comes before the stepping of days.
+        if (event->type() == QEvent::ShortcutOverride && pages(static_cast<QKeyEvent&>(*event))) event->accept();
+        return QMainWindow::eventFilter(watched, event);
+    }
     const bool onlabel = watched == layers.Label1;
     if (event->type() == (onlabel ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress)) {
         (onlabel ? showspecial : showsteps)(session);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "mainview/frmlayerspanel.h"
+#include "mainview/frmstatusbar.h"
 #include "mainview/menus.h"
 #include "mainview/readouts.h"
 #include "platform/qt/picturebox.h"
@@ -38,7 +39,9 @@ class frmtarvane : public QMainWindow {
     QLabel *timelabel = nullptr, *timeval = nullptr, *hitelabel = nullptr, *hiteval = nullptr;
     QLabel *lblrate = nullptr, *lblmousestatus = nullptr, *lblSprings = nullptr, *lblNeap = nullptr;
     QPushButton *Previousday = nullptr, *Nextday = nullptr;
+    QLabel* daystide2 = nullptr;  ///< the rows of the day table that its first column has no room for
     QListWidget* monthspredictions = nullptr;
+    StatusBar* statusbar = nullptr;
     LayersPanel layers;
     QTimer* Timer1 = nullptr;
     QTimer* Timer2 = nullptr;
@@ -57,6 +60,8 @@ class frmtarvane : public QMainWindow {
     void connectcontrols();
     void layoutcontrols();
     void layoutrightcolumn(int left, int width);
+    void showdaytable();
+    int tablelines() const;
     void placecontrols();
     void picture_resized();
     void redrawresized();
@@ -87,6 +92,7 @@ class frmtarvane : public QMainWindow {
     std::vector<Switched> switched;
     FirstDrawing firstdrawing;
     int laidoutmode = 0;                   ///< the layers mode that the layout was made for
+    int laidoutlines = 0;                  ///< and the lines of its day table
     std::vector<std::string> listedmonth;  ///< what `monthspredictions` was filled with
     bool loaded = false;
     bool layingout = false;  ///< the controls are being placed: resized pictures wait

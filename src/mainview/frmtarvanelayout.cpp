@@ -2,6 +2,7 @@
 #include "mainview/frmtarvane.h"
 #include "mainview/layersview.h"
 #include "platform/qt/named.h"
+#include "platform/qt/screentext.h"
 #include "platform/qt/twips.h"
 
 namespace tarvane {
@@ -10,6 +11,9 @@ namespace {
 constexpr int toldheight = 7400;
 constexpr int pictureheight = 3415;
 constexpr Colour boxgrey = 0xE0E0E0;
+
+/// Lines of the day table over its rows.
+constexpr int headinglines = 3;
 
 void setbackground(QWidget* widget, Colour colour) {
     QPalette palette = widget->palette();
@@ -50,6 +54,11 @@ void frmtarvane::buildlayout() {
     daystide1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     daystide1->setMargin(6);
     setbackground(daystide1, boxgrey);
+    daystide2 = namedlabel("daystide2", surface);
+    daystide2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    daystide2->setMargin(6);
+    statusbar = new StatusBar(this);
+    setStatusBar(statusbar);
     QFont bold = font();
     bold.setBold(true);
     for (QLabel* label : {portbox, tidedatebox, timeval, hiteval})
@@ -107,34 +116,59 @@ void frmtarvane::placecontrols() {
     lblSprings->setGeometry(margin, y, endwidth, row);
     pctSpringsStatus->setGeometry(margin + endwidth, y + 2, curvewidth - 2 * endwidth, row - 4);
     lblNeap->setGeometry(margin + curvewidth - endwidth + 8, y, endwidth, row);
-    const int disclaimertop = surface->height() - 2 * row - 6;
-    disclaimer->setGeometry(margin, disclaimertop, width - 2 * margin, 2 * row);
+    const int disclaimerheight = 2 * fontMetrics().lineSpacing() + 2;
+    const int disclaimertop = surface->height() - disclaimerheight;
+    disclaimer->setGeometry(margin, disclaimertop, width - 2 * margin, disclaimerheight);
     const int left = margin + curvewidth + width / 50;
     const int buttonheight = Nextday->sizeHint().height();
     const int buttonwidth = (width - left - margin - 8) / 2;
-    const int buttontop = disclaimertop - buttonheight - 4;
+    const int buttontop = disclaimertop - buttonheight - 2;
     Previousday->setGeometry(left, buttontop, buttonwidth, buttonheight);
     Nextday->setGeometry(left + buttonwidth + 8, buttontop, buttonwidth, buttonheight);
     layoutrightcolumn(left, width - left - margin);
 }
 
+/// Lines of the day table beside the constituents: its rows stand in two columns there, and twelve have room always.
+int frmtarvane::tablelines() const {
+    return headinglines + std::max(6, (session.prediction.turningcount + 1) / 2);
+}
+
 void frmtarvane::layoutrightcolumn(int left, int width) {
     const int top = tidedatebox->y();
     laidoutmode = session.layersmode;
+    laidoutlines = tablelines();
     const bool withlayers = laidoutmode == 1;
-    // The day's table has the column to itself, and larger letters, while the constituents are away.
-    QFont tablefont = font();
-    if (!withlayers) tablefont.setPointSizeF(tablefont.pointSizeF() * 1.3);
-    daystide1->setFont(tablefont);
     const int picturebottom = Picture1->y() + Picture1->height();
-    const int tableheight = withlayers ? 9 * fontMetrics().height() + 12 : picturebottom - top;
+    const int tableheight = withlayers ? tablelines() * fontMetrics().height() + 12 : picturebottom - top;
     daystide1->setGeometry(left, top, width, tableheight);
     const QRect closingline(surface->width() * 7920 / 9720, twips(5400) + (height() - twips(toldheight)), twips(1080),
-                            1);
+                            3);
     const QRect table(left, top + tableheight + 4, width, closingline.top() - top - tableheight - 4);
     if (withlayers) layers.place(table, closingline);
     const int listheight = picturebottom - top + Nextday->height() / 2;
     monthspredictions->setGeometry(left, top, width, listheight);
+    showdaytable();
+}
+
+/// The day's table with all its rows: in large letters where the column is its own and they have room, else in smaller
+/// ones, and in two columns when even these don't.
+void frmtarvane::showdaytable() {
+    const QStringList lines = screentext(session.daytable.daystide1).split('\n');
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    const int room = daystide1->height() - 2 * daystide1->margin();
+    const auto fits = [&](const QFont& font) { return lines.size() * QFontMetrics(font).lineSpacing() <= room; };
+    const QFont used = laidoutmode == 0 && fits(large) ? large : font();
+    const qsizetype capacity = std::max(room / QFontMetrics(used).lineSpacing(), headinglines + 1);
+    daystide1->setFont(used);
+    daystide2->setFont(used);
+    daystide1->setText(lines.first(std::min(lines.size(), capacity)).join('\n'));
+    const QStringList rest = lines.mid(capacity);
+    daystide2->setText(rest.join('\n'));
+    daystide2->setVisible(!rest.isEmpty() && !session.view.monthvisible);
+    const int headings = headinglines * QFontMetrics(used).lineSpacing();
+    daystide2->setGeometry(daystide1->x() + daystide1->width() / 2, daystide1->y() + headings, daystide1->width() / 2,
+                           daystide1->height() - headings);
 }
 
 }  // namespace tarvane

@@ -64,6 +64,7 @@ void frmtarvane::buildmenus() {
 void frmtarvane::choose(const MenuEntry& entry) {
     if (!entry.command) return;
     Desk desk{context, [this](Dialog dialog) { opendialog(dialog); }, [this] { close(); }};
+    session.view.answer.clear();
     if (entry.slow) QApplication::setOverrideCursor(Qt::WaitCursor);
     entry.command(desk);
     if (entry.slow) QApplication::restoreOverrideCursor();

@@ -19,6 +19,8 @@ bool constituentsmove(Session& session, DrawSurface& picture, std::size_t i, dou
     session.markertime = x;
     drawmarkerline(session, picture);
     session.layervalues = layerreadout(prediction, i);
+    session.layersday = prediction.day;
+    session.layersport = prediction.port.number;
     session.view.hiteval = session.layervalues.sum;
     return true;
 }

@@ -1,5 +1,6 @@
 #include "output/curvepicture.h"
 
+#include <algorithm>
 #include <sstream>
 
 #include "text/numbers.h"
@@ -89,6 +90,8 @@ void drawnote(DrawSurface& picture, const CurveLimits& limits, const std::string
     std::istringstream rows(lines);
     const double pitch = (limits.curvetop - limits.curvebottom) / 10;
     double y = limits.curvetop - 3 * pitch;
+    const auto count = 1 + std::count(lines.begin(), lines.end(), '\n');
+    picture.box(0.5, y + pitch / 2, 23.5, y - static_cast<double>(count) * pitch, white);
     for (std::string row; std::getline(rows, row); y -= pitch)
         picture.text(1, y, row);
 }

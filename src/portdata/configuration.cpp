@@ -47,14 +47,23 @@ bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record) {
     return SaveConfig(folders, record);
 }
 
+ConfigRecord readconfig(const ProgramFolders& folders) {
+    ConfigRecord record = LoadConfig(folders);
+    const std::string stored = trim(record.hcfilepath);
+    // A record that another system wrote may hold a path with the other separator.
+    const std::string beside = folders.programfolder + "/" + stored.substr(stored.find_last_of("/\\") + 1);
+    if (!canopen(stored) && canopen(beside)) record.hcfilepath = beside;
+    return record;
+}
+
 void loadsettings(const ProgramFolders& folders, Settings& settings) {
     const bool unwritable = !canopen(folders.cfgpath()) && !CreateDefaultConfig(folders, settings.configrec);
-    if (!unwritable) settings.configrec = LoadConfig(folders);
+    if (!unwritable) settings.configrec = readconfig(folders);
     takesettings(settings);
 }
 
 void rereadconfig(const ProgramFolders& folders, Settings& settings) {
-    if (canopen(folders.cfgpath())) settings.configrec = LoadConfig(folders);
+    if (canopen(folders.cfgpath())) settings.configrec = readconfig(folders);
 }
 
 bool changeconfig(const ProgramFolders& folders, Settings& settings, const std::function<void(ConfigRecord&)>& change) {

@@ -56,6 +56,10 @@ bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record);
 /// all module values from it.
 void loadsettings(const ProgramFolders& folders, Settings& settings);
 
+/// The record as it stands in the file, its area file looked up: when the stored one is gone (the program's folder has
+/// moved), one of that name in the program's folder takes its place.
+ConfigRecord readconfig(const ProgramFolders& folders);
+
 /// The one way to read the configuration while the program runs: `settings.configrec` becomes the record as it stands
 /// in the file now. When the file has vanished, what was read or written last stays.
 void rereadconfig(const ProgramFolders& folders, Settings& settings);

@@ -1,6 +1,7 @@
 #include "session/refresh.h"
 
 #include "dates/summertime.h"
+#include "files/wholefiles.h"
 #include "portdata/recordfiles.h"
 #include "session/tidecurve.h"
 #include "session/title.h"
@@ -39,6 +40,8 @@ std::int16_t predictdayonshow(Session& session) {
     const TideDay day{static_cast<int>(onshow.tideyear), static_cast<int>(onshow.tidemonth),
                       static_cast<std::int16_t>(onshow.tidedayofyear), shift};
     predictday(session.settings, day, session.prediction);
+    if (!canopen(session.settings.hcfile)) leaveundefined(session.prediction, noareafile);
+    if (!session.prediction.defined) session.layervalues = {};
     session.settings.userdepth = session.prediction.port.userdepth;
     findturningpoints(session.prediction);
     buildpredictiontext(session.daytable, session.prediction, session.prediction.turningcount, session.port.portname,
@@ -48,6 +51,8 @@ std::int16_t predictdayonshow(Session& session) {
 
 void refreshsun(Session& session, std::int16_t shift) {
     const DateOnShow& onshow = session.onshow;
+    session.sunof = {static_cast<int>(onshow.tideday), static_cast<int>(onshow.tidemonth),
+                     static_cast<int>(onshow.tideyear), session.port.portlat, session.port.portlong};
     session.sun =
         SunTimes(session.port.portlat, session.port.portlong, static_cast<int>(onshow.tideday),
                  static_cast<int>(onshow.tidemonth), static_cast<int>(onshow.tideyear), shift, session.port.zonehours);
@@ -61,8 +66,12 @@ void takecurrentport(Session& session, bool trimname) {
     session.port.zonehours = zonehoursof(record);
 }
 
+std::string portboxof(const std::string& name) {
+    return "Port    : " + name;
+}
+
 void setportbox(Session& session) {
-    session.view.portbox = "Port    : " + session.port.portname;
+    session.view.portbox = portboxof(session.port.portname);
 }
 
 std::string accuracyfirst(const std::string& correction) {

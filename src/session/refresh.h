@@ -18,13 +18,19 @@ std::int16_t redrawday(MainContext& context);
 /// The first prediction of the sequence alone: summer shift, day, turning points and day table. Returns the shift.
 std::int16_t predictdayonshow(Session& session);
 
+/// Why there is no prediction when the sea area's file is gone.
+inline constexpr const char* noareafile = "The sea area's file can't be found";
+
 /// Sun times of the date on show at the current port into the session.
 void refreshsun(Session& session, std::int16_t shift);
 
 /// Makes the port of `settings.currentport` current: its name, place and zone. The name is trimmed or left as read.
 void takecurrentport(Session& session, bool trimname);
 
-/// "Port    : " and the port's name into the port line.
+/// The port line for a name, "Port    : " and the name.
+std::string portboxof(const std::string& name);
+
+/// The current port's name into the port line.
 void setportbox(Session& session);
 
 /// Two lines: on accuracy and on time correction, in the order of the dialogs (accuracy first).

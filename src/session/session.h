@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "dates/calendar.h"
 #include "dates/dateformats.h"
@@ -29,6 +31,9 @@ struct MainView {
     std::string timeval, hiteval, lblrate, lblmousestatus;
     std::string lblSprings, lblNeap;
     std::string disclaimer;
+    std::string statusline;           ///< what tides these are, told by the prediction alone
+    std::vector<std::string> notes;   ///< where something on show differs from it
+    std::string answer;               ///< what the last command did
     bool topmenusenabled = true;      ///< mnutides, mnuCalc, mnuconfig
     bool specialvisible = false;      ///< mnuSpecial
     bool maintenancevisible = false;  ///< mnumaintenance and mnumaintainfile
@@ -46,6 +51,13 @@ struct LayerReadout {
     std::string sum;
 };
 
+/// The day and the place that sun times are for; the day's numbers may be no date.
+struct SunOf {
+    int day = 0, month = 0, year = 0;
+    float latitude = 0, longitude = 0;
+    bool operator==(const SunOf&) const = default;
+};
+
 struct Session {
     ProgramFolders folders;
     Settings settings;
@@ -58,7 +70,9 @@ struct Session {
     SunTable suntable;
     LunarTexts lunar;
     CurveOnShow curve;
-    SunHours sun;  ///< `sunrisehour` and `sunsethour` are its sunrise and sunset
+    SunHours sun;    ///< `sunrisehour` and `sunsethour` are its sunrise and sunset
+    SunOf sunof;     ///< what `sun` is for
+    SunOf sundrawn;  ///< what the dashed lines in the picture are for
     MainView view;
 
     double timenow = 0;    ///< clock time as hours + minutes/60; where the red marker stands
@@ -70,6 +84,8 @@ struct Session {
     bool showconstants = false;
     LayerChoice layers{};
     LayerReadout layervalues;
+    TideDay layersday;  ///< what `layervalues` were read off
+    std::int16_t layersport = 0;
 };
 
 /// The surfaces that the main window is drawn on. The window's own surface is scaled in twips; the picture's place on

@@ -6,6 +6,7 @@
 
 #include "engine/springs.h"
 #include "output/curvepicture.h"
+#include "session/refresh.h"
 #include "text/numbers.h"
 #include "text/timetext.h"
 
@@ -40,6 +41,12 @@ void drawhourlabels(MainSurfaces& surfaces) {
 void drawspringsbar(Session& session, DrawSurface& bar) {
     const std::optional<double> lag = findspringslag(session.prediction);
     MainView& view = session.view;
+    if (!session.prediction.defined) {
+        // A day without a prediction stands nowhere between springs and neaps: a lag that no status belongs to.
+        session.curve.springslag = -1;
+        bar.setpersistent(true);
+        bar.clear();
+    }
     if (!lag) {
         view.lblNeap.clear();
         view.lblSprings.clear();
@@ -64,6 +71,14 @@ void finishpicture(Session& session, MainSurfaces& surfaces) {
     drawspringsbar(session, surfaces.bar);
 }
 
+/// Where the curve would be: why there is none, and what to do where the user can.
+void drawwhynot(const Session& session, DrawSurface& picture) {
+    std::string lines = std::string("No prediction\n") + session.prediction.whynot;
+    if (session.prediction.whynot == noareafile)
+        lines += ":\n" + session.settings.hcfile + "\nChoose one with Select Port, Sea Area, or put it back.";
+    drawnote(picture, limitsof(session.curve), lines);
+}
+
 void drawconstituents(Session& session, MainSurfaces& surfaces) {
     DrawSurface& picture = surfaces.picture;
     const Prediction& prediction = session.prediction;
@@ -73,6 +88,7 @@ void drawconstituents(Session& session, MainSurfaces& surfaces) {
     drawseries(picture, prediction.curvesamples, prediction.samplecount, black);
     drawlayers(picture, prediction, session.layers);
     drawgrid(picture, limitsof(session.curve), " Metres");
+    if (!prediction.defined) drawwhynot(session, picture);
     finishpicture(session, surfaces);
 }
 
@@ -93,10 +109,12 @@ void drawtidecurve(Session& session, MainSurfaces& surfaces) {
         if (series.dotted) drawdots(picture, series.curve2, prediction.samplecount, black);
     }
     drawgrid(picture, limitsof(session.curve), "M");
+    if (!prediction.defined) drawwhynot(session, picture);
     finishpicture(session, surfaces);
 }
 
-void drawsunlines(const Session& session, DrawSurface& picture) {
+void drawsunlines(Session& session, DrawSurface& picture) {
+    session.sundrawn = session.sunof;
     drawsunlines(picture, limitsof(session.curve), session.sun);
 }
 

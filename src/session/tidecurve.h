@@ -11,7 +11,7 @@ namespace tarvane {
 void drawtidecurve(Session& session, MainSurfaces& surfaces);
 
 /// The dashed lines at sunrise and sunset, with their names.
-void drawsunlines(const Session& session, DrawSurface& picture);
+void drawsunlines(Session& session, DrawSurface& picture);
 
 /// The red line at `timenow`, and the readout of that moment.
 void drawtimemarker(Session& session, DrawSurface& picture);

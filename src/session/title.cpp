@@ -36,7 +36,8 @@ void rewritetitle(Session& session, const Clock& clock) {
     const std::size_t i = sampleindex(now.hour + now.minute / 60.0, prediction.samplecount);
     const Tendency tendency = tendencyat(prediction, i);
     session.cursorheight = tendency.near.height;
-    if (!tendency.rate) return;
+    if (!prediction.defined) session.view.caption = programcaption() + "     [No prediction]";
+    if (!tendency.rate || !prediction.defined) return;
     session.view.caption = programcaption() + "     [Time Now " + twodigits(now.hour) + ":" + twodigits(now.minute) +
                            " : Height = " + heighttext(prediction.curvesamples[i].height) + "M. : " + tendency.word +
                            " @ " + format(*tendency.rate, "0.0") + " Mtrs/Hr]";

@@ -4,9 +4,11 @@
 #include <memory>
 
 #include "mainview/frmtarvane.h"
+#include "mainview/menus.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/qtservices.h"
 #include "shell/frmconditions.h"
+#include "text/programcaption.h"
 
 int main(int argc, char** argv) {
     using namespace tarvane;
@@ -27,6 +29,7 @@ int main(int argc, char** argv) {
         window->show();
         conditions.hide();
     };
+    conditions.onhelp = [&] { services.messages.show(helptext(), programname, MessageIcon::information); };
     conditions.ondeclined = [] { QApplication::exit(0); };
     conditions.show();
     return QApplication::exec();

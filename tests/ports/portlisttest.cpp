@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include <tuple>
 
 #include "fakes/temporaryfolder.h"

@@ -137,6 +137,64 @@ TEST_F(FrmTarvane, ConstituentsComeAndGo) {
     EXPECT_EQ(window.monthspredictions->verticalScrollBar()->value(), 0);
 }
 
+TEST_F(FrmTarvane, EveryWaterIsSeenInBothViews) {
+    const auto rowsshown = [&] {
+        QStringList rows;
+        for (const QLabel* part : {window.daystide1, window.daystide2}) {
+            if (!part->isVisible()) continue;
+            rows << part->text().split('\n');
+            const int height = static_cast<int>(part->text().count('\n') + 1) * part->fontMetrics().lineSpacing();
+            EXPECT_LE(height, part->height() - 2 * part->margin()) << part->text().toStdString();
+        }
+        return rows;
+    };
+    for (int waters = 0; waters <= 15; ++waters) {
+        Prediction& prediction = session.prediction;
+        prediction.turningcount = waters;
+        for (int i = 1; i <= waters; ++i)
+            prediction.turningpoints[static_cast<std::size_t>(i)] = {i + 0.5, i + 0.1};
+        buildpredictiontext(session.daytable, prediction, waters, "Alder Quay", session.onshow);
+        for (const int mode : {0, 1, 0}) {
+            session.layersmode = mode;
+            for (const QSize size : {window.minimumSize(), QSize(900, 600)}) {
+                window.resize(size);
+                window.showview();
+                EXPECT_EQ(rowsshown().size(), 3 + waters) << mode;
+                EXPECT_EQ(rowsshown().filter("15:30").size(), waters == 15 ? 1 : 0);
+            }
+        }
+    }
+}
+
+TEST_F(FrmTarvane, TheStatusBarTellsTidesAnswersAndNotes) {
+    EXPECT_EQ(window.statusbar->statusline->text(),
+              "Tides of Alder Quay (1), Tuesday 9 April 2024, UT, heights above chart datum");
+    EXPECT_EQ(window.statusbar->statusnotes->text(), "");
+    QTest::mouseClick(window.Nextday, Qt::LeftButton);
+    EXPECT_EQ(window.statusbar->statusnotes->text(),
+              "NOTE: copies are dated 9/4/2024; the sun's lines are of 9/4/2024");
+    session.view.answer = "Copied";
+    session.port.portname = std::string(35, 'W');
+    window.showview();
+    EXPECT_TRUE(window.statusbar->statusnotes->text().startsWith("Copied. NOTE: copies and "));
+    EXPECT_TRUE(window.statusbar->statusnotes->text().endsWith("and 2 more"));
+    EXPECT_TRUE(window.statusbar->statusnotes->toolTip().endsWith("the sun's lines are of 9/4/2024"));
+    choose("mnuLayersShow");
+    EXPECT_FALSE(window.statusbar->statusnotes->text().contains("Copied"));
+}
+
+TEST_F(FrmTarvane, PageKeysBelongToTheMonthListWhileItHasTheFocus) {
+    choose("mnumonth");
+    window.monthspredictions->setFocus();
+    window.monthspredictions->setCurrentRow(0);
+    QTest::keyClick(window.monthspredictions, Qt::Key_PageDown);
+    EXPECT_GT(window.monthspredictions->currentRow(), 5);
+    EXPECT_EQ(session.onshow.tidedayofyear, 100);
+    window.Nextday->setFocus();
+    QTest::keyClick(window.Nextday, Qt::Key_PageDown);
+    EXPECT_EQ(session.onshow.tidedayofyear, 101);
+}
+
 TEST_F(FrmTarvane, AStretchedWindowIsDrawnAnew) {
     movemouse(4.7);
     QTest::mouseClick(window.Picture1, Qt::LeftButton, {}, QPoint(100, 40));

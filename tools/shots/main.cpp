@@ -105,11 +105,28 @@ void takelayers(Album& album, Stage& stage) {
     stage.settle();
 }
 
+/// The day table's fullest day, in both views, and what the status bar says of steps and of a renamed port.
+void takestatus(Album& album, Stage& stage) {
+    frmtarvane& window = stage.window();
+    stage.show(7, makedate(2026, 11, 25));
+    album.take(window, "frmtarvane-many-waters");
+    window.menuentry("mnuLayersShow")->trigger();
+    stage.settle();
+    album.take(window, "frmtarvane-many-waters-constituents");
+    window.menuentry("mnuLayersShow")->trigger();
+    stage.show(77, makedate(2026, 7, 31));
+    stage.sessiononstage().port.portname = "Dover";
+    window.Nextday->click();
+    album.take(window, "frmtarvane-notes");
+    stage.show(77, makedate(2026, 7, 14));
+}
+
 void takeeverything(Album& album, const std::string& area) {
     const ClockReading at{makedate(2026, 7, 14), 14, 32, 0};
     Stage stage(area, at);
     takeday(album, stage);
     takelayers(album, stage);
+    takestatus(album, stage);
     MainContext context = stage.context();
     calculatemonth(context);
     stage.window().showview();

@@ -1,0 +1,124 @@
+#include "session/statusline.h"
+
+#include "dates/dateformats.h"
+#include "dates/summertime.h"
+#include "portdata/recordfiles.h"
+#include "session/refresh.h"
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+/// The day that the samples are of, by what the prediction was asked for.
+Date dateof(const TideDay& day) {
+    return makedate(day.tideyear, 1, 1) + std::chrono::days{day.dayofyear - 1};
+}
+
+bool shifted(const Prediction& prediction) {
+    return prediction.day.summer == -1;
+}
+
+std::string portof(const PredictedPort& port) {
+    const std::string name = trimmedname(port.record);
+    const std::string number = numbertext(int{port.number});
+    return name.empty() ? "port " + number + " (not in the sea area)" : name + " (" + number + ")";
+}
+
+std::string zoneof(const Prediction& prediction) {
+    const std::string& letter = prediction.port.record.TimeZoneLetter;
+    const bool known = letter.size() == 1 && letter[0] >= 'A' && letter[0] <= 'W';
+    const int ahead = -zonehoursof(prediction.port.record) + (shifted(prediction) ? 1 : 0);
+    std::string text = "the port's zone time";
+    if (known) text = ahead == 0 ? "UT" : (ahead > 0 ? "UT+" : "UT") + numbertext(ahead);
+    return text + (shifted(prediction) ? " (summer time)" : "");
+}
+
+std::string heightsof(const PredictedPort& port) {
+    if (port.currentoutput == 1 || port.userdepth == 0) return "heights above chart datum";
+    return "heights over your depth of " + format(port.userdepth, "0.0#") + " m";
+}
+
+void noteport(const Session& session, std::vector<std::string>& notes) {
+    const std::string name = trimmedname(session.prediction.port.record);
+    if (trim(session.view.portbox) != trim(portboxof(name)))
+        notes.emplace_back("the name above is another port's");
+    else if (trim(session.port.portname) != name)
+        notes.push_back("copies and files are named " + trim(session.port.portname));
+}
+
+void noteheights(const Session& session, std::vector<std::string>& notes) {
+    const PredictedPort& port = session.prediction.port;
+    const Settings& settings = session.settings;
+    const bool datum = port.currentoutput == 1;
+    if (datum != (settings.currentoutput == 1) || (!datum && settings.userdepth != port.userdepth))
+        notes.emplace_back("these heights are not yet those of the settings");
+}
+
+/// The date that the clipboard's texts carry, which steps of the day leave behind.
+void notecopies(const Session& session, Date date, std::vector<std::string>& notes) {
+    const DateOnShow& onshow = session.onshow;
+    if (onshow.tideday != dayof(date) || onshow.tidemonth != monthof(date) || onshow.tideyear != yearof(date))
+        notes.push_back("copies are dated " + slashdate(onshow.tideday, onshow.tidemonth, onshow.tideyear));
+}
+
+void notemonth(const Session& session, const Locale& locale, Date date, std::vector<std::string>& notes) {
+    const int month = session.prediction.day.tidemonth;
+    if (month != monthof(date) && month >= 1 && month <= 12)
+        notes.push_back("the month's corrections are those of " + locale.monthname(month));
+}
+
+/// The contributions beside the constituents stay those of the last mouse move.
+void notelayers(const Session& session, std::vector<std::string>& notes) {
+    const Prediction& prediction = session.prediction;
+    const bool shown = session.layersmode == 1 && !session.layervalues.sum.empty();
+    if (shown && (session.layersday != prediction.day || session.layersport != prediction.port.number))
+        notes.emplace_back("the contributions are an earlier curve's");
+}
+
+void notesun(const Session& session, Date date, std::vector<std::string>& notes) {
+    const SunOf& drawn = session.sundrawn;
+    const HarmonicRecord& port = session.prediction.port.record;
+    if (drawn.latitude != port.PortLat || drawn.longitude != port.PortLong)
+        notes.emplace_back("the sun's lines are another port's");
+    else if (drawn.day != dayof(date) || drawn.month != monthof(date) || drawn.year != yearof(date))
+        notes.push_back("the sun's lines are of " + slashdate(drawn.day, drawn.month, drawn.year));
+}
+
+/// The texts that are saved and copied name the kind of time by the month's number.
+void notetime(const Session& session, std::vector<std::string>& notes) {
+    const bool named =
+        session.settings.currentsummer != 0 && session.onshow.tidemonth >= 4 && session.onshow.tidemonth <= 10;
+    if (session.prediction.defined && named != shifted(session.prediction))
+        notes.push_back(std::string("texts call these times ") + (named ? "Summer Time" : "Standard Time"));
+}
+
+}  // namespace
+
+std::string statusline(const Prediction& prediction, const Locale& locale) {
+    const std::string what =
+        portof(prediction.port) + ", " + formatdate(locale, dateof(prediction.day), "dddd d mmmm yyyy");
+    if (!prediction.defined) return "No tides of " + what + ": " + prediction.whynot;
+    return "Tides of " + what + ", " + zoneof(prediction) + ", " + heightsof(prediction.port);
+}
+
+std::vector<std::string> statusnotes(const Session& session, const Locale& locale) {
+    std::vector<std::string> notes;
+    const Date date = dateof(session.prediction.day);
+    noteport(session, notes);
+    noteheights(session, notes);
+    notecopies(session, date, notes);
+    notemonth(session, locale, date, notes);
+    notetime(session, notes);
+    notelayers(session, notes);
+    notesun(session, date, notes);
+    return notes;
+}
+
+void refreshstatus(MainContext& context) {
+    MainView& view = context.session.view;
+    view.statusline = statusline(context.session.prediction, context.services.locale);
+    view.notes = statusnotes(context.session, context.services.locale);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,22 @@
+// The line under the main window that tells what tides are on show, made of the prediction alone, and the notes beside
+// it where something else on show differs. Must never read a text off the screen to tell what was predicted.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "session/session.h"
+
+namespace tarvane {
+
+/// "Tides of Lerwick (30), Saturday 28 November 2026, UT+1 (summer time), heights above chart datum", or why there are
+/// none.
+std::string statusline(const Prediction& prediction, const Locale& locale);
+
+/// What on show is not of this prediction, a clause each, the gravest first; none when all agree.
+std::vector<std::string> statusnotes(const Session& session, const Locale& locale);
+
+/// Brings line and notes in the view up to date.
+void refreshstatus(MainContext& context);
+
+}  // namespace tarvane

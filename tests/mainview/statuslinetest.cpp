@@ -1,0 +1,127 @@
+#include "session/statusline.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "fakes/mainfixture.h"
+#include "mainview/layersview.h"
+#include "mainview/readouts.h"
+#include "mainview/stepping.h"
+#include "ports/programsettings.h"
+#include "ports/usernotes.h"
+#include "session/refresh.h"
+
+namespace tarvane::tests {
+namespace {
+
+struct StatusLine : testing::Test, protected MainFixture {
+    StatusLine() {
+        load();
+        // Port 2, zone M, is the one that the traps lead to.
+        UserDepthRecord record = readdepth(session.settings.depfile, 2);
+        record.UserDepth = -2;
+        writedepth(session.settings.depfile, 2, record);
+    }
+
+    std::string line() const { return statusline(session.prediction, scripted.locale); }
+
+    std::string notes() {
+        std::string all;
+        for (const std::string& note : statusnotes(session, scripted.locale))
+            all += note + "|";
+        return all;
+    }
+};
+
+TEST_F(StatusLine, TellsThePredictionAndNothingElse) {
+    EXPECT_EQ(line(), "Tides of Alder Quay (1), Tuesday 9 April 2024, UT, heights above chart datum");
+    session.settings.summerflag2 = session.settings.currentsummer = -1;
+    nextport(context);
+    EXPECT_EQ(line(),
+              "Tides of Birch Sound (2), Tuesday 9 April 2024, UT+2 (summer time), heights over your depth of -2.0 m");
+    // Whatever the screen and the settings say from here on.
+    session.port.portname = "Elsewhere";
+    session.view.tidedatebox = "Date   : never";
+    session.settings.currentoutput = 1;
+    session.onshow = {};
+    EXPECT_EQ(line(),
+              "Tides of Birch Sound (2), Tuesday 9 April 2024, UT+2 (summer time), heights over your depth of -2.0 m");
+}
+
+TEST_F(StatusLine, ADayWithoutTidesSaysWhy) {
+    scripted.clock.reading.today = makedate(1990, 1, 2);
+    load();
+    EXPECT_EQ(line(), "No tides of Alder Quay (1), Tuesday 2 January 1990: The method has no constants for this day");
+    std::filesystem::remove(area());
+    load();
+    EXPECT_EQ(line(),
+              "No tides of port 1 (not in the sea area), Tuesday 2 January 1990: The sea area's file can't be found");
+    EXPECT_NE(ScriptedSurface::log(picture.persistentlayer).find("Sea Area, or put it back"), std::string::npos);
+}
+
+TEST_F(StatusLine, NotesEachTrap) {
+    EXPECT_EQ(notes(), "");
+    nextday(context);
+    EXPECT_EQ(notes(), "copies are dated 9/4/2024|the sun's lines are of 9/4/2024|");
+    session.onshow.tidedate = makedate(2024, 5, 1);
+    session.onshow.tidemonth = 5;
+    previousday(context);
+    EXPECT_EQ(line().substr(0, 46), "Tides of Alder Quay (1), Tuesday 30 April 2024");
+    EXPECT_NE(notes().find("the month's corrections are those of May|"), std::string::npos);
+}
+
+TEST_F(StatusLine, NotesAnotherPortsNameAndSun) {
+    UserNotes shown = loadusernotes(context);
+    pickandnameport(session, shown, 2);
+    EXPECT_EQ(notes(), "copies and files are named Cedar Head|");
+    closeusernotes(context);
+    EXPECT_EQ(line().substr(0, 24), "Tides of Alder Quay (1),");
+    EXPECT_EQ(notes(), "the name above is another port's|");
+    nextport(context);
+    EXPECT_EQ(notes(), "") << "all ports of this area lie at one place";
+    session.sundrawn.latitude = 1;
+    EXPECT_EQ(notes(), "the sun's lines are another port's|");
+}
+
+TEST_F(StatusLine, NotesSettingsNotYetInTheHeights) {
+    nextport(context);
+    ProgramOptions options = openoptions(session);
+    EXPECT_EQ(session.settings.currentport, 1) << "the settings go back to the port left";
+    chooseoutput(session, options, 1);
+    EXPECT_EQ(notes(), "these heights are not yet those of the settings|");
+    EXPECT_EQ(line().substr(0, 25), "Tides of Birch Sound (2),");
+    confirmoptions(context, options);
+    EXPECT_EQ(line().substr(0, 24), "Tides of Alder Quay (1),");
+    EXPECT_EQ(notes(), "the name above is another port's|");
+}
+
+TEST_F(StatusLine, NotesTextsThatNameTheTimeByTheMonth) {
+    session.settings.summerflag2 = session.settings.currentsummer = -1;
+    const struct {
+        Date date;
+        const char* note;
+    } rows[] = {{makedate(2024, 3, 30), ""},
+                {makedate(2024, 3, 31), "texts call these times Standard Time|"},
+                {makedate(2024, 10, 26), ""},
+                {makedate(2024, 10, 27), "texts call these times Summer Time|"}};
+    for (const auto& row : rows) {
+        setdateonshow(session.onshow, row.date);
+        refreshday(context);
+        redrawday(context);
+        EXPECT_EQ(notes(), row.note) << line();
+    }
+}
+
+TEST_F(StatusLine, NotesContributionsOfAnEarlierCurve) {
+    togglelayers(context);
+    picturemousemove(session, picture, 6);
+    EXPECT_EQ(notes().find("contributions"), std::string::npos);
+    nextday(context);
+    EXPECT_NE(notes().find("the contributions are an earlier curve's|"), std::string::npos);
+    picturemousemove(session, picture, 6);
+    EXPECT_EQ(notes().find("contributions"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tarvane::tests

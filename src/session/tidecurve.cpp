@@ -63,20 +63,21 @@ void drawspringsbar(Session& session, DrawSurface& bar) {
     view.lblNeap = towardsneaps ? "Neaps" : "Springs ";
 }
 
-/// What the curve and the constituents view end with.
-void finishpicture(Session& session, MainSurfaces& surfaces) {
-    drawhourlabels(surfaces);
-    drawsunlines(session, surfaces.picture);
-    surfaces.picture.setpersistent(false);
-    drawspringsbar(session, surfaces.bar);
-}
-
 /// Where the curve would be: why there is none, and what to do where the user can.
 void drawwhynot(const Session& session, DrawSurface& picture) {
     std::string lines = std::string("No prediction\n") + session.prediction.whynot;
     if (session.prediction.whynot == noareafile)
         lines += ":\n" + session.settings.hcfile + "\nChoose one with Select Port, Sea Area, or put it back.";
     drawnote(picture, limitsof(session.curve), lines);
+}
+
+/// What the curve and the constituents view end with.
+void finishpicture(Session& session, MainSurfaces& surfaces) {
+    drawhourlabels(surfaces);
+    drawsunlines(session, surfaces.picture);
+    if (!session.prediction.defined) drawwhynot(session, surfaces.picture);
+    surfaces.picture.setpersistent(false);
+    drawspringsbar(session, surfaces.bar);
 }
 
 void drawconstituents(Session& session, MainSurfaces& surfaces) {
@@ -88,7 +89,6 @@ void drawconstituents(Session& session, MainSurfaces& surfaces) {
     drawseries(picture, prediction.curvesamples, prediction.samplecount, black);
     drawlayers(picture, prediction, session.layers);
     drawgrid(picture, limitsof(session.curve), " Metres");
-    if (!prediction.defined) drawwhynot(session, picture);
     finishpicture(session, surfaces);
 }
 
@@ -109,7 +109,6 @@ void drawtidecurve(Session& session, MainSurfaces& surfaces) {
         if (series.dotted) drawdots(picture, series.curve2, prediction.samplecount, black);
     }
     drawgrid(picture, limitsof(session.curve), "M");
-    if (!prediction.defined) drawwhynot(session, picture);
     finishpicture(session, surfaces);
 }
 

@@ -8,6 +8,7 @@ run_packages=(
   "cmake|the build description"
   "ninja-build|runs the build"
   "qt6-base-dev|the windows, printing and pictures (Qt 6)"
+  "libeigen3-dev|the algebra of fitting readings to a tide (Eigen)"
   "fonts-liberation|a clear font for a machine that has none"
 )
 test_packages=(

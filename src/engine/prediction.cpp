@@ -101,17 +101,35 @@ void predictdaylinked(const PredictedPort& port, const TideDay& day, double befo
     refusebrokenrecord(prediction);
 }
 
+void predictworkspace(const HarmonicRecord& constants, int year, int dayofyear, Prediction& prediction) {
+    constexpr double evening = 23.9166, morning = 0.08333;
+    const HarmonicConstants annual = seasonalconstants(constants, 0);
+    const auto heighton = [&](int day, double time) {
+        const auto first = orbitalconstants(year, day), next = orbitalconstants(year, day + 1);
+        return first && next ? heightofconstants(annual, *first, *next, time).first : 0.0;
+    };
+    const TideDay day{year, 0, static_cast<std::int16_t>(dayofyear), 0};
+    predictdaylinked({constants, 0, 0, 1}, day, heighton(dayofyear - 1, evening), heighton(dayofyear + 1, morning),
+                     prediction);
+    // kept: here the mark in front of the day survives, at the height of the second row
+    if (prediction.defined) prediction.curvesamples[1] = {-99, prediction.curvesamples[2].height};
+    findworkspacepoints(prediction);
+}
+
 bool haspredictions(int year, int dayofyear) {
     return orbitalconstants(year, dayofyear - 1) && orbitalconstants(year, dayofyear);
 }
 
-void findturningpoints(Prediction& prediction) {
+namespace {
+
+/// Turning points among the rows up to two behind `lastsearched`; how many.
+int pickturningpoints(Prediction& prediction, std::size_t lastsearched) {
     const auto& samples = prediction.curvesamples;
     auto& points = prediction.turningpoints;
     int count = 0;
-    const int most = static_cast<int>(points.size()) - 1;
+    const std::size_t most = points.size() - 1;
     // kept: row 1 is never a turning point, and two equal samples at a crest are none
-    for (std::size_t i = 1; i <= 144 && count < most; ++i) {
+    for (std::size_t i = 1; i <= lastsearched && static_cast<std::size_t>(count) < most; ++i) {
         const double left = samples[i].height, middle = samples[i + 1].height, right = samples[i + 2].height;
         const bool low = left > middle && middle < right;
         const bool high = left < middle && middle > right;
@@ -119,13 +137,25 @@ void findturningpoints(Prediction& prediction) {
     }
     // kept: this limit can't be passed by rows up to 145, and stays
     if (points[static_cast<std::size_t>(count)].time > 24.0844) --count;
+    return count;
+}
+
+}  // namespace
+
+void findworkspacepoints(Prediction& prediction) {
+    const int rows = prediction.samplecount - 2;
+    prediction.turningcount = pickturningpoints(prediction, static_cast<std::size_t>(std::max(rows, 0)));
+}
+
+void findturningpoints(Prediction& prediction) {
+    const auto& samples = prediction.curvesamples;
+    prediction.turningcount = pickturningpoints(prediction, 144);
     double greatest = -9999, least = 9999;
     for (std::size_t i = 1; i <= 145; ++i) {
         greatest = std::max(greatest, samples[i].height);
         least = std::min(least, samples[i].height);
     }
     prediction.dayrange = greatest - least;
-    prediction.turningcount = count;
 }
 
 }  // namespace tarvane

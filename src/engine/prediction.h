@@ -74,6 +74,13 @@ void predictday(const Settings& settings, const TideDay& day, Prediction& predic
 void predictdaylinked(const PredictedPort& port, const TideDay& day, double before, double after,
                       Prediction& prediction);
 
+/// The adjust workspace's own copy of it, for constants in hand: their annual values alone, the heights of the evening
+/// before and of the morning after reckoned from them, and row 1 left as a mark at -99 hours with the height of row 2.
+void predictworkspace(const HarmonicRecord& constants, int year, int dayofyear, Prediction& prediction);
+
+/// Picks the high and low waters out of all rows of a workspace's curve, 15 at most; one past 24.0844 hours is dropped.
+void findworkspacepoints(Prediction& prediction);
+
 /// True if the method has constants for a day's prediction: those of the day before and of the day.
 bool haspredictions(int year, int dayofyear);
 

@@ -1,0 +1,253 @@
+#include "adjust/workspace.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "dates/dateformats.h"
+#include "output/curvepicture.h"
+#include "portdata/recordfiles.h"
+#include "session/tidecurve.h"
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+#include "text/timetext.h"
+
+namespace tarvane {
+namespace {
+
+constexpr double curvefloor = -2;
+constexpr std::size_t leastdrawn = 10;
+
+/// The texts that a curve is made of.
+const ConstantTexts& shownin(const AdjustWorkspace& workspace, CurvePlace place) {
+    if (place == port1curve) return workspace.port1;
+    return place == port2curve ? workspace.port2 : workspace.boxes;
+}
+
+bool hasport(const AdjustWorkspace& workspace, CurvePlace place) {
+    if (place == port1curve) return !workspace.name1.empty();
+    return place == intermediatecurve || !workspace.name2.empty();
+}
+
+CurveLimits limitsof(const Prediction& curve) {
+    double greatest = curve.curvesamples[1].height;
+    for (std::size_t i = 1; i < static_cast<std::size_t>(curve.samplecount); ++i)
+        greatest = std::max(greatest, curve.curvesamples[i].height);
+    // kept: the bottom is -2 whatever the curve does, so that the three pictures compare
+    return {std::max(std::trunc(greatest) + 1, curvefloor + 1), curvefloor};
+}
+
+void showdate(AdjustWorkspace& workspace, const MainContext& context) {
+    const Locale& locale = context.services.locale;
+    const Date date = context.session.onshow.tidedate;
+    workspace.tidedatebox = "Date   : " + DateCaption(locale, context.session.conventions, date) + " (" +
+                            formatdate(locale, date, "dddd") + ")";
+}
+
+void fillboxes(AdjustWorkspace& workspace, const ConstantTexts& texts) {
+    workspace.boxes = texts;
+    for (std::size_t i = 0; i < constantrows.size(); ++i)
+        workspace.steps[i] = stepof(constantrows[i], val(texts[i]));
+}
+
+void drawreadings(const std::vector<HeightRecord>& readings, DrawSurface& picture) {
+    // kept: joined in the order of entry, never sorted
+    for (std::size_t i = 0; i + 1 < readings.size(); ++i)
+        picture.line(readings[i].obstime, readings[i].obsheight, readings[i + 1].obstime, readings[i + 1].obsheight,
+                     green);
+}
+
+double hoursof(const std::string& time) {
+    const std::size_t colon = time.find(':');
+    if (colon == std::string::npos) return 0;
+    return val(time.substr(0, colon)) + val(time.substr(colon + 1)) / 60;
+}
+
+std::string known(double value, double error, const char* pattern, const char* unit) {
+    return format(value, pattern) + " " + unit + " (+/- " + format(error, pattern) + ")";
+}
+
+std::string missestext(const FitMisses& misses) {
+    return format(misses.rms, "0.00") + " m RMS, greatest miss " + format(misses.greatest, "0.00") + " m at " +
+           timetext(misses.time);
+}
+
+}  // namespace
+
+AdjustWorkspace openworkspace(MainContext& context) {
+    Session& session = context.session;
+    Settings& settings = session.settings;
+    rereadconfig(session.folders, settings);
+    takechoices(settings, settings.configrec);
+    AdjustWorkspace workspace;
+    workspace.timeval = "(Click mouse to freeze)";
+    const int ports = portcount(settings.hcfile);
+    const std::int16_t number = settings.currentport;
+    if (number >= 1 && number <= ports) {
+        const HarmonicRecord record = readport(settings.hcfile, number);
+        session.port.zonehours = zonehoursof(record);
+        loadport1(workspace, record);
+    }
+    if (number >= 0 && number + 1 <= ports) {
+        settings.currentport = static_cast<std::int16_t>(number + 1);
+        loadport2(workspace, readport(settings.hcfile, settings.currentport));
+    }
+    if (workspace.name1.empty())
+        workspace.answer = "There is no current port. Load ports with File, Load Port Constants.";
+    else if (workspace.name2.empty())
+        workspace.answer =
+            workspace.name1 + " is the last port of its area: load a Port 2 with File, Load Port Constants.";
+    fillboxes(workspace, workspace.name2.empty() ? workspace.port1 : plainmeans(workspace.first, workspace.second));
+    updatecalc(workspace, context);
+    return workspace;
+}
+
+void updatecalc(AdjustWorkspace& workspace, MainContext& context) {
+    const DateOnShow& onshow = context.session.onshow;
+    const int year = yearof(onshow.tidedate), day = dayofyear(onshow.tidedate);
+    for (const CurvePlace place : {port1curve, port2curve, intermediatecurve})
+        predictworkspace(recordof(shownin(workspace, place)), year, day, workspace.curves[place]);
+    showdate(workspace, context);
+    AdjustReadout(workspace);
+}
+
+void cmdcalc(AdjustWorkspace& workspace, MainContext& context) {
+    Session& session = context.session;
+    Settings& settings = session.settings;
+    rereadconfig(session.folders, settings);
+    settings.currentdraught = settings.configrec.draught;
+    settings.currentukc = settings.configrec.ukc;
+    settings.currentport = cint(settings.configrec.portnumber);
+    updatecalc(workspace, context);
+}
+
+void stepworkspace(AdjustWorkspace& workspace, MainContext& context, int days) {
+    setdateonshow(context.session.onshow, context.session.onshow.tidedate + std::chrono::days{days});
+    workspace.heightfile.clear();
+    workspace.readings.clear();
+    updatecalc(workspace, context);
+}
+
+void stepconstant(AdjustWorkspace& workspace, std::size_t row, int value) {
+    workspace.steps[row] = value;
+    workspace.boxes[row] = steptext(constantrows[row], value);
+}
+
+void workspacemove(AdjustWorkspace& workspace, double x) {
+    if (workspace.freezecount != 0) return;
+    const Prediction& curve = workspace.curves[intermediatecurve];
+    // The slot's own time: that of row 1 is the mark in front of the day.
+    workspace.timeval = timetext(static_cast<double>(sampleindex(x, curve.samplecount) - 1) / 6);
+    AdjustReadout(workspace);
+}
+
+void workspacepress(AdjustWorkspace& workspace) {
+    workspace.freezecount = workspace.freezecount == 0 ? 1 : 0;
+}
+
+void AdjustReadout(AdjustWorkspace& workspace) {
+    const double hours = hoursof(workspace.timeval);
+    for (const CurvePlace place : {port1curve, intermediatecurve, port2curve}) {
+        const Prediction& curve = workspace.curves[place];
+        AdjustColumn& column = workspace.columns[place];
+        column = {};
+        if (!curve.defined || !hasport(workspace, place)) continue;
+        const std::size_t slot = sampleindex(hours, curve.samplecount - 1);
+        double total = val(shownin(workspace, place)[0]);
+        for (std::size_t i = 0; i < constituents.size(); ++i) {
+            const double part = (curve.*constituents[i].layer)[slot].height;
+            if (i != meanlevelplace) total += part;
+            column.parts[i] = i == meanlevelplace ? shownin(workspace, place)[0] : format(part, "0.00");
+        }
+        column.total = format(total, "0.00");
+    }
+}
+
+void drawworkspacecurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSurface& picture) {
+    const Prediction& curve = workspace.curves[place];
+    const CurveLimits limits = limitsof(curve);
+    startpicture(picture, limits);
+    if (!curve.defined) drawnote(picture, limits, std::string("No prediction\n") + curve.whynot);
+    if (curve.defined && hasport(workspace, place)) {
+        LayerChoice all;
+        all.fill(true);
+        drawseries(picture, curve.curvesamples, curve.samplecount - 1, black);
+        drawlayers(picture, curve, all);
+        if (place == intermediatecurve) drawreadings(workspace.readings, picture);
+    }
+    drawgrid(picture, limits, " Metres");
+    picture.setpersistent(false);
+}
+
+void loadport1(AdjustWorkspace& workspace, const HarmonicRecord& record) {
+    workspace.first = record;
+    workspace.name1 = trimmedname(record);
+    workspace.port1 = textsof(record);
+}
+
+void loadport2(AdjustWorkspace& workspace, const HarmonicRecord& record) {
+    workspace.second = record;
+    workspace.name2 = trimmedname(record);
+    workspace.port2 = textsof(record);
+}
+
+void loadintermediate(AdjustWorkspace& workspace, const HarmonicRecord& record) {
+    // kept: the step controls stay where they are until the next step
+    workspace.boxes = textsof(record);
+}
+
+void chooseheights(AdjustWorkspace& workspace, const std::string& path) {
+    workspace.heightfile.clear();
+    workspace.readings.clear();
+    const ObservedHeights heights = readheights(path);
+    workspace.answer = heights.fault;
+    if (!heights.fault.empty()) return;
+    workspace.heightfile = path;
+    if (heights.readings.size() < leastdrawn) {
+        workspace.answer = "Not enough data to draw in a curve";
+        return;
+    }
+    workspace.readings = heights.readings;
+}
+
+HeightFit fitworkspace(AdjustWorkspace& workspace, MainContext& context) {
+    const DateOnShow& onshow = context.session.onshow;
+    std::vector<Reading> readings;
+    for (const HeightRecord& each : workspace.readings)
+        readings.push_back({each.obstime, each.obsheight});
+    const HarmonicConstants start = seasonalconstants(recordof(workspace.boxes), 0);
+    const HeightFit fit = fitheights(start, yearof(onshow.tidedate), dayofyear(onshow.tidedate), readings);
+    if (!fit.refusal.empty()) return fit;
+    workspace.undo = workspace.boxes;
+    const HarmonicConstants& found = fit.constants;
+    const double values[] = {found.Z0,  found.M2g,  found.M2Hm, found.S2g, found.S2Hm, found.K1g, found.K1Hm,
+                             found.O1g, found.O1Hm, found.SF4,  found.LF4, found.SF6,  found.LF6};
+    ConstantTexts texts;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        texts[i] = format(values[i], constantrows[i].phase ? "0.0#" : "0.000#");
+    fillboxes(workspace, texts);
+    updatecalc(workspace, context);
+    return fit;
+}
+
+void undofit(AdjustWorkspace& workspace, MainContext& context) {
+    if (!workspace.undo) return;
+    fillboxes(workspace, *workspace.undo);
+    workspace.undo.reset();
+    updatecalc(workspace, context);
+}
+
+std::string fittext(const HeightFit& fit, const std::vector<HeightRecord>& readings) {
+    if (!fit.refusal.empty()) return "Nothing was fitted: " + fit.refusal + ".";
+    std::string text = "Before: " + missestext(fit.before) + "\nAfter: " + missestext(fit.after) + "\n\nMean level " +
+                       known(fit.change.level, fit.uncertainty.level, "0.00", "m") + "\nAll amplitudes times " +
+                       known(fit.change.factor, fit.uncertainty.factor, "0.000", "") + "\nTide later by " +
+                       known(fit.change.shift * 60, fit.uncertainty.shift * 60, "0.0", "minutes");
+    if (fit.rejected.empty()) return text;
+    text += "\n\nLeft out as wild:";
+    for (const std::size_t place : fit.rejected)
+        text += " " + timetext(readings[place].obstime) + " " + numbertext(readings[place].obsheight) + " m,";
+    text.back() = '.';
+    return text;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,84 @@
+// The workshop in which constants for a place are derived: two ports, an intermediate location between them, and a
+// day's curve of each. What its window does, as far as it isn't controls. Must not touch a file to try a constant.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "adjust/constantrows.h"
+#include "engine/heightfit.h"
+#include "portdata/heightfiles.h"
+#include "session/session.h"
+
+namespace tarvane {
+
+/// The three curves by their pictures: Picture1 is Port 1, Picture2 the intermediate location, Picture3 Port 2.
+enum CurvePlace : std::size_t { port1curve, intermediatecurve, port2curve, curveplaces };
+
+/// What one picture's readout column shows: the parts of the height by their places in `constituents`, and their total.
+struct AdjustColumn {
+    std::array<std::string, constituents.size()> parts;
+    std::string total;
+};
+
+struct AdjustWorkspace {
+    HarmonicRecord first, second;                  ///< the ports as read, for their positions
+    std::string name1, name2;                      ///< of Port 1 and Port 2; empty when there is none
+    ConstantTexts port1, port2;                    ///< what the labels of the two ports show
+    ConstantTexts boxes;                           ///< the intermediate location's text boxes
+    std::array<int, constantrows.size()> steps{};  ///< where their step controls stand
+    std::array<Prediction, curveplaces> curves;
+    std::array<AdjustColumn, curveplaces> columns;
+    std::string tidedatebox;
+    std::string timeval;
+    std::string heightfile;              ///< of the readings drawn; empty for none
+    std::vector<HeightRecord> readings;  ///< as they were read when the file was chosen
+    int freezecount = 0;                 ///< 0 while the readouts follow the mouse
+    std::optional<ConstantTexts> undo;   ///< the boxes before the last fit
+    std::string answer;                  ///< what the last command did, or why not
+};
+
+/// The workspace as its window opens: Port 1 is the current port, Port 2 the record behind it, the boxes their means.
+AdjustWorkspace openworkspace(MainContext& context);
+
+/// `updatecalc`: the date of the program again, and all three curves from the texts as they stand.
+void updatecalc(AdjustWorkspace& workspace, MainContext& context);
+
+/// `cmdCalc`: the same, the configuration having been read again.
+void cmdcalc(AdjustWorkspace& workspace, MainContext& context);
+
+/// `Nextday` and `Previousday` by +1 and -1 day; the readings, which belong to one day, go.
+void stepworkspace(AdjustWorkspace& workspace, MainContext& context, int days);
+
+/// A step control has changed to `value`: its box is written, nothing else.
+void stepconstant(AdjustWorkspace& workspace, std::size_t row, int value);
+
+/// The pointer at x hours over any of the pictures, and a button pressed on one.
+void workspacemove(AdjustWorkspace& workspace, double x);
+void workspacepress(AdjustWorkspace& workspace);
+
+/// `AdjustReadout`: the columns at the time in `timeval`.
+void AdjustReadout(AdjustWorkspace& workspace);
+
+/// Draws one curve on its picture, the readings over the intermediate one.
+void drawworkspacecurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSurface& picture);
+
+/// Loads a port of an area as Port 1, as Port 2 or as the intermediate location. Nothing is reckoned anew.
+void loadport1(AdjustWorkspace& workspace, const HarmonicRecord& record);
+void loadport2(AdjustWorkspace& workspace, const HarmonicRecord& record);
+void loadintermediate(AdjustWorkspace& workspace, const HarmonicRecord& record);
+
+/// Chooses the file of readings; its fault is told in `answer` and nothing is drawn then.
+void chooseheights(AdjustWorkspace& workspace, const std::string& path);
+
+/// Fits the boxes' constants to the readings and fills the boxes with what was found; the values before can be taken
+/// back.
+HeightFit fitworkspace(AdjustWorkspace& workspace, MainContext& context);
+void undofit(AdjustWorkspace& workspace, MainContext& context);
+
+/// A fit as the window tells it: before and after, the three numbers with their standard errors, readings left out.
+std::string fittext(const HeightFit& fit, const std::vector<HeightRecord>& readings);
+
+}  // namespace tarvane

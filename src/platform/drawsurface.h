@@ -19,6 +19,8 @@ inline constexpr Colour yellow = 0x00FFFF;
 inline constexpr Colour magenta = 0xFF00FF;
 inline constexpr Colour grey = 0x808080;
 
+enum class LineStyle { solid, dashed, dotted };
+
 class DrawSurface {
   public:
     virtual ~DrawSurface() = default;
@@ -34,6 +36,9 @@ class DrawSurface {
 
     virtual void setbackcolour(Colour colour) = 0;
     virtual void setlinewidth(int pixels) = 0;
+
+    /// How lines are drawn until it is set again; solid at first.
+    virtual void setlinestyle(LineStyle style) = 0;
     virtual void line(double x1, double y1, double x2, double y2, Colour colour) = 0;
     virtual void box(double x1, double y1, double x2, double y2, Colour colour) = 0;
     virtual void point(double x, double y, Colour colour) = 0;

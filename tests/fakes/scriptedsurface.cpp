@@ -20,6 +20,8 @@ std::string logline(const Drawn& entry) {
     if (entry.kind != Kind::point) line << entry.x2 << ' ' << entry.y2 << ' ';
     line << std::hex << std::uppercase << std::setfill('0') << std::setw(6) << entry.colour;
     if (entry.kind != Kind::point) line << std::dec << ' ' << entry.width;
+    if (entry.style == LineStyle::dashed) line << " dashed";
+    if (entry.style == LineStyle::dotted) line << " dotted";
     return line.str();
 }
 
@@ -54,7 +56,7 @@ void ScriptedSurface::clear() {
 }
 
 void ScriptedSurface::line(double x1, double y1, double x2, double y2, Colour colour) {
-    put({Kind::line, x1, y1, x2, y2, colour, linewidth, {}});
+    put({Kind::line, x1, y1, x2, y2, colour, linewidth, {}, linestyle});
 }
 
 void ScriptedSurface::box(double x1, double y1, double x2, double y2, Colour colour) {

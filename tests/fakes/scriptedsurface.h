@@ -18,6 +18,7 @@ class ScriptedSurface : public DrawSurface {
         Colour colour = black;
         int width = 1;
         std::string text;
+        LineStyle style = LineStyle::solid;
     };
 
     std::vector<Drawn> persistentlayer;  ///< what stands there now
@@ -27,8 +28,10 @@ class ScriptedSurface : public DrawSurface {
     bool persistent = false;
     int persistentclears = 0;
     int linewidth = 1;
+    LineStyle linestyle = LineStyle::solid;
 
-    /// One layer as text, an entry a line: "line 0 4 0 -1 000000 1", "text 0 4 4M".
+    /// One layer as text, an entry a line: "line 0 4 0 -1 000000 1", "line 0 4 0 -1 000000 1 dashed",
+    /// "text 0 4 4M".
     static std::string log(const std::vector<Drawn>& layer);
 
     /// The entries of one kind and colour in a layer.
@@ -39,6 +42,7 @@ class ScriptedSurface : public DrawSurface {
     void clear() override;
     void setbackcolour(Colour colour) override { backcolour = colour; }
     void setlinewidth(int pixels) override { linewidth = pixels; }
+    void setlinestyle(LineStyle style) override { linestyle = style; }
     void line(double x1, double y1, double x2, double y2, Colour colour) override;
     void box(double x1, double y1, double x2, double y2, Colour colour) override;
     void point(double x, double y, Colour colour) override;

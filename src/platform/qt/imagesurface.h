@@ -13,7 +13,7 @@ class ImageSurface : public LayeredSurface {
     void setfont(const QFont& font) { ownfont = font; }
 
     /// Both layers as they stand.
-    QImage image() const;
+    QImage image();
 
   protected:
     QFont textfont() const override { return ownfont; }

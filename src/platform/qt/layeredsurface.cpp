@@ -1,6 +1,6 @@
 #include "platform/qt/layeredsurface.h"
 
-#include <cmath>
+#include <utility>
 
 namespace tarvane {
 
@@ -15,11 +15,12 @@ void LayeredSurface::setpersistent(bool on) {
 
 void LayeredSurface::clear() {
     if (persistent) {
-        persistentlayer.fill(screencolour(backcolour));
+        unpainted.clear();
+        persistentlayer.fill(background());
         touched(QRect(QPoint(0, 0), surfacesize));
     }
     for (const Mark& mark : passinglayer)
-        touched(mark.touched);
+        touch(mark.touched);
     passinglayer.clear();
 }
 
@@ -28,42 +29,58 @@ void LayeredSurface::setbackcolour(Colour colour) {
 }
 
 void LayeredSurface::setlinewidth(int pixels) {
-    linewidth = pixels;
+    pen.width = pixels;
+}
+
+void LayeredSurface::setlinestyle(LineStyle style) {
+    pen.style = style;
 }
 
 void LayeredSurface::line(double x1, double y1, double x2, double y2, Colour colour) {
-    put(linemark(surfacesize, pixel(x1, y1), pixel(x2, y2), colour, linewidth));
+    pen.colour = colour;
+    put(linemark(grid, pixel(x1, y1), pixel(x2, y2), pen));
 }
 
 void LayeredSurface::box(double x1, double y1, double x2, double y2, Colour colour) {
-    put(boxmark(surfacesize, pixel(x1, y1), pixel(x2, y2), colour));
+    put(boxmark(grid, pixel(x1, y1), pixel(x2, y2), colour));
 }
 
 void LayeredSurface::point(double x, double y, Colour colour) {
-    put(pointmark(surfacesize, pixel(x, y), colour, linewidth));
+    put(pointmark(grid, pixel(x, y), colour, pen.width));
 }
 
 void LayeredSurface::text(double x, double y, const std::string& text) {
-    put(textmark(surfacesize, pixel(x, y), QString::fromStdString(text), textfont()));
+    put(textmark(grid, pixel(x, y), QString::fromStdString(text), textfont()));
 }
 
 void LayeredSurface::remake(QSize newsize, double pixelratio) {
     surfacesize = newsize.expandedTo({1, 1});
-    const QSizeF device = QSizeF(surfacesize) * pixelratio;
-    persistentlayer = QImage(int(std::ceil(device.width())), int(std::ceil(device.height())), QImage::Format_RGB32);
-    persistentlayer.setDevicePixelRatio(pixelratio);
-    persistentlayer.fill(screencolour(backcolour));
+    grid.ratio = pixelratio;
+    grid.size =
+        QSize(static_cast<int>(surfacesize.width() * pixelratio), static_cast<int>(surfacesize.height() * pixelratio))
+            .expandedTo({1, 1});
+    persistentlayer = QImage(grid.size, QImage::Format_RGB32);
+    persistentlayer.fill(background());
+    unpainted.clear();
     passinglayer.clear();
     if (!ownscale) scale = QRectF(0, 0, surfacesize.width() * 15.0, surfacesize.height() * 15.0);
 }
 
-void LayeredSurface::paintlayers(QPainter& painter, const QRect& part) const {
-    const double ratio = persistentlayer.devicePixelRatio();
-    painter.drawImage(QRectF(part), persistentlayer,
-                      QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio));
+void LayeredSurface::paintlayers(QPainter& painter, const QRegion& region) {
     const QFont font = textfont();
+    if (!unpainted.empty()) {
+        QPainter onlayer(&persistentlayer);
+        for (const Mark& mark : unpainted)
+            paintmark(onlayer, mark, font, grid.ratio);
+        unpainted.clear();
+    }
+    for (const QRect& part : region) {
+        const QRect pixels = devicepixels(part).intersected(persistentlayer.rect());
+        painter.drawImage(pixels.topLeft(), persistentlayer, pixels);
+    }
+    const QRect around = devicepixels(region.boundingRect());
     for (const Mark& mark : passinglayer)
-        if (mark.touched.intersects(part)) paintmark(painter, mark, font);
+        if (mark.touched.intersects(around)) paintmark(painter, mark, font, grid.ratio);
 }
 
 QPointF LayeredSurface::scaled(QPointF pixel) const {
@@ -72,19 +89,25 @@ QPointF LayeredSurface::scaled(QPointF pixel) const {
 }
 
 QPointF LayeredSurface::pixel(double x, double y) const {
-    return {(x - scale.x()) / scale.width() * surfacesize.width(),
-            (y - scale.y()) / scale.height() * surfacesize.height()};
+    return {(x - scale.x()) / scale.width() * grid.size.width(), (y - scale.y()) / scale.height() * grid.size.height()};
 }
 
-void LayeredSurface::put(const std::optional<Mark>& mark) {
+/// The pixels of the layer that logical ones can show: at a broken density the layer may lie half a pixel off them.
+QRect LayeredSurface::devicepixels(const QRect& logical) const {
+    const QRectF pixels(QPointF(logical.topLeft()) * grid.ratio, QSizeF(logical.size()) * grid.ratio);
+    return pixels.toAlignedRect().adjusted(-1, -1, 1, 1);
+}
+
+void LayeredSurface::touch(const QRect& pixels) {
+    const QRectF logical(QPointF(pixels.topLeft()) / grid.ratio, QSizeF(pixels.size()) / grid.ratio);
+    touched(logical.toAlignedRect().adjusted(-1, -1, 1, 1));
+}
+
+void LayeredSurface::put(std::optional<Mark> mark) {
     if (!mark) return;
-    if (persistent) {
-        QPainter painter(&persistentlayer);
-        paintmark(painter, *mark, textfont());
-    } else {
-        passinglayer.push_back(*mark);
-    }
-    touched(mark->touched);
+    touch(mark->touched);
+    std::vector<Mark>& layer = persistent ? unpainted : passinglayer;
+    if (layer.empty() || !joinmark(layer.back(), *mark)) layer.push_back(std::move(*mark));
 }
 
 }  // namespace tarvane

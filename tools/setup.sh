@@ -9,6 +9,8 @@ run_packages=(
   "ninja-build|runs the build"
   "qt6-base-dev|the windows, printing and pictures (Qt 6)"
   "libeigen3-dev|the algebra of fitting readings to a tide (Eigen)"
+  "libcli11-dev|reads the command line of the terminal companion, tides (CLI11)"
+  "nlohmann-json3-dev|writes its JSON (nlohmann-json)"
   "fonts-liberation|a clear font for a machine that has none"
 )
 test_packages=(

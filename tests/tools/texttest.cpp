@@ -1,7 +1,7 @@
 // The texts for a terminal: what a sailor looks for is there, columns align, and a day without a result says so.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <limits>
 
 #include "text/singlebyte.h"
 #include "tides/textforms.h"
@@ -32,20 +32,35 @@ TEST(Text, ADayAsASailorReadsIt) {
     EXPECT_TRUE(has(machine.run("").out, "the charted depth of 2.50 m set for this port\n  04:40    8.04  high\n"));
 }
 
-TEST(Text, DaysWithoutAResultSaySoAndTheOthersStand) {
+TEST(Text, DaysWithoutAPredictionSaySo) {
+    Companion machine;
+    HarmonicRecord broken = portnamed("Broken");
+    broken.Z0 = std::numeric_limits<float>::quiet_NaN();
+    machine.store({portnamed("Round Haven"), broken, HarmonicRecord{}});
+    const std::string noconstants = "The method has no constants for this day\n";
+    using Row = std::pair<const char*, std::string>;
+    for (const auto& [line, part] :
+         {Row{"1 --date 1990-01-02", "(UT)\nNo prediction: " + noconstants + "Sunrise 0"},
+          Row{"1 --samples --date 1990-01-01 --days 2", "\nNo prediction: " + noconstants + "\nTuesday 2 January"},
+          Row{"1 --month --date 1990-01-20", "\nTue  2   No prediction: " + noconstants + "Wed  3   0"},
+          Row{"--orbital --date 1990-01-01 --days 2", "\n1990-01-01  " + noconstants + "1990-01-02  "},
+          Row{"2 --month", "\nTue 30   No prediction: The port's record holds values that are no numbers\n\n"},
+          Row{"3 --month", "\nTue 30   No high or low water on this day\n\n"}}) {
+        const auto outcome = machine.run(line);
+        EXPECT_TRUE(has(outcome.out, part)) << outcome.out;
+        EXPECT_EQ(std::to_string(outcome.status) + outcome.err, "0");
+    }
+}
+
+TEST(Text, MidnightAtADaysEndIsTheNextDays) {
     Companion machine;
     machine.store({portnamed("Round Haven")});
-    for (const auto& [view, told] : {std::pair{"", 2}, std::pair{" --samples", 2}, std::pair{" --orbital", 1}}) {
-        const auto outcome = machine.run(std::string("--port 1 --date 1989-12-31 --days 4") + view);
-        const auto lines = linesof(outcome.out);
-        EXPECT_EQ(outcome.status, 0) << outcome.err;
-        EXPECT_EQ(told, std::count_if(lines.begin(), lines.end(),
-                                      [](const auto& line) { return has(line, "divides by zero"); }))
-            << outcome.out;
-        EXPECT_FALSE(has(outcome.out, "nan"));
-    }
-    EXPECT_TRUE(has(machine.run("--port 1 --date 1990-01-03").out, "Range"));
-    EXPECT_EQ(machine.run("--port 1 --date 1990-01-01 --sun --format csv").status, 0);
+    using Row = std::pair<std::string, const char*>;
+    for (const auto& [view, line] :
+         {Row{"", "\n  00:00    4.40  high, on Saturday 1 June 2024\n"}, Row{" --month", "   00:00   4.40 on Sat  1\n"},
+          Row{" --format csv", ",2024-06-01,00:00,4.3978,high,2024-06-01T00:00+01:00,0\n"},
+          Row{" --month --format csv", ",2024,6,1,Sat,00:00,4.40,2024-06-01T00:00+01:00,0\n"}})
+        EXPECT_TRUE(has(machine.run("1 --date 2024-05-31 --summer on" + view).out, line)) << view;
 }
 
 TEST(Text, ColumnsAlignByCharacters) {

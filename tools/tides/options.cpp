@@ -1,11 +1,12 @@
 #include "tides/options.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <set>
 
 #include "text/numbers.h"
+#include "text/programcaption.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -21,7 +22,7 @@ std::optional<int> wholenumber(std::string_view text) {
     return number;
 }
 
-std::string quoted(const std::string& text) {
+std::string inquotes(const std::string& text) {
     return "'" + text + "'";
 }
 
@@ -37,13 +38,13 @@ std::string takeport(const std::string& value, Options& options) {
 
 std::string takedate(const std::string& value, Options& options) {
     options.date = parseisodate(value);
-    return options.date ? "" : quoted(value) + " is no date; write a day that exists as YYYY-MM-DD";
+    return options.date ? "" : inquotes(value) + " is no date; write a day that exists as YYYY-MM-DD";
 }
 
 std::string takedays(const std::string& value, Options& options) {
     const auto days = wholenumber(value);
     if (!days || *days < 1 || *days > mostdays) {
-        return "--days takes a whole number from 1 to " + numbertext(mostdays) + ", not " + quoted(value);
+        return "--days takes a whole number from 1 to " + numbertext(mostdays) + ", not " + inquotes(value);
     }
     options.days = *days;
     return "";
@@ -51,7 +52,7 @@ std::string takedays(const std::string& value, Options& options) {
 
 std::string takesummer(const std::string& value, Options& options) {
     options.summer = value == "on";
-    return value == "on" || value == "off" ? "" : "--summer takes on or off, not " + quoted(value);
+    return value == "on" || value == "off" ? "" : "--summer takes on or off, not " + inquotes(value);
 }
 
 std::string takeformat(const std::string& value, Options& options) {
@@ -62,7 +63,7 @@ std::string takeformat(const std::string& value, Options& options) {
     constexpr std::array<Name, 3> names{
         {{"text", OutputFormat::text}, {"csv", OutputFormat::csv}, {"json", OutputFormat::json}}};
     const auto row = std::find_if(names.begin(), names.end(), [&](const Name& name) { return value == name.name; });
-    if (row == names.end()) return "--format takes text, csv or json, not " + quoted(value);
+    if (row == names.end()) return "--format takes text, csv or json, not " + inquotes(value);
     options.format = row->format;
     return "";
 }
@@ -83,45 +84,100 @@ constexpr std::array<ValueOption, 6> valueoptions{{
     {"--format", "text|csv|json", "how the result is written; text when left out", takeformat},
 }};
 
-/// Notes a view, of which a command line has one at most.
-std::string takeview(const View& view, Options& options) {
-    if (options.view == &view) return std::string(view.option) + " is given twice";
-    if (options.view) return std::string(options.view->option) + " and " + view.option + " exclude each other";
-    options.view = &view;
+/// What a description of the command line leaves behind, in the order of the tables.
+struct CommandLine {
+    CLI::App app{
+        "Tides of Tarvane Tides on the terminal, from the program's own files, none of which it writes.\n"
+        "Without options: the stored sea area, port and summer choice, today.\n",
+        "tides"};
+    std::vector<CLI::Option*> values, flags;
+    CLI::Option* portwords = nullptr;
+};
+
+constexpr const char* notes =
+    "PORT is found as a person types it: accents, hyphens and \"St\" for \"Saint\" make no difference, and several\n"
+    "words need no quotes. --list and --orbital are about no port: PORT is ignored with them, and --date and --days\n"
+    "with --list. --month is about the month that --date lies in: --days is ignored with it, and the summer time of\n"
+    "--date holds for every day of the month.\n"
+    "A tide at midnight belongs to the day that begins then. In CSV and JSON \"moment\" is the time with the hours\n"
+    "that it is ahead of universal time, 2026-07-14T05:40+01:00, and \"depth\" the charted depth in metres that the\n"
+    "height includes, 0 with heights above chart datum. Days without a prediction are left out there and named on\n"
+    "standard error, in a line for each port and reason.\n"
+    "Exit status: 0; or 2 with one line on standard error and nothing on standard output, and when CSV or JSON would\n"
+    "hold nothing because every day is without a prediction.";
+
+void describe(CommandLine& line) {
+    CLI::App& app = line.app;
+    app.allow_extras();  // told in our own words
+    app.set_help_flag("-h,--help", "prints this and exits");
+    app.set_version_flag("--version", programversion, "prints the version and exits");
+    line.portwords = app.add_option("PORT", "a port by its number, its name or a part of its name; or all, every port");
+    line.portwords->expected(-1)->option_text("NUMBER|NAME|all");
+    line.portwords->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    for (const ValueOption& row : valueoptions) {
+        // a value that is missing or too much is told in our own words, too
+        line.values.push_back(app.add_option(row.option, row.help)->option_text(row.form)->expected(0, 1));
+        line.values.back()->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    }
+    for (const View* view : views().subspan(1))
+        line.flags.push_back(app.add_flag(view->option, view->help)->group("What is shown"));
+    app.get_formatter()->column_width(30);
+    app.footer(notes);
+}
+
+/// Notes the view, of which a command line has one at most.
+std::string takeview(const CommandLine& line, Options& options) {
+    options.view = views().front();
+    for (std::size_t i = 0; i < line.flags.size(); ++i) {
+        const View* view = views()[i + 1];
+        const std::vector<std::string>& given = line.flags[i]->results();
+        if (given.empty()) continue;
+        if (given.size() > 1) return std::string(view->option) + " is given twice";
+        if (given[0] != "true") return std::string(view->option) + " takes no value";
+        if (options.view != views().front()) {
+            return std::string(options.view->option) + " and " + view->option + " exclude each other";
+        }
+        options.view = view;
+    }
     return "";
+}
+
+std::string takevalues(const CommandLine& line, Options& options) {
+    for (std::size_t i = 0; i < valueoptions.size(); ++i) {
+        const ValueOption& row = valueoptions[i];
+        const std::vector<std::string>& given = line.values[i]->results();
+        if (given.empty()) continue;
+        if (given.size() > 1) return std::string(row.option) + " is given twice";
+        if (given[0].empty()) return std::string(row.option) + " needs a value: " + row.form;
+        const std::string fault = row.take(given[0], options);
+        if (!fault.empty()) return fault;
+    }
+    if (line.portwords->count() == 0) return "";
+    const std::string words = CLI::detail::join(line.portwords->results(), " ");
+    if (options.port) return "the port is given twice, as " + inquotes(*options.port) + " and as " + inquotes(words);
+    return takeport(words, options);
 }
 
 }  // namespace
 
 std::string parseoptions(const std::vector<std::string>& arguments, Options& options) {
-    if (std::any_of(arguments.begin(), arguments.end(), [](const std::string& word) { return word == "--help"; })) {
-        options.help = true;
+    CommandLine line;
+    describe(line);
+    try {
+        line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::CallForHelp&) {
+        options.answer = line.app.help();
         return "";
+    } catch (const CLI::CallForVersion&) {
+        options.answer = std::string(programname) + " " + trim(programversion) + "\n";
+        return "";
+    } catch (const CLI::ParseError& fault) {
+        return fault.what();
     }
-    std::set<std::string> given;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string& word = arguments[i];
-        const auto view = std::find_if(views().begin(), views().end(),
-                                       [&](const View& row) { return !word.empty() && word == row.option; });
-        std::string fault;
-        if (view != views().end()) {
-            fault = takeview(*view, options);
-        } else {
-            const auto option = std::find_if(valueoptions.begin(), valueoptions.end(),
-                                             [&](const ValueOption& row) { return word == row.option; });
-            if (option == valueoptions.end()) {
-                return "there is no option " + quoted(word) + "; tides --help lists them";
-            }
-            if (!given.insert(word).second) return word + " is given twice";
-            if (i + 1 == arguments.size() || arguments[i + 1].empty() || arguments[i + 1].starts_with("--")) {
-                return word + " needs a value: " + option->form;
-            }
-            fault = option->take(arguments[++i], options);
-        }
-        if (!fault.empty()) return fault;
-    }
-    if (!options.view) options.view = &views().front();
-    return "";
+    for (const std::string& unknown : line.app.remaining())
+        if (unknown != "--") return "there is no option " + inquotes(unknown) + "; tides --help lists them";
+    const std::string fault = takeview(line, options);
+    return fault.empty() ? takevalues(line, options) : fault;
 }
 
 std::optional<Date> parseisodate(std::string_view text) {
@@ -132,29 +188,6 @@ std::optional<Date> parseisodate(std::string_view text) {
     if (!year || !month || !day || *year < 1 || *month < 1 || *month > 12) return std::nullopt;
     if (*day < 1 || *day > DaysInMonth(*year, *month)) return std::nullopt;
     return makedate(*year, *month, *day);
-}
-
-std::string usagetext() {
-    constexpr std::size_t helpcolumn = 26;
-    const auto line = [](const std::string& left, const std::string& help) {
-        return "  " + left + std::string(helpcolumn - std::min(helpcolumn - 1, left.size()), ' ') + help + "\n";
-    };
-    std::string text =
-        "usage: tides [--area FILE.hc] [--port NUMBER|NAME|all] [--date YYYY-MM-DD] [--days N]\n"
-        "             [--summer on|off] [--samples | --month | --sun | --orbital | --list] [--format text|csv|json]\n\n"
-        "Tides of Tarvane Tides on the terminal, from the program's own files, none of which it writes.\n"
-        "Without options: the stored sea area, port and summer choice, today.\n\n";
-    for (const ValueOption& row : valueoptions)
-        text += line(std::string(row.option) + " " + row.form, row.help);
-    text += "\nWhat is shown:\n";
-    for (const View& view : views())
-        text += line(*view.option ? view.option : "(none of these)", view.help);
-    return text +
-           "\n--list and --orbital are about no port: --port is ignored with them, and --date and --days with --list.\n"
-           "--month is about the month that --date lies in: --days is ignored with it, and the summer time of --date\n"
-           "holds for every day of the month.\n"
-           "A time of 00:00 behind the day's other tides is midnight at the day's end.\n"
-           "Exit status: 0, or 2 with one line on standard error and nothing on standard output.\n";
 }
 
 }  // namespace tarvane

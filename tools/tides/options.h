@@ -15,7 +15,7 @@ namespace tarvane {
 inline constexpr int mostdays = 3660;  ///< ten years
 
 struct Options {
-    bool help = false;
+    std::string answer;  ///< what --help or --version prints, and nothing else is asked for
     std::optional<std::string> area;
     std::optional<std::string> port;  ///< UTF-8
     std::optional<Date> date;
@@ -25,14 +25,10 @@ struct Options {
     OutputFormat format = OutputFormat::text;
 };
 
-/// Fills `options` from the arguments behind the program's name. The fault in one line, empty when there is none; with
-/// --help anywhere there is none.
+/// Fills `options` from the arguments behind the program's name. The fault in one line, empty when there is none.
 std::string parseoptions(const std::vector<std::string>& arguments, Options& options);
 
 /// A date written yyyy-mm-dd, year 0001 to 9999; nothing for any other text and for a day that its month doesn't have.
 std::optional<Date> parseisodate(std::string_view text);
-
-/// What --help prints.
-std::string usagetext();
 
 }  // namespace tarvane

@@ -3,11 +3,17 @@
 #include <array>
 #include <cassert>
 #include <charconv>
-#include <string_view>
+#include <cmath>
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <utility>
 
 namespace tarvane {
 
 namespace {
+
+/// With its members in the order of the columns.
+using Json = nlohmann::ordered_json;
 
 std::string csvcell(const std::string& text) {
     if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
@@ -19,27 +25,15 @@ std::string csvcell(const std::string& text) {
     return quoted + '"';
 }
 
-std::string jsonstring(const std::string& text) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string quoted = "\"";
-    for (const char character : text) {
-        const auto code = static_cast<unsigned char>(character);
-        if (character == '"' || character == '\\') {
-            quoted += '\\';
-            quoted += character;
-        } else if (code < 0x20) {
-            quoted += "\\u00";
-            quoted += digits[code >> 4];
-            quoted += digits[code & 0xF];
-        } else {
-            quoted += character;
-        }
-    }
-    return quoted + '"';
-}
-
-std::string jsonnumber(const std::string& text) {
-    return text.find_first_of("ni") == std::string::npos ? text : "null";
+/// A cell of digits as a number; null when it is none, as "nan" and "inf" are.
+Json jsonnumber(const std::string& text) {
+    const char* const end = text.data() + text.size();
+    std::int64_t whole = 0;
+    double value = 0;
+    const auto readwhole = std::from_chars(text.data(), end, whole);
+    if (readwhole.ec == std::errc{} && readwhole.ptr == end) return whole;
+    const auto read = std::from_chars(text.data(), end, value);
+    return read.ec == std::errc{} && read.ptr == end && std::isfinite(value) ? Json(value) : Json();
 }
 
 }  // namespace
@@ -62,8 +56,10 @@ std::string shortest(float value) {
     return std::string(buffer.data(), written.ptr);
 }
 
-RowWriter::RowWriter(std::ostream& out, OutputFormat format, std::span<const Column> columns)
-    : stream(out), outputformat(format), heads(columns) {
+RowWriter::RowWriter(std::ostream& out, OutputFormat format, std::vector<Column> columns)
+    : stream(out), outputformat(format), heads(std::move(columns)) {}
+
+void RowWriter::start() {
     if (outputformat == OutputFormat::json) {
         stream << "[";
         return;
@@ -75,23 +71,23 @@ RowWriter::RowWriter(std::ostream& out, OutputFormat format, std::span<const Col
 
 void RowWriter::row(const std::vector<std::string>& cells) {
     assert(cells.size() == heads.size());
+    if (rowcount == 0) start();
     if (outputformat == OutputFormat::csv) {
         for (std::size_t i = 0; i < heads.size(); ++i)
             stream << (i ? "," : "") << csvcell(cells[i]);
         stream << "\n";
-        return;
+    } else {
+        Json object;
+        for (std::size_t i = 0; i < heads.size(); ++i)
+            object[heads[i].name] = heads[i].isnumber ? jsonnumber(cells[i]) : Json(cells[i]);
+        stream << (rowcount ? ",\n" : "\n") << object.dump(-1, ' ', false, Json::error_handler_t::replace);
     }
-    stream << (first ? "\n{" : ",\n{");
-    first = false;
-    for (std::size_t i = 0; i < heads.size(); ++i) {
-        stream << (i ? ", \"" : "\"") << heads[i].name
-               << "\": " << (heads[i].isnumber ? jsonnumber(cells[i]) : jsonstring(cells[i]));
-    }
-    stream << "}";
+    ++rowcount;
 }
 
 void RowWriter::finish() {
-    if (outputformat == OutputFormat::json) stream << (first ? "]\n" : "\n]\n");
+    if (rowcount == 0) start();
+    if (outputformat == OutputFormat::json) stream << (rowcount ? "\n]\n" : "]\n");
 }
 
 }  // namespace tarvane

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <ostream>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -12,8 +11,8 @@ namespace tarvane {
 enum class OutputFormat { text, csv, json };
 
 struct Column {
-    const char* name;
-    bool isnumber;
+    std::string name;
+    bool isnumber = true;
 };
 
 /// The value with so many decimals, its exact binary value rounded once; a value that rounds to zero carries no sign.
@@ -22,23 +21,27 @@ std::string fixed(double value, int decimals);
 /// The shortest plain decimals that read back as the same single.
 std::string shortest(float value);
 
-/// Writes a header line and rows (CSV), or an array with one object a row (JSON). A number that isn't finite reads
-/// "nan" or "inf" in CSV and null in JSON.
+/// Writes a header line and rows (CSV), or an array with one object a row (JSON), from the first row on. A number that
+/// isn't finite reads "nan" or "inf" in CSV and null in JSON.
 class RowWriter {
   public:
-    RowWriter(std::ostream& out, OutputFormat format, std::span<const Column> columns);
+    RowWriter(std::ostream& out, OutputFormat format, std::vector<Column> columns);
 
     /// One cell a column.
     void row(const std::vector<std::string>& cells);
 
-    /// Ends the table; to be called once, after the last row.
+    /// Ends the table, one without rows too; to be called once, after the last row.
     void finish();
 
+    bool empty() const { return rowcount == 0; }
+
   private:
+    void start();
+
     std::ostream& stream;
     OutputFormat outputformat;
-    std::span<const Column> heads;
-    bool first = true;
+    std::vector<Column> heads;
+    std::size_t rowcount = 0;
 };
 
 }  // namespace tarvane

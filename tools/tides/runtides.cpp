@@ -46,7 +46,8 @@ std::string takeports(const Options& options, ViewContext& context) {
     const PortChoice choice = chooseports(names, wanted, context.areaname);
     for (const std::int16_t number : choice.numbers) {
         const auto index = static_cast<std::size_t>(number - 1);
-        context.ports.push_back({number, names[index], records[index]});
+        const float depth = options.view->needsport ? readdepth(context.settings.depfile, number).UserDepth : 0;
+        context.ports.push_back({names[index], {records[index], number, depth, context.settings.currentoutput}});
     }
     return choice.fault;
 }
@@ -61,19 +62,6 @@ std::string takedays(const Options& options, Date today, ViewContext& context) {
     }
     const Date last = context.first + std::chrono::days(context.days - 1);
     return last > makedate(9999, 12, 31) ? "the days run past 9999-12-31" : "";
-}
-
-/// In the tables every day has a result or there is no table.
-std::string checkdays(const Options& options, const ViewContext& context) {
-    std::string fault;
-    if (options.format == OutputFormat::text || !options.view->computable) return fault;
-    eachday(context, [&](Date date) {
-        if (fault.empty() && !options.view->computable(date)) {
-            fault =
-                "there is no result for " + isodate(date) + ": the arithmetic of its orbital constants divides by zero";
-        }
-    });
-    return fault;
 }
 
 std::string prepare(const Options& options, const TidesEnvironment& environment, ViewContext& context) {
@@ -92,8 +80,22 @@ std::string prepare(const Options& options, const TidesEnvironment& environment,
         fault = checkarea(*options.area);
     }
     if (fault.empty()) fault = takedays(options, environment.today, context);
-    if (fault.empty()) fault = checkdays(options, context);
     return fault;
+}
+
+/// Writes the result. The exit status: days without one are no fault as long as there are others.
+int show(const Options& options, const ViewContext& context, std::ostream& out, std::ostream& err) {
+    if (options.format == OutputFormat::text) {
+        options.view->text(context, out);
+        return 0;
+    }
+    Absences absences;
+    RowWriter writer(out, options.format, options.view->columns());
+    options.view->rows(context, writer, absences);
+    const bool nothing = writer.empty() && !absences.empty();
+    if (!nothing) writer.finish();
+    absences.tell(err);
+    return nothing ? refused : 0;
 }
 
 }  // namespace
@@ -103,24 +105,18 @@ int runtides(const std::vector<std::string>& arguments, const TidesEnvironment& 
     Options options;
     ViewContext context;
     std::string fault = parseoptions(arguments, options);
-    if (fault.empty() && options.help) {
-        out << usagetext() << std::flush;
+    if (fault.empty() && !options.answer.empty()) {
+        out << options.answer << std::flush;
         return 0;
     }
     if (fault.empty()) fault = prepare(options, environment, context);
     if (fault.empty()) {
         // everything that can be wrong has been found by now, so that results needn't be held back: ten years of all
         // ports' samples would not fit
-        if (options.format == OutputFormat::text) {
-            options.view->text(context, out);
-        } else {
-            RowWriter writer(out, options.format, options.view->columns);
-            options.view->rows(context, writer);
-            writer.finish();
-        }
-        if (!out.flush()) fault = "the result could not be written";
+        const int status = show(options, context, out, err);
+        if (out.flush()) return status;
+        fault = "the result could not be written";
     }
-    if (fault.empty()) return 0;
     err << "tides: " << plaintext(fault) << "\n";
     return refused;
 }

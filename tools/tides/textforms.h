@@ -1,5 +1,5 @@
-// The views as a sailor reads them on a terminal. Columns align by characters, so that accented names do too. Must not
-// compute anything that the tables don't.
+// What the views' texts for a sailor's terminal are made of. Columns align by characters, so that accented names do
+// too. Must not compute anything that the tables don't.
 #pragma once
 
 #include <ostream>
@@ -9,12 +9,24 @@
 
 namespace tarvane {
 
-void tidestext(ViewContext& context, std::ostream& out);
-void monthtext(ViewContext& context, std::ostream& out);
-void samplestext(ViewContext& context, std::ostream& out);
-void suntext(ViewContext& context, std::ostream& out);
-void orbitaltext(ViewContext& context, std::ostream& out);
-void listtext(ViewContext& context, std::ostream& out);
+/// The last line under heights.
+inline constexpr const char* heightscaution =
+    "Heights in Metres, all data are derived and should therefore be considered as approximate";
+
+std::string padright(const std::string& text, std::size_t width);
+std::string padleft(const std::string& text, std::size_t width);
+
+/// A port's name, place and zone in two lines, with a blank line before all but the first.
+void portheading(const ViewContext& context, const PortInHand& port, std::ostream& out);
+
+/// Under which time a day's clock times stand.
+std::string timeline(const ViewContext& context, const PortInHand& port, Date date);
+
+/// What a port's heights include.
+std::string datumline(const PortInHand& port);
+
+/// Stands where a day's heights would.
+std::string nopredictionline(const Prediction& prediction);
 
 /// "Tuesday 9 April 2024".
 std::string longdate(Date date);

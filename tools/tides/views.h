@@ -1,5 +1,6 @@
-// The views that `tides` can show, as a table: each has its option, its columns, a routine for its rows and one for its
-// text. A new view is a new row here. Must not parse arguments or decide what a fault is.
+// The views that `tides` can show, each in its own file with its columns, its rows and its text, and what they share:
+// the ports in hand and a day of one. A new view is a new file and its line in the table. Must not parse arguments or
+// decide what a fault is.
 #pragma once
 
 #include <cstdint>
@@ -9,21 +10,20 @@
 #include <vector>
 
 #include "dates/calendar.h"
-#include "engine/orbital.h"
 #include "engine/prediction.h"
 #include "portdata/configuration.h"
 #include "sunmoon/suntimes.h"
+#include "tides/absences.h"
 #include "tides/rows.h"
 
 namespace tarvane {
 
 struct PortInHand {
-    std::int16_t number = 0;  ///< its record, from 1
     std::string name;
-    HarmonicRecord record;
+    PredictedPort port;  ///< its records as they were read, once
 };
 
-/// All that a view works on. Settings change while it works: each prediction sets its own port.
+/// All that a view works on.
 struct ViewContext {
     Settings settings;
     std::vector<PortInHand> ports;  ///< those asked for, or all of the area's for the list
@@ -34,57 +34,47 @@ struct ViewContext {
 };
 
 struct View {
-    const char* option;               ///< empty for the high and low waters
-    const char* help;                 ///< what it shows
-    std::span<const Column> columns;  ///< of its CSV and JSON
-    bool needsarea;                   ///< it reads a sea area file
-    bool needsport;                   ///< it is about the ports asked for
-    bool wholemonth;                  ///< its days are those of the month, however many are asked for
-    bool (*computable)(Date);         ///< false for a day without a result; null when every day has one
-    void (*rows)(ViewContext&, RowWriter&);
-    void (*text)(ViewContext&, std::ostream&);
+    const char* option;  ///< empty for the high and low waters
+    const char* help;    ///< what it shows
+    bool needsarea;      ///< it reads a sea area file
+    bool needsport;      ///< it is about the ports asked for
+    bool wholemonth;     ///< its days are those of the month, however many are asked for
+    std::vector<Column> (*columns)();
+    void (*rows)(const ViewContext&, RowWriter&, Absences&);
+    void (*text)(const ViewContext&, std::ostream&);
 };
+
+extern const View watersview, samplesview, monthview, sunview, orbitalview, listview;
 
 /// Every view; the first is the one shown when none is asked for.
-std::span<const View> views();
-
-/// A column of eight events of the sun, of a sample's parts, of a day's angles and factors.
-struct SunColumn {
-    const char* heading;
-    double SunHours::*value;
-};
-std::span<const SunColumn> suncolumns();
-
-struct LayerColumn {
-    const char* heading;
-    std::array<TimedValue, 201> Prediction::*layer;
-};
-std::span<const LayerColumn> layercolumns();
-
-struct GroupColumns {
-    const char* angleheading;
-    std::int16_t AnglesAndFactors::*angle;
-    const char* factorheading;
-    double AnglesAndFactors::*factor;
-};
-std::span<const GroupColumns> groupcolumns();
-
-inline constexpr int lastdayrow = 145;  ///< the sample of 24:00
+std::span<const View* const> views();
 
 /// Predicts a day of a port under the context's summer choice, turning points included.
-void predictport(ViewContext& context, const PortInHand& port, Date date, Prediction& prediction);
+void predictport(const ViewContext& context, const PortInHand& port, Date date, Prediction& prediction);
+
+/// Notes that a port has no prediction for a day; does nothing when it has one.
+void noteabsence(Absences& absences, const PortInHand& port, const Prediction& prediction, Date date);
 
 /// The sun of a day at a port under the context's summer choice.
 SunHours sunofport(const ViewContext& context, const PortInHand& port, Date date);
 
-/// False for a day without a prediction: it stands on the constants of the day before and of the day.
-bool haspredictions(Date date);
-
 /// True if the turning point of that index (from 1) is a high water, told by the sample before it.
 bool ishighwater(const Prediction& prediction, int turningpoint);
 
+/// Hours that clock times of a day at a port are ahead of universal time; `shift` is the day's, -1 or 0.
+int hoursahead(const PortInHand& port, std::int16_t shift);
+
+/// The charted depth that the port's heights include, metres.
+float includeddepth(const PortInHand& port);
+
 /// yyyy-mm-dd.
 std::string isodate(Date date);
+
+/// The date of an hour of a day's prediction: 24:00 is the next day's.
+Date dateofhour(Date day, double hour);
+
+/// A date and clock time with what they are ahead of universal time: "2026-07-14T05:40+01:00".
+std::string momenttext(Date date, const std::string& clock, int hoursahead);
 
 /// Calls `act` for every day in turn.
 template <typename Act>

@@ -1,0 +1,37 @@
+#include "tides/absences.h"
+
+#include <algorithm>
+
+#include "text/numbers.h"
+#include "tides/textforms.h"
+#include "tides/views.h"
+
+namespace tarvane {
+
+void Absences::note(const std::string& subject, const char* reason, Date date) {
+    // looked for from the end, where the port in hand stands
+    const auto known = std::find_if(absences.rbegin(), absences.rend(), [&](const Absence& absence) {
+        return absence.subject == subject && absence.reason == reason;
+    });
+    if (known == absences.rend()) {
+        absences.push_back({subject, reason, date, date, 1});
+        return;
+    }
+    known->last = date;
+    ++known->days;
+}
+
+void Absences::tell(std::ostream& err) const {
+    for (const Absence& absence : absences) {
+        err << "tides: no " << plaintext(absence.subject);
+        if (absence.days > 1) {
+            err << " on " << numbertext(absence.days) << " days from " << isodate(absence.first) << " to "
+                << isodate(absence.last);
+        } else {
+            err << " on " << isodate(absence.first);
+        }
+        err << ": " << absence.reason << "\n";
+    }
+}
+
+}  // namespace tarvane

@@ -14,7 +14,7 @@ namespace tarvane {
 void printsun(MainContext& context) {
     const Session& session = context.session;
     if (!context.services.messages.ask("Print Sun and Lunar times?", messagetitle)) return;
-    if (session.suntable.suntext[1][1].empty()) {
+    if (session.suntable.suntext[1][suncolumn::date].empty()) {
         tellmissing(context, "Calculate a months suntimes");
         return;
     }
@@ -25,7 +25,7 @@ void printsun(MainContext& context) {
 
 void savesun(MainContext& context) {
     const SunTable& table = context.session.suntable;
-    if (table.suntext[1][1].empty()) {
+    if (table.suntext[1][suncolumn::date].empty()) {
         tellmissing(context, "Calculate a months suntimes");
         return;
     }

@@ -19,8 +19,7 @@ struct Month {
 
 /// The heading row on time by the month's number alone; nothing where no row is due.
 const char* timerow(int month, bool summer) {
-    const bool summermonth = month >= 4 && month <= 10;
-    if (summermonth && summer) return "(Summer Times)";
+    if (issummermonth(month) && summer) return "(Summer Times)";
     // kept: November and December have no row at all while the summer option is on
     if (month > 10 && summer) return nullptr;
     return "(Standard Times)";

@@ -26,29 +26,29 @@ const char* const makersline = "Tarvane Tides, tide predictions for yachtsmen\th
 
 const char* timeline(const ClosingFacts& facts) {
     if (facts.currentsummer == 0) return uncorrectedoffline;
-    return facts.tidemonth >= 4 && facts.tidemonth <= 10 ? adjustedline : uncorrectedline;
+    return issummermonth(facts.tidemonth) ? adjustedline : uncorrectedline;
 }
 
 /// The columns of the sun page stand on tab stops, half an inch apart: one tab between columns, two where a group ends.
 constexpr double tabstop = 720;
 
 struct SunColumn {
-    std::size_t column;
+    suncolumn::Number column;
     int stop;
     const char* heading;
 };
 
-constexpr std::array<SunColumn, 7> suncolumns{{{1, 1, "Date"},
-                                               {4, 3, "Sunrise"},
-                                               {5, 4, "Sunset"},
-                                               {3, 6, "Civil Twilights"},
-                                               {6, 7, ""},
-                                               {2, 9, "Nautical Twilights"},
-                                               {7, 10, ""}}};
+constexpr std::array<SunColumn, 7> suncolumns{{{suncolumn::date, 1, "Date"},
+                                               {suncolumn::sunrise, 3, "Sunrise"},
+                                               {suncolumn::sunset, 4, "Sunset"},
+                                               {suncolumn::civildawn, 6, "Civil Twilights"},
+                                               {suncolumn::civildusk, 7, ""},
+                                               {suncolumn::nautdawn, 9, "Nautical Twilights"},
+                                               {suncolumn::nautdusk, 10, ""}}};
 
 /// A date with the blank that days below 10 have in front.
 std::string datecell(const SunTable& table, std::size_t day) {
-    return (day < 10 ? " " : "") + table.suntext[day][1];
+    return (day < 10 ? " " : "") + table.suntext[day][suncolumn::date];
 }
 
 double widestdate(const Printer& printer, const SunTable& table) {
@@ -108,7 +108,7 @@ void printsunpage(Printer& printer, const SunTable& table, const LunarTexts& lun
     const double right = widest + printer.textwidth(" ") > 2 * tabstop ? tabstop : 0;
     printer.setbold(true);
     for (const SunColumn& column : suncolumns) {
-        printer.setcurrentx(column.stop * tabstop + (column.column == 1 ? 0 : right));
+        printer.setcurrentx(column.stop * tabstop + (column.column == suncolumn::date ? 0 : right));
         printer.printon(column.heading);
     }
     printer.setbold(false);

@@ -30,9 +30,6 @@ std::string undefineddayfile(const std::string& reason, const std::string& portb
 /// The month's sun times.
 std::string sunfile(const SunTable& table);
 
-/// Days that the table holds: its rows from 1 that have a text in column 1.
-int daysofsuntable(const SunTable& table);
-
 /// "Summer Time" when the option is on and the month of the date on show is from 4 to 10, else "Standard Time".
 const char* timeofmonth(std::int16_t currentsummer, const DateOnShow& onshow);
 

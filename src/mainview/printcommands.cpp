@@ -16,7 +16,7 @@ constexpr std::size_t leastmonthrows = 11;
 
 DayPage daypage(const Session& session) {
     return {session.view.portbox, session.view.tidedatebox,       session.daytable.daystide1,
-            session.curve,        session.prediction.samplecount, session.prediction.defined,
+            session.curve,        session.prediction.samplecount, session.prediction.whynot,
             session.settings,     closingfacts(session)};
 }
 
@@ -51,10 +51,11 @@ void printmonth(MainContext& context) {
         tellmissing(context, "Calculate a months tides");
         return;
     }
-    const MonthPage page{rows, session.port.portname, session.onshow.tideyear, session.settings.userdepth,
+    // kept: the heading has the year and the depth of the day on show, also over a month that stands from before
+    const MonthPage page{session.month.days, session.port.portname, session.onshow.tideyear, session.settings.userdepth,
                          closingfacts(session)};
     printdocument(context, "months tides " + monthtext(session.onshow),
-                  [&](Printer& printer) { printmonthpages(printer, page, context.services.locale); });
+                  [&](Printer& printer) { printmonthpages(printer, page); });
 }
 
 }  // namespace tarvane

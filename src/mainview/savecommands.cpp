@@ -23,7 +23,7 @@ void saveday(MainContext& context) {
     writedocument(context, *path,
                   session.prediction.defined
                       ? dayfile(session.curve, view.portbox, view.tidedatebox)
-                      : undefineddayfile(session.daytable.daylines[4], view.portbox, view.tidedatebox));
+                      : undefineddayfile(session.prediction.whynot, view.portbox, view.tidedatebox));
 }
 
 }  // namespace tarvane

@@ -59,8 +59,8 @@ std::string dayfile(const CurveOnShow& curve, const std::string& portbox, const 
     return tosinglebyte(text);
 }
 
-std::string undefineddayfile(const std::string& reason, const std::string& portbox, const std::string& tidedatebox) {
-    return tosinglebyte(captions(portbox, tidedatebox) + reason + lineend);
+std::string undefineddayfile(const std::string& whynot, const std::string& portbox, const std::string& tidedatebox) {
+    return tosinglebyte(captions(portbox, tidedatebox) + nopredictiontext(whynot) + lineend);
 }
 
 std::string sunfile(const SunTable& table) {

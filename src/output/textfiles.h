@@ -24,8 +24,8 @@ std::string monthfile(const MonthTable& table, const std::string& separator, std
 /// The day's 144 heights, 10 minutes apart, under the captions of the port and the date.
 std::string dayfile(const CurveOnShow& curve, const std::string& portbox, const std::string& tidedatebox);
 
-/// The captions and the one line that says why the day has no heights.
-std::string undefineddayfile(const std::string& reason, const std::string& portbox, const std::string& tidedatebox);
+/// The captions and the one line that says why the day has no prediction.
+std::string undefineddayfile(const std::string& whynot, const std::string& portbox, const std::string& tidedatebox);
 
 /// The month's sun times.
 std::string sunfile(const SunTable& table);

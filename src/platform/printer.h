@@ -40,6 +40,8 @@ class Printer {
     /// Prints at the current position and stays behind the text.
     virtual void printon(const std::string& text) = 0;
 
+    /// Thickness of the lines to come, twips; 8 from the opening on.
+    virtual void setlinewidth(double twips) = 0;
     virtual void line(double x1, double y1, double x2, double y2) = 0;
     virtual void point(double x, double y) = 0;
 

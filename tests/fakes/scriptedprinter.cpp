@@ -28,7 +28,7 @@ std::string ScriptedPrinter::log() const {
         const auto whole = [](double twips) { return static_cast<long>(std::nearbyint(twips)); };
         all << entry.page << ' ' << names[static_cast<int>(entry.kind)] << ' ' << whole(entry.x) << ' '
             << whole(entry.y);
-        if (entry.kind == Kind::line) all << ' ' << whole(entry.x2) << ' ' << whole(entry.y2);
+        if (entry.kind == Kind::line) all << ' ' << whole(entry.x2) << ' ' << whole(entry.y2) << ' ' << entry.size;
         if (entry.kind == Kind::text) all << ' ' << entry.size << (entry.bold ? " bold " : " plain ") << entry.text;
         all << '\n';
     }
@@ -50,6 +50,7 @@ bool ScriptedPrinter::begin(const std::string& name) {
     left = top = x = y = 0;
     size = 9;
     bold = false;
+    linewidth = 8;
     return true;
 }
 
@@ -67,7 +68,7 @@ void ScriptedPrinter::print(const std::string& text) {
 }
 
 void ScriptedPrinter::line(double x1, double y1, double x2, double y2) {
-    printed.push_back({Kind::line, pages, x1, y1, x2, y2, size, bold, {}});
+    printed.push_back({Kind::line, pages, x1, y1, x2, y2, linewidth, false, {}});
 }
 
 void ScriptedPrinter::point(double px, double py) {

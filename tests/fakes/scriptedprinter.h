@@ -21,7 +21,7 @@ class ScriptedPrinter : public Printer {
         int page = 1;
         double x = 0, y = 0;
         double x2 = 0, y2 = 0;
-        double size = 9;
+        double size = 9;  ///< of a text, points; of a line its thickness in twips
         bool bold = false;
         std::string text;
     };
@@ -37,7 +37,7 @@ class ScriptedPrinter : public Printer {
     int pages = 0;      ///< of the document begun last
     bool open = false;
 
-    /// Every entry a line: "1 text 0 240 9 bold Port". Coordinates are rounded to whole twips.
+    /// Every entry a line: "1 text 0 240 9 bold Port", "1 line 0 0 9900 0 8". Coordinates are rounded to whole twips.
     std::string log() const;
 
     /// The texts alone, in the order printed.
@@ -57,6 +57,7 @@ class ScriptedPrinter : public Printer {
 
     void setfontsize(double points) override { size = points; }
     void setbold(bool on) override { bold = on; }
+    void setlinewidth(double twips) override { linewidth = twips; }
     double currentx() const override { return x; }
     double currenty() const override { return y; }
     void setcurrentx(double newx) override { x = newx; }
@@ -81,6 +82,7 @@ class ScriptedPrinter : public Printer {
     double x = 0, y = 0;
     double size = 9;
     bool bold = false;
+    double linewidth = 8;
 
     /// Where the position stands behind a text that begins at `from`.
     double behind(const std::string& text, double from) const;

@@ -75,7 +75,7 @@ TEST_F(PrintCommands, EachHandsOverOneDocumentOnYesOnly) {
 
 TEST_F(PrintCommands, AMonthIsCalculatedOnceOnly) {
     run(commands[2]);
-    session.month.monthspredictions[6] = "1 Apr (Mon) as it stood";
+    session.month.days[0].head = "1 Apr (Mon) as it stood";
     run(commands[2]);
     EXPECT_TRUE(printed("1 Apr (Mon) as it stood"));
     session.month.monthspredictions.resize(10);

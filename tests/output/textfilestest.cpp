@@ -81,9 +81,9 @@ TEST(TextFiles, ADayEveryTenMinutes) {
     const std::string golden = goldenfile("day-eighths.txt");
     ASSERT_FALSE(golden.empty());
     EXPECT_EQ(dayfile(curve, port, date), golden);
-    EXPECT_EQ(undefineddayfile("None: é", port, date),
+    EXPECT_EQ(undefineddayfile("Grund: é", port, date),
               "Port    : F\xE9"
-              "camp\r\nDate   : 9 April 2024 (Tuesday)\r\nNone: \xE9\r\n");
+              "camp\r\nDate   : 9 April 2024 (Tuesday)\r\nNo prediction. Grund: \xE9\r\n");
 }
 
 TEST(TextFiles, TheSunsColumnsInTheFilesOrder) {

@@ -17,8 +17,8 @@ namespace {
 constexpr double twipstoinch = 1440;
 constexpr double twipstopoint = 20;
 constexpr double tabstop = 720;
-constexpr double linethickness = 8;
-constexpr double dotsize = 24;
+constexpr double firstlinewidth = 8;
+constexpr double dotsize = 40;
 constexpr double pdfmargin = 18;  // points, about what a printer can't reach
 
 QFont pagefont() {
@@ -89,6 +89,7 @@ bool QtPrinter::begin(const std::string& title) {
     pagesize = QSizeF(printer->pageLayout().paintRectPixels(printer->resolution()).size()) / unit;
     painter->scale(unit, unit);
     font = pagefont();
+    linewidth = firstlinewidth;
     origin = current = QPointF(0, 0);
     return true;
 }
@@ -160,7 +161,7 @@ void QtPrinter::printon(const std::string& text) {
 
 void QtPrinter::line(double x1, double y1, double x2, double y2) {
     if (!painter || !finite({x1, y1, x2, y2})) return;
-    painter->setPen(QPen(Qt::black, linethickness, Qt::SolidLine, Qt::RoundCap));
+    painter->setPen(QPen(Qt::black, linewidth, Qt::SolidLine, Qt::RoundCap));
     painter->drawLine(QPointF(x1, y1) - origin, QPointF(x2, y2) - origin);
 }
 

@@ -42,6 +42,7 @@ class QtPrinter : public Printer {
     /// Tab stops stand every 720 twips from the page's left edge.
     void print(const std::string& text) override;
     void printon(const std::string& text) override;
+    void setlinewidth(double twips) override { linewidth = twips; }
     void line(double x1, double y1, double x2, double y2) override;
     void point(double x, double y) override;
     void newpage() override;
@@ -60,6 +61,7 @@ class QtPrinter : public Printer {
     std::unique_ptr<QPrinter> printer;
     std::unique_ptr<QPainter> painter;
     QFont font;
+    double linewidth = 0;
     QSizeF pagesize;
     QPointF origin;
     QPointF current;

@@ -5,9 +5,11 @@
 #include "session/documents.h"
 
 namespace tarvane {
+
 void savemonth(MainContext& context) {
     const Session& session = context.session;
     if (!havemonthtable(context)) return;
+    // kept: the name is that of the month on show, also for a table that stands from before
     const std::string proposed = monthfilename(session.port.portname, session.onshow);
     const auto path = choosetextfile(context, "Save Months Tides To Text File", proposed);
     if (!path) return;

@@ -29,8 +29,9 @@ struct MainView {
     std::string timeval, hiteval, lblrate, lblmousestatus;
     std::string lblSprings, lblNeap;
     std::string disclaimer;
-    bool topmenusenabled = true;      ///< mnutides, mnuCalc, mnuconfig
-    bool specialvisible = false;      ///< mnuSpecial
+    std::string answer;           ///< what the last command has done that saves, prints or copies; empty for nothing
+    bool topmenusenabled = true;  ///< mnutides, mnuCalc, mnuconfig
+    bool specialvisible = false;  ///< mnuSpecial
     bool maintenancevisible = false;  ///< mnumaintenance and mnumaintainfile
     bool adjustvisible = false;       ///< mnuAdjustLoad
     bool copyportsvisible = false;    ///< mnucopyconstants

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <sstream>
 
+#include "fakes/script.h"
+
 namespace tarvane {
 namespace {
 
@@ -42,8 +44,8 @@ std::vector<std::string> ScriptedPrinter::texts() const {
     return all;
 }
 
-bool ScriptedPrinter::begin(const std::string& name) {
-    if (refuse) return false;
+PrintOutcome ScriptedPrinter::begin(const std::string& name) {
+    if (!refuse.empty()) return {refuse};
     title = name;
     open = true;
     pages = 1;
@@ -51,7 +53,7 @@ bool ScriptedPrinter::begin(const std::string& name) {
     size = 9;
     bold = false;
     linewidth = 8;
-    return true;
+    return {};
 }
 
 double ScriptedPrinter::textwidth(const std::string& text) const {
@@ -81,11 +83,11 @@ void ScriptedPrinter::newpage() {
     y = top;
 }
 
-bool ScriptedPrinter::enddocument() {
-    const bool was = open;
+PrintOutcome ScriptedPrinter::enddocument() {
+    if (!open) failtest("a document that was not opened is handed over");
     open = false;
-    if (was) ++documents;
-    return was;
+    if (fail.empty()) ++documents;
+    return {fail};
 }
 
 double ScriptedPrinter::behind(const std::string& text, double from) const {

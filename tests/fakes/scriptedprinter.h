@@ -28,8 +28,9 @@ class ScriptedPrinter : public Printer {
 
     double pagewidth = 11000;
     double pageheight = 16000;
-    bool refuse = false;  ///< `begin` fails
-    std::string place;    ///< what `destination` tells
+    std::string refuse;  ///< why `begin` fails; empty: it doesn't
+    std::string fail;    ///< why `enddocument` fails
+    std::string place;   ///< what `destination` tells
 
     std::vector<Printed> printed;
     std::string title;
@@ -43,7 +44,7 @@ class ScriptedPrinter : public Printer {
     /// The texts alone, in the order printed.
     std::vector<std::string> texts() const;
 
-    bool begin(const std::string& name) override;
+    PrintOutcome begin(const std::string& name) override;
 
     double width() const override { return pagewidth; }
     double height() const override { return pageheight; }
@@ -74,7 +75,7 @@ class ScriptedPrinter : public Printer {
 
     void newpage() override;
 
-    bool enddocument() override;
+    PrintOutcome enddocument() override;
     std::string destination() const override { return place; }
 
   private:

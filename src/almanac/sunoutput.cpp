@@ -14,18 +14,20 @@ namespace tarvane {
 void printsun(MainContext& context) {
     const Session& session = context.session;
     if (!context.services.messages.ask("Print Sun and Lunar times?", messagetitle)) return;
-    if (session.suntable.suntext[1][1].empty()) {
+    const SunTable& table = session.suntable;
+    if (daysofsuntable(table) == 0) {
         tellmissing(context, "Calculate a months suntimes");
         return;
     }
-    printdocument(context, "sun and moon " + monthtext(session.onshow), [&](Printer& printer) {
-        printsunpage(printer, session.suntable, session.lunar, closingfacts(session));
-    });
+    // The titles are empty over times that were calculated for the clipboard, which are the port's.
+    const std::string place = table.titles[1].empty() ? session.port.portname : table.titles[1];
+    printdocument(context, {"sun and moon", place, makedate(table.year, table.month, 1), true},
+                  [&](Printer& printer) { printsunpage(printer, table, session.lunar, closingfacts(session)); });
 }
 
 void savesun(MainContext& context) {
     const SunTable& table = context.session.suntable;
-    if (table.suntext[1][1].empty()) {
+    if (daysofsuntable(table) == 0) {
         tellmissing(context, "Calculate a months suntimes");
         return;
     }
@@ -41,6 +43,7 @@ void savesuncsv(MainContext& context) {
     Session& session = context.session;
     Messages& messages = context.services.messages;
     FileRequest request;
+    // kept: this file alone goes into the program's folder where the user doesn't choose another
     request.folder = session.folders.programfolder;
     request.filter = "CSV file | *csv";
     const std::optional<std::string> chosen = context.services.filedialogs.save(request);

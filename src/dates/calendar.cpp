@@ -1,5 +1,7 @@
 #include "dates/calendar.h"
 
+#include <array>
+
 namespace tarvane {
 
 using std::chrono::days;
@@ -29,6 +31,12 @@ int dayofyear(Date date) {
 Date makedate(int year, int month, int day) {
     const auto first = std::chrono::year{year} / std::chrono::January / 1 + months{month - 1};
     return Date{first} + days{day - 1};
+}
+
+const char* englishmonth(int month) {
+    static constexpr std::array<const char*, 13> names{"",    "Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    return month >= 1 && month <= 12 ? names[static_cast<std::size_t>(month)] : "";
 }
 
 bool isleapyear(int year) {

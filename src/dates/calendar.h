@@ -26,6 +26,10 @@ int dayofyear(Date date);  ///< 1 for 1 January
 /// A date from numbers; a month or a day past its range carries over (month 13 is January of the next year).
 Date makedate(int year, int month, int day);
 
+/// "Jan" to "Dec" for months 1 to 12, in English under every locale: for texts that are the same everywhere. Empty for
+/// any other month.
+const char* englishmonth(int month);
+
 /// Divisible by 4 and not by 100, or divisible by 400.
 bool isleapyear(int year);
 

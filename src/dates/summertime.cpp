@@ -36,6 +36,10 @@ std::int16_t summershift(Date date, std::int16_t summerflag2) {
     return summerflag2 == 0 ? std::int16_t{0} : IsSummerDate(date);
 }
 
+bool issummermonth(double month) {
+    return month >= 4 && month <= 10;
+}
+
 std::string correctionline(std::int16_t shift, Date date) {
     // kept: the line for no shift lacks the "are" that the other two have
     if (shift == 0) return uncorrectedoffline;

@@ -20,6 +20,9 @@ std::int16_t IsSummerDate(Date date);
 /// The shift that a computation on `date` takes: `IsSummerDate`, forced to 0 when `summerflag2` is 0.
 std::int16_t summershift(Date date, std::int16_t summerflag2);
 
+/// True from April to October: the rule of the texts that go by the month's number alone, whatever the date's shift.
+bool issummermonth(double month);
+
 /// The correction line under the main curve for a shift (-1 or 0) and the date on show.
 std::string correctionline(std::int16_t shift, Date date);
 

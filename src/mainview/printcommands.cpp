@@ -1,13 +1,11 @@
 #include "mainview/printcommands.h"
 
 #include <cstddef>
-#include <string>
 
 #include "mainview/monthcommand.h"
 #include "output/printouts.h"
 #include "session/documents.h"
 #include "session/tidecurve.h"
-#include "text/numbers.h"
 
 namespace tarvane {
 namespace {
@@ -16,13 +14,12 @@ constexpr std::size_t leastmonthrows = 11;
 
 DayPage daypage(const Session& session) {
     return {session.view.portbox, session.view.tidedatebox,       session.daytable.daystide1,
-            session.curve,        session.prediction.samplecount, session.prediction.defined,
+            session.curve,        session.prediction.samplecount, session.prediction.whynot,
             session.settings,     closingfacts(session)};
 }
 
-std::string daytext(const DateOnShow& onshow) {
-    return format(yearof(onshow.tidedate), "0000") + "-" + format(monthof(onshow.tidedate), "00") + "-" +
-           format(dayof(onshow.tidedate), "00");
+Printout ofday(const Session& session, const char* kind) {
+    return {kind, session.port.portname, session.onshow.tidedate};
 }
 
 }  // namespace
@@ -30,7 +27,7 @@ std::string daytext(const DateOnShow& onshow) {
 void printcurve(MainContext& context) {
     Session& session = context.session;
     if (!context.services.messages.ask("              Print curve?", messagetitle)) return;
-    printdocument(context, "curve " + daytext(session.onshow),
+    printdocument(context, ofday(session, "curve"),
                   [&](Printer& printer) { printcurvepage(printer, daypage(session)); });
     drawtidecurve(session, context.surfaces);
 }
@@ -38,7 +35,7 @@ void printcurve(MainContext& context) {
 void printtenminutes(MainContext& context) {
     const Session& session = context.session;
     if (!context.services.messages.ask("Print rise at 10 minute intervals?", messagetitle)) return;
-    printdocument(context, "heights " + daytext(session.onshow),
+    printdocument(context, ofday(session, "heights"),
                   [&](Printer& printer) { printtenminutepage(printer, daypage(session)); });
 }
 
@@ -51,10 +48,12 @@ void printmonth(MainContext& context) {
         tellmissing(context, "Calculate a months tides");
         return;
     }
-    const MonthPage page{rows, session.port.portname, session.onshow.tideyear, session.settings.userdepth,
+    const MonthTable& month = session.month;
+    // kept: the heading has the year and the depth of the day on show, also over a month that stands from before
+    const MonthPage page{month.days, session.port.portname, session.onshow.tideyear, session.settings.userdepth,
                          closingfacts(session)};
-    printdocument(context, "months tides " + monthtext(session.onshow),
-                  [&](Printer& printer) { printmonthpages(printer, page, context.services.locale); });
+    printdocument(context, {"months tides", month.made.portname, makedate(month.made.year, month.made.month, 1), true},
+                  [&](Printer& printer) { printmonthpages(printer, page); });
 }
 
 }  // namespace tarvane

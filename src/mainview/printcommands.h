@@ -1,5 +1,5 @@
-// The commands of the "&Print" menu about tides: each asks first, prints to the default printer, and tells where a PDF
-// went that stands in for it. Must not know any control.
+// The commands of the "&Print" menu about tides: each asks first, prints to the default printer or the PDF that stands
+// in for it, and answers. Must not know any control.
 #pragma once
 
 #include "session/session.h"

@@ -5,9 +5,11 @@
 #include "session/documents.h"
 
 namespace tarvane {
+
 void savemonth(MainContext& context) {
     const Session& session = context.session;
     if (!havemonthtable(context)) return;
+    // kept: the name is that of the month on show, also for a table that stands from before
     const std::string proposed = monthfilename(session.port.portname, session.onshow);
     const auto path = choosetextfile(context, "Save Months Tides To Text File", proposed);
     if (!path) return;
@@ -23,7 +25,7 @@ void saveday(MainContext& context) {
     writedocument(context, *path,
                   session.prediction.defined
                       ? dayfile(session.curve, view.portbox, view.tidedatebox)
-                      : undefineddayfile(session.daytable.daylines[4], view.portbox, view.tidedatebox));
+                      : undefineddayfile(session.prediction.whynot, view.portbox, view.tidedatebox));
 }
 
 }  // namespace tarvane

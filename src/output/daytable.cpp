@@ -1,6 +1,7 @@
 #include "output/daytable.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "text/numbers.h"
 #include "text/singlebyte.h"
@@ -9,7 +10,8 @@
 namespace tarvane {
 namespace {
 
-const char* const undefinedday = "No prediction: the day's constants divide by zero";
+/// Characters of a line of the day table.
+constexpr std::size_t shortline = 22;
 
 }  // namespace
 
@@ -20,9 +22,11 @@ void buildpredictiontext(DayTable& table, const Prediction& prediction, int n, c
     table.daylines[2] = "Date : " + slashdate(onshow.tideday, onshow.tidemonth, onshow.tideyear);
     table.daystide1 = "  Predictions\r\n";
     if (!prediction.defined) {
-        table.daylines[4] = undefinedday;
+        table.daylines[4] = nopredictiontext(prediction.whynot);
         table.daylinecount = 5;
-        table.daystide1 += "   None: the day's\r\n   constants divide\r\n   by zero\r";
+        table.daystide1 += std::string("   ") + nopredictionword + "\r\n";
+        for (const std::string& row : shortlines(prediction.whynot))
+            table.daystide1 += "   " + row + "\r";
         return;
     }
     table.daystide1 += "   (Range " + format(prediction.dayrange, "0.0") + "M)\r\n   Time    Ht.\r\n";
@@ -34,6 +38,22 @@ void buildpredictiontext(DayTable& table, const Prediction& prediction, int n, c
         table.daylines[static_cast<std::size_t>(i) + 3] = text.time + "   " + text.height;
     }
     table.daylinecount = n + 4;
+}
+
+std::string nopredictiontext(const std::string& whynot) {
+    return std::string(nopredictionword) + ". " + whynot;
+}
+
+std::vector<std::string> shortlines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        if (lines.empty() || lines.back().size() + 1 + word.size() > shortline)
+            lines.push_back(word);
+        else
+            lines.back() += " " + word;
+    }
+    return lines;
 }
 
 std::string slashdate(double day, double month, double year) {

@@ -1,11 +1,9 @@
 #include "output/printouts.h"
 
-#include <algorithm>
 #include <array>
 
 #include "dates/summertime.h"
 #include "output/pagetext.h"
-#include "output/textfiles.h"
 
 namespace tarvane {
 namespace {
@@ -22,57 +20,13 @@ constexpr std::array<const char*, 7> notices{
     "The source and licence of the tidal data named above are to be given with every copy.",
 };
 
+static_assert(closinglines == notices.size() + sunclosinglines);
+
 const char* const makersline = "Tarvane Tides, tide predictions for yachtsmen\thttps://tarvane.example";
 
 const char* timeline(const ClosingFacts& facts) {
     if (facts.currentsummer == 0) return uncorrectedoffline;
-    return facts.tidemonth >= 4 && facts.tidemonth <= 10 ? adjustedline : uncorrectedline;
-}
-
-/// The columns of the sun page stand on tab stops, half an inch apart: one tab between columns, two where a group ends.
-constexpr double tabstop = 720;
-
-struct SunColumn {
-    std::size_t column;
-    int stop;
-    const char* heading;
-};
-
-constexpr std::array<SunColumn, 7> suncolumns{{{1, 1, "Date"},
-                                               {4, 3, "Sunrise"},
-                                               {5, 4, "Sunset"},
-                                               {3, 6, "Civil Twilights"},
-                                               {6, 7, ""},
-                                               {2, 9, "Nautical Twilights"},
-                                               {7, 10, ""}}};
-
-/// A date with the blank that days below 10 have in front.
-std::string datecell(const SunTable& table, std::size_t day) {
-    return (day < 10 ? " " : "") + table.suntext[day][1];
-}
-
-double widestdate(const Printer& printer, const SunTable& table) {
-    double widest = 0;
-    const auto days = static_cast<std::size_t>(daysofsuntable(table));
-    for (std::size_t day = 1; day <= days; ++day)
-        widest = std::max(widest, printer.textwidth(datecell(table, day)));
-    return widest;
-}
-
-/// `right` is how far the columns behind the dates stand right of their stops.
-void printsundays(Printer& printer, const SunTable& table, double widest, double right) {
-    const auto days = static_cast<std::size_t>(daysofsuntable(table));
-    for (std::size_t day = 1; day <= days; ++day) {
-        // A blank is narrower than a digit in most fonts, so the dates are lined up at their right ends.
-        const std::string date = datecell(table, day);
-        printer.setcurrentx(tabstop + widest - printer.textwidth(date));
-        printer.printon(date);
-        for (std::size_t i = 1; i < suncolumns.size(); ++i) {
-            printer.setcurrentx(suncolumns[i].stop * tabstop + right);
-            printer.printon(table.suntext[day][suncolumns[i].column]);
-        }
-        printer.print("");
-    }
+    return issummermonth(facts.tidemonth) ? adjustedline : uncorrectedline;
 }
 
 }  // namespace
@@ -89,37 +43,11 @@ void printclosinglines(Printer& printer, double left, const ClosingFacts& facts,
     printer.setfontsize(bodysize);
 }
 
-double closingheight(Printer& printer) {
+double closingheight(Printer& printer, std::size_t lines) {
     printer.setfontsize(closingsize);
-    const double height = (notices.size() + 3) * printer.textheight();
+    const double height = static_cast<double>(lines) * printer.textheight();
     printer.setfontsize(bodysize);
     return height;
-}
-
-void printsunpage(Printer& printer, const SunTable& table, const LunarTexts& lunar, const ClosingFacts& closing) {
-    printer.setfontsize(bodysize);
-    printer.setbold(true);
-    printblanklines(printer, 2);
-    printat(printer, tabstop, table.titles[1] + "\t" + table.titles[3] + "\t" + table.titles[2]);
-    printblanklines(printer, 2);
-    printer.setbold(false);
-    const double widest = widestdate(printer, table);
-    // Dates with a long name of the month push the columns to the next tab stop, as a tab would.
-    const double right = widest + printer.textwidth(" ") > 2 * tabstop ? tabstop : 0;
-    printer.setbold(true);
-    for (const SunColumn& column : suncolumns) {
-        printer.setcurrentx(column.stop * tabstop + (column.column == 1 ? 0 : right));
-        printer.printon(column.heading);
-    }
-    printer.setbold(false);
-    printblanklines(printer, 2);
-    printsundays(printer, table, widest, right);
-    printblanklines(printer, 3);
-    // The list's first entry is always empty.
-    for (int i = 2; i <= lunar.lunarcount; ++i)
-        printat(printer, tabstop, lunar.lunarlist[static_cast<std::size_t>(i)]);
-    printblanklines(printer, 1);
-    printclosinglines(printer, tabstop, closing, false);
 }
 
 }  // namespace tarvane

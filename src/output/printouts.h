@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "engine/curvelimits.h"
-#include "platform/locale.h"
+#include "output/monthtable.h"
 #include "platform/printer.h"
 #include "portdata/configuration.h"
 #include "sunmoon/lunarphases.h"
@@ -30,8 +30,12 @@ struct ClosingFacts {
 /// afterwards. The notices on source and reproduction are left away on the sun printout.
 void printclosinglines(Printer& printer, double left, const ClosingFacts& facts, bool notices);
 
-/// Height that the closing lines with their notices take, in twips. Leaves size 9.
-double closingheight(Printer& printer);
+/// How many they are with the notices, and without.
+inline constexpr std::size_t closinglines = 10;
+inline constexpr std::size_t sunclosinglines = 3;
+
+/// Height of so many lines in size 7, twips. Leaves size 9.
+double closingheight(Printer& printer, std::size_t lines = closinglines);
 
 /// What the two printouts of a day take.
 struct DayPage {
@@ -39,7 +43,7 @@ struct DayPage {
     std::string daystide1;             ///< the caption of the day table
     const CurveOnShow& curve;
     int samplecount = 0;
-    bool defined = true;  ///< false for a day without a prediction: no curve and no heights
+    std::string whynot;  ///< why the day has no prediction, and then neither curve nor heights; else empty
     const Settings& settings;
     ClosingFacts closing;
 };
@@ -52,7 +56,7 @@ void printtenminutepage(Printer& printer, const DayPage& page);
 
 /// What the month's table takes.
 struct MonthPage {
-    const std::vector<std::string>& monthspredictions;  ///< the rows of the list box
+    const std::vector<MonthDay>& days;  ///< of one month, from its first
     std::string portname;
     double tideyear = 0;
     float userdepth = 0;
@@ -60,10 +64,10 @@ struct MonthPage {
 };
 
 /// A column to a week; a month that runs on past five weeks, and one whose days are too full for that layout, take the
-/// pages that they need. `locale` gives the day names that the rows were made with.
-void printmonthpages(Printer& printer, const MonthPage& page, const Locale& locale);
+/// pages that they need. Without days nothing is printed.
+void printmonthpages(Printer& printer, const MonthPage& page);
 
-/// The sun table by days and the lunar phases.
+/// The sun table by days and the lunar phases, spread over the height of the page.
 void printsunpage(Printer& printer, const SunTable& table, const LunarTexts& lunar, const ClosingFacts& closing);
 
 }  // namespace tarvane

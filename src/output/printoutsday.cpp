@@ -14,6 +14,11 @@ namespace {
 /// Beyond this many metres a line a metre would only blacken the box.
 constexpr double mostgridlines = 500;
 
+/// Thickness of lines, twips: the curve stands out from the hair-thin grid.
+constexpr double curvewidth = 36;
+constexpr double framewidth = 8;
+constexpr double gridwidth = 3;
+
 /// The box of the curve, from (0, 0) to (width, height), and what it maps.
 struct CurveBox {
     double width, height;
@@ -28,6 +33,7 @@ struct CurveBox {
 
 void drawcurve(Printer& printer, const CurveBox& box, const CurveSeries& series, int samplecount) {
     const auto last = static_cast<std::size_t>(std::max(samplecount - 2, 0));
+    printer.setlinewidth(curvewidth);
     for (std::size_t i = 2; i < last; ++i)
         printer.line(box.x(series.curve1[i].time), box.y(series.curve1[i].height), box.x(series.curve1[i + 1].time),
                      box.y(series.curve1[i + 1].height));
@@ -38,10 +44,17 @@ void drawcurve(Printer& printer, const CurveBox& box, const CurveSeries& series,
     }
 }
 
-void drawhours(Printer& printer, const CurveBox& box) {
+void drawframe(Printer& printer, const CurveBox& box) {
+    printer.setlinewidth(framewidth);
     printer.line(0, 0, box.width, 0);
     printer.line(0, box.height, box.width, box.height);
-    for (int hour = 0; hour <= 24; hour += 3)
+    printer.line(0, 0, 0, box.height);
+    printer.line(box.width, 0, box.width, box.height);
+}
+
+void drawhours(Printer& printer, const CurveBox& box) {
+    printer.setlinewidth(gridwidth);
+    for (int hour = 3; hour <= 21; hour += 3)
         printer.line(box.x(hour), 0, box.x(hour), box.height);
     printer.setcurrenty(box.height + printer.textheight() / 4);
     for (int hour = 3; hour <= 21; hour += 3) {
@@ -56,6 +69,7 @@ void drawmetres(Printer& printer, const CurveBox& box) {
     const double first = std::ceil(box.limits.curvebottom), last = box.limits.curvetop;
     const double lineheight = printer.textheight();
     const double gap = printer.textwidth("0") / 2;
+    printer.setlinewidth(gridwidth);
     if (last - first <= mostgridlines) {
         const double metre = box.height / (last - box.limits.curvebottom);
         const double step = std::max(1.0, std::ceil(lineheight / metre));
@@ -75,16 +89,27 @@ void drawmetres(Printer& printer, const CurveBox& box) {
     printer.setbold(false);
 }
 
+/// In the middle of a box without a curve: why there is none.
+void printwhynot(Printer& printer, const CurveBox& box, const std::string& whynot) {
+    const std::string text = nopredictiontext(whynot);
+    printer.setbold(true);
+    printer.setcurrentx((box.width - printer.textwidth(text)) / 2);
+    printer.setcurrenty((box.height - printer.textheight()) / 2);
+    printer.printon(text);
+    printer.setbold(false);
+    printer.setcurrenty(box.height);
+}
+
 /// The one note line under the curve's captions.
 void printcurvenote(Printer& printer, const Settings& settings) {
     if (settings.currentoutput != 2.0F && settings.currentoutput != 3.0F) {
         printat(printer, 0, "Heights shown in Metres to Chart Datum");
         return;
     }
-    std::string depths = "User charted depth = " + numbertext(settings.userdepth);
+    std::string depths = "User charted depth = " + enteredmetres(settings.userdepth);
     if (settings.currentoutput == 3.0F)
-        depths += "   Draught = " + numbertext(settings.currentdraught) +
-                  "   Under keel = " + numbertext(settings.currentukc);
+        depths += "   Draught = " + enteredmetres(settings.currentdraught) +
+                  "   Under keel = " + enteredmetres(settings.currentukc);
     printer.setcurrentx(0);
     printer.printon("Heights shown in Metres and include:");
     printat(printer, printer.currentx() + printer.textwidth("  "), depths + " (Metres)");
@@ -112,8 +137,7 @@ void printtencolumn(Printer& printer, const DayPage& page, std::size_t column, d
     const std::size_t first = rowsofcolumn * (column - 1) + 1;
     for (std::size_t row = 0; row < rowsofcolumn; ++row) {
         const TimedValue& sample = page.curve.curvesamplescopy[first + row];
-        const std::string height = page.defined ? heighttext(sample.height) : std::string{};
-        printat(printer, left, ltrim(timetext(sample.time)) + "    " + height);
+        printat(printer, left, ltrim(timetext(sample.time)) + "    " + heighttext(sample.height));
         if (row % rowsofhour == rowsofhour - 1) printer.print("");
     }
 }
@@ -121,7 +145,7 @@ void printtencolumn(Printer& printer, const DayPage& page, std::size_t column, d
 std::string tenminutenote(const Settings& settings) {
     const bool datum = settings.currentoutput == 1.0F;
     if (!datum && settings.userdepth != 0)
-        return "Heights shown in Metres and include : User entered depth = " + numbertext(settings.userdepth) +
+        return "Heights shown in Metres and include : User entered depth = " + enteredmetres(settings.userdepth) +
                " (Metres)";
     return std::string("Heights shown in Metres to Chart Datum") + (datum ? "" : ".");
 }
@@ -136,9 +160,14 @@ void printcurvepage(Printer& printer, const DayPage& page) {
     const auto& samples = page.curve.curvesamplescopy;
     const CurveSeries series = curveseries(samples, page.samplecount, page.settings);
     const CurveBox box{0.9 * scalewidth, scaleheight / 2, curvelimits(series, samples, page.samplecount)};
-    if (series.drawn && page.defined) drawcurve(printer, box, series, page.samplecount);
-    drawmetres(printer, box);
-    drawhours(printer, box);
+    drawframe(printer, box);
+    if (page.whynot.empty()) {
+        drawmetres(printer, box);
+        drawhours(printer, box);
+        if (series.drawn) drawcurve(printer, box, series, page.samplecount);
+    } else {
+        printwhynot(printer, box, page.whynot);
+    }
     printer.print("");
     const double gap = captiongap(printer, page.daystide1);
     printer.setcurrenty(printer.currenty() + gap);
@@ -160,6 +189,13 @@ void printtenminutepage(Printer& printer, const DayPage& page) {
     printer.print("");
     printat(printer, m, page.portbox);
     printat(printer, m, page.tidedatebox);
+    if (!page.whynot.empty()) {
+        printer.setcurrenty(m / 1.5);
+        printat(printer, m, nopredictiontext(page.whynot));
+        printer.print("");
+        printclosinglines(printer, m, page.closing, true);
+        return;
+    }
     double underfirst = 0;
     for (std::size_t column = 1; column <= tablecolumns; ++column) {
         // kept: the first column stands a little lower than the others, and what follows stands under it

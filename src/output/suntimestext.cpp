@@ -9,13 +9,9 @@
 namespace tarvane {
 namespace {
 
-struct TextColumn {
-    const char* heading;
-    std::size_t column;  ///< of the sun table
-};
-
-constexpr std::array<TextColumn, 6> textcolumns{
-    {{"Sunrise", 4}, {"Sunset", 5}, {"Civil Dawn", 3}, {"Civil Dusk", 6}, {"Nautical Dawn", 2}, {"Nautical Dusk", 7}}};
+/// Of the columns behind the date, in the order of `suntimeorder`.
+constexpr std::array<const char*, suntimeorder.size()> headings{"Sunrise",    "Sunset",        "Civil Dawn",
+                                                                "Civil Dusk", "Nautical Dawn", "Nautical Dusk"};
 
 }  // namespace
 
@@ -27,18 +23,18 @@ std::string suntimestext(SunTable& table, const SunHeading& heading, int year, i
                          const std::string& separator) {
     std::string text = heading.portname + separator + timezonetext(heading.currentsummer) + separator +
                        LatitudeText(heading.portlat) + separator + LongitudeText(heading.portlong) + lineend + "Date";
-    for (const TextColumn& column : textcolumns)
-        text += separator + column.heading;
+    for (const char* title : headings)
+        text += separator + title;
     text += lineend;
     const int days = DaysInMonth(year, month);
     for (int day = 1; day <= days; ++day) {
         const auto row = static_cast<std::size_t>(day);
         // kept: the table holds this form of the date from now on
-        table.suntext[row][1] = slashdate(day, month, year);
-        text += table.suntext[row][1];
+        table.suntext[row][suncolumn::date] = slashdate(day, month, year);
+        text += table.suntext[row][suncolumn::date];
         // kept: an event that doesn't happen reads as midnight
-        for (const TextColumn& column : textcolumns)
-            text += separator + clocktext(table.sunvalues[row][column.column]);
+        for (const std::size_t column : suntimeorder)
+            text += separator + clocktext(table.sunvalues[row][column]);
         text += lineend;
     }
     return text;

@@ -1,8 +1,8 @@
 #include "output/textfiles.h"
 
-#include <array>
 #include <filesystem>
 
+#include "dates/summertime.h"
 #include "output/daytable.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
@@ -10,13 +10,6 @@
 
 namespace tarvane {
 namespace {
-
-/// Not the system's names: files are called the same in every language.
-constexpr std::array<const char*, 13> englishmonths{"",    "Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                    "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-
-/// Columns of the sun table in the order of the file: date, sunrise and sunset, civil twilights, nautical twilights.
-constexpr std::array<std::size_t, 7> suncolumnorder{1, 4, 5, 3, 6, 2, 7};
 
 constexpr std::size_t samplesofday = 144;
 
@@ -27,9 +20,7 @@ std::string captions(const std::string& portbox, const std::string& tidedatebox)
 }  // namespace
 
 std::string monthfilename(const std::string& portname, const DateOnShow& onshow) {
-    const auto month = static_cast<std::size_t>(onshow.tidemonth);
-    const std::string name = month < englishmonths.size() ? englishmonths[month] : "";
-    return trim(portname) + "_" + name + "_" + numbertext(onshow.tideyear);
+    return trim(portname) + "_" + englishmonth(static_cast<int>(onshow.tidemonth)) + "_" + numbertext(onshow.tideyear);
 }
 
 std::string tableseparator(const std::string& path) {
@@ -39,7 +30,7 @@ std::string tableseparator(const std::string& path) {
 
 const char* timeofmonth(std::int16_t currentsummer, const DateOnShow& onshow) {
     // kept: it goes by the month's number, not by the shift that the heights were computed with
-    return currentsummer != 0 && onshow.tidemonth >= 4 && onshow.tidemonth <= 10 ? "Summer Time" : "Standard Time";
+    return currentsummer != 0 && issummermonth(onshow.tidemonth) ? "Summer Time" : "Standard Time";
 }
 
 std::string monthfile(const MonthTable& table, const std::string& separator, std::int16_t currentsummer,
@@ -68,15 +59,8 @@ std::string dayfile(const CurveOnShow& curve, const std::string& portbox, const 
     return tosinglebyte(text);
 }
 
-std::string undefineddayfile(const std::string& reason, const std::string& portbox, const std::string& tidedatebox) {
-    return tosinglebyte(captions(portbox, tidedatebox) + reason + lineend);
-}
-
-int daysofsuntable(const SunTable& table) {
-    std::size_t days = 0;
-    while (days + 1 < table.suntext.size() && !table.suntext[days + 1][1].empty())
-        ++days;
-    return static_cast<int>(days);
+std::string undefineddayfile(const std::string& whynot, const std::string& portbox, const std::string& tidedatebox) {
+    return tosinglebyte(captions(portbox, tidedatebox) + nopredictiontext(whynot) + lineend);
 }
 
 std::string sunfile(const SunTable& table) {
@@ -86,7 +70,8 @@ std::string sunfile(const SunTable& table) {
     text += std::string("\tDate\t\tSunrise\tSunset\tCivil Twilights\tNautical Twilights") + lineend;
     const auto days = static_cast<std::size_t>(daysofsuntable(table));
     for (std::size_t day = 1; day <= days; ++day) {
-        for (const std::size_t column : suncolumnorder)
+        text += "\t" + table.suntext[day][suncolumn::date];
+        for (const std::size_t column : suntimeorder)
             text += "\t" + table.suntext[day][column];
         text += lineend;
     }

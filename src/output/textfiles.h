@@ -24,14 +24,11 @@ std::string monthfile(const MonthTable& table, const std::string& separator, std
 /// The day's 144 heights, 10 minutes apart, under the captions of the port and the date.
 std::string dayfile(const CurveOnShow& curve, const std::string& portbox, const std::string& tidedatebox);
 
-/// The captions and the one line that says why the day has no heights.
-std::string undefineddayfile(const std::string& reason, const std::string& portbox, const std::string& tidedatebox);
+/// The captions and the one line that says why the day has no prediction.
+std::string undefineddayfile(const std::string& whynot, const std::string& portbox, const std::string& tidedatebox);
 
 /// The month's sun times.
 std::string sunfile(const SunTable& table);
-
-/// Days that the table holds: its rows from 1 that have a text in column 1.
-int daysofsuntable(const SunTable& table);
 
 /// "Summer Time" when the option is on and the month of the date on show is from 4 to 10, else "Standard Time".
 const char* timeofmonth(std::int16_t currentsummer, const DateOnShow& onshow);

@@ -5,13 +5,20 @@
 
 namespace tarvane {
 
+/// What became of a step of printing.
+struct PrintOutcome {
+    std::string whynot;  ///< empty when it was done; "/home/anna/TextOutput: Permission denied"
+
+    operator bool() const { return whynot.empty(); }
+};
+
 class Printer {
   public:
     virtual ~Printer() = default;
 
-    /// Opens a document. False if nothing can be printed to. Coordinates start as twips (1440 to the inch) from the top
-    /// left of the printable page; font size 9, not bold, the current position at the origin.
-    virtual bool begin(const std::string& title) = 0;
+    /// Opens a document. Coordinates start as twips (1440 to the inch) from the top left of the printable page; font
+    /// size 9, not bold, lines 8 twips thick, the current position at the origin.
+    virtual PrintOutcome begin(const std::string& title) = 0;
 
     virtual double width() const = 0;       ///< printable width of the page, twips
     virtual double height() const = 0;      ///< printable height, twips
@@ -40,13 +47,17 @@ class Printer {
     /// Prints at the current position and stays behind the text.
     virtual void printon(const std::string& text) = 0;
 
+    /// Thickness of the lines to come, twips.
+    virtual void setlinewidth(double twips) = 0;
     virtual void line(double x1, double y1, double x2, double y2) = 0;
     virtual void point(double x, double y) = 0;
 
     virtual void newpage() = 0;
 
-    /// Hands the document over. `destination` tells where it went: empty for a printer, a path for a PDF.
-    virtual bool enddocument() = 0;
+    /// Hands the document over. When that fails nothing of it is left behind.
+    virtual PrintOutcome enddocument() = 0;
+
+    /// Where the document handed over last went: empty for a printer, a path for a PDF.
     virtual std::string destination() const = 0;
 };
 

@@ -23,9 +23,6 @@ constexpr std::array<double, 12> leapyear{
     0.539368124875406,  0.624243312038541, 0.707749544570013, 0.791255777101484, 0.874762009632956, 0.958268242164428,
 };
 
-constexpr std::array<const char*, 12> monthnames{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                 "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-
 // Index: quarters of a lunation after the new moon.
 constexpr std::array<const char*, 4> phasenames{"NEW MOON     ", "FIRST QUARTER", "FULL MOON    ", "LAST QUARTER "};
 // kept: before 1900 the new and full moon texts are one blank longer
@@ -119,8 +116,8 @@ int dayofmonth(double J) {
 
 std::string phaseline(int day, int month, int year, const char* name) {
     // kept: the line carries the selected month and year, also for a phase that falls just outside them
-    return "   " + std::string{day < 10 ? "0" : ""} + numbertext(day) + " " +
-           monthnames[static_cast<std::size_t>(month - 1)] + " " + numbertext(year) + std::string(7, ' ') + name;
+    return "   " + std::string{day < 10 ? "0" : ""} + numbertext(day) + " " + englishmonth(month) + " " +
+           numbertext(year) + std::string(7, ' ') + name;
 }
 
 void sortlines(LunarTexts& texts) {

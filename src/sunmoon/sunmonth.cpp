@@ -8,11 +8,17 @@
 namespace tarvane {
 namespace {
 
-/// The events of columns 2 to 7.
-constexpr std::size_t firstevent = 2;
-constexpr std::array<double SunHours::*, 6> eventcolumns{&SunHours::nautdawn,  &SunHours::civildawn,
-                                                         &SunHours::sunrise,   &SunHours::sunset,
-                                                         &SunHours::civildusk, &SunHours::nautdusk};
+struct EventColumn {
+    suncolumn::Number column;
+    double SunHours::*hours;
+};
+
+constexpr std::array<EventColumn, 6> eventcolumns{{{suncolumn::nautdawn, &SunHours::nautdawn},
+                                                   {suncolumn::civildawn, &SunHours::civildawn},
+                                                   {suncolumn::sunrise, &SunHours::sunrise},
+                                                   {suncolumn::sunset, &SunHours::sunset},
+                                                   {suncolumn::civildusk, &SunHours::civildusk},
+                                                   {suncolumn::nautdusk, &SunHours::nautdusk}}};
 
 }  // namespace
 
@@ -21,15 +27,17 @@ std::string eventtext(double hours) {
 }
 
 void fillsunvalues(SunTable& table, const SunMonthOnShow& month, SunPosition position) {
+    table.year = month.year;
+    table.month = month.month;
     const int days = DaysInMonth(month.year, month.month);
     for (int day = 1; day <= days; ++day) {
         // kept: one summer flag serves the whole month, also the one in which summer time begins or ends
         const SunHours sun = SunTimes(position.latitude, position.longitude, day, month.month, month.year, month.summer,
                                       month.zonehours);
         auto& values = table.sunvalues[static_cast<std::size_t>(day)];
-        values[1] = day;
-        for (std::size_t i = 0; i < eventcolumns.size(); ++i)
-            values[i + firstevent] = sun.*eventcolumns[i];
+        values[suncolumn::date] = day;
+        for (const EventColumn& event : eventcolumns)
+            values[event.column] = sun.*event.hours;
     }
 }
 
@@ -39,9 +47,9 @@ void fillsuntable(SunTable& table, const SunMonthOnShow& month, SunPosition posi
     const int days = DaysInMonth(month.year, month.month);
     for (int day = 1; day <= days; ++day) {
         const auto row = static_cast<std::size_t>(day);
-        table.suntext[row][1] = str(day) + name + " " + str(month.year);
-        for (std::size_t column = firstevent; column < firstevent + eventcolumns.size(); ++column)
-            table.suntext[row][column] = eventtext(table.sunvalues[row][column]);
+        table.suntext[row][suncolumn::date] = str(day) + name + " " + str(month.year);
+        for (const EventColumn& event : eventcolumns)
+            table.suntext[row][event.column] = eventtext(table.sunvalues[row][event.column]);
     }
 }
 
@@ -49,12 +57,23 @@ SunDay sundayonshow(const SunTable& table, int day) {
     const auto row = static_cast<std::size_t>(day);
     const auto& text = table.suntext[row];
     const auto& hours = table.sunvalues[row];
-    SunDay shown{text[1], text[2], text[3], text[4], text[5], text[6], text[7], {}, {}, {}, {}};
-    if (const double daylight = hours[5] - hours[4]; daylight > 0) {
+    using namespace suncolumn;
+    SunDay shown{.risedate = text[date],
+                 .nautdawn = text[nautdawn],
+                 .civildawn = text[civildawn],
+                 .risetime = text[sunrise],
+                 .settime = text[sunset],
+                 .civildusk = text[civildusk],
+                 .nautdusk = text[nautdusk],
+                 .Label1 = {},
+                 .daylighthours = {},
+                 .Label4 = {},
+                 .twilighthours = {}};
+    if (const double daylight = hours[sunset] - hours[sunrise]; daylight > 0) {
         shown.Label1 = "Daylight hours";
         shown.daylighthours = timetext(daylight);
     }
-    if (const double twilight = hours[6] - hours[3]; twilight > 0) {
+    if (const double twilight = hours[civildusk] - hours[civildawn]; twilight > 0) {
         shown.Label4 = "incl. civil twilight)";
         shown.twilighthours = "(" + timetext(twilight);
     }

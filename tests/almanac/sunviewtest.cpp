@@ -124,6 +124,7 @@ TEST_F(SunView, SavesWhereTheUserChoseAndReplacesOnYesOnly) {
     savesuncsv(context);
     const std::string written = contents(file("sun.csv"));
     EXPECT_EQ(written, suncsvtext(session));
+    EXPECT_EQ(session.view.answer, "Saved: " + file("sun.csv"));
     const FileRequest request = scripted.filedialogs.requests.front();
     EXPECT_EQ(request.folder, session.folders.programfolder);
     EXPECT_EQ(request.filter, "CSV file | *csv");
@@ -144,8 +145,11 @@ TEST_F(SunView, NothingIsSavedWithoutANameAndAFailureIsTold) {
     EXPECT_EQ(session.suntable.suntext[1][1], " 1Apr  2024");
     const std::string path = file("nowhere/sun.csv");
     scripted.filedialogs.expectsave(path);
-    scripted.messages.expectshow("The file could not be written:\r" + path, "Tarvane", MessageIcon::exclamation);
+    session.view.answer = "of before";
+    scripted.messages.expectshow("The file could not be written:\r" + path + ": No such file or directory", "Tarvane",
+                                 MessageIcon::exclamation);
     savesuncsv(context);
+    EXPECT_EQ(session.view.answer, "");
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <sstream>
 
+#include "fakes/script.h"
+
 namespace tarvane {
 namespace {
 
@@ -28,7 +30,7 @@ std::string ScriptedPrinter::log() const {
         const auto whole = [](double twips) { return static_cast<long>(std::nearbyint(twips)); };
         all << entry.page << ' ' << names[static_cast<int>(entry.kind)] << ' ' << whole(entry.x) << ' '
             << whole(entry.y);
-        if (entry.kind == Kind::line) all << ' ' << whole(entry.x2) << ' ' << whole(entry.y2);
+        if (entry.kind == Kind::line) all << ' ' << whole(entry.x2) << ' ' << whole(entry.y2) << ' ' << entry.size;
         if (entry.kind == Kind::text) all << ' ' << entry.size << (entry.bold ? " bold " : " plain ") << entry.text;
         all << '\n';
     }
@@ -42,15 +44,16 @@ std::vector<std::string> ScriptedPrinter::texts() const {
     return all;
 }
 
-bool ScriptedPrinter::begin(const std::string& name) {
-    if (refuse) return false;
+PrintOutcome ScriptedPrinter::begin(const std::string& name) {
+    if (!refuse.empty()) return {refuse};
     title = name;
     open = true;
     pages = 1;
     left = top = x = y = 0;
     size = 9;
     bold = false;
-    return true;
+    linewidth = 8;
+    return {};
 }
 
 double ScriptedPrinter::textwidth(const std::string& text) const {
@@ -67,7 +70,7 @@ void ScriptedPrinter::print(const std::string& text) {
 }
 
 void ScriptedPrinter::line(double x1, double y1, double x2, double y2) {
-    printed.push_back({Kind::line, pages, x1, y1, x2, y2, size, bold, {}});
+    printed.push_back({Kind::line, pages, x1, y1, x2, y2, linewidth, false, {}});
 }
 
 void ScriptedPrinter::point(double px, double py) {
@@ -80,11 +83,11 @@ void ScriptedPrinter::newpage() {
     y = top;
 }
 
-bool ScriptedPrinter::enddocument() {
-    const bool was = open;
+PrintOutcome ScriptedPrinter::enddocument() {
+    if (!open) failtest("a document that was not opened is handed over");
     open = false;
-    if (was) ++documents;
-    return was;
+    if (fail.empty()) ++documents;
+    return {fail};
 }
 
 double ScriptedPrinter::behind(const std::string& text, double from) const {

@@ -21,15 +21,16 @@ class ScriptedPrinter : public Printer {
         int page = 1;
         double x = 0, y = 0;
         double x2 = 0, y2 = 0;
-        double size = 9;
+        double size = 9;  ///< of a text, points; of a line its thickness in twips
         bool bold = false;
         std::string text;
     };
 
     double pagewidth = 11000;
     double pageheight = 16000;
-    bool refuse = false;  ///< `begin` fails
-    std::string place;    ///< what `destination` tells
+    std::string refuse;  ///< why `begin` fails; empty: it doesn't
+    std::string fail;    ///< why `enddocument` fails
+    std::string place;   ///< what `destination` tells
 
     std::vector<Printed> printed;
     std::string title;
@@ -37,13 +38,13 @@ class ScriptedPrinter : public Printer {
     int pages = 0;      ///< of the document begun last
     bool open = false;
 
-    /// Every entry a line: "1 text 0 240 9 bold Port". Coordinates are rounded to whole twips.
+    /// Every entry a line: "1 text 0 240 9 bold Port", "1 line 0 0 9900 0 8". Coordinates are rounded to whole twips.
     std::string log() const;
 
     /// The texts alone, in the order printed.
     std::vector<std::string> texts() const;
 
-    bool begin(const std::string& name) override;
+    PrintOutcome begin(const std::string& name) override;
 
     double width() const override { return pagewidth; }
     double height() const override { return pageheight; }
@@ -57,6 +58,7 @@ class ScriptedPrinter : public Printer {
 
     void setfontsize(double points) override { size = points; }
     void setbold(bool on) override { bold = on; }
+    void setlinewidth(double twips) override { linewidth = twips; }
     double currentx() const override { return x; }
     double currenty() const override { return y; }
     void setcurrentx(double newx) override { x = newx; }
@@ -73,7 +75,7 @@ class ScriptedPrinter : public Printer {
 
     void newpage() override;
 
-    bool enddocument() override;
+    PrintOutcome enddocument() override;
     std::string destination() const override { return place; }
 
   private:
@@ -81,6 +83,7 @@ class ScriptedPrinter : public Printer {
     double x = 0, y = 0;
     double size = 9;
     bool bold = false;
+    double linewidth = 8;
 
     /// Where the position stands behind a text that begins at `from`.
     double behind(const std::string& text, double from) const;

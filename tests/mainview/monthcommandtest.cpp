@@ -53,6 +53,7 @@ TEST(MonthCommand, TheCorrectionLineHasItsAre) {
         main.scripted.clock.set(2024, row.month, 9);
         main.load();
         const double sunrise = main.session.sun.sunrise;
+        main.session.view.disclaimer.clear();
         calculatemonth(main.context);
         EXPECT_TRUE(
             main.session.view.disclaimer.starts_with(std::string(row.line) + "\r\nHeights in Metres, all data"));
@@ -70,24 +71,6 @@ TEST(MonthCommand, StepsOfTheDateLeaveTheTableStepsOfThePortHideIt) {
     ASSERT_TRUE(nextport(main.context));
     EXPECT_TRUE(main.session.month.monthspredictions.empty());
     EXPECT_FALSE(main.session.view.monthvisible);
-}
-
-TEST(MonthCommand, TheTableBeforeItIsSavedOrCopied) {
-    struct Row {
-        std::size_t rows;
-        bool calculated;
-        bool have;
-    };
-    for (const Row& row : {Row{0, true, true}, Row{9, true, true}, Row{10, false, false}, Row{11, false, true}}) {
-        MainFixture main;
-        main.load();
-        main.session.month.monthspredictions.assign(row.rows, "x");
-        if (!row.have)
-            main.scripted.messages.expectshow("Calculate a months tides\rbefore choosing this option", "Tarvane",
-                                              MessageIcon::information);
-        EXPECT_EQ(havemonthtable(main.context), row.have) << row.rows;
-        EXPECT_EQ(main.session.view.monthvisible, row.calculated) << row.rows;
-    }
 }
 
 }  // namespace

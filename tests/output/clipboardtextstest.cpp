@@ -36,6 +36,13 @@ TEST(ClipboardTexts, ADaysTides) {
          {Row{0.5, -1, 4, "(Summer Time)\r\nSprings +1 day\r\n"}, Row{5, -1, 10, "(Summer Time)\r\nNeaps -1days\r\n"},
           Row{14, 0, 7, "(Standard Time)\r\nSprings -1 day\r\n"}, Row{-1, -1, 11, "(Standard Time)\r\n\r\n"}})
         EXPECT_EQ(daystidestext(table, row.lag, row.option, dateonshow(2024, row.month, 9)), lines + row.last);
+    prediction.defined = false;
+    prediction.whynot = "A reason as long as that";
+    buildpredictiontext(table, prediction, 0, "Round Haven", april);
+    EXPECT_TRUE(
+        daystidestext(table, 0, 0, april)
+            .ends_with("\r\n\r\nNo prediction. A reason as long as that\r\n\r\n(Standard Time)\r\nSprings\r\n"));
+    EXPECT_EQ(table.daystide1, "  Predictions\r\n   No prediction\r\n   A reason as long as\r   that\r");
 }
 
 TEST(ClipboardTexts, AMonthsTides) {

@@ -69,10 +69,16 @@ TEST(MonthTable, EveryMonthHasItsDaysAndBothListsAgree) {
             const MonthTable table = maker.table(year, month, 1);
             const auto days = static_cast<std::size_t>(DaysInMonth(year, month));
             std::size_t rows = 5;
+            ASSERT_EQ(table.days.size(), days);
             for (std::size_t d = 1; d <= days; ++d) {
-                const auto count = static_cast<std::size_t>(val(table.monthcells[d][3][1]));
-                EXPECT_GE(count, 3U) << year << " " << month << " " << d;
-                rows += 2 + count;
+                const MonthDay& day = table.days[d - 1];
+                EXPECT_EQ(day.date, makedate(year, month, static_cast<int>(d)));
+                EXPECT_EQ(day.weekday, weekdayof(day.date));
+                EXPECT_GE(day.tides.size(), 3U) << year << " " << month << " " << d;
+                EXPECT_EQ(val(table.monthcells[d][3][1]), static_cast<double>(day.tides.size()));
+                EXPECT_EQ(table.monthspredictions[rows + 1], day.head);
+                EXPECT_EQ(table.monthspredictions[rows + 2], day.tides[0].time + "   " + day.tides[0].height);
+                rows += 2 + day.tides.size();
             }
             EXPECT_EQ(table.monthspredictions.size(), rows);
             EXPECT_EQ(table.monthcolumn1.size(), rows - 4);
@@ -89,10 +95,13 @@ TEST(MonthTable, DaysWithoutTurningPointsHaveAHeadAlone) {
     // the constants of 1 January 1990 divide by zero: it and the day that stands on it have no figures
     Maker maker;
     const MonthTable broken = maker.table(1990, 1, 15);
-    for (const std::size_t d : {1U, 2U})
-        EXPECT_EQ(broken.monthcells[d][3][1], "0");
-    for (std::size_t d = 3; d <= 31; ++d)
-        EXPECT_GE(val(broken.monthcells[d][3][1]), 3) << d;
+    for (std::size_t d = 1; d <= 31; ++d) {
+        EXPECT_EQ(broken.days[d - 1].defined, d > 2);
+        EXPECT_EQ(broken.monthcells[d][3][1] == "0", d <= 2) << d;
+    }
+    EXPECT_EQ(Strings(broken.monthspredictions.begin() + 5, broken.monthspredictions.begin() + 11),
+              (Strings{"  ", "1 Jan (Mon)", "No prediction", "The method has no", "constants for this day", "  "}));
+    EXPECT_EQ(broken.monthcolumn1[3] + "|" + broken.monthcolumn2[3], std::string("No prediction|") + noconstants);
 }
 
 TEST(MonthTable, TheRowOnTimeGoesByMonthAndOption) {
@@ -149,6 +158,34 @@ TEST(MonthTable, TheMonthIsTheDatesWhateverTheMonthNumberLagsAtAndNothingIsCarri
     EXPECT_EQ(february.monthcolumn1, fresh.monthcolumn1);
     EXPECT_EQ(february.monthcolumn2, fresh.monthcolumn2);
     EXPECT_EQ(february.monthcells, fresh.monthcells);
+}
+
+TEST(MonthTable, TellsWhatItWasMadeFor) {
+    PortFiles files(tests::roundport(), 2.5F);
+    files.settings.userdepth = 2.5F;
+    const CurrentPort port{"Round Haven"};
+    DateOnShow onshow;
+    setdateonshow(onshow, makedate(2024, 4, 30));
+    MonthTable table;
+    buildmonthtable(table, files.settings, port, onshow, ScriptedLocale{});
+    EXPECT_EQ(table.made, monthmadenow(files.settings, port, onshow));
+    EXPECT_EQ(table.made.portname + numbertext(table.made.portnumber) + numbertext(table.made.userdepth),
+              "Round Haven12.5");
+    EXPECT_EQ(table.made.year * 100 + table.made.month, 202404);
+    const auto differs = [&](auto change) {
+        Settings settings = files.settings;
+        CurrentPort other = port;
+        DateOnShow later = onshow;
+        change(settings, other, later);
+        EXPECT_NE(table.made, monthmadenow(settings, other, later));
+    };
+    differs([](Settings& settings, auto&, auto&) { settings.hcfile += "x"; });
+    differs([](Settings& settings, auto&, auto&) { settings.currentport = 2; });
+    differs([](Settings& settings, auto&, auto&) { settings.summerflag2 = -1; });
+    differs([](Settings& settings, auto&, auto&) { settings.currentoutput = 2; });
+    differs([](Settings& settings, auto&, auto&) { settings.userdepth = 3; });
+    differs([](auto&, CurrentPort& other, auto&) { other.portname = "Square Haven"; });
+    differs([](auto&, auto&, DateOnShow& later) { later.tidedate += std::chrono::days{1}; });
 }
 
 TEST(MonthTable, NamesOfTheSystemAndOfThePortCutByCharacters) {

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -32,23 +30,6 @@ inline std::vector<Printed> pieces(const ScriptedPrinter& printer, ScriptedPrint
 
 inline std::vector<Printed> texts(const ScriptedPrinter& printer) {
     return pieces(printer, ScriptedPrinter::Kind::text);
-}
-
-/// Every entry a line, coordinates in whole twips: "1 text 0 240 9 bold Port", "1 line 0 0 9900 0".
-inline std::string pagelog(const ScriptedPrinter& printer) {
-    std::ostringstream all;
-    for (const Printed& entry : printer.printed) {
-        const bool text = entry.kind == ScriptedPrinter::Kind::text, line = entry.kind == ScriptedPrinter::Kind::line;
-        all << entry.page
-            << (text   ? " text "
-                : line ? " line "
-                       : " point ")
-            << std::lround(entry.x) << " " << std::lround(entry.y);
-        if (line) all << " " << std::lround(entry.x2) << " " << std::lround(entry.y2);
-        if (text) all << " " << entry.size << (entry.bold ? " bold " : " plain ") << entry.text;
-        all << "\n";
-    }
-    return all.str();
 }
 
 /// The one entry with this text; a second one, or none, fails.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <set>
 
-#include "fakes/scriptedlocale.h"
 #include "output/goldenfile.h"
 #include "output/printedpage.h"
 #include "output/printouts.h"
@@ -11,73 +10,80 @@
 namespace tarvane::tests {
 namespace {
 
-const char* const weekdays[] = {"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
 const char* const complexline = "(Complex predictions - print is unformated)";
 
-/// The rows of a month's list whose first day is weekday `first` (0 Monday); `rows(day)` tides a day, each row unlike
-/// any other. `timerow` as in the months that have one.
-template <typename Rows>
-std::vector<std::string> monthlist(int days, int first, Rows rows, bool timerow = true) {
-    std::vector<std::string> list{" Months", "Prediction ", "Alder Quay", "3/2026"};
-    if (timerow) list.emplace_back("(Standard Times)");
+/// A month whose first day is weekday `first` (0 Monday), its days named alike as in a language where several begin so;
+/// `tides(day)` rows a day, each unlike any other.
+template <typename Tides>
+std::vector<MonthDay> month(int days, int first, Tides tides) {
+    std::vector<MonthDay> all;
     for (int day = 1; day <= days; ++day) {
-        list.emplace_back("  ");
-        list.push_back(std::to_string(day) + " Mar (" + weekdays[(first + day - 1) % 7] + ")");
-        for (int j = 0; j < rows(day); ++j)
-            list.push_back((day < 10 ? "0" : "") + std::to_string(day) + ":0" + std::to_string(j) + "   3.21");
+        const Date date = makedate(2024, 1, first + day);  // 1 January 2024 was a Monday
+        all.push_back({date, weekdayof(date), std::to_string(day) + " Mar (Ast)", {}, true, ""});
+        for (int j = 0; j < tides(day); ++j)
+            all.back().tides.push_back(
+                {(day < 10 ? "0" : "") + std::to_string(day) + ":0" + std::to_string(j), "3.21"});
     }
-    return list;
+    return all;
 }
 
-int fourrows(int) {
+std::string row(const TurningText& tide) {
+    return tide.time + "   " + tide.height;
+}
+
+int fourtides(int) {
     return 4;
 }
 
 class MonthPrintout : public testing::Test {
   protected:
-    void print(const std::vector<std::string>& list, double height = 15120, float depth = 0) {
+    void print(const std::vector<MonthDay>& days, double height = 15120, float depth = 0) {
         printer = ScriptedPrinter{};
         printer.pagewidth = 11186;
         printer.pageheight = height;
         printer.begin("");
-        printmonthpages(printer, {list, "Alder Quay", 2026, depth, {0, 3}}, locale);
+        printmonthpages(printer, {days, "Alder Quay", 2026, depth, {0, 3}});
     }
 
     double column(int week) const { return printer.pagewidth / 7 * week; }
 
-    ScriptedLocale locale;
     ScriptedPrinter printer;
 };
 
 TEST_F(MonthPrintout, AMonthThatRunsOn) {
-    print(monthlist(31, 6, fourrows), 15120, 2.5F);
-    EXPECT_EQ(pagelog(printer), goldenfile("page-month.txt"));
+    auto days = month(31, 6, fourtides);
+    days[1].tides.clear();
+    days[1].defined = false;
+    days[1].whynot = "Why not";
+    print(days, 15120, 2.5F);
+    EXPECT_EQ(printer.log(), goldenfile("page-month.txt"));
 }
 
 TEST_F(MonthPrintout, EveryMonthShapeOnBothPapers) {
     for (const double height : {16118.0, 15120.0})
         for (int days = 28; days <= 31; ++days)
             for (int first = 0; first < 7; ++first) {
-                const auto list = monthlist(
-                    days, first, [](int day) { return day % 6; }, first != 3);
-                print(list, height);
+                const auto all = month(days, first, [](int day) { return day % 6; });
+                print(all, height);
                 expectclean(printer);
                 EXPECT_EQ(printer.pages, first + days > 35 ? 2 : 1);
-                const auto all = printer.texts();
-                EXPECT_EQ(std::count(all.begin(), all.end(), "Year : 2026 - Heights to Chart Datum"), printer.pages);
+                const auto lines = printer.texts();
+                EXPECT_EQ(std::count(lines.begin(), lines.end(), "Year : 2026 - Heights to Chart Datum"),
+                          printer.pages);
                 std::set<double> tops;
                 for (int day = 1; day <= days; ++day) {
+                    const MonthDay& data = all[static_cast<std::size_t>(day) - 1];
                     const int slot = first + day - 1;
-                    const Printed head = only(printer, std::to_string(day) + " Mar (" + weekdays[slot % 7] + ")");
+                    const Printed head = only(printer, data.head);
                     EXPECT_EQ(head.page, slot < 35 ? 1 : 2);
                     EXPECT_DOUBLE_EQ(head.x, column(slot < 35 ? slot / 7 + 1 : 1)) << day;
                     EXPECT_TRUE(head.bold);
                     EXPECT_EQ(head.size, 9) << "data rows are in size 9 where they fit";
                     tops.insert(head.y - slot % 7 * 8 * 216.0);
-                    if (day % 6 > 0) {
-                        const std::string tide = (day < 10 ? "0" : "") + std::to_string(day) + ":00   3.21";
-                        EXPECT_EQ(only(printer, tide).y, head.y + 216);
-                        EXPECT_FALSE(only(printer, tide).bold);
+                    for (std::size_t j = 0; j < data.tides.size(); ++j) {
+                        const Printed tide = only(printer, row(data.tides[j]));
+                        EXPECT_EQ(tide.y, head.y + static_cast<double>(j + 1) * 216);
+                        EXPECT_FALSE(tide.bold);
                     }
                 }
                 EXPECT_EQ(tops.size(), 1U) << "all columns start at one height";
@@ -87,42 +93,32 @@ TEST_F(MonthPrintout, EveryMonthShapeOnBothPapers) {
 TEST_F(MonthPrintout, DaysTooFullAreNotSetByWeeks) {
     for (const int most : {5, 6, 13, 14}) {
         for (const double height : {16118.0, 15120.0}) {
-            const auto list = monthlist(31, 6, [&](int day) { return day % 3 == 0 || most == 14 ? most : 4; });
-            print(list, height);
+            const auto all = month(31, 6, [&](int day) { return day % 3 == 0 || most == 14 ? most : 4; });
+            print(all, height);
             expectclean(printer);
-            const auto all = printer.texts();
-            EXPECT_EQ(std::count(all.begin(), all.end(), complexline), most < 6 ? 0 : printer.pages) << most;
+            const auto lines = printer.texts();
+            EXPECT_EQ(std::count(lines.begin(), lines.end(), complexline), most < 6 ? 0 : printer.pages) << most;
             EXPECT_EQ(printer.pages == 3, most == 14);
-            for (std::size_t i = 5, below = 0; i < list.size(); ++i) {
-                if (list[i] == "  ") continue;
-                below = list[i].ends_with(")") ? i : below;
-                const Printed row = only(printer, list[i]), head = only(printer, list[below]);
-                EXPECT_TRUE(row.x == head.x && row.page == head.page) << "a day is torn apart: " << list[i];
-                EXPECT_EQ(row.y, head.y + static_cast<double>(i - below) * 216);
+            for (const MonthDay& day : all) {
+                const Printed head = only(printer, day.head);
+                EXPECT_TRUE(head.bold);
+                for (std::size_t j = 0; j < day.tides.size(); ++j) {
+                    const Printed tide = only(printer, row(day.tides[j]));
+                    EXPECT_TRUE(tide.x == head.x && tide.page == head.page) << "a day is torn apart: " << day.head;
+                    EXPECT_EQ(tide.y, head.y + static_cast<double>(j + 1) * 216);
+                    EXPECT_FALSE(tide.bold);
+                }
             }
         }
     }
 }
 
-TEST_F(MonthPrintout, ALowPageGetsSmallerRows) {
-    const auto list = monthlist(31, 6, fourrows);
-    print(list, 12000);
+TEST_F(MonthPrintout, ALowPageGetsSmallerRowsAndAMonthWithoutDaysNone) {
+    print(month(31, 6, fourtides), 12000);
     expectclean(printer);
-    EXPECT_LT(only(printer, "1 Mar (Sun)").size, 9);
-    EXPECT_EQ(only(printer, "1 Mar (Sun)").size, only(printer, "30 Mar (Mon)").size);
-}
-
-TEST_F(MonthPrintout, DayNamesOfAnotherLanguage) {
-    locale.days = {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"};
-    std::vector<std::string> list = monthlist(31, 2, fourrows);
-    for (std::string& row : list)
-        if (const auto at = row.find("(Wed)"); at != std::string::npos) row.replace(at, 5, "(Mit)");
-    print(list);
-    EXPECT_EQ(only(printer, "1 Mar (Mit)").y, only(printer, "6 Mar (Mon)").y + 16 * 216);
-}
-
-TEST_F(MonthPrintout, AListWithoutDaysPrintsNothing) {
-    print({" Months", "Prediction ", "Alder Quay", "3/2026"});
+    EXPECT_LT(only(printer, "1 Mar (Ast)").size, 9);
+    EXPECT_EQ(only(printer, "1 Mar (Ast)").size, only(printer, "30 Mar (Ast)").size);
+    print({});
     EXPECT_TRUE(printer.printed.empty());
 }
 

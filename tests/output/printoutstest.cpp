@@ -53,18 +53,13 @@ class DayPrintout : public testing::Test {
         printer.pagewidth = 11186;
         printer.pageheight = height;
         printer.begin("");
-        layout(printer, {"Port    : Alder Quay",
-                         "Date   : 9 April 2024 (Tuesday)",
-                         caption,
-                         curve,
-                         147,
-                         defined,
-                         settings,
-                         {0, 4}});
+        layout(
+            printer,
+            {"Port    : Alder Quay", "Date   : 9 April 2024 (Tuesday)", caption, curve, 147, whynot, settings, {0, 4}});
     }
 
     int turns = 4;
-    bool defined = true;
+    std::string whynot;
     CurveOnShow curve;
     Settings settings;
     ScriptedPrinter printer;
@@ -73,9 +68,9 @@ class DayPrintout : public testing::Test {
 TEST_F(DayPrintout, BothLayouts) {
     shift(-1);  // from -0.5 to 4.5: the limits are -1 and 5
     print(printcurvepage);
-    EXPECT_EQ(pagelog(printer), goldenfile("page-curve.txt"));
+    EXPECT_EQ(printer.log(), goldenfile("page-curve.txt"));
     print(printtenminutepage);
-    EXPECT_EQ(pagelog(printer), goldenfile("page-ten-minutes.txt"));
+    EXPECT_EQ(printer.log(), goldenfile("page-ten-minutes.txt"));
 }
 
 TEST_F(DayPrintout, VesselsCurveInDotsInsideTheBox) {
@@ -131,31 +126,43 @@ TEST_F(DayPrintout, CurvePagesAreCleanOnBothPapers) {
             }
 }
 
-TEST_F(DayPrintout, ADayWithoutAPredictionHasNeitherCurveNorHeights) {
-    defined = false;
-    print(printcurvepage);
-    for (const Printed& line : pieces(printer, ScriptedPrinter::Kind::line))
-        EXPECT_TRUE(line.x == line.x2 || line.y == line.y2);
-    print(printtenminutepage);
-    only(printer, "23:50    ");
+TEST_F(DayPrintout, ADayWithoutAPredictionSaysSoInsteadOfCurveAndHeights) {
+    whynot = "The clock is broken";
+    turns = 0;
+    for (const auto layout : {printcurvepage, printtenminutepage}) {
+        print(layout);
+        EXPECT_TRUE(only(printer, "No prediction. The clock is broken").bold);
+        EXPECT_LE(pieces(printer, ScriptedPrinter::Kind::line).size(), 4U) << "the frame alone";
+        for (const Printed& text : texts(printer))
+            EXPECT_EQ(text.text.find("00:"), std::string::npos) << text.text;
+    }
 }
 
-TEST(SunPrintout, DatesTooLongPushTheColumns) {
+TEST(SunPrintout, FillsItsPageAndDatesTooLongPushTheColumns) {
     ScriptedLocale finnish;
-    finnish.shortmonths.fill("marrask.");
+    finnish.shortmonths.fill("marraskuussa.");
     LunarTexts lunar;
     LunarPhases(3, 2024, lunar);
-    for (const bool longdates : {false, true}) {
-        SunTable table;
-        fillsuntable(table, {2024, 3, 0, 0}, {70, 20}, longdates ? finnish : ScriptedLocale{});
-        table.titles = {"", "User entry", " 20.00E", " 70.00N"};
-        ScriptedPrinter printer;
-        printer.begin("");
-        printsunpage(printer, table, lunar, {0, 3});
-        expectclean(printer);
-        EXPECT_EQ(only(printer, "Sunrise").x, longdates ? 2880 : 2160);
-        EXPECT_EQ(pagelog(printer) == goldenfile("page-sun.txt"), !longdates) << pagelog(printer);
-    }
+    for (const double height : {16118.0, 15120.0, 9000.0})
+        for (const bool longdates : {false, true}) {
+            SunTable table;
+            fillsuntable(table, {2024, 3, 0, 0}, {70, 20}, longdates ? finnish : ScriptedLocale{});
+            table.titles = {"", "User entry", " 20.00E", " 70.00N"};
+            ScriptedPrinter printer;
+            printer.pagewidth = 11186;
+            printer.pageheight = height;
+            printer.begin("");
+            printsunpage(printer, table, lunar, {0, 3});
+            if (height > 10000) expectclean(printer);
+            EXPECT_NEAR(printer.currenty(), 0.96 * std::max(height, 10900.0), 500) << height;
+            EXPECT_DOUBLE_EQ(only(printer, "Sunrise").x, 11186 / 12.0 * (longdates ? 4 : 3));
+            EXPECT_EQ(
+                only(printer, " 31" + (longdates ? finnish : ScriptedLocale{}).monthabbreviation(3) + "  2024").size,
+                9);
+            if (height == 16118 && !longdates) {
+                EXPECT_EQ(printer.log(), goldenfile("page-sun.txt"));
+            }
+        }
 }
 
 }  // namespace

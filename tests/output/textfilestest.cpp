@@ -4,6 +4,7 @@
 
 #include "fakes/scriptedlocale.h"
 #include "fakes/testport.h"
+#include "files/filenames.h"
 #include "output/goldenfile.h"
 
 namespace tarvane {
@@ -63,6 +64,12 @@ TEST(TextFiles, CommasForACsvInTheNameAlone) {
 
 TEST(TextFiles, ProposedNames) {
     EXPECT_EQ(monthfilename("  St Mary's Quay  ", dateonshow(2024, 5, 9)), "St Mary's Quay_May_2024");
+    struct Row {
+        const char *called, *name;
+    };
+    for (const Row& row : {Row{" Q/u\\a:y* \"1\"? ", "Q_u_a_y_ _1__"}, Row{"<a|b>\t\x7f", "_a_b___"},
+                           Row{"..é\xEF\xBF\xBD", "_.é_"}, Row{"a.b", "a.b"}, Row{"  ", "Tarvane"}})
+        EXPECT_EQ(safefilename(row.called), row.name);
     std::string months;
     for (int month = 1; month <= 12; ++month)
         months += monthfilename("", dateonshow(2026, month, 1)) + " ";
@@ -81,9 +88,9 @@ TEST(TextFiles, ADayEveryTenMinutes) {
     const std::string golden = goldenfile("day-eighths.txt");
     ASSERT_FALSE(golden.empty());
     EXPECT_EQ(dayfile(curve, port, date), golden);
-    EXPECT_EQ(undefineddayfile("None: é", port, date),
+    EXPECT_EQ(undefineddayfile("Grund: é", port, date),
               "Port    : F\xE9"
-              "camp\r\nDate   : 9 April 2024 (Tuesday)\r\nNone: \xE9\r\n");
+              "camp\r\nDate   : 9 April 2024 (Tuesday)\r\nNo prediction. Grund: \xE9\r\n");
 }
 
 TEST(TextFiles, TheSunsColumnsInTheFilesOrder) {

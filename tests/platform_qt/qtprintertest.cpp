@@ -1,59 +1,98 @@
 #include "platform/qt/qtprinter.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
-#include <QFile>
+#include <csignal>
+#include <filesystem>
 
 #include "fakes/temporaryfolder.h"
+#include "files/wholefiles.h"
 
 namespace tarvane {
 namespace {
 
 struct qtprinter : testing::Test {
-    fakes::TemporaryFolder folder;
-};
+    qtprinter() {
+        printer.setpdfonly(true);
+        printer.setpdffolder(made);
+    }
 
-QByteArray contents(const std::string& path) {
-    QFile file(QString::fromStdString(path));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
-    return file.readAll();
-}
-
-TEST_F(qtprinter, pdfstandsinandneveroverwrites) {
-    QtPrinter printer;
-    printer.setpdfonly(true);
-    printer.setpdffolder(folder / "made/here");
-    const auto printpages = [&](const std::string& title, int pages) {
-        EXPECT_TRUE(printer.begin(title));
+    std::string printpages(const std::string& title, int pages) {
+        EXPECT_EQ(printer.begin(title).whynot, "");
         for (int page = 1; page <= pages; ++page) {
             if (page > 1) printer.newpage();
             printer.print("Page");
             printer.line(0, 0, 1000, 1000);
         }
-        EXPECT_TRUE(printer.enddocument());
-        return printer.destination();
-    };
-    EXPECT_EQ(printpages("Tide curve", 1), folder / "made/here/Tide curve.pdf");
-    const QByteArray first = contents(folder / "made/here/Tide curve.pdf");
-    EXPECT_TRUE(first.startsWith("%PDF"));
-    EXPECT_EQ(printpages("Tide curve", 3), folder / "made/here/Tide curve 2.pdf");
-    EXPECT_EQ(contents(folder / "made/here/Tide curve.pdf"), first);
-    EXPECT_EQ(contents(folder / "made/here/Tide curve 2.pdf").count("/Type /Page\n"), 3);
-    EXPECT_EQ(printpages("a/b: \"c\"?", 1), folder / "made/here/a_b_ _c__.pdf");
-    EXPECT_EQ(printpages("", 1), folder / "made/here/Tarvane.pdf");
+        return printer.enddocument().whynot;
+    }
+
+    static std::string contents(const std::string& path) {
+        const std::vector<std::byte> bytes = readwhole(path);
+        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+    }
+
+    fakes::TemporaryFolder folder;
+    const std::string made = folder / "made/here";
+    QtPrinter printer;
+};
+
+TEST_F(qtprinter, APdfStandsInAndNeverOverwrites) {
+    EXPECT_EQ(printpages("Tide curve", 1), "");
+    EXPECT_EQ(printer.destination(), made + "/Tide curve.pdf");
+    const std::string first = contents(made + "/Tide curve.pdf");
+    EXPECT_TRUE(first.starts_with("%PDF"));
+    EXPECT_EQ(printpages("Tide curve", 3), "");
+    EXPECT_EQ(printer.destination(), made + "/Tide curve 2.pdf");
+    EXPECT_EQ(contents(made + "/Tide curve.pdf"), first);
+    EXPECT_NE(contents(made + "/Tide curve 2.pdf").find("/Count 3"), std::string::npos);
+    printpages("Quay: a/b curve", 1);
+    EXPECT_EQ(printer.destination(), made + "/Quay_ a_b curve.pdf");
 }
 
-TEST_F(qtprinter, aplacethatcannotbewrittenisrefused) {
-    QtPrinter printer(folder / "no such folder/page.pdf");
-    EXPECT_FALSE(printer.begin("Title"));
-    printer.print("nothing happens");
-    printer.newpage();
-    EXPECT_FALSE(printer.enddocument());
-    EXPECT_EQ(printer.destination(), "");
+TEST_F(qtprinter, AFullDiskLeavesNothingAndIsTold) {
+    printpages("Title", 1);
+    const std::string whole = contents(made + "/Title.pdf");
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    for (const rlim_t bytes : {rlim_t{0}, rlim_t{100}, static_cast<rlim_t>(whole.size() - 1)}) {
+        const rlimit limit{bytes, old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const std::string whynot = printpages("Title", 1);
+        setrlimit(RLIMIT_FSIZE, &old);
+        EXPECT_EQ(whynot, made + "/Title 2.pdf: File too large");
+        EXPECT_EQ(printer.destination(), "");
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(made), {}), 1);
+    }
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(printpages("Title", 1), "");
 }
 
-TEST_F(qtprinter, thepageisintwips) {
-    QtPrinter printer(folder / "page.pdf");
+TEST_F(qtprinter, AFolderThatCannotBeUsedIsNamedWithItsReason) {
+    const std::string file = folder / "file", closed = folder / "closed";
+    ASSERT_TRUE(replacefile(file, std::string("x")));
+    std::filesystem::create_directory(closed);
+    std::filesystem::permissions(closed, std::filesystem::perms::owner_read);
+    std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
+    const uid_t user = geteuid();
+    // who may do anything is made somebody else, for whom the folder is closed
+    ASSERT_TRUE(user != 0 || seteuid(65534) == 0);
+    for (const auto& [place, reason] :
+         {std::pair{file, "Not a directory"}, {file + "/below", "Not a directory"}, {closed, "Permission denied"}}) {
+        printer.setpdffolder(place);
+        EXPECT_EQ(printer.begin("Title").whynot, place + ": " + reason);
+        printer.print("nothing happens");
+        printer.newpage();
+        EXPECT_FALSE(printer.enddocument());
+        EXPECT_EQ(printer.destination(), "");
+    }
+    ASSERT_EQ(seteuid(user), 0);
+}
+
+TEST_F(qtprinter, ThePageIsInTwips) {
     ASSERT_TRUE(printer.begin("Title"));
     EXPECT_NEAR(printer.width(), 8 * 1440, 0.5 * 1440);
     EXPECT_NEAR(printer.height(), 10.85 * 1440, 0.85 * 1440);
@@ -66,8 +105,7 @@ TEST_F(qtprinter, thepageisintwips) {
     EXPECT_NEAR(printer.textwidth("Heights to Chart Datum"), 2 * plain, plain / 50);
 }
 
-TEST_F(qtprinter, thepositionfollowsthetext) {
-    QtPrinter printer(folder / "page.pdf");
+TEST_F(qtprinter, ThePositionFollowsTheText) {
     ASSERT_TRUE(printer.begin("Title"));
     const double height = printer.textheight();
     const auto expectat = [&](double x, double y) {

@@ -1,5 +1,6 @@
 // Pictures of every window there is, offscreen: "shots [--out FOLDER] [--area FILE.hc] [--scale N]" with a standing
-// clock, "shots --mainwindow FILE.png" of the main window as this user would see it now.
+// clock, "shots --mainwindow FILE.png" of the main window as this user would see it now, and "shots --pages FOLDER
+// [--area FILE.hc]" of every printout as a PDF.
 #include <QApplication>
 #include <QDir>
 #include <cstdio>
@@ -17,6 +18,7 @@
 #include "ports/frmshowconf.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
+#include "shots/pages.h"
 #include "shots/stage.h"
 
 namespace tarvane::shots {
@@ -26,6 +28,7 @@ struct Options {
     QString out = "shots";
     QString area;
     QString mainwindow;
+    QString pages;
 };
 
 /// False for a call that can't be taken.
@@ -39,6 +42,8 @@ bool readoptions(const QStringList& arguments, Options& options) {
             options.area = value;
         else if (arguments[i] == "--mainwindow")
             options.mainwindow = value;
+        else if (arguments[i] == "--pages")
+            options.pages = value;
         else if (arguments[i] != "--scale")
             return false;
     }
@@ -87,6 +92,11 @@ void takeday(Album& album, Stage& stage) {
     window.resize(window.minimumSize());
     stage.show(9, makedate(1990, 1, 1));
     album.take(window, "frmtarvane-undefined-day");
+    MainContext context = stage.context();
+    calculatemonth(context);
+    window.showview();
+    album.take(window, "frmtarvane-undefined-month");
+    session.view.monthvisible = false;
     stage.show(77, makedate(2026, 7, 14));
 }
 
@@ -159,6 +169,8 @@ void takeoddtides(Album& album) {
 }
 
 int run(const Options& options) {
+    const QString area = options.area.isEmpty() ? QApplication::applicationDirPath() + "/UK.hc" : QString(options.area);
+    if (!options.pages.isEmpty()) return takepages(options.pages.toStdString(), area.toStdString()) ? 0 : 1;
     Album album{QDir(options.out)};
     if (!options.mainwindow.isEmpty()) {
         const QFileInfo file(options.mainwindow);
@@ -168,7 +180,6 @@ int run(const Options& options) {
         return album.failures ? 1 : 0;
     }
     QDir().mkpath(options.out);
-    const QString area = options.area.isEmpty() ? QApplication::applicationDirPath() + "/UK.hc" : QString(options.area);
     takeeverything(album, area.toStdString());
     takeoddtides(album);
     return album.failures ? 1 : 0;
@@ -186,7 +197,8 @@ int main(int argc, char** argv) {
     tarvane::shots::Options options;
     if (!tarvane::shots::readoptions(QApplication::arguments(), options)) {
         std::fprintf(stderr,
-                     "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] | shots --mainwindow FILE.png\n");
+                     "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] | shots --mainwindow FILE.png | "
+                     "shots --pages FOLDER [--area FILE.hc]\n");
         return 2;
     }
     return tarvane::shots::run(options);

@@ -1,12 +1,6 @@
 #include "platform/qt/qtprinter.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QFontMetricsF>
-#include <QLocale>
-#include <QPageSize>
-#include <QPrinterInfo>
-#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 
@@ -17,9 +11,8 @@ namespace {
 constexpr double twipstoinch = 1440;
 constexpr double twipstopoint = 20;
 constexpr double tabstop = 720;
-constexpr double linethickness = 8;
-constexpr double dotsize = 24;
-constexpr double pdfmargin = 18;  // points, about what a printer can't reach
+constexpr double firstlinewidth = 8;
+constexpr double dotsize = 40;
 
 QFont pagefont() {
     QFont font;
@@ -46,51 +39,25 @@ bool finite(std::initializer_list<double> values) {
 
 }  // namespace
 
-std::string freepdfpath(const std::string& folder, const std::string& title) {
-    QString name = QString::fromStdString(title).trimmed();
-    name.replace(QRegularExpression(QStringLiteral("[\\x00-\\x1f/\\\\:*?\"<>|]")), QStringLiteral("_"));
-    if (name.isEmpty() || name.startsWith(QLatin1Char('.'))) name.prepend(QStringLiteral("Tarvane"));
-    const QDir place(QString::fromStdString(folder));
-    QString path = place.filePath(name + QStringLiteral(".pdf"));
-    for (int number = 2; QFileInfo::exists(path); ++number)
-        path = place.filePath(QStringLiteral("%1 %2.pdf").arg(name).arg(number));
-    return path.toStdString();
-}
-
-bool QtPrinter::topdf() const {
-    return pdfonly || !forcedpath.empty() || QPrinterInfo::availablePrinterNames().isEmpty();
-}
-
-bool QtPrinter::begin(const std::string& title) {
+PrintOutcome QtPrinter::begin(const std::string& title) {
     painter.reset();
-    pdfpath.clear();
-    printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setCreator(QStringLiteral("Tarvane Tides"));
-    printer->setDocName(QString::fromStdString(title));
-    if (topdf()) {
-        if (forcedpath.empty()) QDir().mkpath(QString::fromStdString(pdffolder));
-        pdfpath = forcedpath.empty() ? freepdfpath(pdffolder, title) : forcedpath;
-        printer->setOutputFormat(QPrinter::PdfFormat);
-        printer->setOutputFileName(QString::fromStdString(pdfpath));
-        const bool letter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
-        printer->setPageSize(QPageSize(letter ? QPageSize::Letter : QPageSize::A4));
-        printer->setPageMargins({pdfmargin, pdfmargin, pdfmargin, pdfmargin}, QPageLayout::Point);
-    } else if (QPrinterInfo::defaultPrinter().isNull()) {
-        printer->setPrinterName(QPrinterInfo::availablePrinterNames().first());
-    }
+    target = pdfonly || !anyprinter() ? pdftarget(pdffolder, title) : printertarget(title);
+    place.clear();
+    PrintOutcome ready = target->ready();
     painter = std::make_unique<QPainter>();
-    if (!painter->begin(printer.get())) {
+    if (ready && !painter->begin(&target->device())) ready = {"The printer can't be opened"};
+    if (!ready) {
         painter.reset();
-        printer.reset();
-        pdfpath.clear();
-        return false;
+        return ready;
     }
-    const double unit = printer->resolution() / twipstoinch;
-    pagesize = QSizeF(printer->pageLayout().paintRectPixels(printer->resolution()).size()) / unit;
+    const int resolution = target->device().logicalDpiX();
+    const double unit = resolution / twipstoinch;
+    pagesize = QSizeF(target->device().pageLayout().paintRectPixels(resolution).size()) / unit;
     painter->scale(unit, unit);
     font = pagefont();
+    linewidth = firstlinewidth;
     origin = current = QPointF(0, 0);
-    return true;
+    return {};
 }
 
 void QtPrinter::setorigin(double left, double top) {
@@ -160,7 +127,7 @@ void QtPrinter::printon(const std::string& text) {
 
 void QtPrinter::line(double x1, double y1, double x2, double y2) {
     if (!painter || !finite({x1, y1, x2, y2})) return;
-    painter->setPen(QPen(Qt::black, linethickness, Qt::SolidLine, Qt::RoundCap));
+    painter->setPen(QPen(Qt::black, linewidth, Qt::SolidLine, Qt::RoundCap));
     painter->drawLine(QPointF(x1, y1) - origin, QPointF(x2, y2) - origin);
 }
 
@@ -174,17 +141,18 @@ void QtPrinter::point(double x, double y) {
 
 void QtPrinter::newpage() {
     if (!painter) return;
-    printer->newPage();
+    target->device().newPage();
     current = origin;
 }
 
-bool QtPrinter::enddocument() {
-    if (!painter) return false;
+PrintOutcome QtPrinter::enddocument() {
+    if (!painter) return {"Nothing was begun"};
     const bool ended = painter->end();
     painter.reset();
-    const bool good = ended && printer->printerState() != QPrinter::Error;
-    printer.reset();
-    return good && (pdfpath.empty() || QFileInfo(QString::fromStdString(pdfpath)).size() > 0);
+    if (!ended) return {"The pages could not be finished"};
+    PrintOutcome handedover = target->finish();
+    if (handedover) place = target->destination();
+    return handedover;
 }
 
 }  // namespace tarvane

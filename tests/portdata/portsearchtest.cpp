@@ -1,0 +1,85 @@
+#include "portdata/portsearch.h"
+
+#include <gtest/gtest.h>
+
+#include "portdata/bytes.h"
+#include "portdata/portscsv.h"
+#include "portdata/recordfiles.h"
+
+namespace tarvane {
+namespace {
+
+std::vector<std::string> shippednames() {
+    std::vector<std::string> names;
+    for (const HarmonicRecord& port : readportscsv(filetext(std::string(TARVANE_DATA) + "/uk-ports.csv")).ports)
+        names.push_back(trimmedname(port));
+    return names;
+}
+
+TEST(PortSearch, NamesFold) {
+    using Row = std::pair<const char*, std::u32string_view>;
+    for (const auto& [name, folded] :
+         {Row{"  ÎLE de  Bréhat ", U"ile de brehat"}, Row{"Fe\u0301camp", U"fecamp"},
+          Row{"Saint-Quay–Portrieux", U"saint quay portrieux"}, Row{"St. Mary’s", U"saint marys"},
+          Row{"Ste Anne/STE.\u00A0Marie", U"saint anne saint marie"}, Row{"St.Malo", U"saint malo"},
+          Row{"Stornoway Saints", U"stornoway saints"}, Row{"Port Ellen (Islay)", U"port ellen islay"},
+          Row{"Œuf Straße Þórshöfn Ærø Žďár", U"oeuf strasse thorshofn aero zďar"}, Row{"- . '", U""}, Row{"", U""}})
+        EXPECT_TRUE(foldname(name) == folded) << name;
+}
+
+TEST(PortSearch, ShippedPortsAsAPersonTypesThem) {
+    const auto names = shippednames();
+    ASSERT_EQ(names.size(), 84U);
+    using Row = std::pair<const char*, const char*>;
+    for (const auto& [typed, name] : {Row{"st malo", "Saint-Malo"},
+                                      Row{"saint malo", "Saint-Malo"},
+                                      Row{"st-malo", "Saint-Malo"},
+                                      Row{"ST. MALO", "Saint-Malo"},
+
+                                      Row{"malo", "Saint-Malo"},
+                                      Row{"Portsmuth", "Portsmouth"},
+                                      Row{"Protsmouth", "Portsmouth"},
+                                      Row{"portsmu", "Portsmouth"},
+                                      Row{"saint marys", "St Mary's"},
+                                      Row{"sainte helier", "St Helier (Jersey)"},
+                                      Row{"jersey", "St Helier (Jersey)"},
+                                      Row{"lehavre", "Le Havre"},
+                                      Row{"kinloch bervie", "Kinlochbervie"},
+                                      Row{"boulogne sur mer", "Boulogne-sur-Mer"},
+                                      Row{"liverpol", "Liverpool (Gladstone Dock)"},
+                                      Row{"gladstnoe", "Liverpool (Gladstone Dock)"},
+                                      Row{"diélette", "Dielette"},
+                                      Row{"wick", "Wick"},
+                                      Row{"sto", "Stornoway"},
+                                      Row{"dvoer", "Dover"}}) {
+        const auto hits = findports(names, typed);
+        ASSERT_FALSE(hits.empty()) << typed;
+        EXPECT_EQ(names[hits[0].place], name) << typed;
+    }
+    for (const char* typed : {"dvr", "xyz", "Reykjavik", "port of spain"})
+        EXPECT_TRUE(findports(names, typed).empty()) << typed;
+    for (const auto& name : names)
+        EXPECT_EQ(findports(names, name).at(0).rank, PortHit::whole) << name;
+    EXPECT_EQ(findports(names, " - ").size(), names.size());
+}
+
+TEST(PortSearch, BestFirst) {
+    const std::vector<std::string> names{"Airport",     "Le Port",     "Porth",     "Port",
+                                         "Porto Santo", "PORT",        "St Thomas", "Brest Harbour",
+                                         "Brests",      "Brest Roads", "",          "Saint-Port"};
+    using Row = std::pair<const char*, std::vector<std::size_t>>;
+    for (const auto& [typed, places] :
+         {Row{"port", {3, 5, 2, 4, 1, 11, 0}}, Row{"st", {6, 11, 7, 8, 9}}, Row{"sain", {6, 11}},
+          Row{"bresst", {7, 8, 9}}, Row{"prot", {3, 5, 1, 11, 2, 4}}, Row{"prt", {}}}) {
+        std::vector<std::size_t> found;
+        for (const PortHit& hit : findports(names, typed))
+            found.push_back(hit.place);
+        EXPECT_EQ(found, places) << typed;
+    }
+    EXPECT_EQ(findports(names, "prot")[0].distance, 1);
+    EXPECT_EQ(nearestports(names, "Saint-Thmoas", 1), std::vector<std::size_t>{6});
+    EXPECT_EQ(nearestports(names, "q", 3).size(), 3U);
+}
+
+}  // namespace
+}  // namespace tarvane

@@ -6,6 +6,7 @@
 namespace tarvane {
 
 enum class MessageIcon { none, information, question, exclamation };
+enum class Answer { yes, no, cancel };
 
 class Messages {
   public:
@@ -16,6 +17,10 @@ class Messages {
 
     /// Asks with the buttons Yes and No; true for Yes. Escape is No.
     virtual bool ask(const std::string& text, const std::string& title, MessageIcon icon = MessageIcon::question) = 0;
+
+    /// Asks with the buttons Yes, No and Cancel, of which Cancel takes the user back to where he was. Escape is Cancel.
+    virtual Answer askorcancel(const std::string& text, const std::string& title,
+                               MessageIcon icon = MessageIcon::question) = 0;
 
     virtual void beep() = 0;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "portdata/portsearch.h"
 #include "portdata/recordfiles.h"
 #include "text/singlebyte.h"
 
@@ -11,13 +12,17 @@ namespace {
 
 constexpr std::size_t namewidth = 35;
 
-/// Index of the first entry from `start` on with `part` in its name; the list's length when there is none.
-std::size_t findpart(const PortList& list, std::size_t start, std::string_view part) {
+/// Places of the entries with `part` in their names, as they stand; where there is none, of those that it is likely to
+/// mean, likeliest first.
+std::vector<std::size_t> hitsof(const PortList& list, std::string_view part) {
     const std::string wanted = uppercase(part);
-    std::size_t i = std::min(start, list.displaylist.size());
-    while (i < list.displaylist.size() && uppercase(list.displaylist[i].PortName).find(wanted) == std::string::npos)
-        ++i;
-    return i;
+    std::vector<std::size_t> hits;
+    for (std::size_t i = 0; i < list.displaylist.size(); ++i)
+        if (uppercase(list.displaylist[i].PortName).find(wanted) != std::string::npos) hits.push_back(i);
+    if (!hits.empty()) return hits;
+    for (const PortHit& hit : findports(portnames(list), part))
+        hits.push_back(hit.place);
+    return hits;
 }
 
 std::optional<std::size_t> takehit(PortList& list, std::size_t index) {
@@ -70,22 +75,57 @@ std::optional<std::string> pickport(PortList& list, std::string_view entry) {
     return picked;
 }
 
+std::optional<std::size_t> selectrecord(PortList& list, std::int16_t number) {
+    if (number < 1 || number > static_cast<int>(list.filelist.size())) return std::nullopt;
+    const std::size_t record = static_cast<std::size_t>(number - 1);
+    const std::string name = trimmedname(list.filelist[record]);
+    const auto named = [&](const HarmonicRecord& port) { return trimmedname(port) == name; };
+    // Ports with one name stand in the order of the file in either list.
+    auto before = std::count_if(list.filelist.begin(), list.filelist.begin() + (number - 1), named);
+    for (std::size_t i = 0; i < list.displaylist.size(); ++i) {
+        if (!named(list.displaylist[i]) || before-- > 0) continue;
+        list.selectedport = number;
+        return i;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::size_t> stepbyletters(const PortList& list, int from, std::string_view typed) {
+    const std::u32string letters = codepoints(uppercase(typed));
+    if (letters.empty()) return std::nullopt;
+    const bool repeated = letters.find_first_not_of(letters.front()) == std::u32string::npos;
+    const std::u32string wanted = repeated ? letters.substr(0, 1) : letters;
+    const std::size_t count = list.displaylist.size();
+    const std::size_t start = static_cast<std::size_t>(std::max(from, 0)) + (repeated && from >= 0 ? 1 : 0);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t place = (start + i) % count;
+        if (codepoints(uppercase(list.displaylist[place].PortName)).starts_with(wanted)) return place;
+    }
+    return std::nullopt;
+}
+
 std::optional<std::size_t> searchfromstart(PortList& list, std::string_view part) {
-    const std::size_t index = findpart(list, 0, part);
-    if (index == list.displaylist.size()) return std::nullopt;
-    return takehit(list, index);
+    const std::vector<std::size_t> hits = hitsof(list, part);
+    if (hits.empty()) return std::nullopt;
+    return takehit(list, hits.front());
 }
 
 std::optional<std::size_t> searchnext(PortList& list, std::string_view part) {
+    const std::vector<std::size_t> hits = hitsof(list, part);
+    auto next = std::find(hits.begin(), hits.end(), static_cast<std::size_t>(list.searchposition));
     // kept: sorting doesn't forget the place of the last hit, and the search goes on there in the new order
-    const std::size_t index = findpart(list, static_cast<std::size_t>(list.searchposition + 1), part);
-    if (index < list.displaylist.size()) return takehit(list, index);
+    if (next != hits.end())
+        ++next;
+    else
+        next = std::find_if(hits.begin(), hits.end(),
+                            [&](std::size_t hit) { return static_cast<int>(hit) > list.searchposition; });
+    if (next != hits.end()) return takehit(list, *next);
     list.searchposition = -1;
     return std::nullopt;
 }
 
 bool searchhits(const PortList& list, std::string_view part) {
-    return findpart(list, 0, part) < list.displaylist.size();
+    return !hitsof(list, part).empty();
 }
 
 }  // namespace tarvane

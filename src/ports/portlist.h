@@ -33,15 +33,25 @@ std::vector<std::string> portnames(const PortList& list);
 /// file. Nothing, the selection staying, when no port has that name.
 std::optional<std::string> pickport(PortList& list, std::string_view entry);
 
+/// Makes the port of a record number the selected one and gives its place in `displaylist`. Nothing, the selection
+/// staying, when that list doesn't hold it.
+std::optional<std::size_t> selectrecord(PortList& list, std::int16_t number);
+
+/// Place of the port to which quickly typed letters jump from the entry `from` (-1 for none), going round at the end:
+/// one letter, pressed once or again and again, steps through the ports that begin with it; different letters find the
+/// next name that begins with them all, which may be the entry itself. Nothing when none does.
+std::optional<std::size_t> stepbyletters(const PortList& list, int from, std::string_view typed);
+
 /// Place in `displaylist` of the first port with `part` anywhere in its name, whatever the case; an empty text is in
-/// every name. A hit becomes `searchposition`; no hit, or one without a name, gives nothing and leaves it.
+/// every name. A text that no name has finds the ports that it is likely to mean, likeliest first. A hit becomes
+/// `searchposition`; no hit, or one without a name, gives nothing and leaves it.
 std::optional<std::size_t> searchfromstart(PortList& list, std::string_view part);
 
-/// The same from the entry behind the last hit, also when the list has another order by now. No hit sets
-/// `searchposition` to -1, so that the next call starts at the top.
+/// The same from behind the last hit, also when the list has another order by now. No hit sets `searchposition` to -1,
+/// so that the next call starts at the top.
 std::optional<std::size_t> searchnext(PortList& list, std::string_view part);
 
-/// True if any entry of `displaylist` has `part` in its name.
+/// True if a search for `part` has a hit.
 bool searchhits(const PortList& list, std::string_view part);
 
 }  // namespace tarvane

@@ -20,21 +20,24 @@ class ScriptedMessages : public Messages {
     /// The whole text is compared; title and icon only where given.
     void expectshow(std::string text, Title title = {}, Icon icon = {});
     void expectask(std::string text, bool answer, Title title = {}, Icon icon = {});
+    void expectaskorcancel(std::string text, Answer answer, Title title = {}, Icon icon = {});
 
     void show(const std::string& text, const std::string& title, MessageIcon icon) override;
     bool ask(const std::string& text, const std::string& title, MessageIcon icon) override;
+    Answer askorcancel(const std::string& text, const std::string& title, MessageIcon icon) override;
     void beep() override { ++beeps; }
 
   private:
+    enum class Kind { show, ask, askorcancel };
     struct Expected {
         std::string name;
-        bool question;
+        Kind kind;
         Title title;
         Icon icon;
-        bool answer;
+        Answer answer;
     };
 
-    bool take(const std::string& text, bool question, const std::string& title, MessageIcon icon);
+    Answer take(const std::string& text, Kind kind, const std::string& title, MessageIcon icon);
 
     Script<Expected> script{"a message"};
 };

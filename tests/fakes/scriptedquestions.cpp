@@ -11,26 +11,34 @@ void failtest(const std::string& reason) {
 }
 
 void ScriptedMessages::expectshow(std::string text, Title title, Icon icon) {
-    script.expect({std::move(text), false, std::move(title), icon, false});
+    script.expect({std::move(text), Kind::show, std::move(title), icon, Answer::cancel});
 }
 
 void ScriptedMessages::expectask(std::string text, bool answer, Title title, Icon icon) {
-    script.expect({std::move(text), true, std::move(title), icon, answer});
+    script.expect({std::move(text), Kind::ask, std::move(title), icon, answer ? Answer::yes : Answer::no});
+}
+
+void ScriptedMessages::expectaskorcancel(std::string text, Answer answer, Title title, Icon icon) {
+    script.expect({std::move(text), Kind::askorcancel, std::move(title), icon, answer});
 }
 
 void ScriptedMessages::show(const std::string& text, const std::string& title, MessageIcon icon) {
-    take(text, false, title, icon);
+    take(text, Kind::show, title, icon);
 }
 
 bool ScriptedMessages::ask(const std::string& text, const std::string& title, MessageIcon icon) {
-    return take(text, true, title, icon);
+    return take(text, Kind::ask, title, icon) == Answer::yes;
 }
 
-bool ScriptedMessages::take(const std::string& text, bool question, const std::string& title, MessageIcon icon) {
+Answer ScriptedMessages::askorcancel(const std::string& text, const std::string& title, MessageIcon icon) {
+    return take(text, Kind::askorcancel, title, icon);
+}
+
+Answer ScriptedMessages::take(const std::string& text, Kind kind, const std::string& title, MessageIcon icon) {
     const std::optional<Expected> expected = script.take(text);
-    if (!expected) return false;
+    if (!expected) return Answer::cancel;
     EXPECT_EQ(text, expected->name);
-    EXPECT_EQ(question, expected->question) << text;
+    EXPECT_EQ(static_cast<int>(kind), static_cast<int>(expected->kind)) << text;
     EXPECT_EQ(title, expected->title.value_or(title)) << text;
     EXPECT_EQ(icon, expected->icon.value_or(icon)) << text;
     return expected->answer;

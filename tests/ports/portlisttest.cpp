@@ -79,6 +79,54 @@ TEST_F(PortListTest, SearchesAnyPartWhateverTheCaseFromHitToHit) {
     EXPECT_EQ(searchnext(list, "s"), 2U) << "the new order is searched from behind the old place";
 }
 
+TEST_F(PortListTest, ATextThatNoNameHasFindsWhatItIsLikelyToMean) {
+    store({"St Mary's", "Saint-Malo", "Portland", "Portsmouth", "Saint-Quay-Portrieux"});
+    for (const auto& [typed, place] :
+         {std::pair{"st malo", 1U}, {"saint malo", 1U}, {"st-malo", 1U}, {"Portsmuth", 3U}, {"saint marys", 0U}})
+        EXPECT_EQ(searchfromstart(list, typed), place) << typed;
+    EXPECT_EQ(searchfromstart(list, "st"), 0U);
+    EXPECT_EQ(searchnext(list, "st"), std::nullopt) << "a name that has the text leaves no room for the likely ones";
+    EXPECT_EQ(searchfromstart(list, "st."), 0U);
+    EXPECT_EQ(searchnext(list, "st."), 1U);
+    EXPECT_EQ(searchnext(list, "st."), 4U);
+    EXPECT_EQ(searchnext(list, "st."), std::nullopt);
+    EXPECT_FALSE(searchhits(list, "qqqqqqqq"));
+}
+
+TEST_F(PortListTest, ARecordIsFoundInEitherOrderAlsoAmongEqualNames) {
+    store({"Ryde", "Deal", "Ryde", "Cowes", "Ryde"});
+    EXPECT_EQ(selectrecord(list, 3), 2U);
+    EXPECT_EQ(sorted(), (Names{"Cowes", "Deal", "Ryde", "Ryde"}));
+    for (const auto& [number, place] : {std::pair{1, 2U}, {2, 1U}, {3, 3U}, {4, 0U}}) {
+        EXPECT_EQ(selectrecord(list, static_cast<std::int16_t>(number)), place) << number;
+        EXPECT_EQ(list.selectedport, number);
+    }
+    for (const std::int16_t missing : {std::int16_t{5}, std::int16_t{0}, std::int16_t{6}})
+        EXPECT_EQ(selectrecord(list, missing), std::nullopt) << missing;
+    EXPECT_EQ(list.selectedport, 4);
+}
+
+TEST_F(PortListTest, LettersStepThroughTheirGroupAndRound) {
+    store({"Poole", "Dover", "portland", "Port Ellen", "\u00C9tretat"});
+    const std::tuple<int, const char*, std::optional<std::size_t>> rows[] = {{-1, "p", 0},
+                                                                             {0, "p", 2},
+                                                                             {2, "PPP", 3},
+                                                                             {3, "pp", 0},
+                                                                             {0, "po", 0},
+                                                                             {1, "po", 2},
+                                                                             {2, "port ", 3},
+                                                                             {3, "d", 1},
+                                                                             {1, "d", 1},
+                                                                             {0, "x", std::nullopt},
+                                                                             {0, "pox", std::nullopt},
+                                                                             {0, "", std::nullopt},
+                                                                             {0, "\u00E9", 4},
+                                                                             {4, "\u00E9\u00E9", 4}};
+    for (const auto& [from, typed, place] : rows)
+        EXPECT_EQ(stepbyletters(list, from, typed), place) << from << typed;
+    EXPECT_EQ(stepbyletters(PortList(), -1, "p"), std::nullopt);
+}
+
 TEST_F(PortListTest, AnEmptyTextStepsUpToAPortWithoutAName) {
     store({"One", "Two", "", "Four"});
     EXPECT_EQ(searchnext(list, ""), 0U);

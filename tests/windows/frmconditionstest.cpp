@@ -52,19 +52,23 @@ TEST(frmConditions, TheConditionsAreReadWholeAndDefaultsRestored) {
     }
     form.mnuRestoreDefaults->trigger();
     EXPECT_FALSE(std::filesystem::exists(folders.cfgpath()));
+    EXPECT_FALSE(form.mnuHTMLHelp->isEnabled());
+
+    frmConditions helpful(scripted.services(), folders);
+    int helped = 0;
+    helpful.onhelp = [&] { ++helped; };
+    present(helpful);
+    helpful.mnuHTMLHelp->trigger();
+    EXPECT_EQ(helped, 1);
 }
 
-TEST(Form1, TurnsTheOrdersIntoWords) {
+TEST(Form1, GetInfoAsksTheSystemAgain) {
     ScriptedLocale locale;
-    locale.infotexts = {{1, "0809"}, {33, "1"}, {34, "2"}, {4107, std::nullopt}};
     const Form1 form(locale);
-    const auto text = [&](const char* name) { return control<QLineEdit>(form, name).text(); };
-    EXPECT_EQ(text("Text3"), "2   Year - Month - Day");
-    EXPECT_EQ(text("Text4"), "1   Day - Month - Year");
-    EXPECT_EQ(text("Text10"), "");
-    locale.infotexts[33] = "0";
+    EXPECT_EQ(control<QLineEdit>(form, "Text2").text(), "English");
+    locale.infotexts[4097] = "Basque";
     form.Command1->click();
-    EXPECT_EQ(text("Text4"), "0   Month - Day - Year");
+    EXPECT_EQ(control<QLineEdit>(form, "Text2").text(), "Basque");
 }
 
 }  // namespace

@@ -39,28 +39,46 @@ TEST_F(FrmConfig, ASailorTypesPartOfANameSearchesOnStepsBackAndPressesEnter) {
     expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "portconfigok");
     EXPECT_EQ(form.portlist2->count(), ports - 1);
-    EXPECT_EQ(form.portconfigbox->text(), "St Mary's");
     ASSERT_EQ(QApplication::focusWidget(), form.txtSearch);
 
     QTest::keyClicks(form.txtSearch, "saint");
-    form.cmdSearch->click();
+    QTest::mouseClick(form.cmdSearch, Qt::LeftButton);
     EXPECT_EQ(form.portconfigbox->text(), "Saint-Quay-Portrieux");
-    QTest::keyClick(form.txtSearch, Qt::Key_Up);
+    QTest::keyClick(form.focusWidget(), Qt::Key_Up);
     EXPECT_EQ(form.portconfigbox->text(), "Saint-Malo");
-    QTest::keyClick(form.txtSearch, Qt::Key_Return);
+    QTest::keyClick(form.focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(stored().portnumber, 80);
     EXPECT_EQ(session.view.portbox, "Port    : Saint-Malo");
 }
 
+TEST_F(FrmConfig, TheCurrentPortIsHighlightedInViewAndEnterKeepsIt) {
+    // Of two ports with one name a click takes the later; the current one stays what it is.
+    session.settings.currentport = 20;
+    HarmonicRecord twin = readport(area(), 20);
+    writeport(area(), static_cast<std::int16_t>(ports), twin);
+    writeport(area(), static_cast<std::int16_t>(ports + 1), readport(area(), 1));
+    frmconfig form(context);
+    present(form);
+    EXPECT_EQ(highlighted(form).toStdString(), trimmedname(twin));
+    EXPECT_TRUE(
+        form.portlist2->viewport()->rect().contains(form.portlist2->visualItemRect(form.portlist2->currentItem())));
+    QTest::keyClick(form.txtSearch, Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(stored().portnumber, 20);
+}
+
 TEST_F(FrmConfig, NeitherFocusNorATextThatNoPortHasTakesAPort) {
+    session.settings.areafile = session.folders.programfolder + "/Other.hc";
+    for (std::int16_t number = 1; number <= 3; ++number)
+        writeport(session.settings.areafile, number, readport(area(), number));
     frmconfig form(context);
     present(form);
     form.portlist2->setFocus();
     scripted.messages.expectshow("Select a port", "Tarvane");
     QTest::keyClick(form.portlist2, Qt::Key_Return);
-    EXPECT_TRUE(form.isVisible());
-    QTest::keyClicks(form.txtSearch, "po");
+    EXPECT_TRUE(form.isVisible()) << "in another area no port is the current one";
+    QTest::keyClicks(form.txtSearch, "ne");
     QTest::keyClicks(form.txtSearch, "x");
     EXPECT_NE(highlighted(form), "") << "a text without a hit leaves the selection";
     QTest::keyClick(form.txtSearch, Qt::Key_Return);
@@ -68,6 +86,27 @@ TEST_F(FrmConfig, NeitherFocusNorATextThatNoPortHasTakesAPort) {
     EXPECT_EQ(stored().portnumber, 1);
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(FrmConfig, LettersPressedFastStepThroughTheirGroup) {
+    frmconfig form(context);
+    present(form);
+    form.portlist2->setFocus();
+    std::vector<std::string> reached;
+    for (int press = 0; press < 4; ++press) {
+        QTest::keyClick(form.portlist2, Qt::Key_P);
+        reached.push_back(form.portconfigbox->text().toStdString());
+    }
+    std::vector<std::string> group;
+    for (int row = 0; row < form.portlist2->count(); ++row)
+        if (const QString name = form.portlist2->item(row)->text(); name.startsWith('P'))
+            group.push_back(name.toStdString());
+    ASSERT_GT(group.size(), 4U);
+    group.resize(4);
+    EXPECT_EQ(reached, group);
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(form.portlist2, "por");
+    EXPECT_EQ(form.portconfigbox->text().left(3), "Por");
 }
 
 TEST_F(FrmConfig, TheFilesLastPortIsFoundInTheOrderOfTheFile) {

@@ -1,8 +1,9 @@
-// Pictures of every window there is, offscreen: "shots [--out FOLDER] [--area FILE.hc] [--scale N]" with a standing
-// clock, "shots --mainwindow FILE.png" of the main window as this user would see it now, and "shots --pages FOLDER
-// [--area FILE.hc]" of every printout as a PDF.
+// Pictures of every window there is, offscreen: "shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH]" with
+// a standing clock, "shots --mainwindow FILE.png" of the main window as this user would see it now, and "shots --pages
+// FOLDER [--area FILE.hc]" of every printout as a PDF. The screen is given in its own pixels.
 #include <QApplication>
 #include <QDir>
+#include <QTemporaryFile>
 #include <cstdio>
 
 #include "almanac/frmriseresults.h"
@@ -44,7 +45,7 @@ bool readoptions(const QStringList& arguments, Options& options) {
             options.mainwindow = value;
         else if (arguments[i] == "--pages")
             options.pages = value;
-        else if (arguments[i] != "--scale")
+        else if (arguments[i] != "--scale" && arguments[i] != "--screen")
             return false;
     }
     return true;
@@ -168,6 +169,18 @@ void takeoddtides(Album& album) {
     }
 }
 
+/// A screen of this many pixels, "1366x768"; the platform reads its description from a file.
+void setscreen(const QByteArray& size, QTemporaryFile& description) {
+    const QList<QByteArray> pixels = size.split('x');
+    description.open();
+    description.write(
+        "{\"screens\":[{\"name\":\"screen\",\"x\":0,\"y\":0,\"logicalDpi\":96,\"logicalBaseDpi\":96,\"dpr\":1,"
+        "\"width\":" +
+        pixels.first() + ",\"height\":" + pixels.last() + "}]}");
+    description.flush();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toLocal8Bit());
+}
+
 int run(const Options& options) {
     const QString area = options.area.isEmpty() ? QApplication::applicationDirPath() + "/UK.hc" : QString(options.area);
     if (!options.pages.isEmpty()) return takepages(options.pages.toStdString(), area.toStdString()) ? 0 : 1;
@@ -189,16 +202,21 @@ int run(const Options& options) {
 }  // namespace tarvane::shots
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    for (int i = 1; i + 1 < argc; ++i)
+    QByteArray screen = "3840x2160";
+    for (int i = 1; i + 1 < argc; ++i) {
         if (QByteArray(argv[i]) == "--scale") qputenv("QT_SCALE_FACTOR", argv[i + 1]);
+        if (QByteArray(argv[i]) == "--screen") screen = argv[i + 1];
+    }
+    QTemporaryFile description;
+    tarvane::shots::setscreen(screen, description);
     QApplication application(argc, argv);
     tarvane::setappearance(application);
     tarvane::shots::Options options;
     if (!tarvane::shots::readoptions(QApplication::arguments(), options)) {
         std::fprintf(stderr,
-                     "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] | shots --mainwindow FILE.png | "
-                     "shots --pages FOLDER [--area FILE.hc]\n");
+                     "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH] | "
+                     "shots --mainwindow FILE.png | shots --pages FOLDER [--area FILE.hc]
+");
         return 2;
     }
     return tarvane::shots::run(options);

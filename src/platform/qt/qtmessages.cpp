@@ -59,6 +59,22 @@ bool QtMessages::ask(const std::string& text, const std::string& title, MessageI
     return opened(box) == QMessageBox::Yes;
 }
 
+Answer QtMessages::askorcancel(const std::string& text, const std::string& title, MessageIcon icon) {
+    QMessageBox box(QApplication::activeWindow());
+    prepare(box, text, title, icon);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::Cancel);
+    switch (opened(box)) {
+        case QMessageBox::Yes:
+            return Answer::yes;
+        case QMessageBox::No:
+            return Answer::no;
+        default:
+            return Answer::cancel;
+    }
+}
+
 void QtMessages::beep() {
     QApplication::beep();
 }

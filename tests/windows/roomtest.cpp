@@ -1,0 +1,97 @@
+// Every window on screens of several sizes: nothing of it out of reach.
+#include <QMenuBar>
+#include <QScrollArea>
+#include <functional>
+#include <memory>
+
+#include "almanac/frmriseresults.h"
+#include "almanac/frmsunrise.h"
+#include "almanac/sunview.h"
+#include "fakes/mainfixture.h"
+#include "mainview/frmtarvane.h"
+#include "mainview/frmtimdat.h"
+#include "ports/frmchartdepth.h"
+#include "ports/frmconfig.h"
+#include "ports/frmoutoptions.h"
+#include "ports/frmshowconf.h"
+#include "shell/form1.h"
+#include "shell/frmconditions.h"
+#include "windows/controls.h"
+
+namespace tarvane::tests {
+namespace {
+
+class Room : public testing::Test, protected MainFixture {
+  protected:
+    using Windows = std::vector<std::unique_ptr<QWidget>>;
+
+    Room() {
+        load();
+        preparesunview(session);
+        calculatesun(context, portsuninput(session));
+    }
+
+    template <class... Dialogs>
+    void add(Windows& windows) {
+        (windows.push_back(std::make_unique<Dialogs>(context)), ...);
+    }
+
+    Windows everywindow() {
+        Windows windows;
+        add<frmconfig, frmChartdepth, frmoutoptions, frmshowconf, Frmtimdat, Frmsunrise, Frmriseresults>(windows);
+        windows.push_back(std::make_unique<Form1>(scripted.locale));
+        windows.push_back(std::make_unique<frmConditions>(context.services, session.folders));
+        return windows;
+    }
+
+    /// Scrolls to a control's middle as a user would and tells whether it is seen.
+    static bool reachable(QWidget& control) {
+        const QPoint middle = control.rect().center();
+        for (QWidget* above = control.parentWidget(); above; above = above->parentWidget())
+            if (auto* area = qobject_cast<QScrollArea*>(above)) {
+                const QPoint place = control.mapTo(area->widget(), middle);
+                area->ensureVisible(place.x(), place.y());
+            }
+        return control.visibleRegion().contains(middle);
+    }
+
+    static void expectreachable(QWidget& form) {
+        for (auto* button : form.findChildren<QPushButton*>())
+            EXPECT_TRUE(reachable(*button)) << form.objectName().toStdString() << button->text().toStdString();
+    }
+};
+
+TEST_F(Room, EveryWindowFitsWhereItIsSmallAndStaysWholeWhereItIsNot) {
+    // logical pixels: screens of 1920 x 1080 and 1366 x 768 at twice the usual density, and one smaller than any
+    for (const QSize room : {QSize(950, 480), QSize(673, 350), QSize(400, 260)})
+        for (const auto& form : everywindow()) {
+            const std::string name = form->objectName().toStdString() + " in " + std::to_string(room.width());
+            const QSize before = form->size();
+            fitroom(*form, room);
+            present(*form);
+            EXPECT_EQ(form->size().boundedTo(room), form->size()) << name;
+            if (before == before.boundedTo(room)) {
+                EXPECT_EQ(form->size(), before) << name;
+            }
+            expectroomfortexts(*form);
+            expectreachable(*form);
+            if (room.width() > 400) {
+                EXPECT_TRUE(form->findChildren<QScrollArea*>().isEmpty()) << name << ": it had only to move together";
+            }
+            if (QWidget* focus = form->focusWidget()) {
+                EXPECT_FALSE(focus->visibleRegion().isEmpty()) << name;
+            }
+        }
+}
+
+TEST_F(Room, AMainWindowTooLargeForItsScreenScrolls) {
+    frmtarvane form(session, context.services);
+    form.Form_Load();
+    fitroom(form, {500, 300});
+    present(form);
+    EXPECT_EQ(form.size(), QSize(500, 300));
+    EXPECT_TRUE(reachable(*form.Nextday));
+}
+
+}  // namespace
+}  // namespace tarvane::tests

@@ -36,6 +36,7 @@ frmtarvane::frmtarvane(Session& owner, const Services& services, QWidget* parent
     const QSize told(twips(9720), twips(7400));
     setMinimumSize(told);
     resize(told);
+    fitscreen(*this);
     centreon(*this, nullptr);
 }
 

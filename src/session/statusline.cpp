@@ -85,10 +85,29 @@ void notesun(const Session& session, Date date, std::vector<std::string>& notes)
         notes.push_back("the sun's lines are of " + slashdate(drawn.day, drawn.month, drawn.year));
 }
 
+/// The month's list stands until it is asked for again, and one shift serves all its days.
+void notelist(const Session& session, const Locale& locale, Date date, std::vector<std::string>& notes) {
+    if (session.month.monthspredictions.empty()) return;
+    const MonthMade& made = session.month.made;
+    const Prediction& prediction = session.prediction;
+    const PredictedPort& port = prediction.port;
+    const Date first = makedate(made.year, made.month, 1);
+    if (made.portnumber != port.number || made.hcfile != session.settings.hcfile)
+        notes.push_back("the month list is " + trim(made.portname) + "'s");
+    else if (made.year != yearof(date) || made.month != monthof(date))
+        notes.push_back("the month list is of " + formatdate(locale, first, "mmmm yyyy"));
+    else if (made.currentoutput != port.currentoutput || made.userdepth != port.userdepth)
+        notes.emplace_back("the month list has other heights");
+    else if (made.summer != prediction.day.summer)
+        notes.emplace_back("the month list is an hour off");
+    else if (session.settings.summerflag2 != 0 &&
+             IsSummerDate(first) != IsSummerDate(makedate(made.year, made.month + 1, 0)))
+        notes.emplace_back("the month list keeps one hour for all its days");
+}
+
 /// The texts that are saved and copied name the kind of time by the month's number.
 void notetime(const Session& session, std::vector<std::string>& notes) {
-    const bool named =
-        session.settings.currentsummer != 0 && session.onshow.tidemonth >= 4 && session.onshow.tidemonth <= 10;
+    const bool named = session.settings.currentsummer != 0 && issummermonth(session.onshow.tidemonth);
     if (session.prediction.defined && named != shifted(session.prediction))
         notes.push_back(std::string("texts call these times ") + (named ? "Summer Time" : "Standard Time"));
 }
@@ -109,6 +128,7 @@ std::vector<std::string> statusnotes(const Session& session, const Locale& local
     noteheights(session, notes);
     notecopies(session, date, notes);
     notemonth(session, locale, date, notes);
+    notelist(session, locale, date, notes);
     notetime(session, notes);
     notelayers(session, notes);
     notesun(session, date, notes);

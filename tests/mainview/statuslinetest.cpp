@@ -6,6 +6,7 @@
 
 #include "fakes/mainfixture.h"
 #include "mainview/layersview.h"
+#include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
 #include "mainview/stepping.h"
 #include "ports/programsettings.h"
@@ -111,6 +112,34 @@ TEST_F(StatusLine, NotesTextsThatNameTheTimeByTheMonth) {
         redrawday(context);
         EXPECT_EQ(notes(), row.note) << line();
     }
+}
+
+TEST_F(StatusLine, NotesAMonthListOfSomethingElse) {
+    const auto listnote = [&] {
+        const std::string all = notes();
+        const std::size_t at = all.find("the month list");
+        return at == std::string::npos ? "" : all.substr(at, all.find('|', at) - at);
+    };
+    calculatemonth(context);
+    EXPECT_EQ(listnote(), "");
+    setdateonshow(session.onshow, makedate(2024, 5, 1));
+    refreshday(context);
+    EXPECT_EQ(listnote(), "the month list is of April 2024");
+    session.settings.currentport = 3;
+    refreshday(context);
+    EXPECT_EQ(listnote(), "the month list is Alder Quay's");
+    session.settings.currentport = 1;
+    setdateonshow(session.onshow, makedate(2024, 3, 30));
+    session.settings.summerflag2 = -1;
+    calculatemonth(context);
+    EXPECT_EQ(listnote(), "the month list keeps one hour for all its days");
+    nextday(context);
+    EXPECT_EQ(listnote(), "the month list is an hour off");
+    session.settings.currentport = 2;
+    calculatemonth(context);
+    session.settings.currentoutput = 1;
+    refreshday(context);
+    EXPECT_EQ(listnote(), "the month list has other heights");
 }
 
 TEST_F(StatusLine, NotesContributionsOfAnEarlierCurve) {

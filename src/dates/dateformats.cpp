@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/daywords.h"
 #include "text/numbers.h"
 
 namespace tarvane {
@@ -47,25 +48,6 @@ constexpr std::array<ProbeRow, 6> proberows{{
     {3, "/", "03/01/2001", "DD/MM/YYYY", "MM/DD/YYYY"},
     // kept: the test text is year-first although this row's year stands last
     {3, ".", "2001.03.01", "DD.MM.YYYY", "MM.DD.YYYY"},
-}};
-
-struct DayWords {
-    std::string_view language;
-    std::string_view wednesday;
-    std::string_view thursday;
-};
-
-constexpr std::array<DayWords, 9> daywords{{
-    {"ENGLISH", "Wed", "Thu"},
-    {"BASQUE", "az.", "og."},
-    // kept: the French Thursday is tested without the full stop that its Wednesday has
-    {"FRENCH", "mer.", "jeu"},
-    {"GERMAN", "Mi", "Do"},
-    {"SPANISH", "mi\u00e9", "jue"},
-    {"PORTUGESE", "qua", "qui"},
-    {"NYNORSK", "on", "to"},
-    {"ITALIAN", "mer", "gio"},
-    {"DUTCH", "wo", "do"},
 }};
 
 const ProbeRow* findrow(int yearplace, std::string_view separator) {

@@ -18,6 +18,7 @@ struct DateConventions {
 };
 
 /// Today as the probe hands it out.
+// kept: only the month is looked at
 struct ProbedDate {
     double day = 0;
     double month = 0;  ///< 0 when the system's date text can't be read: the program must end
@@ -57,6 +58,7 @@ std::optional<std::string> LongDateText(const Locale& locale, const DateConventi
 std::string DateCaption(const Locale& locale, const DateConventions& conventions, Date date);
 
 /// Month name and day of the month of a day of the year; both stay as they are for a day outside the year.
+// kept: a calendar routine beside MonthInfo that no window asks
 void DayOfYearToMonth(const Locale& locale, double tideyear, double tidedayofyear, std::string& monthname,
                       double& dayofmonth);
 

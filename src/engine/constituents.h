@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "engine/height.h"
 #include "engine/prediction.h"
 
 namespace tarvane {

@@ -52,6 +52,7 @@ std::optional<HeightInputs> heightinputs(const HarmonicRecord& port, int tidemon
 
 /// The height `t` hours after 00:00 of the base day, and its parts. With `trace` set the form's lines are written to
 /// it.
+// kept: in normal running the lines are off
 HeightParts heightformula(const HeightInputs& inputs, double t, std::ostream* trace = nullptr);
 
 /// Fills `samples` with the heights at `start` hours after 00:00 of the base day and every `step` hours from there,
@@ -72,6 +73,7 @@ struct InstantHeight {
 /// Height of `settings.currentport` at `time` hours (0 becomes 1/60; from 23.8 on 1/6 is taken off) of day `daynumber`
 /// of `year`, the seasonal choice by `tidemonth`. Reads both files. Unlike the curve it takes no monthly level, no user
 /// depth, and the M2 rate for all factors.
+// kept: the workspace that adjusts constants takes the ends of its day from it; nothing here does yet
 InstantHeight heightat(const Settings& settings, int tidemonth, int year, int daynumber, double time,
                        std::ostream* trace = nullptr);
 

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "engine/constituents.h"
+#include "engine/height.h"
 #include "portdata/recordfiles.h"
 
 namespace tarvane {

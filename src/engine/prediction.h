@@ -5,7 +5,6 @@
 #include <array>
 #include <cstdint>
 
-#include "engine/height.h"
 #include "portdata/configuration.h"
 
 namespace tarvane {
@@ -71,6 +70,7 @@ void predictday(const Settings& settings, const TideDay& day, Prediction& predic
 
 /// The variant of the adjust workspace: constants of the day itself, 147 samples from 00:00, the height of the next
 /// morning as row 148. `before` and `after` come from `heightat`.
+// kept: that workspace is its one caller
 void predictdaylinked(const PredictedPort& port, const TideDay& day, double before, double after,
                       Prediction& prediction);
 

@@ -1,7 +1,6 @@
 #include "portdata/configuration.h"
 
 #include "files/wholefiles.h"
-#include "portdata/recordfiles.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 

@@ -7,6 +7,7 @@
 namespace tarvane {
 
 /// How the system writes decimals; it decides the route by which the edit forms are made.
+// kept: numbers are written with a point here, so that the route for a comma is taken by no window
 enum class DecimalMark { point, comma };
 
 /// "50.45.00N" to 50.75: degrees up to the first ".", minutes from there to the second; what follows is never read.

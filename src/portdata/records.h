@@ -75,6 +75,8 @@ ConfigRecord decodeconfig(std::span<const std::byte> bytes);
 /// A blank is not treated specially and gives 44.
 std::int16_t zonehoursof(const HarmonicRecord& record);
 
+// kept: the next two are the conversions of the editor of constants, which disagree with the engine's
+
 /// The letter that the editor saves for a zone in hours, compared exactly; "L" for any other value.
 std::string zoneletter(double hours);
 

@@ -7,6 +7,7 @@
 #include <iterator>
 #include <limits>
 
+#include "engine/height.h"
 #include "engine/springs.h"
 #include "fakes/testport.h"
 #include "portdata/portscsv.h"

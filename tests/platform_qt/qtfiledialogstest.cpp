@@ -5,7 +5,7 @@
 namespace tarvane {
 namespace {
 
-TEST(qtfiledialogs, filtersareconverted) {
+TEST(QtFileDialogs, FiltersAreConverted) {
     const std::pair<const char*, QStringList> rows[] = {{"Tables (*.txt)|*.txt", {"Tables (*.txt) (*.txt *.TXT)"}},
                                                         {"CSV file | *csv", {"CSV file (*csv *CSV)"}},
                                                         {"Areas|*.HC|All|*.*", {"Areas (*.HC *.hc)", "All (*.*)"}},

@@ -25,7 +25,7 @@ std::string probe(const QtLocale& locale, Date today = date(2026, 11, 22)) {
     return found;
 }
 
-TEST(qtlocale, probefindsorder) {
+TEST(QtLocale, TheProbeFindsItsOrder) {
     using Row = std::tuple<const char*, const char*, const char*>;
     for (const auto& [name, form, shortdate] :
          {Row{"C", "DD/MM/YYYY", "05/03/2024"}, Row{"en_GB", "DD/MM/YYYY", "05/03/2024"},
@@ -39,7 +39,7 @@ TEST(qtlocale, probefindsorder) {
 }
 
 /// Every territory of the nine languages passes, whatever the day of the year on which the program starts.
-TEST(qtlocale, everyterritorypasses) {
+TEST(QtLocale, EveryTerritoryPasses) {
     std::size_t count = 0;
     for (const auto language :
          {QLocale::English, QLocale::Basque, QLocale::French, QLocale::German, QLocale::Spanish, QLocale::Portuguese,
@@ -56,7 +56,7 @@ TEST(qtlocale, everyterritorypasses) {
 }
 
 /// What the system writes it can read, on days all over four years and in every locale there is.
-TEST(qtlocale, readswhatitwrites) {
+TEST(QtLocale, ReadsWhatItWrites) {
     for (const QLocale& system :
          QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
         const QtLocale locale{system};
@@ -65,7 +65,7 @@ TEST(qtlocale, readswhatitwrites) {
     }
 }
 
-TEST(qtlocale, readsdates) {
+TEST(QtLocale, ReadsDates) {
     const QtLocale british = named("en_GB"), american = named("en_US");
     for (const char* text : {"03-01-2001", "2001.03.01"}) {
         EXPECT_EQ(british.parsedate(text), date(2001, 1, 3));
@@ -79,12 +79,12 @@ TEST(qtlocale, readsdates) {
         EXPECT_FALSE(british.parsedate(text)) << text;
 }
 
-TEST(qtlocale, daywordsareasshortastheprobes) {
+TEST(QtLocale, DayWordsAreAsShortAsTheProbes) {
     EXPECT_EQ(named("de_DE").dayabbreviation(0) + named("nb_NO").dayabbreviation(6), "Solø");
     EXPECT_EQ(named("pt_PT").dayabbreviation(1) + named("sv_SE").dayabbreviation(4), "segtors");
 }
 
-TEST(qtlocale, informationtexts) {
+TEST(QtLocale, InformationTexts) {
     const QtLocale british{QLocale::c()};
     EXPECT_EQ(british.systemid(), 2057);
     using Row = std::pair<int, const char*>;
@@ -97,7 +97,7 @@ TEST(qtlocale, informationtexts) {
     EXPECT_EQ(*named("eu_ES").info(1069, 33) + *named("eu_ES").info(1069, 34), "22");
 }
 
-TEST(qtlocale, datecategorydecides) {
+TEST(QtLocale, TheDateCategoryDecides) {
     const std::pair<const char*, QByteArray> before[] = {
         {"LC_ALL", qgetenv("LC_ALL")}, {"LC_TIME", qgetenv("LC_TIME")}, {"LANG", qgetenv("LANG")}};
     qunsetenv("LC_ALL");

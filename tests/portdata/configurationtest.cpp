@@ -28,7 +28,7 @@ struct Home : testing::Test {
 };
 
 using Configuration = Home;
-using Userdepths = Home;
+using UserDepths = Home;
 
 TEST_F(Configuration, AFreshFolderGetsTheFirstRecord) {
     loadsettings(folders, settings);
@@ -80,7 +80,7 @@ TEST_F(Configuration, AFolderThatCantBeWrittenStillStarts) {
     EXPECT_EQ(filetext(folder / "data"), "a file where the folder should be");
 }
 
-TEST_F(Userdepths, TheNameComesFromTheAreaFile) {
+TEST_F(UserDepths, TheNameComesFromTheAreaFile) {
     const ProgramFolders installed{"/opt/tarvane", "/home/ann/Documents", "", ""};
     using Row = std::pair<const char*, const char*>;
     for (const auto& [hcfile, name] :
@@ -91,7 +91,7 @@ TEST_F(Userdepths, TheNameComesFromTheAreaFile) {
     EXPECT_EQ(depfileof(installed, "/opt/tarvane/UK.hc"), "/home/ann/Documents/TarvaneTides/UserDepths/UK.DEP");
 }
 
-TEST_F(Userdepths, TheFirstUseMakesOneRecordAPort) {
+TEST_F(UserDepths, TheFirstUseMakesOneRecordAPort) {
     settings.hcfile = folders.programfolder + "/UK.hc";
     EXPECT_FALSE(EnsureDepFile(folders, settings));
     HarmonicRecord port;

@@ -27,7 +27,7 @@ void expectfault(const std::string& text, std::size_t line, std::size_t column, 
     EXPECT_NE(read.fault->reason.find(word), std::string::npos) << read.fault->reason;
 }
 
-TEST(Portscsv, TheShippedTableIsSound) {
+TEST(PortsCsv, TheShippedTableIsSound) {
     const PortsTable read = readportscsv(filetext(std::string(TARVANE_DATA) + "/uk-ports.csv"));
     ASSERT_FALSE(read.fault.has_value()) << read.fault->line << " " << read.fault->reason;
     ASSERT_EQ(read.ports.size(), 84u);
@@ -38,7 +38,7 @@ TEST(Portscsv, TheShippedTableIsSound) {
     EXPECT_EQ(read.ports[76].PortName + read.ports[76].TimeZoneLetter, "CherbourgM");
 }
 
-TEST(Portscsv, TakesQuotesLineEndsBlankLinesAndSources) {
+TEST(PortsCsv, TakesQuotesLineEndsBlankLinesAndSources) {
     for (const std::string end : {"\n", "\r\n"}) {
         const PortsTable read =
             readportscsv("\xEF\xBB\xBF" + header + ",source" + end + row("1,\"Rock, the \"\"Inner\"\"\",49.5,-6,A,1") +
@@ -51,7 +51,7 @@ TEST(Portscsv, TakesQuotesLineEndsBlankLinesAndSources) {
     }
 }
 
-TEST(Portscsv, RefusesAFieldByItsPlace) {
+TEST(PortsCsv, RefusesAFieldByItsPlace) {
     using Row = std::tuple<const char*, std::size_t, const char*>;
     for (const auto& [start, column, word] :
          {Row{"1,B,1,2,L,3", 1, "should be 2"}, Row{"2,   ,1,2,L,3", 2, "empty"},
@@ -65,7 +65,7 @@ TEST(Portscsv, RefusesAFieldByItsPlace) {
         expectfault(header + "\n" + row("1,A,1,2,L,3") + "\n" + row(start), 3, column, word);
 }
 
-TEST(Portscsv, RefusesBrokenTables) {
+TEST(PortsCsv, RefusesBrokenTables) {
     const std::string good = row("1,A,1,2,L,3");
     expectfault("\n\r\n", 1, 0, "empty");
     expectfault(header + "\n", 1, 0, "no ports");

@@ -40,10 +40,10 @@ struct Files : testing::Test {
     }
 };
 
-using Recordfiles = Files;
-using Replacefile = Files;
+using RecordFiles = Files;
+using ReplaceFile = Files;
 
-TEST_F(Recordfiles, CountByLengthHalvesToEven) {
+TEST_F(RecordFiles, CountByLengthHalvesToEven) {
     using Row = std::pair<std::size_t, int>;
     for (const auto& [length, count] :
          {Row{0, 0}, Row{98, 0}, Row{99, 1}, Row{5 * 197 + 98, 5}, Row{5 * 197 + 99, 6}}) {
@@ -58,7 +58,7 @@ TEST_F(Recordfiles, CountByLengthHalvesToEven) {
     EXPECT_EQ(portcount(path), 32767);
 }
 
-TEST_F(Recordfiles, WhatIsNotThereReadsAsZeros) {
+TEST_F(RecordFiles, WhatIsNotThereReadsAsZeros) {
     putfile(path, area(3));
     for (const std::int16_t outside : std::initializer_list<std::int16_t>{-32768, 0, 4, 32767})
         EXPECT_EQ(readport(path, outside).PortName + readdepth(path, outside).Notes, "") << outside;
@@ -69,7 +69,7 @@ TEST_F(Recordfiles, WhatIsNotThereReadsAsZeros) {
     }
 }
 
-TEST_F(Recordfiles, WriteInPlaceAndGrowWithZeros) {
+TEST_F(RecordFiles, WriteInPlaceAndGrowWithZeros) {
     putfile(path, area(3) + "tail");
     ASSERT_TRUE(writeport(path, 2, named("Étaples")));
     EXPECT_EQ(filetext(path).substr(0, 197), area(1));
@@ -100,7 +100,7 @@ bool onadiskof(rlim_t bytes, Write write) {
     return written;
 }
 
-TEST_F(Replacefile, ADiskFullAtAnyByteLeavesTheOldFile) {
+TEST_F(ReplaceFile, ADiskFullAtAnyByteLeavesTheOldFile) {
     const std::string old = area(2), wanted(3 * 197, 'n');
     putfile(path, old);
     for (std::size_t byte = 0; byte < wanted.size(); ++byte) {
@@ -114,7 +114,7 @@ TEST_F(Replacefile, ADiskFullAtAnyByteLeavesTheOldFile) {
     EXPECT_EQ(filetext(path), wanted);
 }
 
-TEST_F(Replacefile, FollowsLinksAndKeepsPermissions) {
+TEST_F(ReplaceFile, FollowsLinksAndKeepsPermissions) {
     fs::create_directory(folder / "real");
     const std::string target = folder / "real/a.hc";
     fs::create_symlink("real/a.hc", folder / "link.hc");

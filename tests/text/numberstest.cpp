@@ -43,7 +43,7 @@ TEST(Val, TakesTheLeadingNumber) {
         EXPECT_EQ(val(text), number) << '"' << text << '"';
 }
 
-TEST(Numbertext, GivesSevenOrFifteenDigits) {
+TEST(NumberText, GivesSevenOrFifteenDigits) {
     using Row = std::tuple<double, const char*, const char*>;
     for (const auto& [value, joined, leading] :
          {Row{-0.0, "0", " 0"}, Row{0.5, "0.5", " .5"}, Row{-0.5, "-0.5", "-.5"}, Row{12, "12", " 12"},
@@ -58,7 +58,7 @@ TEST(Numbertext, GivesSevenOrFifteenDigits) {
 }
 
 // The C library's %.15G is an independent maker of the same text, whatever the locale of the process.
-TEST(Numbertext, AgreesWithTheLibraryOverManyValuesAndReadsBack) {
+TEST(NumberText, AgreesWithTheLibraryOverManyValuesAndReadsBack) {
     std::mt19937_64 source(20260101);
     std::uniform_real_distribution<double> mantissa(-10, 10);
     std::uniform_int_distribution<int> exponent(-8, 18);
@@ -73,7 +73,7 @@ TEST(Numbertext, AgreesWithTheLibraryOverManyValuesAndReadsBack) {
     }
 }
 
-TEST(Numbertext, TakesNoNoticeOfTheLocale) {
+TEST(NumberText, TakesNoNoticeOfTheLocale) {
     for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "C.UTF-8"}) {
         std::setlocale(LC_ALL, name);
         EXPECT_EQ(numbertext(1.5), "1.5") << name;
@@ -82,7 +82,7 @@ TEST(Numbertext, TakesNoNoticeOfTheLocale) {
     std::setlocale(LC_ALL, "C");
 }
 
-TEST(Timetext, RoundsTheMinutesAndCarries) {
+TEST(TimeText, RoundsTheMinutesAndCarries) {
     using Row = std::pair<double, const char*>;
     for (const auto& [hours, text] :
          {Row{-0.0, "00:00"}, Row{3 + 0.5 / 60, "03:00"}, Row{7.375, "07:22"}, Row{7.625, "07:38"}, Row{9.999, "10:00"},

@@ -7,7 +7,7 @@
 namespace tarvane {
 namespace {
 
-TEST(Singlebyte, EveryCodeComesBackButTheFiveUnassigned) {
+TEST(SingleByte, EveryCodeComesBackButTheFiveUnassigned) {
     const std::set<int> unassigned = {0x81, 0x8D, 0x8F, 0x90, 0x9D};
     std::set<std::string> seen;
     for (int code = 0; code < 256; ++code) {
@@ -35,7 +35,7 @@ TEST(Utf8, BrokenBytesAreSingleUnknownCharacters) {
     EXPECT_EQ(leftcharacters("Saint-Élie", 7) + leftcharacters("é", 9) + leftcharacters("é", 0), "Saint-Éé");
 }
 
-TEST(Casefolds, ReachEveryLetterOfTheCodePageAndNothingElse) {
+TEST(CaseFolds, ReachEveryLetterOfTheCodePageAndNothingElse) {
     EXPECT_EQ(uppercase("abz àéîøþ šœžÿ ßƒ÷× Ω ω"), "ABZ ÀÉÎØÞ ŠŒŽŸ ßƒ÷× Ω ω");
     int letters = 0;
     for (int code = 1; code < 256; ++code) {

@@ -10,16 +10,11 @@ class ImageSurface : public LayeredSurface {
     /// Size in logical pixels; the image has `pixelratio` times as many each way.
     explicit ImageSurface(QSize size, double pixelratio = 1);
 
-    void setfont(const QFont& font) { ownfont = font; }
-
     /// Both layers as they stand.
     QImage image();
 
   protected:
-    QFont textfont() const override { return ownfont; }
-
-  private:
-    QFont ownfont;
+    QFont textfont() const override { return {}; }
 };
 
 }  // namespace tarvane

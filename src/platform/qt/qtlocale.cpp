@@ -3,27 +3,25 @@
 #include <QDate>
 #include <QRegularExpression>
 #include <array>
+#include <utility>
+
+#include "platform/daywords.h"
 
 namespace tarvane {
 
 namespace {
 
-struct ProbeLanguage {
-    QLocale::Language language;
-    const char* wednesday;
-    const char* thursday;
-};
-
-constexpr std::array<ProbeLanguage, 10> probelanguages{{{QLocale::English, "Wed", "Thu"},
-                                                        {QLocale::Basque, "az.", "og."},
-                                                        {QLocale::French, "mer.", "jeu"},
-                                                        {QLocale::German, "Mi", "Do"},
-                                                        {QLocale::Spanish, "mié", "jue"},
-                                                        {QLocale::Portuguese, "qua", "qui"},
-                                                        {QLocale::NorwegianBokmal, "on", "to"},
-                                                        {QLocale::NorwegianNynorsk, "on", "to"},
-                                                        {QLocale::Italian, "mer", "gio"},
-                                                        {QLocale::Dutch, "wo", "do"}}};
+constexpr std::array<std::pair<QLocale::Language, std::string_view>, 10> probelanguages{
+    {{QLocale::English, "ENGLISH"},
+     {QLocale::Basque, "BASQUE"},
+     {QLocale::French, "FRENCH"},
+     {QLocale::German, "GERMAN"},
+     {QLocale::Spanish, "SPANISH"},
+     {QLocale::Portuguese, "PORTUGESE"},
+     {QLocale::NorwegianBokmal, "NYNORSK"},
+     {QLocale::NorwegianNynorsk, "NYNORSK"},
+     {QLocale::Italian, "ITALIAN"},
+     {QLocale::Dutch, "DUTCH"}}};
 
 struct LocaleNumber {
     const char* name;
@@ -39,10 +37,14 @@ constexpr std::array<LocaleNumber, 31> localenumbers{
      {"fi_FI", 1035}}};
 constexpr int unnumberedlocale = 4096;
 
-const ProbeLanguage* probelanguage(const QLocale& locale) {
+/// The words of the locale's language; none for a language that the probe doesn't know.
+const DayWords* daywordsof(const QLocale& locale) {
     const QLocale::Language language = QLocale(locale.name()).language();
-    for (const ProbeLanguage& row : probelanguages)
-        if (row.language == language) return &row;
+    for (const auto& [known, name] : probelanguages) {
+        if (known != language) continue;
+        for (const DayWords& words : daywords)
+            if (words.language == name) return &words;
+    }
     return nullptr;
 }
 
@@ -217,12 +219,11 @@ std::string QtLocale::dayname(int weekday) const {
 
 std::string QtLocale::dayabbreviation(int weekday) const {
     const QString name = locale.standaloneDayName(weekday == 0 ? 7 : weekday, QLocale::ShortFormat);
-    const ProbeLanguage* const row = probelanguage(locale);
-    if (!row) return name.toStdString();
-    if (weekday == 3) return row->wednesday;
-    if (weekday == 4) return row->thursday;
-    const QString model = QString::fromUtf8(row->wednesday);
-    return name.left(model.size()).toStdString();
+    const DayWords* const words = daywordsof(locale);
+    if (!words) return name.toStdString();
+    if (weekday == 3) return std::string(words->wednesday);
+    if (weekday == 4) return std::string(words->thursday);
+    return name.left(QString::fromStdString(std::string(words->wednesday)).size()).toStdString();
 }
 
 }  // namespace tarvane

@@ -116,7 +116,7 @@ TEST(LayeredSurface, LinesBoxesAndPointsAreEvenAtEveryDensity) {
         surface.line(0, 4, 0, -1, black);
         const QList<int> dashes = widthsmet(surface.image(), {0, 0}, {0, 1});
         EXPECT_EQ(dashes.first(), 4 * one);
-        EXPECT_EQ(dashes.size(), (device.height() + 3 * one) / (7 * one));
+        EXPECT_EQ(dashes.size(), (device.height() + 7 * one - 1) / (7 * one));
         surface.clear();
         surface.text(12, 4, "4M");
         EXPECT_EQ(marked(surface.image().copy(0, 0, device.width() / 2, device.height())), 0);

@@ -215,8 +215,7 @@ int main(int argc, char** argv) {
     if (!tarvane::shots::readoptions(QApplication::arguments(), options)) {
         std::fprintf(stderr,
                      "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH] | "
-                     "shots --mainwindow FILE.png | shots --pages FOLDER [--area FILE.hc]
-");
+                     "shots --mainwindow FILE.png | shots --pages FOLDER [--area FILE.hc]\n");
         return 2;
     }
     return tarvane::shots::run(options);

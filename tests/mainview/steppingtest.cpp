@@ -17,7 +17,14 @@ TEST(DayStep, ForwardAcrossNewYear) {
     main.scripted.clock.reading.today = makedate(2024, 12, 31);
     main.load();
     EXPECT_EQ(main.session.onshow.tidedayofyear, 366);
+    MainView& view = main.session.view;
+    view.disclaimer.clear();
+    view.topmenusenabled = false;
+    main.scripted.clock.reading.minute = 47;
     nextday(main.context);
+    EXPECT_TRUE(view.disclaimer.starts_with("Times from midnight local time - WITHOUT")) << view.disclaimer;
+    EXPECT_TRUE(view.caption.starts_with("Tarvane Tides   (v9.5.0)     [Time Now 14:47 : ")) << view.caption;
+    EXPECT_TRUE(view.topmenusenabled);
     EXPECT_EQ(main.session.onshow.tideyear, 2025);
     EXPECT_EQ(main.session.onshow.tidedayofyear, 1);
     EXPECT_EQ(main.session.onshow.tidemonth, 1);

@@ -82,6 +82,8 @@ TEST_F(PortSelection, AnAreaIsStoredOnlyByOkAndNoneIsTakenThatIsCancelledOrMissi
 
     EXPECT_TRUE(portconfigok(context, picked("Eider Bay"), 0, true));
     EXPECT_EQ(stored().hcfilepath, second);
+    EXPECT_EQ(session.view.portbox, "Port    : Eider Bay");
+    EXPECT_EQ(session.port.zonehours, -7) << "name and zone of the new area's port";
     EXPECT_EQ(settings.depfile, session.folders.depthsfolder() + "/Channel.DEP");
     EXPECT_EQ(std::filesystem::file_size(settings.depfile), userdepthrecordsize);
 }

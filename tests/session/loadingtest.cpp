@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "engine/springs.h"
 #include "fakes/mainfixture.h"
 #include "files/wholefiles.h"
 #include "session/refresh.h"
@@ -22,6 +23,10 @@ TEST(Loading, ComesUpOnTheStoredPortAndToday) {
     EXPECT_EQ(session.onshow.tidedayofyear, 100);
     EXPECT_DOUBLE_EQ(session.timenow, 14 + 32 / 60.0);
     EXPECT_EQ(session.clocktime, session.timenow);
+    const auto marker = ScriptedSurface::only(main.picture.passinglayer, ScriptedSurface::Kind::line, red);
+    ASSERT_EQ(marker.size(), 1U);
+    EXPECT_EQ(marker[0].x1, session.timenow);
+    EXPECT_EQ(marker[0].x2, session.timenow);
     EXPECT_EQ(session.view.lblmousestatus, "(Click mouse to freeze)");
     EXPECT_EQ(session.view.disclaimer,
               "Times from midnight local time - WITHOUT SUMMER TIME CORRECTION\r\n"
@@ -69,8 +74,12 @@ TEST(Loading, BrokenFilesAndAPortPastTheEndComeUpFlatAndUnharmed) {
 
 TEST(Loading, UndefinedDayIsSaidPlainly) {
     MainFixture main;
+    main.load();
+    EXPECT_NE(springstext(main.session.curve.springslag), "");
     main.scripted.clock.reading.today = makedate(1990, 1, 2);
     main.load();
+    EXPECT_EQ(springstext(main.session.curve.springslag), "") << "no day's place between springs and neaps";
+    EXPECT_TRUE(main.session.view.caption.ends_with("[No prediction]"));
     EXPECT_NE(main.session.daytable.daystide1.find("No prediction"), std::string::npos);
     EXPECT_EQ(main.session.view.hiteval, "");
     EXPECT_EQ(ScriptedSurface::log(main.picture.persistentlayer).find("nan"), std::string::npos);

@@ -20,6 +20,7 @@ class FrmTarvane : public testing::Test, protected MainFixture {
   protected:
     FrmTarvane() : window(session, scripted.services()) {
         window.Form_Load();
+        timersran = window.Timer1->isActive() && window.Timer2->isActive();
         window.Timer1->stop();
         window.Timer2->stop();
         present(window);
@@ -51,6 +52,7 @@ class FrmTarvane : public testing::Test, protected MainFixture {
         QApplication::processEvents();
     }
 
+    bool timersran = false;
     frmtarvane window;
 };
 
@@ -65,6 +67,21 @@ TEST_F(FrmTarvane, ComesUpWhole) {
     EXPECT_EQ(window.Picture1->width(), twips(static_cast<int>(115.0 / 190 * 9720)));
     EXPECT_GT(pixels(*window.Picture1, Qt::black), 1000);
     EXPECT_GT(pixels(*window.pctSpringsStatus, Qt::black), 0);
+}
+
+TEST_F(FrmTarvane, TheTimersKeepItAlive) {
+    EXPECT_TRUE(timersran);
+    EXPECT_EQ(window.Timer1->interval(), 300);
+    EXPECT_EQ(window.Timer2->interval(), 60000);
+    const auto fire = [](QTimer* timer) { QMetaObject::invokeMethod(timer, "timeout"); };
+    scripted.clock.reading.minute = 33;
+    fire(window.Timer2);
+    EXPECT_TRUE(window.windowTitle().contains("[Time Now 14:33 : ")) << window.windowTitle().toStdString();
+    session.timenow = 3;
+    fire(window.Timer1);
+    EXPECT_NE(window.timeval->text(), "03:00");
+    fire(window.Timer1);
+    EXPECT_EQ(window.timeval->text(), "03:00") << "the second tick draws the marker once more";
 }
 
 TEST_F(FrmTarvane, MenuTreeAndItsHiddenParts) {
@@ -107,6 +124,31 @@ TEST_F(FrmTarvane, TheReadoutFollowsTheMouseUntilAClick) {
     QTest::mouseClick(window.Picture1, Qt::LeftButton, {}, QPoint(100, 40));
     movemouse(17);
     EXPECT_EQ(window.hiteval->text(), "5.5");
+}
+
+TEST_F(FrmTarvane, EachConstituentHasItsOwnRow) {
+    const struct {
+        const char *box, *constant, *value, *caption, *shown, *constants;
+    } rows[] = {{"chkM2", "lblm2Harm", "lblHtM2", "M2", "0.20", " (g 120 : Hm 1.50)"},
+                {"chkS2", "lblS2Harm", "lblHtS2", "S2", "0.30", " (g 170 : Hm 0.50)"},
+                {"chkK1", "lblK1Harm", "lblHtK1", "K1(...)", "0.40", " (g 060 : Hm 0.07)"},
+                {"chkO1", "lblO1Harm", "lblHtO1", "O1", "0.50", " (g 320 : Hm 0.06)"},
+                {"chkf4", "lblf4Harm", "lblHtf4", "f4", "0.60", " (f4 000 : F4 0.02)"},
+                {"chkf6", "lblf6Harm", "lblHtf6", "f6", "0.70", " (f6 000 : F6 0.00)"},
+                {"chkZ0", "lblZ0harm", "lblHtZ0", "Z0(...)", "3", " (Z0 3.00)"}};
+    session.showconstants = true;
+    session.layervalues = {{"0.20", "0.30", "0.40", "0.50", "0.60", "0.70", "3"}, "5.70"};
+    choose("mnuLayersShow");
+    for (std::size_t place = 0; place < std::size(rows); ++place) {
+        const auto& row = rows[place];
+        EXPECT_EQ(box(row.box).text(), row.caption);
+        EXPECT_EQ(shown(control<QLabel>(window, row.value)), row.shown);
+        EXPECT_EQ(shown(control<QLabel>(window, row.constant)), row.constants);
+        EXPECT_EQ(control<QLabel>(window, row.value).y(), box(row.box).y()) << row.box;
+        box(row.box).click();
+        EXPECT_TRUE(session.layers[place]) << row.box;
+    }
+    EXPECT_EQ(shown(*window.layers.lblSumHt), "5.70");
 }
 
 TEST_F(FrmTarvane, ConstituentsComeAndGo) {

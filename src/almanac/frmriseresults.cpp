@@ -42,9 +42,8 @@ QLabel* timevalue(const char* name) {
 
 }  // namespace
 
-Frmriseresults::Frmriseresults(MainContext& maincontext, QWidget* parent) : ModalDialog(parent), context(maincontext) {
-    setObjectName("Frmriseresults");
-    setWindowTitle("Sunrise, Sunset and Lunar Phases");
+Frmriseresults::Frmriseresults(MainContext& maincontext, QWidget* parent)
+    : ModalDialog("Frmriseresults", "Sunrise, Sunset and Lunar Phases", parent), context(maincontext) {
     const auto& titles = context.session.suntable.titles;
     buildlayout();
     port->setText(QString::fromStdString(titles[1]));
@@ -59,8 +58,7 @@ Frmriseresults::Frmriseresults(MainContext& maincontext, QWidget* parent) : Moda
     for (QWidget* control : std::initializer_list<QWidget*>{VScroll1, cmdsunprint, Command1, cancel})
         control->installEventFilter(this);
     VScroll1_Change();
-    adjustSize();
-    centreon(*this, parent ? parent->window() : nullptr);
+    settle(cancel, VScroll1);
 }
 
 void Frmriseresults::buildlayout() {
@@ -72,7 +70,6 @@ void Frmriseresults::buildlayout() {
     cmdsunprint = named<QPushButton>("cmdsunprint", "&Print");
     Command1 = named<QPushButton>("Command1", "&Save to CSV");
     cancel = named<QPushButton>("cancel", "E&xit");
-    cancel->setDefault(true);
 
     auto* upper = new QHBoxLayout;
     upper->setSpacing(twips(360));
@@ -89,10 +86,6 @@ void Frmriseresults::buildlayout() {
     whole->addLayout(upper);
     whole->addLayout(buttons);
     whole->setSizeConstraint(QLayout::SetFixedSize);
-    setTabOrder(VScroll1, cmdsunprint);
-    setTabOrder(cmdsunprint, Command1);
-    setTabOrder(Command1, cancel);
-    VScroll1->setFocus();
 }
 
 QGridLayout* Frmriseresults::buildday() {
@@ -162,16 +155,12 @@ QLayout* Frmriseresults::buildlunar() {
     return column;
 }
 
-/// One click at an end of the scroll bar is a fifth of its height, and that is one day.
 void Frmriseresults::setscroll() {
-    Session& session = context.session;
-    const int day = opensunresults(session);
-    const int days = daysonshow(session);
-    const int height = VScroll1->height();
-    VScroll1->setSingleStep(height / 5);
-    VScroll1->setPageStep(height / 3);
-    VScroll1->setRange(0, days * VScroll1->singleStep());
-    VScroll1->setValue(scrollfromday(day, VScroll1->maximum(), days));
+    const DayScroll scroll = opensunresults(context.session, VScroll1->height());
+    VScroll1->setSingleStep(scroll.smallchange);
+    VScroll1->setPageStep(scroll.largechange);
+    VScroll1->setRange(0, scroll.maximum);
+    VScroll1->setValue(scroll.value);
 }
 
 void Frmriseresults::VScroll1_Change() {

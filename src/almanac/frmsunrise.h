@@ -3,9 +3,9 @@
 #pragma once
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
+#include "platform/qt/filteredbox.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 
@@ -16,20 +16,12 @@ class Frmsunrise : public ModalDialog {
     explicit Frmsunrise(MainContext& context, QWidget* parent = nullptr);
 
     QLabel* port = nullptr;
-    QLabel* latlabel = nullptr;
-    QLineEdit* latitude = nullptr;
-    QLabel* longlabel = nullptr;
-    QLineEdit* longitude = nullptr;
-    QPushButton* ok = nullptr;
-    QPushButton* cancel = nullptr;
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    QLabel *latlabel = nullptr, *longlabel = nullptr;
+    FilteredBox *latitude = nullptr, *longitude = nullptr;
+    QPushButton *ok = nullptr, *cancel = nullptr;
 
   private:
     void buildlayout();
-    bool positionkey(QLineEdit& box, const QString& typed);
-    void position_Change(QLineEdit& box);
     void ok_Click();
 
     MainContext& context;

@@ -34,11 +34,11 @@ std::optional<double> position(const std::string& typed, const PositionRule& rul
     return degrees;
 }
 
-char positionkey(char key, char first, char second) {
-    const char capital = key >= 'a' && key <= 'z' ? static_cast<char>(key - 'a' + 'A') : key;
+char32_t positionkey(char32_t key, char32_t first, char32_t second) {
+    const char32_t capital = key >= U'a' && key <= U'z' ? key - U'a' + U'A' : key;
     if (capital == first || capital == second) return capital;
-    const bool taken = (key >= '0' && key <= '9') || key == '.' || key == 8 || key == 127;
-    return taken ? key : '\0';
+    const bool taken = (key >= U'0' && key <= U'9') || key == U'.' || key == 8 || key == 127;
+    return taken ? key : 0;
 }
 
 int yearonshow(const Session& session) {
@@ -62,12 +62,12 @@ SunInput portsuninput(const Session& session) {
     return {rtrim(port.PortName), LatitudeText(port.PortLat), LongitudeText(port.PortLong)};
 }
 
-char latitudekey(char key) {
-    return positionkey(key, 'N', 'S');
+char32_t latitudekey(char32_t key) {
+    return positionkey(key, U'N', U'S');
 }
 
-char longitudekey(char key) {
-    return positionkey(key, 'E', 'W');
+char32_t longitudekey(char32_t key) {
+    return positionkey(key, U'E', U'W');
 }
 
 SunOutcome calculatesun(MainContext& context, const SunInput& input) {
@@ -87,11 +87,14 @@ SunOutcome calculatesun(MainContext& context, const SunInput& input) {
     return SunOutcome::calculated;
 }
 
-int opensunresults(Session& session) {
+DayScroll opensunresults(Session& session, int height) {
     session.view.stepbuttonsvisible = true;
+    const int days = daysonshow(session);
     double& day = session.onshow.tideday;
-    day = std::min(day, static_cast<double>(daysonshow(session)));
-    return static_cast<int>(day);
+    day = std::min(day, static_cast<double>(days));
+    DayScroll scroll{height / 5, height / 3, days * (height / 5), 0};
+    scroll.value = scrollfromday(static_cast<int>(day), scroll.maximum, days);
+    return scroll;
 }
 
 int daysonshow(const Session& session) {

@@ -23,8 +23,8 @@ void preparesunview(Session& session);
 SunInput portsuninput(const Session& session);
 
 /// What a key typed into a position box puts there; 0 when it is dropped.
-char latitudekey(char key);
-char longitudekey(char key);
+char32_t latitudekey(char32_t key);
+char32_t longitudekey(char32_t key);
 
 /// What became of `ok`.
 enum class SunOutcome { calculated, badlongitude, badlatitude };
@@ -33,8 +33,14 @@ enum class SunOutcome { calculated, badlongitude, badlatitude };
 /// left empty, when the position isn't taken; the longitude is looked at first.
 SunOutcome calculatesun(MainContext& context, const SunInput& input);
 
-/// The result window comes up: shows the step buttons and keeps the day on show inside its month. Returns that day.
-int opensunresults(Session& session);
+/// The scroll bar over the days of the month. One small change is one day.
+struct DayScroll {
+    int smallchange, largechange, maximum, value;
+};
+
+/// The result window comes up with a scroll bar of this height in pixels: shows the step buttons and keeps the day on
+/// show inside its month.
+DayScroll opensunresults(Session& session, int height);
 
 /// Days of the month on show.
 int daysonshow(const Session& session);

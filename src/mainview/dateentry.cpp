@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "dates/summertime.h"
+#include "dates/typeddate.h"
 #include "session/refresh.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
@@ -19,6 +20,14 @@ DateNumbers today(const Clock& clock) {
 
 std::string bracketedday(const Locale& locale, Date date) {
     return "(" + formatdate(locale, date, "dddd") + ")";
+}
+
+/// The date comes in hand.
+void takedate(DateEntry& entry, const Locale& locale, Date date) {
+    entry.pickeddate = date;
+    entry.yearstart = makedate(yearof(date), 1, 1);
+    entry.txtDayName = bracketedday(locale, date);
+    entry.refusal.clear();
 }
 
 int firstyearof(const std::string& todaytext) {
@@ -65,21 +74,37 @@ void confirm(MainContext& context, const DateEntry& entry, DateNumbers chosen) {
 
 }  // namespace
 
-DateEntry opendateentry(const Services& services) {
+DateEntry opendateentry(const MainContext& context) {
     DateEntry entry;
-    resetpicker(entry, services);
-    entry.lists = filledlists(services.locale, today(services.clock));
+    resetpicker(context, entry);
+    entry.lists = filledlists(context.services.locale, today(context.services.clock));
     return entry;
 }
 
-void pickdate(DateEntry& entry, const Locale& locale, DateNumbers numbers) {
-    entry.pickeddate = makedate(numbers.year, numbers.month, numbers.day);
-    entry.yearstart = makedate(numbers.year, 1, 1);
-    entry.txtDayName = bracketedday(locale, entry.pickeddate);
+void pickdate(const MainContext& context, DateEntry& entry, Date date) {
+    const Locale& locale = context.services.locale;
+    takedate(entry, locale, date);
+    entry.typed = typeddate(date, context.session.conventions, locale);
 }
 
-void resetpicker(DateEntry& entry, const Services& services) {
-    pickdate(entry, services.locale, today(services.clock));
+void typedate(const MainContext& context, DateEntry& entry, const std::string& typed) {
+    const Locale& locale = context.services.locale;
+    const ReadDate read = readdate(typed, context.session.conventions, locale, context.services.clock.now().today);
+    if (read.date) takedate(entry, locale, *read.date);
+    entry.typed = typed;
+    entry.refusal = read.refusal;
+    if (!read.date) entry.txtDayName.clear();
+}
+
+bool stepdate(const MainContext& context, DateEntry& entry, int days) {
+    if (!entry.refusal.empty()) return false;
+    const Date stepped = entry.pickeddate + std::chrono::days(days);
+    pickdate(context, entry, std::clamp(stepped, makedate(firsttypedyear, 1, 1), makedate(lasttypedyear, 12, 31)));
+    return true;
+}
+
+void resetpicker(const MainContext& context, DateEntry& entry) {
+    pickdate(context, entry, context.services.clock.now().today);
 }
 
 void chooseyear(DateLists& lists, int row) {
@@ -100,13 +125,19 @@ std::string predictedday(const DateLists& lists, const Locale& locale) {
     return bracketedday(locale, makedate(lists.selected.year, lists.selected.month, lists.selected.day));
 }
 
-void confirmpicker(MainContext& context, const DateEntry& entry) {
+bool confirmpicker(MainContext& context, const DateEntry& entry) {
+    if (!entry.refusal.empty()) {
+        context.services.messages.beep();
+        return false;
+    }
     confirm(context, entry, {yearof(entry.pickeddate), monthof(entry.pickeddate), dayof(entry.pickeddate)});
+    return true;
 }
 
 void confirmlists(MainContext& context, DateEntry& entry) {
-    pickdate(entry, context.services.locale, entry.lists.selected);
-    confirm(context, entry, entry.lists.selected);
+    const DateNumbers& selected = entry.lists.selected;
+    pickdate(context, entry, makedate(selected.year, selected.month, selected.day));
+    confirm(context, entry, selected);
 }
 
 }  // namespace tarvane

@@ -28,18 +28,26 @@ struct DateLists {
 struct DateEntry {
     Date pickeddate{};       ///< the date in hand
     Date yearstart{};        ///< 1 January of its year
-    std::string txtDayName;  ///< its weekday, "(Monday)"
+    std::string typed;       ///< the picker's text
+    std::string refusal;     ///< why that text is no date; empty while it is the date in hand
+    std::string txtDayName;  ///< weekday of the date in hand, "(Monday)"; empty beside a refusal
     DateLists lists;
 };
 
 /// The dialog as it opens: today in the picker and in the lists.
-DateEntry opendateentry(const Services& services);
+DateEntry opendateentry(const MainContext& context);
 
-/// The picker's date has changed to these numbers.
-void pickdate(DateEntry& entry, const Locale& locale, DateNumbers numbers);
+/// The picker's date has changed to this one; its text follows.
+void pickdate(const MainContext& context, DateEntry& entry, Date date);
+
+/// The picker's text was changed. The date in hand follows, unless the text is refused.
+void typedate(const MainContext& context, DateEntry& entry, const std::string& typed);
+
+/// The picker goes on by some days, not past the years that can be typed; false beside a text that is no date.
+bool stepdate(const MainContext& context, DateEntry& entry, int days);
 
 /// Today in the picker again; the lists stay.
-void resetpicker(DateEntry& entry, const Services& services);
+void resetpicker(const MainContext& context, DateEntry& entry);
 
 /// A click on a row, from 0, of a list. Year and month refill `daylist`, a day past the month's end becoming its last.
 void chooseyear(DateLists& lists, int row);
@@ -49,8 +57,9 @@ void chooseday(DateLists& lists, int row);
 /// The weekday of the date chosen in the lists, "(Monday)".
 std::string predictedday(const DateLists& lists, const Locale& locale);
 
-/// `cmdOK`: the picker's date becomes the date on show and the day is computed and drawn anew.
-void confirmpicker(MainContext& context, const DateEntry& entry);
+/// `cmdOK`: the picker's date becomes the date on show and the day is computed and drawn anew. False, with a beep and
+/// nothing changed, beside a text that is no date.
+bool confirmpicker(MainContext& context, const DateEntry& entry);
 
 /// `date1ok`: the same with the date chosen in the lists, which becomes the date in hand.
 void confirmlists(MainContext& context, DateEntry& entry);

@@ -3,11 +3,13 @@
 #include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "dates/typeddate.h"
 #include "platform/qt/named.h"
 
 namespace tarvane {
@@ -17,6 +19,7 @@ namespace {
 constexpr int rowsinview = 12;
 constexpr int columngap = 6;
 constexpr int buttonroom = 12;
+constexpr int longesttyped = 30;
 
 /// The two runs of Text3 that stand over the first two lists, with the blanks up to the next list.
 const char* const dayheading = "Day         ";
@@ -29,12 +32,6 @@ const char* const pickerhelp =
 
 QString text(const std::string& utf8) {
     return QString::fromStdString(utf8);
-}
-
-/// The picker's pattern for one of the twelve date forms: years in full, days in small letters.
-QString pickerformat(const std::string& dateformat) {
-    QString pattern = dateformat.empty() ? QStringLiteral("dd/MM/yyyy") : text(dateformat);
-    return pattern.replace(QLatin1Char('D'), QLatin1Char('d')).replace(QLatin1Char('Y'), QLatin1Char('y'));
 }
 
 void showcurrent(QListWidget* list) {
@@ -74,18 +71,13 @@ int listwidth(const QListWidget* list) {
 }  // namespace
 
 Frmtimdat::Frmtimdat(MainContext& maincontext, QWidget* parent)
-    : ModalDialog(parent), context(maincontext), entry(opendateentry(maincontext.services)) {
-    setObjectName("Frmtimdat");
-    setWindowTitle("Date Entry");
+    : ModalDialog("Frmtimdat", "Date Entry", parent), context(maincontext), entry(opendateentry(maincontext)) {
     buildlayout();
     filllists();
     setcolumns();
     showpicker();
     connectcontrols();
-    cmdOK->setDefault(true);
-    DTPicker->setFocus();
-    DTPicker->setSelectedSection(QDateTimeEdit::DaySection);
-    centreon(*this, parent ? parent->window() : nullptr);
+    settle(cmdOK, DTPicker);
 }
 
 void Frmtimdat::buildlayout() {
@@ -103,23 +95,35 @@ void Frmtimdat::buildlayout() {
 
 QFrame* Frmtimdat::buildpickerset() {
     Label1 = named<QLabel>("Label1", pickerhelp);
-    DTPicker = named<QDateEdit>("DTPicker");
-    DTPicker->setDisplayFormat(pickerformat(context.session.conventions.dateformat));
-    DTPicker->setCalendarPopup(true);
-    // The control's own range begins in 1752.
-    DTPicker->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+    DTPicker = named<DateBox>("DTPicker", makedate(firsttypedyear, 1, 1), makedate(lasttypedyear, 12, 31));
+    DTPicker->setMaxLength(longesttyped);
+    DTPicker->setFixedWidth(fontMetrics().averageCharWidth() * 20);
     txtDayName = named<QLabel>("txtDayName");
+    refusal = named<QLabel>("refusal");
+    refusal->setTextFormat(Qt::PlainText);
+    // Its sentences come and go without moving anything.
+    refusal->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    refusal->setFixedHeight(refusal->fontMetrics().lineSpacing());
+    QPalette warning = refusal->palette();
+    warning.setColor(QPalette::WindowText, Qt::darkRed);
+    refusal->setPalette(warning);
     cmdOK = named<QPushButton>("cmdOK", "&O.K.");
     cmdReset = named<QPushButton>("cmdReset", "&Reset to Today");
     datecancel = named<QPushButton>("datecancel", "&Cancel");
 
     QGridLayout* grid = nullptr;
     QFrame* frame = framedset(grid);
-    grid->addWidget(Label1, 0, 0, 1, 2);
-    grid->addWidget(DTPicker, 1, 0);
-    grid->addWidget(txtDayName, 1, 1);
-    grid->addLayout(buttoncolumn({cmdOK, cmdReset, datecancel}), 0, 2, 2, 1);
-    grid->setColumnStretch(1, 1);
+    auto* date = new QHBoxLayout;
+    date->setSpacing(0);
+    date->addWidget(DTPicker);
+    date->addWidget(DTPicker->arrow);
+    date->addSpacing(columngap);
+    date->addWidget(txtDayName, 1);
+    grid->addWidget(Label1, 0, 0);
+    grid->addLayout(date, 1, 0);
+    grid->addWidget(refusal, 2, 0, 1, 2);
+    grid->addLayout(buttoncolumn({cmdOK, cmdReset, datecancel}), 0, 1, 2, 1);
+    grid->setColumnStretch(0, 1);
     return frame;
 }
 
@@ -171,17 +175,20 @@ void Frmtimdat::setcolumns() {
     const auto lists = {daylist, monthlist, yearlist};
     for (QListWidget* list : lists)
         list->setFixedHeight(rowsinview * list->sizeHintForRow(0) + 2 * list->frameWidth());
-    adjustSize();
-}
-
-void Frmtimdat::showEvent(QShowEvent* event) {
-    ModalDialog::showEvent(event);
-    for (QListWidget* list : {daylist, monthlist, yearlist})
-        showcurrent(list);
 }
 
 void Frmtimdat::connectcontrols() {
-    connect(DTPicker, &QDateEdit::dateChanged, this, &Frmtimdat::DTPicker_Change);
+    connect(DTPicker, &QLineEdit::textEdited, this, &Frmtimdat::DTPicker_Change);
+    connect(DTPicker, &QLineEdit::editingFinished, this, &Frmtimdat::DTPicker_Leave);
+    DTPicker->onstep = [this](int days) {
+        if (!stepdate(context, entry, days)) return context.services.messages.beep();
+        showpicker();
+        DTPicker->selectAll();
+    };
+    DTPicker->onpicked = [this](Date date) {
+        pickdate(context, entry, date);
+        showpicker();
+    };
     connect(cmdOK, &QPushButton::clicked, this, &Frmtimdat::cmdOK_Click);
     connect(cmdReset, &QPushButton::clicked, this, &Frmtimdat::cmdReset_Click);
     connect(date1ok, &QPushButton::clicked, this, &Frmtimdat::date1ok_Click);
@@ -199,8 +206,15 @@ void Frmtimdat::connectcontrols() {
 }
 
 void Frmtimdat::showpicker() {
-    DTPicker->setDate(QDate(yearof(entry.pickeddate), monthof(entry.pickeddate), dayof(entry.pickeddate)));
+    DTPicker->setText(text(entry.typed));
+    showread();
+}
+
+/// What the picker's text is read as.
+void Frmtimdat::showread() {
+    DTPicker->setcalendar(entry.pickeddate);
     txtDayName->setText(text(entry.txtDayName));
+    refusal->setText(text(entry.refusal));
 }
 
 void Frmtimdat::filllists() {
@@ -223,19 +237,26 @@ void Frmtimdat::showselected() {
     PredictedDay->setText(text(predictedday(entry.lists, context.services.locale)));
 }
 
-void Frmtimdat::DTPicker_Change(const QDate& date) {
-    pickdate(entry, context.services.locale, {date.year(), date.month(), date.day()});
-    txtDayName->setText(text(entry.txtDayName));
+void Frmtimdat::DTPicker_Change() {
+    typedate(context, entry, DTPicker->text().toStdString());
+    showread();
+}
+
+/// What was typed is shown as it was read.
+void Frmtimdat::DTPicker_Leave() {
+    if (!entry.refusal.empty()) return;
+    pickdate(context, entry, entry.pickeddate);
+    showpicker();
 }
 
 void Frmtimdat::cmdOK_Click() {
-    DTPicker->interpretText();
-    confirmpicker(context, entry);
-    accept();
+    if (confirmpicker(context, entry)) return accept();
+    DTPicker->setFocus();
+    DTPicker->selectAll();
 }
 
 void Frmtimdat::cmdReset_Click() {
-    resetpicker(entry, context.services);
+    resetpicker(context, entry);
     showpicker();
 }
 

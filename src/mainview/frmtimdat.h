@@ -1,14 +1,13 @@
 // "Date Entry": a date picker and three lists, each set with its own way of confirming. Only controls and copying.
 #pragma once
 
-#include <QCalendarWidget>
-#include <QDateEdit>
 #include <QFrame>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 
 #include "mainview/dateentry.h"
+#include "platform/qt/datebox.h"
 #include "platform/qt/modaldialog.h"
 
 namespace tarvane {
@@ -17,18 +16,19 @@ class Frmtimdat : public ModalDialog {
   public:
     explicit Frmtimdat(MainContext& context, QWidget* parent = nullptr);
 
+    /// Hides it first: the picker hears that it loses the focus, and what it then works with must still be there.
+    ~Frmtimdat() override { hide(); }
+
     QLabel* Label1 = nullptr;
-    QDateEdit* DTPicker = nullptr;
+    DateBox* DTPicker = nullptr;
     QLabel* txtDayName = nullptr;
+    QLabel* refusal = nullptr;  ///< why the typed text is no date
     QPushButton *cmdOK = nullptr, *cmdReset = nullptr, *datecancel = nullptr;
 
     QLabel* Text3 = nullptr;
     QListWidget *daylist = nullptr, *monthlist = nullptr, *yearlist = nullptr;
     QLabel *selectedday = nullptr, *selectedmonth = nullptr, *selectedyear = nullptr, *PredictedDay = nullptr;
     QPushButton *date1ok = nullptr, *Command1 = nullptr;
-
-  protected:
-    void showEvent(QShowEvent* event) override;
 
   private:
     void buildlayout();
@@ -38,11 +38,13 @@ class Frmtimdat : public ModalDialog {
     void connectcontrols();
 
     void showpicker();
+    void showread();
     void filllists();
     void filldays();
     void showselected();
 
-    void DTPicker_Change(const QDate& date);
+    void DTPicker_Change();
+    void DTPicker_Leave();
     void cmdOK_Click();
     void cmdReset_Click();
     void yearlist_Click();

@@ -7,7 +7,6 @@
 #include <algorithm>
 
 #include "platform/qt/named.h"
-#include "platform/qt/numberbox.h"
 #include "platform/qt/twips.h"
 
 namespace tarvane {
@@ -17,41 +16,42 @@ constexpr int rowsinview = 22;
 
 }  // namespace
 
-frmChartdepth::frmChartdepth(MainContext& mainview, QWidget* parent)
-    : ModalDialog(parent),
-      List1(named<QListWidget>("List1")),
-      portlabel(namedvalue("portlabel")),
-      portnolabel(namedvalue("portnolabel")),
-      depth(named<NumberBox>("depth")),
-      usernotes(named<QPlainTextEdit>("usernotes")),
-      noteslimit(named<QLabel>("noteslimit")),
-      cdok(named<QPushButton>("cdok", "&Enter")),
-      cdclose(named<QPushButton>("cdclose", "E&xit")),
-      context(mainview),
-      notes(loadusernotes(mainview)) {
-    setObjectName("frmChartdepth");
-    setWindowTitle("User Depth and Notes");
+frmChartdepth::frmChartdepth(MainContext& maincontext, QWidget* parent)
+    : ModalDialog("frmChartdepth", "User Depth and Notes", parent),
+      context(maincontext),
+      notes(loadusernotes(maincontext)) {
     buildlayout();
     for (const std::string& row : notes.rows)
         List1->addItem(QString::fromStdString(row));
-    const int rowheight = std::max(List1->sizeHintForRow(0), fontMetrics().lineSpacing());
-    List1->setMinimumHeight(rowsinview * rowheight + 2 * List1->frameWidth());
-    shownotes();
-    adjustSize();
+    setrowsinview(*List1, rowsinview);
     List1->setCurrentRow(context.session.settings.currentport - 1);
+    shownotes();
     connectcontrols();
-    centreon(*this, parent ? parent->window() : nullptr);
+    settle(cdok, depth);
 }
 
 void frmChartdepth::buildlayout() {
-    const int character = fontMetrics().averageCharWidth();
-    List1->setMinimumWidth(character * 40 + twips(600));
+    List1 = named<QListWidget>("List1");
+    List1->setMinimumWidth(fontMetrics().averageCharWidth() * 40 + twips(600));
     List1->setAccessibleName("Ports");
+    auto* whole = new QHBoxLayout(this);
+    whole->addWidget(List1);
+    whole->addLayout(buildside(), 1);
+}
+
+QLayout* frmChartdepth::buildside() {
+    const int character = fontMetrics().averageCharWidth();
+    portlabel = namedvalue("portlabel");
     portlabel->setMinimumWidth(character * 35);
+    portnolabel = namedvalue("portnolabel");
+    depth = named<FilteredBox>("depth", depthkey, context.services.messages);
+    depth->setMaximumWidth(character * 16);
+    usernotes = named<QPlainTextEdit>("usernotes");
     usernotes->setMinimumSize(character * 44, usernotes->fontMetrics().lineSpacing() * 9);
     usernotes->setTabChangesFocus(true);
-    depth->setMaximumWidth(character * 16);
-
+    noteslimit = named<QLabel>("noteslimit");
+    cdok = named<QPushButton>("cdok", "&Enter");
+    cdclose = named<QPushButton>("cdclose", "E&xit");
     auto* depthcaption = new QLabel("User &depth (Metres)?", this);
     depthcaption->setBuddy(depth);
     auto* notescaption = new QLabel("User  &Notes", this);
@@ -69,7 +69,6 @@ void frmChartdepth::buildlayout() {
     buttons->addStretch(1);
     buttons->addWidget(cdok);
     buttons->addWidget(cdclose);
-
     auto* side = new QVBoxLayout;
     side->addLayout(port);
     side->addLayout(depthrow);
@@ -78,21 +77,13 @@ void frmChartdepth::buildlayout() {
     side->addWidget(usernotes, 1);
     side->addWidget(noteslimit);
     side->addLayout(buttons);
-    auto* whole = new QHBoxLayout(this);
-    whole->addWidget(List1);
-    whole->addLayout(side, 1);
-
-    QWidget* order[] = {List1, depth, usernotes, cdok, cdclose};
-    for (std::size_t i = 1; i < std::size(order); ++i)
-        setTabOrder(order[i - 1], order[i]);
-    cdok->setDefault(true);
-    depth->setFocus();
+    return side;
 }
 
 void frmChartdepth::connectcontrols() {
     connect(List1, &QListWidget::itemSelectionChanged, this, &frmChartdepth::List1_Click);
     connect(List1, &QListWidget::itemDoubleClicked, this, &frmChartdepth::List1_DblClick);
-    connect(depth, &QLineEdit::textEdited, this, &frmChartdepth::depth_Change);
+    connect(depth, &QLineEdit::textEdited, this, &frmChartdepth::showstate);
     connect(usernotes->document(), &QTextDocument::contentsChange, this, [this](int position, int, int added) {
         typedat = position;
         typedcount = added;
@@ -108,29 +99,24 @@ void frmChartdepth::shownotes() {
     portnolabel->setText(QString::fromStdString(notes.portnolabel));
     depth->setText(QString::fromStdString(notes.depth));
     usernotes->setPlainText(QString::fromStdString(notes.usernotes));
-    shownnote = usernotes->toPlainText();
+    // The box has its own forms of some blanks, and these are no change.
+    notes.usernotes = usernotes->toPlainText().toStdString();
     showstate();
 }
 
-void frmChartdepth::showEvent(QShowEvent* event) {
-    ModalDialog::showEvent(event);
-    List1->scrollToItem(List1->currentItem(), QAbstractItemView::PositionAtCenter);
-}
-
-bool frmChartdepth::changed() const {
-    return depth->text().toStdString() != notes.depth || usernotes->toPlainText() != shownnote;
-}
-
 void frmChartdepth::showstate() {
-    const std::size_t length = notelength(usernotes->toPlainText().toStdString());
-    noteslimit->setText(QString("%1 of %2 characters").arg(length).arg(longestnote) +
-                        (changed() ? ", not entered yet" : ""));
+    const std::string state = notestate(notes, depth->text().toStdString(), usernotes->toPlainText().toStdString());
+    noteslimit->setText(QString::fromStdString(state));
 }
 
+/// True if what is shown may go: it is entered, unchanged or given up.
 bool frmChartdepth::offertoenter() {
-    if (!changed()) return true;
-    const std::string question = "The depth or the note of " + notes.portlabel + " was changed. Enter it?";
-    return !context.services.messages.ask(question, "Tarvane") || cdok_Click();
+    if (!notechanged(notes, depth->text().toStdString(), usernotes->toPlainText().toStdString())) return true;
+    const Answer answer = context.services.messages.askorcancel(enterquestion(notes), "Tarvane");
+    if (answer == Answer::no || (answer == Answer::yes && cdok_Click())) return true;
+    const bool depthchanged = depth->text().toStdString() != notes.depth;
+    (depthchanged ? static_cast<QWidget*>(depth) : usernotes)->setFocus();
+    return false;
 }
 
 void frmChartdepth::List1_Click() {
@@ -151,23 +137,6 @@ void frmChartdepth::List1_DblClick() {
     pickandnameport(context.session, notes, List1->currentRow());
     shownotes();
     depth->setFocus();
-}
-
-void frmChartdepth::depth_Change() {
-    const QString typed = depth->text();
-    QString kept;
-    qsizetype cursor = 0;
-    for (qsizetype i = 0; i < typed.size(); ++i) {
-        if (!depthcharacter(typed[i].unicode())) continue;
-        kept += typed[i];
-        if (i < depth->cursorPosition()) cursor = kept.size();
-    }
-    if (kept != typed) {
-        depth->setText(kept);
-        depth->setCursorPosition(static_cast<int>(cursor));
-        context.services.messages.beep();
-    }
-    showstate();
 }
 
 void frmChartdepth::usernotes_Change() {

@@ -3,11 +3,11 @@
 #pragma once
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "platform/qt/filteredbox.h"
 #include "platform/qt/modaldialog.h"
 #include "ports/usernotes.h"
 #include "session/session.h"
@@ -21,36 +21,29 @@ class frmChartdepth : public ModalDialog {
     /// Escape, the window's cross and Exit alike.
     void reject() override;
 
-    QListWidget* List1;
-    QLabel* portlabel;
-    QLabel* portnolabel;
-    QLineEdit* depth;
-    QPlainTextEdit* usernotes;
-    QLabel* noteslimit;  ///< how much of the note's room is used
-    QPushButton* cdok;
-    QPushButton* cdclose;
-
-  protected:
-    void showEvent(QShowEvent* event) override;
+    QListWidget* List1 = nullptr;
+    QLabel *portlabel = nullptr, *portnolabel = nullptr;
+    FilteredBox* depth = nullptr;
+    QPlainTextEdit* usernotes = nullptr;
+    QLabel* noteslimit = nullptr;  ///< how much of the note's room is used
+    QPushButton *cdok = nullptr, *cdclose = nullptr;
 
   private:
     void buildlayout();
+    QLayout* buildside();
     void connectcontrols();
     void shownotes();
-    bool changed() const;
-    bool offertoenter();
     void showstate();
+    bool offertoenter();
 
     void List1_Click();
     void List1_DblClick();
-    void depth_Change();
     void usernotes_Change();
     bool cdok_Click();
 
     MainContext& context;
     UserNotes notes;
-    QString shownnote;  ///< the note as it was last loaded or entered
-    int typedat = 0;    ///< where the last change of the note stands, and how many characters came in with it
+    int typedat = 0;  ///< where the last change of the note stands, and how many characters came in with it
     int typedcount = 0;
 };
 

@@ -1,20 +1,48 @@
 #include "ports/frmconfig.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <algorithm>
+#include <functional>
 
 #include "platform/qt/named.h"
 #include "platform/qt/twips.h"
 #include "portdata/recordfiles.h"
 #include "ports/portselection.h"
+#include "text/singlebyte.h"
 
 namespace tarvane {
 namespace {
 
 constexpr int rowsinview = 22;
+
+const char* const helptext =
+    "Double click on an entry or select a port from the list and click OK.\n"
+    "Enter part of the ports name and click the Search button.\n"
+    "Press Search again for the next occurance.";
+const char* const letterhint =
+    "Highlight any item and press a letter on the keyboard to jump to the letter group.\n"
+    "(e.g. repetitive presses of letter P will scroll through all ports beginning with P).";
+
+/// A list that hands on what is typed into it, letters that quickly follow each other as one text.
+class LetterList : public QListWidget {
+  public:
+    std::function<void(const std::string& typed)> onletters;
+
+    void keyboardSearch(const QString& letter) override {
+        const bool goeson = sincelast.isValid() && !sincelast.hasExpired(QApplication::keyboardInputInterval());
+        typed = goeson ? typed + letter : letter;
+        sincelast.start();
+        if (onletters && !typed.isEmpty()) onletters(typed.toStdString());
+    }
+
+  private:
+    QString typed;
+    QElapsedTimer sincelast;
+};
 
 /// Room for the longest name that a record holds.
 int namewidth(const QWidget& widget) {
@@ -23,59 +51,54 @@ int namewidth(const QWidget& widget) {
 
 }  // namespace
 
-frmconfig::frmconfig(MainContext& mainview, QWidget* parent)
-    : ModalDialog(parent),
-      portlist2(named<QListWidget>("portlist2")),
-      txtSearch(named<QLineEdit>("txtSearch")),
-      cmdSearch(named<QPushButton>("cmdSearch", "&Search")),
-      Frame1(named<QGroupBox>("Frame1", "Sort")),
-      optSortbyName(named<QRadioButton>("optSortbyName", "Sort by &name")),
-      optSortGeog(named<QRadioButton>("optSortGeog", "Sort &geographically")),
-      cmdSort(named<QPushButton>("cmdSort", "S&ort")),
-      portconfigok(named<QPushButton>("portconfigok", "OK")),
-      portconfigcancel(named<QPushButton>("portconfigcancel", "Cancel")),
-      confselectedport(named<QLabel>("confselectedport", "Selected Port")),
-      portconfigbox(namedvalue("portconfigbox")),
-      Label1(named<QLabel>("Label1",
-                           "Double click on an entry or select a port from the list and click OK.\n"
-                           "Enter part of the ports name and click the Search button.\n"
-                           "Press Search again for the next occurance.")),
-      lblhint(named<QLabel>("lblhint",
-                            "Highlight any item and press a letter on the keyboard to jump to the letter group.\n"
-                            "(e.g. repetitive presses of letter P will scroll through all ports beginning with P).")),
-      context(mainview) {
-    setObjectName("frmconfig");
-    setWindowTitle("Select Port");
+frmconfig::frmconfig(MainContext& maincontext, QWidget* parent)
+    : ModalDialog("frmconfig", "Select Port", parent), context(maincontext) {
     buildlayout();
     connectcontrols();
-    loadlist();
-    const bool byname = context.session.settings.configrec.sortmode != 0;
-    (byname ? optSortbyName : optSortGeog)->setChecked(true);
-    if (byname) {
-        sortbyname(ports);
-        showlist();
-    }
-    const int rowheight = std::max(portlist2->sizeHintForRow(0), fontMetrics().lineSpacing());
-    portlist2->setMinimumHeight(rowsinview * rowheight + 2 * portlist2->frameWidth());
-    adjustSize();
-    centreon(*this, parent ? parent->window() : nullptr);
+    openlist();
+    settle(portconfigok, txtSearch);
 }
 
 void frmconfig::buildlayout() {
-    portlist2->setMinimumWidth(namewidth(*portlist2) + twips(600));
-    portconfigbox->setMinimumWidth(namewidth(*portconfigbox));
+    Label1 = named<QLabel>("Label1", helptext);
+    txtSearch = named<QLineEdit>("txtSearch");
     txtSearch->setAccessibleName("Part of the port's name");
+    cmdSearch = named<QPushButton>("cmdSearch", "&Search");
+    auto* letters = named<LetterList>("portlist2");
+    letters->onletters = [this](const std::string& typed) { showhit(stepbyletters(ports, listindex(), typed)); };
+    portlist2 = letters;
+    portlist2->setMinimumWidth(namewidth(*portlist2) + twips(600));
     portlist2->setAccessibleName("Ports");
+    lblhint = named<QLabel>("lblhint", letterhint);
 
     auto* search = new QHBoxLayout;
     search->addWidget(txtSearch, 1);
     search->addWidget(cmdSearch);
+    auto* middle = new QHBoxLayout;
+    middle->addWidget(portlist2, 1);
+    middle->addLayout(buildside());
+    auto* whole = new QVBoxLayout(this);
+    whole->addWidget(Label1);
+    whole->addLayout(search);
+    whole->addLayout(middle, 1);
+    whole->addWidget(lblhint);
+}
+
+QLayout* frmconfig::buildside() {
+    Frame1 = named<QGroupBox>("Frame1", "Sort");
+    optSortbyName = named<QRadioButton>("optSortbyName", "Sort by &name");
+    optSortGeog = named<QRadioButton>("optSortGeog", "Sort &geographically");
+    cmdSort = named<QPushButton>("cmdSort", "S&ort");
+    confselectedport = named<QLabel>("confselectedport", "Selected Port");
+    portconfigbox = namedvalue("portconfigbox");
+    portconfigbox->setMinimumWidth(namewidth(*portconfigbox));
+    portconfigok = named<QPushButton>("portconfigok", "OK");
+    portconfigcancel = named<QPushButton>("portconfigcancel", "Cancel");
 
     auto* sort = new QVBoxLayout(Frame1);
     sort->addWidget(optSortbyName);
     sort->addWidget(optSortGeog);
     sort->addWidget(cmdSort, 0, Qt::AlignLeft);
-
     auto* side = new QVBoxLayout;
     side->addWidget(Frame1);
     side->addSpacing(twips(180));
@@ -84,23 +107,7 @@ void frmconfig::buildlayout() {
     side->addStretch(1);
     side->addWidget(portconfigok);
     side->addWidget(portconfigcancel);
-
-    auto* middle = new QHBoxLayout;
-    middle->addWidget(portlist2, 1);
-    middle->addLayout(side);
-
-    auto* whole = new QVBoxLayout(this);
-    whole->addWidget(Label1);
-    whole->addLayout(search);
-    whole->addLayout(middle, 1);
-    whole->addWidget(lblhint);
-
-    QWidget* order[] = {txtSearch,   cmdSearch, portlist2,    optSortbyName,
-                        optSortGeog, cmdSort,   portconfigok, portconfigcancel};
-    for (std::size_t i = 1; i < std::size(order); ++i)
-        setTabOrder(order[i - 1], order[i]);
-    portconfigok->setDefault(true);
-    txtSearch->setFocus();
+    return side;
 }
 
 void frmconfig::connectcontrols() {
@@ -112,6 +119,23 @@ void frmconfig::connectcontrols() {
     connect(portconfigok, &QPushButton::clicked, this, &frmconfig::portconfigok_Click);
     connect(portconfigcancel, &QPushButton::clicked, this, &frmconfig::reject);
     txtSearch->installEventFilter(this);
+}
+
+/// The list as the configuration has it sorted, the current port highlighted where it is one of this area.
+void frmconfig::openlist() {
+    const Settings& settings = context.session.settings;
+    loadlist();
+    const bool byname = settings.configrec.sortmode != 0;
+    (byname ? optSortbyName : optSortGeog)->setChecked(true);
+    if (byname) {
+        sortbyname(ports);
+        showlist();
+    }
+    setrowsinview(*portlist2, rowsinview);
+    if (trim(settings.areafile) != trim(settings.hcfile)) return;
+    // Silently: a click goes by the name, which two ports may have.
+    const QSignalBlocker quiet(portlist2);
+    showhit(selectrecord(ports, settings.currentport));
 }
 
 void frmconfig::loadlist() {
@@ -152,7 +176,10 @@ void frmconfig::txtSearch_Change() {
 }
 
 void frmconfig::cmdSearch_Click() {
-    showhit(searchnext(ports, txtSearch->text().toStdString()));
+    const auto hit = searchnext(ports, txtSearch->text().toStdString());
+    showhit(hit);
+    // Enter then takes the hit instead of searching on.
+    if (hit) txtSearch->setFocus();
 }
 
 void frmconfig::cmdSort_Click() {

@@ -23,26 +23,24 @@ class frmconfig : public ModalDialog {
     /// Escape, the window's cross and Cancel alike.
     void reject() override;
 
-    QListWidget* portlist2;
-    QLineEdit* txtSearch;
-    QPushButton* cmdSearch;
-    QGroupBox* Frame1;
-    QRadioButton* optSortbyName;
-    QRadioButton* optSortGeog;
-    QPushButton* cmdSort;
-    QPushButton* portconfigok;
-    QPushButton* portconfigcancel;
-    QLabel* confselectedport;
-    QLabel* portconfigbox;
-    QLabel* Label1;
-    QLabel* lblhint;
+    QListWidget* portlist2 = nullptr;
+    QLineEdit* txtSearch = nullptr;
+    QPushButton* cmdSearch = nullptr;
+    QGroupBox* Frame1 = nullptr;
+    QRadioButton *optSortbyName = nullptr, *optSortGeog = nullptr;
+    QPushButton* cmdSort = nullptr;
+    QPushButton *portconfigok = nullptr, *portconfigcancel = nullptr;
+    QLabel *confselectedport = nullptr, *portconfigbox = nullptr;
+    QLabel *Label1 = nullptr, *lblhint = nullptr;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void buildlayout();
+    QLayout* buildside();
     void connectcontrols();
+    void openlist();
     void loadlist();
     void showlist();
     void showhit(std::optional<std::size_t> index);

@@ -6,20 +6,25 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/named.h"
-#include "platform/qt/numberbox.h"
 
 namespace tarvane {
+namespace {
+
+const char* const maintenancetip =
+    "Shows the Maintenance menu, whose commands change the harmonic constants of the ports.\n"
+    "The menu stays until the program ends; the next start hides it again, so that the\n"
+    "constants aren't changed by accident.";
+
+}  // namespace
 
 frmoutoptions::frmoutoptions(MainContext& maincontext, QWidget* parent)
-    : ModalDialog(parent), context(maincontext), options(openoptions(maincontext.session)) {
-    setObjectName("frmoutoptions");
-    setWindowTitle("Program Settings");
+    : ModalDialog("frmoutoptions", "Program Settings", parent),
+      context(maincontext),
+      options(openoptions(maincontext.session)) {
     buildlayout();
     showoptions();
     connectcontrols();
-    optionsok->setDefault(true);
-    adjustSize();
-    centreon(*this, parent ? parent->window() : nullptr);
+    settle(optionsok, displayoption());
 }
 
 void frmoutoptions::buildlayout() {
@@ -27,6 +32,7 @@ void frmoutoptions::buildlayout() {
     buildframe2();
     buildframe3();
     Check1 = named<QCheckBox>("Check1", "&Enable Harmonic Correction Menu");
+    Check1->setToolTip(maintenancetip);
     optionsok = named<QPushButton>("optionsok", "&O.K.");
     Command1 = named<QPushButton>("Command1", "&Cancel");
 
@@ -69,10 +75,10 @@ void frmoutoptions::buildframe2() {
 void frmoutoptions::buildframe3() {
     Frame3 = named<QGroupBox>("Frame3", "Draft && Underkeel Clearance");
     Label3 = named<QLabel>("Label3", "&Vessel Draft");
-    draughttext = named<NumberBox>("draughttext");
+    draughttext = named<FilteredBox>("draughttext", metreskey, context.services.messages);
     Label4 = named<QLabel>("Label4", "M");
     draftlabel = named<QLabel>("draftlabel", "&Under Keel Clearance");
-    ukctext = named<NumberBox>("ukctext");
+    ukctext = named<FilteredBox>("ukctext", metreskey, context.services.messages);
     Label1 = named<QLabel>("Label1", "M");
     Label3->setBuddy(draughttext);
     draftlabel->setBuddy(ukctext);
@@ -101,11 +107,13 @@ void frmoutoptions::connectcontrols() {
     connect(Command1, &QPushButton::clicked, this, &frmoutoptions::reject);
 }
 
-void frmoutoptions::showoptions() {
+QRadioButton* frmoutoptions::displayoption() const {
     QRadioButton* const display[] = {Option1, Option2, Option3};
-    QRadioButton* const set = display[options.displayoption - 1];
-    set->setChecked(true);
-    set->setFocus();
+    return display[options.displayoption - 1];
+}
+
+void frmoutoptions::showoptions() {
+    displayoption()->setChecked(true);
     optNonDaylightsavings->setChecked(options.optNonDaylightsavings);
     optDaylightSavings->setChecked(options.optDaylightSavings);
     draughttext->setText(QString::fromStdString(options.draughttext));

@@ -5,10 +5,10 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "platform/qt/filteredbox.h"
 #include "platform/qt/modaldialog.h"
 #include "ports/programsettings.h"
 
@@ -22,7 +22,7 @@ class frmoutoptions : public ModalDialog {
     QRadioButton *Option1 = nullptr, *Option2 = nullptr, *Option3 = nullptr;
     QLabel* Label2 = nullptr;
     QRadioButton *optNonDaylightsavings = nullptr, *optDaylightSavings = nullptr;
-    QLineEdit *draughttext = nullptr, *ukctext = nullptr;
+    FilteredBox *draughttext = nullptr, *ukctext = nullptr;
     QLabel *Label3 = nullptr, *Label4 = nullptr, *draftlabel = nullptr, *Label1 = nullptr;
     QCheckBox* Check1 = nullptr;
     QPushButton *optionsok = nullptr, *Command1 = nullptr;
@@ -33,6 +33,7 @@ class frmoutoptions : public ModalDialog {
     void buildframe2();
     void buildframe3();
     void connectcontrols();
+    QRadioButton* displayoption() const;
     void showoptions();
     void optionsok_Click();
 

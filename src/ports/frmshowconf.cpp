@@ -22,23 +22,25 @@ void put(QLabel* label, const std::string& value) {
 }  // namespace
 
 frmshowconf::frmshowconf(MainContext& maincontext, QWidget* parent)
-    : ModalDialog(parent), context(maincontext), view(openconfiguration(maincontext.session)) {
-    setObjectName("frmshowconf");
-    setWindowTitle("Current Configuration and User Notes");
-    makecontrols();
-    showconfiguration();
+    : ModalDialog("frmshowconf", "Current Configuration and User Notes", parent),
+      context(maincontext),
+      view(openconfiguration(maincontext.session)) {
     buildlayout();
+    showconfiguration();
     connect(confportlist, &QListWidget::itemSelectionChanged, this, &frmshowconf::confportlist_Click);
     connect(Confexit, &QPushButton::clicked, this, &frmshowconf::accept);
-    Confexit->setDefault(true);
-    confportlist->setFocus();
-    adjustSize();
-    centreon(*this, parent ? parent->window() : nullptr);
+    settle(Confexit, confportlist);
 }
 
-void frmshowconf::makecontrols() {
+void frmshowconf::buildlayout() {
     confportlist = named<QListWidget>("confportlist");
     confportlist->setAccessibleName("Ports");
+    auto* sides = new QHBoxLayout(this);
+    sides->addWidget(confportlist);
+    sides->addLayout(buildvalues(), 1);
+}
+
+QLayout* frmshowconf::buildvalues() {
     portnolabel = namedvalue("portnolabel");
     confportnamebox = namedvalue("confportnamebox");
     sealabel = namedvalue("sealabel");
@@ -50,10 +52,10 @@ void frmshowconf::makecontrols() {
     notes->setReadOnly(true);
     notes->setAccessibleName("USER NOTES");
     notes->setTabChangesFocus(true);
+    notes->setMinimumHeight(notelines * fontMetrics().lineSpacing());
+    notes->setMinimumWidth(40 * fontMetrics().averageCharWidth());
     Confexit = named<QPushButton>("Confexit", "E&xit");
-}
 
-void frmshowconf::buildlayout() {
     auto* values = new QGridLayout;
     const auto addrow = [&](int row, const char* caption, QWidget* first, QWidget* second = nullptr) {
         values->addWidget(new QLabel(caption), row, 0);
@@ -64,15 +66,14 @@ void frmshowconf::buildlayout() {
         values->addWidget(new QLabel(caption), row, 0);
         values->addWidget(value, row, 1, 1, 2);
     };
-    const QFontMetrics metrics = fontMetrics();
     addwiderow(0, "Sea Area", sealabel);
     addwiderow(1, "Output", confoutputoption);
     addrow(2, "Draught", confdraughtbox);
     addrow(3, "UKC", confukcbox, new QLabel("(Under Keel Clearance)"));
-    values->setRowMinimumHeight(4, metrics.height() / 2);
+    values->setRowMinimumHeight(4, fontMetrics().height() / 2);
     addrow(5, "Port", portnolabel, confportnamebox);
     addrow(6, "User Depth", depth);
-    values->setColumnMinimumWidth(1, numberdigits * metrics.horizontalAdvance('0'));
+    values->setColumnMinimumWidth(1, numberdigits * fontMetrics().horizontalAdvance('0'));
     values->setColumnStretch(2, 1);
 
     auto* right = new QVBoxLayout;
@@ -80,16 +81,7 @@ void frmshowconf::buildlayout() {
     right->addWidget(new QLabel("USER NOTES"));
     right->addWidget(notes, 1);
     right->addWidget(Confexit, 0, Qt::AlignRight);
-    auto* sides = new QHBoxLayout(this);
-    sides->addWidget(confportlist);
-    sides->addLayout(right, 1);
-
-    const int rowwidth = confportlist->sizeHintForColumn(0) + 2 * confportlist->frameWidth() +
-                         confportlist->verticalScrollBar()->sizeHint().width() + 2;
-    confportlist->setFixedWidth(std::max(rowwidth, 24 * metrics.averageCharWidth()));
-    confportlist->setMinimumHeight(rowsinview * metrics.height());
-    notes->setMinimumHeight(notelines * metrics.lineSpacing());
-    notes->setMinimumWidth(40 * metrics.averageCharWidth());
+    return right;
 }
 
 void frmshowconf::showconfiguration() {
@@ -99,6 +91,10 @@ void frmshowconf::showconfiguration() {
     put(confoutputoption, view.confoutputoption);
     for (const std::string& port : view.port.rows)
         confportlist->addItem(QString::fromStdString(port));
+    const int rowwidth = confportlist->sizeHintForColumn(0) + 2 * confportlist->frameWidth() +
+                         confportlist->verticalScrollBar()->sizeHint().width() + 2;
+    confportlist->setFixedWidth(std::max(rowwidth, 24 * fontMetrics().averageCharWidth()));
+    setrowsinview(*confportlist, rowsinview);
     confportlist->setCurrentRow(view.selectedrow);
     showport();
 }
@@ -108,11 +104,6 @@ void frmshowconf::showport() {
     put(confportnamebox, view.port.portlabel);
     put(depth, view.port.depth);
     notes->setPlainText(QString::fromStdString(view.port.usernotes));
-}
-
-void frmshowconf::showEvent(QShowEvent* event) {
-    ModalDialog::showEvent(event);
-    confportlist->scrollToItem(confportlist->currentItem(), QAbstractItemView::PositionAtCenter);
 }
 
 void frmshowconf::confportlist_Click() {

@@ -22,12 +22,9 @@ class frmshowconf : public ModalDialog {
     QPlainTextEdit* notes = nullptr;
     QPushButton* Confexit = nullptr;
 
-  protected:
-    void showEvent(QShowEvent* event) override;
-
   private:
-    void makecontrols();
     void buildlayout();
+    QLayout* buildvalues();
     void showconfiguration();
     void showport();
     void confportlist_Click();

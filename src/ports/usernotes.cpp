@@ -147,8 +147,30 @@ void closeusernotes(MainContext& context) {
     refreshday(context);
 }
 
-bool depthcharacter(char32_t character) {
-    return (character >= U'0' && character <= U'9') || character == U'.' || character == U'-';
+char32_t depthkey(char32_t key) {
+    constexpr char32_t backspace = 8;
+    const char32_t metres = metreskey(key);
+    const bool digit = metres >= U'0' && metres <= U'9';
+    return digit || metres == U'.' || metres == U'-' || metres == backspace ? metres : 0;
+}
+
+char32_t metreskey(char32_t key) {
+    return key == U',' ? U'.' : key;
+}
+
+bool notechanged(const UserNotes& notes, std::string_view depth, std::string_view usernotes) {
+    return depth != notes.depth || usernotes != notes.usernotes;
+}
+
+std::string enterquestion(const UserNotes& notes) {
+    return "The depth or the note of " + notes.portlabel + " was changed. Enter it?";
+}
+
+std::string notestate(const UserNotes& notes, std::string_view depth, std::string_view usernotes) {
+    std::string state = numbertext(static_cast<int>(notelength(usernotes))) + " of " +
+                        numbertext(static_cast<int>(longestnote)) + " characters";
+    if (notechanged(notes, depth, usernotes)) state += ", not entered yet";
+    return state;
 }
 
 std::string admittednote(std::string_view typed, std::size_t taken) {

@@ -50,8 +50,21 @@ bool enterusernotes(MainContext& context, UserNotes& notes, std::string_view dep
 /// `cdclose`: the month's list goes, and the main view is refreshed with the current port's depth.
 void closeusernotes(MainContext& context);
 
-/// The characters that the depth takes: digits, "." and "-".
-bool depthcharacter(char32_t character);
+/// What becomes of a key typed into the depth, 0 when it is dropped: digits, ".", "-" and backspace stay, and a "," is
+/// taken for the point.
+char32_t depthkey(char32_t key);
+
+/// The same for a box that drops nothing.
+char32_t metreskey(char32_t key);
+
+/// True if the texts on show differ from what was loaded or entered last.
+bool notechanged(const UserNotes& notes, std::string_view depth, std::string_view usernotes);
+
+/// What is asked before changed texts are left.
+std::string enterquestion(const UserNotes& notes);
+
+/// The line under the note: how much of its room is taken, and whether anything waits to be entered.
+std::string notestate(const UserNotes& notes, std::string_view depth, std::string_view usernotes);
 
 /// What of a typed text a note takes of which `taken` bytes are full: line ends, tabs and the printing characters of
 /// Windows-1252, from its start until the note is full.

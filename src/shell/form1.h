@@ -1,17 +1,16 @@
 // A diagnostic form: what this system tells of its language and dates. Nothing else in the program opens it.
 #pragma once
 
-#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <array>
 
 #include "platform/locale.h"
-
-class QLineEdit;
-class QPushButton;
+#include "platform/qt/modaldialog.h"
 
 namespace tarvane {
 
-class Form1 : public QDialog {
+class Form1 : public ModalDialog {
   public:
     explicit Form1(const Locale& locale, QWidget* parent = nullptr);
 

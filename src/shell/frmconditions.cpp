@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "platform/qt/modaldialog.h"
+#include "platform/qt/named.h"
 #include "platform/qt/twips.h"
 #include "shell/conditions.h"
 #include "text/programcaption.h"
@@ -31,7 +32,7 @@ QAction* entry(QMenu* menu, const QString& text, const char* name) {
 }  // namespace
 
 frmConditions::frmConditions(const Services& given, const ProgramFolders& where) : services(given), folders(where) {
-    setObjectName(QStringLiteral("frmConditions"));
+    setObjectName("frmConditions");
     setWindowTitle(QString::fromStdString(programcaption()));
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint);
@@ -45,45 +46,43 @@ frmConditions::frmConditions(const Services& given, const ProgramFolders& where)
     connect(mnuHTMLHelp, &QAction::triggered, this, [this] {
         if (onhelp) onhelp();
     });
+    setMinimumSize(formwidth / 2, formheight / 2);
+    resize(formwidth, formheight);
+    fitscreen(*this);
+    centreon(*this, nullptr);
     ConditionsOK->setFocus();
 }
 
 void frmConditions::buildlayout() {
     menus = new QMenuBar(this);
-    QMenu* const mnuMain = menus->addMenu(QStringLiteral("&Menu"));
-    mnuMain->setObjectName(QStringLiteral("mnuMain"));
-    mnuRestoreDefaults = entry(mnuMain, QStringLiteral("&Restore Defaults"), "mnuRestoreDefaults");
-    QMenu* const mnuHelp = menus->addMenu(QStringLiteral("&Help"));
-    mnuHelp->setObjectName(QStringLiteral("mnuHelp"));
-    mnuHTMLHelp = entry(mnuHelp, QStringLiteral("&Help"), "mnuHTMLHelp");
-    mnuHTMLHelp->setEnabled(false);
+    QMenu* const mnuMain = menus->addMenu("&Menu");
+    mnuMain->setObjectName("mnuMain");
+    mnuRestoreDefaults = entry(mnuMain, "&Restore Defaults", "mnuRestoreDefaults");
+    QMenu* const mnuHelp = menus->addMenu("&Help");
+    mnuHelp->setObjectName("mnuHelp");
+    mnuHTMLHelp = entry(mnuHelp, "&Help", "mnuHTMLHelp");
 
-    heading = new QLabel(QStringLiteral("Tarvane Tides"), this);
+    heading = new QLabel("Tarvane Tides", this);
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 2);
     large.setBold(true);
     heading->setFont(large);
     heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    lead = new QLabel(QStringLiteral("Conditions of use"), this);
+    lead = new QLabel("Conditions of use", this);
     lead->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 
-    List1 = new QListWidget(this);
-    List1->setObjectName(QStringLiteral("List1"));
+    List1 = named<QListWidget>("List1", this);
     List1->setSelectionMode(QAbstractItemView::NoSelection);
     List1->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     List1->setAccessibleName(lead->text());
-
-    ConditionsOK = new QPushButton(QStringLiteral("&Accept"), this);
-    ConditionsOK->setObjectName(QStringLiteral("ConditionsOK"));
+    ConditionsOK = named<QPushButton>("ConditionsOK", "&Accept", this);
     ConditionsOK->setDefault(true);
-    cmdDecline = new QPushButton(QStringLiteral("&Decline"), this);
-    cmdDecline->setObjectName(QStringLiteral("cmdDecline"));
-    setTabOrder(List1, ConditionsOK);
-    setTabOrder(ConditionsOK, cmdDecline);
+    cmdDecline = named<QPushButton>("cmdDecline", "&Decline", this);
+}
 
-    setMinimumSize(formwidth / 2, formheight / 2);
-    resize(formwidth, formheight);
-    centreon(*this, nullptr);
+void frmConditions::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    mnuHTMLHelp->setEnabled(static_cast<bool>(onhelp));
 }
 
 void frmConditions::resizeEvent(QResizeEvent* event) {

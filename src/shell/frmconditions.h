@@ -22,7 +22,7 @@ class frmConditions : public QDialog {
     /// afterwards and must not be deleted in them.
     std::function<void()> onaccepted;
     std::function<void()> ondeclined;  ///< also for Escape and a closed window
-    std::function<void()> onhelp;
+    std::function<void()> onhelp;      ///< without it the help entry is grey
 
     void accept() override;
     void reject() override;
@@ -34,6 +34,7 @@ class frmConditions : public QDialog {
     QAction* mnuHTMLHelp = nullptr;
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:

@@ -86,21 +86,25 @@ TEST_F(SunView, ThePortsZoneAndOneShiftServeTheWholeMonth) {
 TEST_F(SunView, ADayBehindTheMonthsEndIsPutBack) {
     session.view.stepbuttonsvisible = false;
     setdateonshow(session.onshow, makedate(2023, 1, 31));
-    EXPECT_EQ(opensunresults(session), 31);
+    DayScroll scroll = opensunresults(session, 220);
+    EXPECT_EQ(scroll.value, 31 * 44);
+    EXPECT_EQ(scroll.maximum, scroll.value);
+    EXPECT_EQ(scroll.smallchange, 44);
+    EXPECT_EQ(scroll.largechange, 73);
     EXPECT_TRUE(session.view.stepbuttonsvisible);
     session.onshow.tidemonth = 2;
-    EXPECT_EQ(opensunresults(session), 28);
+    scroll = opensunresults(session, 220);
+    EXPECT_EQ(scroll.value, 28 * 44);
     EXPECT_EQ(session.onshow.tideday, 28);
 }
 
 TEST(SunViewKeys, EveryKey) {
-    for (int code = 1; code < 256; ++code) {
-        const char key = static_cast<char>(code);
-        const bool both = (key >= '0' && key <= '9') || key == '.' || code == 8 || code == 127;
-        const bool north = key == 'N' || key == 'n', south = key == 'S' || key == 's';
-        const bool east = key == 'E' || key == 'e', west = key == 'W' || key == 'w';
-        EXPECT_EQ(latitudekey(key), both ? key : north ? 'N' : south ? 'S' : '\0') << code;
-        EXPECT_EQ(longitudekey(key), both ? key : east ? 'E' : west ? 'W' : '\0') << code;
+    for (char32_t key = 1; key < 0x2000; ++key) {
+        const bool both = (key >= U'0' && key <= U'9') || key == U'.' || key == 8 || key == 127;
+        const bool north = key == U'N' || key == U'n', south = key == U'S' || key == U's';
+        const bool east = key == U'E' || key == U'e', west = key == U'W' || key == U'w';
+        EXPECT_EQ(latitudekey(key), both ? key : north ? U'N' : south ? U'S' : U'\0') << static_cast<unsigned>(key);
+        EXPECT_EQ(longitudekey(key), both ? key : east ? U'E' : west ? U'W' : U'\0') << static_cast<unsigned>(key);
     }
 }
 

@@ -13,11 +13,11 @@ namespace {
 class DateEntryTest : public testing::Test, protected MainFixture {
   protected:
     DateEntryTest() { load(); }
-    DateEntry open() { return opendateentry(context.services); }
+    DateEntry open() { return opendateentry(context); }
     void pickandconfirm(int year, int month, int day) {
         DateEntry entry = open();
-        pickdate(entry, scripted.locale, {year, month, day});
-        confirmpicker(context, entry);
+        pickdate(context, entry, makedate(year, month, day));
+        EXPECT_TRUE(confirmpicker(context, entry));
     }
 };
 
@@ -29,7 +29,7 @@ TEST_F(DateEntryTest, OpensOnTodayWhateverDayIsOnShowAndResetBringsItBackIntoThe
 
     choosemonth(entry.lists, 7);
     scripted.clock.set(2025, 1, 1, 0, 0, 1);
-    resetpicker(entry, context.services);
+    resetpicker(context, entry);
     EXPECT_EQ(entry.pickeddate, makedate(2025, 1, 1));
     EXPECT_EQ(entry.txtDayName, "(Wednesday)");
     EXPECT_EQ(entry.lists.selected.month, 8);
@@ -56,11 +56,38 @@ TEST_F(DateEntryTest, ThePickersFirstAndLastDateComeOnShow) {
     EXPECT_EQ(session.view.tidedatebox, "Date   : 31 December 9999 (Friday)");
 }
 
+TEST_F(DateEntryTest, ATypedDateComesInHandAndARefusedOneIsNotConfirmed) {
+    DateEntry entry = open();
+    EXPECT_EQ(entry.typed, "09/04/2024");
+    typedate(context, entry, "5/2/27");
+    EXPECT_EQ(entry.pickeddate, makedate(2027, 2, 5));
+    EXPECT_EQ(entry.txtDayName, "(Friday)");
+    EXPECT_EQ(entry.typed, "5/2/27") << "what is typed isn't put in order while it is typed";
+    EXPECT_TRUE(stepdate(context, entry, -5));
+    EXPECT_EQ(entry.typed, "31/01/2027");
+
+    typedate(context, entry, "31022027");
+    EXPECT_EQ(entry.refusal, "February 2027 has no day 31.");
+    EXPECT_EQ(entry.txtDayName, "");
+    EXPECT_FALSE(stepdate(context, entry, 1));
+    EXPECT_FALSE(confirmpicker(context, entry));
+    EXPECT_EQ(scripted.messages.beeps, 1);
+    EXPECT_EQ(session.onshow.tidedate, makedate(2024, 4, 9));
+    resetpicker(context, entry);
+    EXPECT_TRUE(confirmpicker(context, entry));
+
+    for (const auto& [date, days] : {std::pair{makedate(9999, 12, 31), 1}, {makedate(100, 1, 1), -1}}) {
+        pickdate(context, entry, date);
+        EXPECT_TRUE(stepdate(context, entry, days));
+        EXPECT_EQ(entry.pickeddate, date);
+    }
+}
+
 TEST_F(DateEntryTest, TheListsConfirmTheirOwnDateAndDropTheMonth) {
     const std::string before = session.daytable.daystide1;
     session.month.monthspredictions = {"a month"};
     DateEntry entry = open();
-    pickdate(entry, scripted.locale, {2031, 5, 5});
+    pickdate(context, entry, makedate(2031, 5, 5));
     chooseyear(entry.lists, 4);
     choosemonth(entry.lists, 11);
     chooseday(entry.lists, 30);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QClipboard>
 #include <QTest>
 #include <filesystem>
 
@@ -36,6 +35,7 @@ TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
     expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "cdok");
     click(form, 2);
+    EXPECT_EQ(form.portnolabel->text() + form.portlabel->text(), "3Cedar Head");
     form.depth->selectAll();
     QTest::keyClicks(form.depth, "2.5");
     settext(form.usernotes, "Bar dries\nat springs");
@@ -63,20 +63,21 @@ TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
     EXPECT_EQ(session.prediction.z0level, level);
 }
 
-TEST_F(FrmChartdepth, OtherKeysThanThoseOfADepthAreDroppedWithABeep) {
+TEST_F(FrmChartdepth, TheDepthOpensSelectedAndADroppedKeyLeavesItSo) {
+    UserDepthRecord before = record(1);
+    before.UserDepth = 3.5F;
+    before.Notes = "Dries\u00A04 m";
+    writedepth(session.settings.depfile, 1, before);
     frmChartdepth form(context);
     present(form);
-    form.depth->clear();
-    QTest::keyClicks(form.depth, "-1a2,.+5");
-    EXPECT_EQ(form.depth->text(), "-12.5");
-    EXPECT_EQ(scripted.messages.beeps, 3);
-    form.depth->setCursorPosition(1);
-    QTest::keyClicks(form.depth, "x7");
-    EXPECT_EQ(form.depth->text(), "-712.5");
-    form.depth->selectAll();
-    QApplication::clipboard()->setText(" 3.4 m\n");
-    form.depth->paste();
-    EXPECT_EQ(form.depth->text(), "3.4");
+    EXPECT_EQ(form.List1->currentRow(), 0);
+    EXPECT_EQ(form.noteslimit->text(), "9 of 256 characters");
+    QTest::keyClicks(form.depth, "x");
+    EXPECT_EQ(form.depth->selectedText(), "3.5");
+    EXPECT_EQ(scripted.messages.beeps, 1);
+    QTest::keyClicks(form.depth, "5,5");
+    QTest::keyClick(form.depth, Qt::Key_Return);
+    EXPECT_EQ(record(1).UserDepth, 5.5F);
 }
 
 TEST_F(FrmChartdepth, ANoteTakesNoMoreThanItsRecordHolds) {
@@ -97,7 +98,7 @@ TEST_F(FrmChartdepth, WhatWasTypedIsNotLostUnaskedNorWhenTheWriteFails) {
     frmChartdepth form(context);
     present(form);
     settext(form.usernotes, "Mine");
-    scripted.messages.expectask(question, true, "Tarvane");
+    scripted.messages.expectaskorcancel(question, Answer::yes, "Tarvane");
     click(form, 1);
     click(form, 0);
     EXPECT_EQ(form.usernotes->toPlainText(), "Mine");
@@ -106,16 +107,20 @@ TEST_F(FrmChartdepth, WhatWasTypedIsNotLostUnaskedNorWhenTheWriteFails) {
     QTest::keyClicks(form.depth, "9");
     const auto before = readwhole(session.settings.depfile);
     std::filesystem::rename(session.folders.depthsfolder(), folder / "away");
-    for (const bool leaving : {false, true}) {
-        scripted.messages.expectask(question, true);
-        scripted.messages.expectshow("The depth and the note can't be written: " + session.settings.depfile, "Tarvane");
-        leaving ? static_cast<void>(form.close()) : click(form, 2);
-        EXPECT_TRUE(form.isVisible());
-        EXPECT_EQ(form.List1->currentRow(), 0);
-        EXPECT_EQ(form.depth->text(), "9");
-    }
+    for (const Answer answer : {Answer::yes, Answer::cancel})
+        for (const bool leaving : {false, true}) {
+            scripted.messages.expectaskorcancel(question, answer);
+            if (answer == Answer::yes)
+                scripted.messages.expectshow("The depth and the note can't be written: " + session.settings.depfile,
+                                             "Tarvane");
+            leaving ? static_cast<void>(form.close()) : click(form, 2);
+            EXPECT_TRUE(form.isVisible());
+            EXPECT_EQ(form.List1->currentRow(), 0);
+            EXPECT_EQ(form.depth->text() + infocus(form).c_str(), "9depth");
+            EXPECT_EQ(form.noteslimit->text(), "4 of 256 characters, not entered yet");
+        }
     std::filesystem::rename(folder / "away", session.folders.depthsfolder());
-    scripted.messages.expectask(question, false, "Tarvane");
+    scripted.messages.expectaskorcancel(question, Answer::no, "Tarvane");
     QTest::mouseClick(form.cdclose, Qt::LeftButton);
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(readwhole(session.settings.depfile), before) << "Exit doesn't write";

@@ -1,13 +1,11 @@
 #include "shell/frmconditions.h"
 
 #include <QAction>
-#include <QLineEdit>
 #include <QListWidget>
 #include <fstream>
 
 #include "fakes/services.h"
 #include "shell/conditions.h"
-#include "shell/form1.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {
@@ -52,19 +50,14 @@ TEST(frmConditions, TheConditionsAreReadWholeAndDefaultsRestored) {
     }
     form.mnuRestoreDefaults->trigger();
     EXPECT_FALSE(std::filesystem::exists(folders.cfgpath()));
-}
+    EXPECT_FALSE(form.mnuHTMLHelp->isEnabled());
 
-TEST(Form1, TurnsTheOrdersIntoWords) {
-    ScriptedLocale locale;
-    locale.infotexts = {{1, "0809"}, {33, "1"}, {34, "2"}, {4107, std::nullopt}};
-    const Form1 form(locale);
-    const auto text = [&](const char* name) { return control<QLineEdit>(form, name).text(); };
-    EXPECT_EQ(text("Text3"), "2   Year - Month - Day");
-    EXPECT_EQ(text("Text4"), "1   Day - Month - Year");
-    EXPECT_EQ(text("Text10"), "");
-    locale.infotexts[33] = "0";
-    form.Command1->click();
-    EXPECT_EQ(text("Text4"), "0   Month - Day - Year");
+    frmConditions helpful(scripted.services(), folders);
+    int helped = 0;
+    helpful.onhelp = [&] { ++helped; };
+    present(helpful);
+    helpful.mnuHTMLHelp->trigger();
+    EXPECT_EQ(helped, 1);
 }
 
 }  // namespace

@@ -39,35 +39,80 @@ TEST_F(FrmConfig, ASailorTypesPartOfANameSearchesOnStepsBackAndPressesEnter) {
     expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "portconfigok");
     EXPECT_EQ(form.portlist2->count(), ports - 1);
-    EXPECT_EQ(form.portconfigbox->text(), "St Mary's");
+    EXPECT_EQ(taborder(form), (std::vector<std::string>{"txtSearch", "cmdSearch", "portlist2", "optSortbyName",
+                                                        "cmdSort", "portconfigok", "portconfigcancel"}));
     ASSERT_EQ(QApplication::focusWidget(), form.txtSearch);
 
     QTest::keyClicks(form.txtSearch, "saint");
-    form.cmdSearch->click();
+    QTest::mouseClick(form.cmdSearch, Qt::LeftButton);
     EXPECT_EQ(form.portconfigbox->text(), "Saint-Quay-Portrieux");
-    QTest::keyClick(form.txtSearch, Qt::Key_Up);
+    QTest::keyClick(form.focusWidget(), Qt::Key_Up);
     EXPECT_EQ(form.portconfigbox->text(), "Saint-Malo");
-    QTest::keyClick(form.txtSearch, Qt::Key_Return);
+    QTest::keyClick(form.focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(stored().portnumber, 80);
     EXPECT_EQ(session.view.portbox, "Port    : Saint-Malo");
 }
 
-TEST_F(FrmConfig, NeitherFocusNorATextThatNoPortHasTakesAPort) {
+TEST_F(FrmConfig, TheCurrentPortIsHighlightedInViewAndEnterKeepsIt) {
+    // Of two ports with one name a click takes the later; the current one stays what it is.
+    session.settings.currentport = 20;
+    HarmonicRecord twin = readport(area(), 20);
+    writeport(area(), static_cast<std::int16_t>(ports), twin);
+    writeport(area(), static_cast<std::int16_t>(ports + 1), readport(area(), 1));
     frmconfig form(context);
     present(form);
+    EXPECT_EQ(highlighted(form).toStdString(), trimmedname(twin));
+    EXPECT_TRUE(
+        form.portlist2->viewport()->rect().contains(form.portlist2->visualItemRect(form.portlist2->currentItem())));
+    QTest::keyClick(form.txtSearch, Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(stored().portnumber, 20);
+}
+
+TEST_F(FrmConfig, NeitherFocusNorATextThatNoPortHasTakesAPort) {
+    session.settings.areafile = session.folders.programfolder + "/Other.hc";
+    writeport(session.settings.areafile, 1, fixtureport("Dunlin & <b>Point</b>", 7));
+    writeport(session.settings.areafile, 2, fixtureport("Newhaven", 7));
+    writeport(session.settings.areafile, 3, fixtureport("Zennor", 7));
+    frmconfig form(context);
+    present(form);
+    EXPECT_EQ(form.portconfigbox->text(), "Dunlin & <b>Point</b>") << "what has the current port's number here";
+    EXPECT_EQ(form.portconfigbox->textFormat(), Qt::PlainText);
     form.portlist2->setFocus();
     scripted.messages.expectshow("Select a port", "Tarvane");
     QTest::keyClick(form.portlist2, Qt::Key_Return);
-    EXPECT_TRUE(form.isVisible());
-    QTest::keyClicks(form.txtSearch, "po");
+    EXPECT_TRUE(form.isVisible()) << "in another area no port is the current one";
+    QTest::keyClicks(form.txtSearch, "ne");
     QTest::keyClicks(form.txtSearch, "x");
     EXPECT_NE(highlighted(form), "") << "a text without a hit leaves the selection";
+    EXPECT_EQ(form.txtSearch->palette().color(QPalette::Text), QColor(Qt::red));
     QTest::keyClick(form.txtSearch, Qt::Key_Return);
     EXPECT_EQ(scripted.messages.beeps, 1);
     EXPECT_EQ(stored().portnumber, 1);
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(FrmConfig, LettersPressedFastStepThroughTheirGroup) {
+    frmconfig form(context);
+    present(form);
+    form.portlist2->setFocus();
+    std::vector<std::string> reached;
+    for (int press = 0; press < 4; ++press) {
+        QTest::keyClick(form.portlist2, Qt::Key_P);
+        reached.push_back(form.portconfigbox->text().toStdString());
+    }
+    std::vector<std::string> group;
+    for (int row = 0; row < form.portlist2->count(); ++row)
+        if (const QString name = form.portlist2->item(row)->text(); name.startsWith('P'))
+            group.push_back(name.toStdString());
+    ASSERT_GT(group.size(), 4U);
+    group.resize(4);
+    EXPECT_EQ(reached, group);
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(form.portlist2, "dov");
+    EXPECT_EQ(form.portconfigbox->text(), "Dover");
 }
 
 TEST_F(FrmConfig, TheFilesLastPortIsFoundInTheOrderOfTheFile) {
@@ -91,14 +136,6 @@ TEST_F(FrmConfig, TheFilesLastPortIsFoundInTheOrderOfTheFile) {
     frmconfig again(context);
     EXPECT_TRUE(again.optSortGeog->isChecked());
     EXPECT_EQ(again.portconfigbox->text(), "Brest");
-}
-
-TEST_F(FrmConfig, ANewAreaShowsItsPortOfTheSameNumberAsItStands) {
-    session.settings.areafile = session.folders.programfolder + "/Two.hc";
-    writeport(session.settings.areafile, 1, fixtureport("Dunlin & <b>Point</b>", 7));
-    frmconfig form(context);
-    EXPECT_EQ(form.portconfigbox->text(), "Dunlin & <b>Point</b>");
-    EXPECT_EQ(form.portconfigbox->textFormat(), Qt::PlainText);
 }
 
 }  // namespace

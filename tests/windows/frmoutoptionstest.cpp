@@ -9,7 +9,13 @@ namespace {
 
 class FrmoutoptionsTest : public testing::Test, protected MainFixture {
   protected:
-    FrmoutoptionsTest() { load(); }
+    FrmoutoptionsTest() {
+        ConfigRecord record = stored();
+        record.draught = 1.25F;
+        record.ukc = 0.75F;
+        SaveConfig(session.folders, record);
+        load();
+    }
     std::vector<std::byte> filebytes() const { return readwhole(session.folders.cfgpath()); }
 };
 
@@ -18,15 +24,21 @@ TEST_F(FrmoutoptionsTest, SettingsAreChosenAndStored) {
     frmoutoptions form(context);
     present(form);
     expectroomfortexts(form);
+    EXPECT_TRUE(form.Option3->isChecked() && form.optNonDaylightsavings->isChecked());
+    EXPECT_EQ(form.draughttext->text() + " " + form.ukctext->text(), "1.25 0.75");
     form.Option2->click();
     form.optDaylightSavings->click();
     QTest::mouseDClick(form.draughttext, Qt::LeftButton, {}, {4, form.draughttext->height() / 2});
-    QTest::keyClicks(form.draughttext, "1.9");
+    QTest::keyClicks(form.draughttext, "1,9");
+    form.ukctext->selectAll();
+    QTest::keyClicks(form.ukctext, "abc");
     EXPECT_EQ(filebytes(), before);
     QTest::keyClick(form.draughttext, Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(stored().outputoption, 2);
     EXPECT_EQ(stored().draught, 1.9F) << "a double click took the whole number";
+    EXPECT_EQ(stored().ukc, 0);
+    EXPECT_EQ(scripted.messages.beeps, 0);
     EXPECT_EQ(stored().summertimeflag, -1);
 }
 
@@ -41,7 +53,7 @@ TEST_F(FrmoutoptionsTest, CancelStoresNothingButTheOptionPickedHolds) {
         escape ? QTest::keyClick(&form, Qt::Key_Escape) : form.Command1->click();
         EXPECT_FALSE(form.isVisible());
         EXPECT_EQ(session.settings.currentoutput, 2);
-        EXPECT_EQ(session.settings.currentdraught, 0.5F);
+        EXPECT_EQ(session.settings.currentdraught, 1.25F);
         EXPECT_EQ(filebytes(), before);
     }
 }

@@ -12,6 +12,10 @@ class FrmshowconfTest : public testing::Test, protected MainFixture {
     FrmshowconfTest() {
         for (std::int16_t number = 5; number <= 60; ++number)
             writeport(area(), number, fixtureport(std::string(35, 'W'), 7));
+        ConfigRecord config = stored();
+        config.draught = 1.25F;
+        config.ukc = 0.75F;
+        SaveConfig(session.folders, config);
         load();
         UserDepthRecord record = readdepth(session.settings.depfile, 2);
         record.UserDepth = 2.5F;
@@ -26,7 +30,8 @@ TEST_F(FrmshowconfTest, ThePortsAreLookedThroughAndNothingChanges) {
     present(form);
     const auto value = [&](const char* name) { return shown(control<QLabel>(form, name)); };
     expectroomfortexts(form);
-    EXPECT_EQ(value("confoutputoption"), " Charted depth, draught and prog.ukc");
+    EXPECT_EQ(value("sealabel") + value("confoutputoption"), "UK Charted depth, draught and prog.ukc");
+    EXPECT_EQ(value("confdraughtbox") + " " + value("confukcbox"), "1.25 0.75");
     auto& list = control<QListWidget>(form, "confportlist");
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(1)).center());
     EXPECT_EQ(value("depth"), "2.5");

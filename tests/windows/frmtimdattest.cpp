@@ -1,5 +1,9 @@
 #include "mainview/frmtimdat.h"
 
+#include <QCalendarWidget>
+#include <QMenu>
+#include <QTimer>
+
 #include "fakes/mainfixture.h"
 #include "windows/controls.h"
 
@@ -19,28 +23,57 @@ class FrmtimdatTest : public testing::Test, protected MainFixture {
 };
 
 TEST_F(FrmtimdatTest, ADateIsTypedAndEnteredAtOnce) {
-    Frmtimdat form(context);
-    present(form);
-    EXPECT_EQ(infocus(form), "DTPicker");
-    QTest::keyClicks(form.DTPicker, "25122026");
-    EXPECT_EQ(shown(*form.txtDayName), "(Friday)");
-    QTest::keyClick(form.DTPicker, Qt::Key_Return);
-    EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(session.view.tidedatebox, "Date   : 25 December 2026 (Friday)");
+    for (const auto& [form_, typed] : {std::pair{"DD/MM/YYYY", "05/02/2027"}, {"MM-DD-YYYY", "2/5/2027"}}) {
+        session.conventions.dateformat = form_;
+        Frmtimdat form(context);
+        present(form);
+        EXPECT_EQ(infocus(form) + defaultbutton(form), "DTPickercmdOK");
+        QTest::keyClicks(form.DTPicker, typed);
+        EXPECT_EQ(shown(*form.txtDayName), "(Friday)");
+        QTest::keyClick(form.DTPicker, Qt::Key_Return);
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_EQ(session.view.tidedatebox, "Date   : 05 February 2027 (Friday)");
+    }
 }
 
-TEST_F(FrmtimdatTest, ThePickerHoldsEveryYearOfFourDigitsInTheSystemsOrder) {
-    for (const auto& [pattern, text] : {std::pair{"MM-DD-YYYY", "12-31-9999"}, std::pair{"", "31/12/9999"}}) {
-        session.conventions.dateformat = pattern;
-        Frmtimdat form(context);
-        auto& picker = *form.DTPicker;
-        picker.setDate({100, 1, 1});
-        EXPECT_EQ(picker.date(), QDate(100, 1, 1));
-        picker.setDate({9999, 12, 31});
-        EXPECT_EQ(picker.text(), text);
-        form.cmdReset->click();
-        EXPECT_EQ(picker.date(), QDate(2024, 4, 9));
-    }
+TEST_F(FrmtimdatTest, AnUnreadableDateShowsWhyAndIsNotEntered) {
+    Frmtimdat form(context);
+    present(form);
+    QTest::keyClicks(form.DTPicker, "31022027");
+    EXPECT_EQ(shown(*form.refusal), "February 2027 has no day 31.");
+    EXPECT_EQ(shown(*form.txtDayName), "");
+    QTest::keyClick(form.DTPicker, Qt::Key_Up);
+    QTest::keyClick(form.DTPicker, Qt::Key_Return);
+    EXPECT_EQ(scripted.messages.beeps, 2);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(form.DTPicker->selectedText(), "31022027");
+    QTest::keyClicks(form.DTPicker, "1 march 25");
+    form.daylist->setFocus();
+    EXPECT_EQ(form.DTPicker->text(), "01/03/2025") << "left, it shows what was read";
+    EXPECT_EQ(shown(*form.refusal), "");
+    form.DTPicker->setFocus();
+    EXPECT_EQ(defaultbutton(form), "cmdOK");
+    QTest::keyClick(form.DTPicker, Qt::Key_Down);
+    EXPECT_EQ(form.DTPicker->text() + form.txtDayName->text(), "28/02/2025(Friday)");
+    form.cmdReset->click();
+    EXPECT_EQ(form.DTPicker->text() + form.txtDayName->text(), "09/04/2024(Tuesday)");
+}
+
+TEST_F(FrmtimdatTest, ADateIsClickedInTheCalendar) {
+    Frmtimdat form(context);
+    present(form);
+    auto& calendar = *form.DTPicker->arrow->menu()->findChild<QCalendarWidget*>();
+    EXPECT_EQ(calendar.selectedDate(), QDate(2024, 4, 9));
+    QTest::keyClicks(form.DTPicker, "24122024");
+    QTimer::singleShot(0, &form, [&] {
+        EXPECT_TRUE(calendar.isVisible());
+        EXPECT_EQ(calendar.selectedDate(), QDate(2024, 12, 24));
+        QWidget* keyboard = form.DTPicker->arrow->menu()->focusWidget();
+        QTest::keyClick(keyboard, Qt::Key_Right);
+        QTest::keyClick(keyboard, Qt::Key_Return);
+    });
+    QTest::keyClick(form.DTPicker, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(form.DTPicker->text() + form.txtDayName->text(), "25/12/2024(Wednesday)");
 }
 
 TEST_F(FrmtimdatTest, ADateIsPickedFromTheListsADayPastTheMonthsEndBecomingItsLast) {
@@ -75,7 +108,7 @@ TEST_F(FrmtimdatTest, EveryWayOutButTheTwoOKsChangesNothing) {
     for (const char* way : {"datecancel", "Command1", "Escape"}) {
         Frmtimdat form(context);
         present(form);
-        form.DTPicker->setDate({2001, 1, 1});
+        QTest::keyClicks(form.DTPicker, "01012001");
         clickrow(*form.monthlist, "August");
         auto* button = form.findChild<QPushButton*>(way);
         button ? button->click() : QTest::keyClick(&form, Qt::Key_Escape);
@@ -88,7 +121,8 @@ TEST_F(FrmtimdatTest, TabPassesOverTheYearsWithoutChoosingOne) {
     scripted.locale.order = "YMD";
     Frmtimdat form(context);
     present(form);
-    taborder(form);
+    EXPECT_EQ(taborder(form), (std::vector<std::string>{"DTPicker", "cmdOK", "cmdReset", "datecancel", "daylist",
+                                                        "monthlist", "yearlist", "date1ok", "Command1"}));
     auto& years = *form.yearlist;
     EXPECT_TRUE(years.selectedItems().isEmpty());
     EXPECT_EQ(shown(*form.selectedyear), "2024");

@@ -58,7 +58,7 @@ Frmriseresults::Frmriseresults(MainContext& maincontext, QWidget* parent)
     for (QWidget* control : std::initializer_list<QWidget*>{VScroll1, cmdsunprint, Command1, cancel})
         control->installEventFilter(this);
     VScroll1_Change();
-    settle({VScroll1, cmdsunprint, Command1, cancel}, cancel, VScroll1);
+    settle(cancel, VScroll1);
 }
 
 void Frmriseresults::buildlayout() {

@@ -22,7 +22,7 @@ Frmsunrise::Frmsunrise(MainContext& maincontext, QWidget* parent)
         box->onkey = [this] { port->setText(userentry); };
     connect(ok, &QPushButton::clicked, this, &Frmsunrise::ok_Click);
     connect(cancel, &QPushButton::clicked, this, &Frmsunrise::reject);
-    settle({latitude, longitude, ok, cancel}, ok, latitude);
+    settle(ok, latitude);
 }
 
 void Frmsunrise::buildlayout() {

@@ -77,8 +77,7 @@ Frmtimdat::Frmtimdat(MainContext& maincontext, QWidget* parent)
     setcolumns();
     showpicker();
     connectcontrols();
-    settle({DTPicker, cmdOK, cmdReset, datecancel, daylist, monthlist, yearlist, date1ok, Command1}, cmdOK, DTPicker);
-    DTPicker->selectAll();
+    settle(cmdOK, DTPicker);
 }
 
 void Frmtimdat::buildlayout() {

@@ -27,8 +27,7 @@ frmChartdepth::frmChartdepth(MainContext& maincontext, QWidget* parent)
     List1->setCurrentRow(context.session.settings.currentport - 1);
     shownotes();
     connectcontrols();
-    settle({List1, depth, usernotes, cdok, cdclose}, cdok, depth);
-    depth->selectAll();
+    settle(cdok, depth);
 }
 
 void frmChartdepth::buildlayout() {

@@ -56,8 +56,7 @@ frmconfig::frmconfig(MainContext& maincontext, QWidget* parent)
     buildlayout();
     connectcontrols();
     openlist();
-    settle({txtSearch, cmdSearch, portlist2, optSortbyName, optSortGeog, cmdSort, portconfigok, portconfigcancel},
-           portconfigok, txtSearch);
+    settle(portconfigok, txtSearch);
 }
 
 void frmconfig::buildlayout() {

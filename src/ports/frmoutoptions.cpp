@@ -24,9 +24,7 @@ frmoutoptions::frmoutoptions(MainContext& maincontext, QWidget* parent)
     buildlayout();
     showoptions();
     connectcontrols();
-    settle({Option1, Option2, Option3, optNonDaylightsavings, optDaylightSavings, draughttext, ukctext, Check1,
-            optionsok, Command1},
-           optionsok, displayoption());
+    settle(optionsok, displayoption());
 }
 
 void frmoutoptions::buildlayout() {

@@ -29,7 +29,7 @@ frmshowconf::frmshowconf(MainContext& maincontext, QWidget* parent)
     showconfiguration();
     connect(confportlist, &QListWidget::itemSelectionChanged, this, &frmshowconf::confportlist_Click);
     connect(Confexit, &QPushButton::clicked, this, &frmshowconf::accept);
-    settle({confportlist, notes, Confexit}, Confexit, confportlist);
+    settle(Confexit, confportlist);
 }
 
 void frmshowconf::buildlayout() {

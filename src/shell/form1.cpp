@@ -12,7 +12,7 @@ Form1::Form1(const Locale& system, QWidget* parent) : ModalDialog("Form1", "Form
     buildlayout();
     connect(Command1, &QPushButton::clicked, this, &Form1::Command1_Click);
     Command1_Click();
-    settle({texts.back(), Command1}, Command1, Command1);
+    settle(Command1, Command1);
 }
 
 void Form1::buildlayout() {

@@ -78,8 +78,6 @@ void frmConditions::buildlayout() {
     ConditionsOK = named<QPushButton>("ConditionsOK", "&Accept", this);
     ConditionsOK->setDefault(true);
     cmdDecline = named<QPushButton>("cmdDecline", "&Decline", this);
-    setTabOrder(List1, ConditionsOK);
-    setTabOrder(ConditionsOK, cmdDecline);
 }
 
 void frmConditions::showEvent(QShowEvent* event) {

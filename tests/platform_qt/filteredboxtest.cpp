@@ -91,12 +91,14 @@ TEST(FilteredBox, ADroppedTextPassesTheRuleWhereItFalls) {
     ScriptedMessages messages;
     OpenBox box(digitsandnorth, messages);
     box.setText("12");
-    for (const auto& [text, expected] : {std::pair{"xy", "12"}, {"3n x", "123N"}}) {
+    box.selectAll();
+    for (const auto& [text, expected, selected] : {std::tuple{"xy", "12", "12"}, {"3n x", "123N", ""}}) {
         QMimeData data;
         data.setText(text);
         QDropEvent event({1000, 2}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         box.dropEvent(&event);
         EXPECT_EQ(box.text(), expected);
+        EXPECT_EQ(box.selectedText(), selected);
     }
     EXPECT_EQ(messages.beeps, 2);
 }

@@ -80,7 +80,13 @@ TEST_F(PortSelection, AnAreaIsStoredOnlyByOkAndNoneIsTakenThatIsCancelledOrMissi
     EXPECT_EQ(settings.areafile, second) << "the area listed isn't restored";
     EXPECT_EQ(readwhole(session.folders.cfgpath()), before);
 
+    picture.point(1, 1, black);
+    scripted.clock.set(2024, 4, 9, 16, 45, 0);
     EXPECT_TRUE(portconfigok(context, picked("Eider Bay"), 0, true));
+    EXPECT_EQ(session.view.portbox, "Port    : Eider Bay");
+    EXPECT_EQ(session.port.zonehours, -7);
+    EXPECT_EQ(session.timenow, 16.75);
+    EXPECT_TRUE(picture.passinglayer.empty());
     EXPECT_EQ(stored().hcfilepath, second);
     EXPECT_EQ(session.view.portbox, "Port    : Eider Bay");
     EXPECT_EQ(session.port.zonehours, -7) << "name and zone of the new area's port";

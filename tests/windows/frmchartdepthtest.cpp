@@ -35,6 +35,7 @@ TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
     expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "cdok");
     click(form, 2);
+    EXPECT_EQ(form.portnolabel->text() + form.portlabel->text(), "3Cedar Head");
     form.depth->selectAll();
     QTest::keyClicks(form.depth, "2.5");
     settext(form.usernotes, "Bar dries\nat springs");
@@ -65,9 +66,12 @@ TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
 TEST_F(FrmChartdepth, TheDepthOpensSelectedAndADroppedKeyLeavesItSo) {
     UserDepthRecord before = record(1);
     before.UserDepth = 3.5F;
+    before.Notes = "Dries\u00A04 m";
     writedepth(session.settings.depfile, 1, before);
     frmChartdepth form(context);
     present(form);
+    EXPECT_EQ(form.List1->currentRow(), 0);
+    EXPECT_EQ(form.noteslimit->text(), "9 of 256 characters");
     QTest::keyClicks(form.depth, "x");
     EXPECT_EQ(form.depth->selectedText(), "3.5");
     EXPECT_EQ(scripted.messages.beeps, 1);

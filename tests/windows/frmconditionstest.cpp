@@ -1,13 +1,11 @@
 #include "shell/frmconditions.h"
 
 #include <QAction>
-#include <QLineEdit>
 #include <QListWidget>
 #include <fstream>
 
 #include "fakes/services.h"
 #include "shell/conditions.h"
-#include "shell/form1.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {
@@ -60,15 +58,6 @@ TEST(frmConditions, TheConditionsAreReadWholeAndDefaultsRestored) {
     present(helpful);
     helpful.mnuHTMLHelp->trigger();
     EXPECT_EQ(helped, 1);
-}
-
-TEST(Form1, GetInfoAsksTheSystemAgain) {
-    ScriptedLocale locale;
-    const Form1 form(locale);
-    EXPECT_EQ(control<QLineEdit>(form, "Text2").text(), "English");
-    locale.infotexts[4097] = "Basque";
-    form.Command1->click();
-    EXPECT_EQ(control<QLineEdit>(form, "Text2").text(), "Basque");
 }
 
 }  // namespace

@@ -64,20 +64,6 @@ TEST_F(FrmriseresultsTest, ArrowsAndNotchesOfTheWheelStepADay) {
     EXPECT_EQ(shown(*form.risedate), " 1Apr  2024");
 }
 
-TEST_F(FrmriseresultsTest, APolarDayHasNoLengths) {
-    setdateonshow(session.onshow, makedate(2024, 6, 21));
-    ASSERT_EQ(calculatesun(context, {"User entry", "70.00N", "20.00E"}), SunOutcome::calculated);
-    session.settings.summerflag2 = 0;
-    Frmriseresults form(context);
-    present(form);
-    EXPECT_EQ(shown(*form.risedate), " 21Jun  2024");
-    EXPECT_EQ(shown(*form.risetime), "None");
-    for (const QLabel* label : {form.Label1, form.daylighthours, form.Label4, form.twilighthours})
-        EXPECT_EQ(shown(*label), "");
-    form.VScroll1->setValue(0);
-    expectroomfortexts(form);
-}
-
 TEST_F(FrmriseresultsTest, SavesPrintsAndLeaves) {
     Frmriseresults form(context);
     present(form);

@@ -51,14 +51,5 @@ TEST_F(FrmsunriseTest, ARefusedBoxIsShownForMending) {
     EXPECT_EQ(scripted.messages.beeps, 2);
 }
 
-TEST_F(FrmsunriseTest, EscapeLeavesTheTableAsItIs) {
-    session.suntable.suntext[1][1] = "kept";
-    Frmsunrise form(context);
-    present(form);
-    QTest::keyClick(form.longitude, Qt::Key_Escape);
-    EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(session.suntable.suntext[1][1], "kept");
-}
-
 }  // namespace
 }  // namespace tarvane::tests

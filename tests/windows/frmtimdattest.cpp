@@ -52,6 +52,7 @@ TEST_F(FrmtimdatTest, AnUnreadableDateShowsWhyAndIsNotEntered) {
     EXPECT_EQ(form.DTPicker->text(), "01/03/2025") << "left, it shows what was read";
     EXPECT_EQ(shown(*form.refusal), "");
     form.DTPicker->setFocus();
+    EXPECT_EQ(defaultbutton(form), "cmdOK");
     QTest::keyClick(form.DTPicker, Qt::Key_Down);
     EXPECT_EQ(form.DTPicker->text() + form.txtDayName->text(), "28/02/2025(Friday)");
     form.cmdReset->click();
@@ -120,7 +121,8 @@ TEST_F(FrmtimdatTest, TabPassesOverTheYearsWithoutChoosingOne) {
     scripted.locale.order = "YMD";
     Frmtimdat form(context);
     present(form);
-    taborder(form);
+    EXPECT_EQ(taborder(form), (std::vector<std::string>{"DTPicker", "cmdOK", "cmdReset", "datecancel", "daylist",
+                                                        "monthlist", "yearlist", "date1ok", "Command1"}));
     auto& years = *form.yearlist;
     EXPECT_TRUE(years.selectedItems().isEmpty());
     EXPECT_EQ(shown(*form.selectedyear), "2024");

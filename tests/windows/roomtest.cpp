@@ -1,6 +1,7 @@
 // Every window on screens of several sizes: nothing of it out of reach.
-#include <QMenuBar>
+#include <QScreen>
 #include <QScrollArea>
+#include <QVBoxLayout>
 #include <functional>
 #include <memory>
 
@@ -20,6 +21,15 @@
 
 namespace tarvane::tests {
 namespace {
+
+struct Large : ModalDialog {
+    Large() : ModalDialog("Large", "Large", nullptr) {
+        (new QVBoxLayout(this))->addWidget(&button);
+        button.setMinimumSize(3000, 3000);
+        settle(&button, &button);
+    }
+    QPushButton button;
+};
 
 class Room : public testing::Test, protected MainFixture {
   protected:
@@ -73,15 +83,28 @@ TEST_F(Room, EveryWindowFitsWhereItIsSmallAndStaysWholeWhereItIsNot) {
             if (before == before.boundedTo(room)) {
                 EXPECT_EQ(form->size(), before) << name;
             }
+            ASSERT_TRUE(form->focusWidget()) << name;
+            EXPECT_FALSE(form->focusWidget()->visibleRegion().isEmpty()) << name;
             expectroomfortexts(*form);
             expectreachable(*form);
             if (room.width() > 400) {
                 EXPECT_TRUE(form->findChildren<QScrollArea*>().isEmpty()) << name << ": it had only to move together";
             }
-            if (QWidget* focus = form->focusWidget()) {
-                EXPECT_FALSE(focus->visibleRegion().isEmpty()) << name;
-            }
         }
+}
+
+TEST_F(Room, ADialogStandsInTheMiddleOfItsWindowAndOnTheScreen) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QWidget over;
+    over.setGeometry(60, 40, 500, 460);
+    frmoutoptions inside(context, &over);
+    EXPECT_NEAR(inside.pos().x() + inside.width() / 2, 310, 8);
+    EXPECT_NEAR(inside.pos().y() + inside.height() / 2, 270, 24);
+    over.move(screen.right() - 100, -300);
+    frmoutoptions moved(context, &over);
+    EXPECT_TRUE(screen.contains(QRect(moved.pos(), moved.size())));
+    const Large large;
+    EXPECT_EQ(large.size().boundedTo(screen.size()), large.size());
 }
 
 TEST_F(Room, AMainWindowTooLargeForItsScreenScrolls) {

@@ -78,15 +78,10 @@ void FilteredBox::dropEvent(QDropEvent* event) {
     if (event->source() == this) return QLineEdit::dropEvent(event);
     QMimeData kept;
     kept.setText(filtered(event->mimeData()->text()));
-    if (kept.text().isEmpty()) {
-        QDragLeaveEvent leave;
-        dragLeaveEvent(&leave);
-    } else {
-        QDropEvent drop(event->position(), event->possibleActions(), &kept, event->buttons(), event->modifiers());
-        QLineEdit::dropEvent(&drop);
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-    }
+    QDropEvent drop(event->position(), event->possibleActions(), &kept, event->buttons(), event->modifiers());
+    QLineEdit::dropEvent(&drop);
+    event->setDropAction(Qt::CopyAction);
+    event->setAccepted(drop.isAccepted());
     pressed();
 }
 

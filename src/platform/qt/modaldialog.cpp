@@ -101,6 +101,7 @@ void fitlayout(QWidget& window, QSize room) {
     freesize(window);
     if (!fits(leastsize(window), room)) tighten(window);
     if (const QSize needed = leastsize(window); !fits(needed, room)) {
+        QWidget* const focus = window.focusWidget();
         auto* const contents = new QWidget;
         contents->setLayout(&layout);  // takes the controls along
         QScrollArea* const area = scrolling(contents);
@@ -109,6 +110,7 @@ void fitlayout(QWidget& window, QSize room) {
         whole->addWidget(area);
         wanted = withscrollbars(*area, needed.expandedTo(wanted.boundedTo(room)), room);
         freesize(window);
+        if (focus) focus->setFocus();
     }
     window.resize(wanted.boundedTo(room));
 }
@@ -116,7 +118,7 @@ void fitlayout(QWidget& window, QSize room) {
 void fitmainwindow(QMainWindow& window, QSize room) {
     const QSize smallest = window.minimumSize();
     if (!fits(smallest, room)) {
-        window.setMinimumSize(0, 0);
+        window.setMinimumSize(smallest.boundedTo(room));
         QWidget* const surface = window.takeCentralWidget();
         surface->setMinimumSize(smallest - QSize(0, window.menuBar()->sizeHint().height()));
         QScrollArea* const area = scrolling(surface);
@@ -133,15 +135,12 @@ ModalDialog::ModalDialog(const char* name, const char* title, QWidget* parent) :
     setWindowTitle(QString::fromUtf8(title));
 }
 
-void ModalDialog::settle(std::initializer_list<QWidget*> taborder, QPushButton* enter, QWidget* focus) {
-    resize(sizeHint());
-    QWidget* const over = parentWidget() ? parentWidget()->window() : nullptr;
-    fitscreen(*this);
-    for (const auto* control = taborder.begin(); control + 1 < taborder.end(); ++control)
-        setTabOrder(control[0], control[1]);
+void ModalDialog::settle(QPushButton* enter, QWidget* focus) {
     enter->setDefault(true);
     focus->setFocus();
-    centreon(*this, over);
+    resize(sizeHint());
+    fitscreen(*this);
+    centreon(*this, parentWidget() ? parentWidget()->window() : nullptr);
 }
 
 void ModalDialog::showEvent(QShowEvent* event) {

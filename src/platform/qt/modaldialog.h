@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QDialog>
-#include <initializer_list>
 
 #include "platform/windows.h"
 
@@ -20,9 +19,9 @@ class ModalDialog : public QDialog, public ModalWindow {
   protected:
     ModalDialog(const char* name, const char* title, QWidget* parent);
 
-    /// What a window's constructor ends with, its controls being laid out and filled: the order of Tab, the button that
-    /// Enter presses and the control in focus; then its size and its place over its parent.
-    void settle(std::initializer_list<QWidget*> taborder, QPushButton* enter, QWidget* focus);
+    /// What a window's constructor ends with, its controls being laid out and filled: the button that Enter presses and
+    /// the control in focus; then its size and its place over its parent. Tab goes in the order of the layouts.
+    void settle(QPushButton* enter, QWidget* focus);
 
     /// The control in focus and every list's current entry come up in view.
     void showEvent(QShowEvent* event) override;

@@ -10,6 +10,18 @@
 #include "text/singlebyte.h"
 
 namespace tarvane {
+namespace {
+
+/// The month as CSV; the dates of the table turn into day/month/year.
+std::string suncsvtext(Session& session) {
+    const HarmonicRecord port = readport(session.settings.hcfile, session.settings.currentport);
+    // kept: the port's own position stands over the times, also over those of a typed one
+    const SunHeading heading{trim(port.PortName), port.PortLat, port.PortLong, session.settings.currentsummer};
+    return suntimestext(session.suntable, heading, static_cast<int>(session.onshow.tideyear),
+                        static_cast<int>(session.onshow.tidemonth), ",");
+}
+
+}  // namespace
 
 void printsun(MainContext& context) {
     const Session& session = context.session;
@@ -57,14 +69,6 @@ std::string csvpath(const std::string& chosen) {
     const std::size_t folderend = chosen.find_last_of('/');
     const std::size_t point = chosen.find('.', folderend == std::string::npos ? 0 : folderend);
     return chosen.substr(0, point) + ".csv";
-}
-
-std::string suncsvtext(Session& session) {
-    const HarmonicRecord port = readport(session.settings.hcfile, session.settings.currentport);
-    // kept: the port's own position stands over the times, also over those of a typed one
-    const SunHeading heading{trim(port.PortName), port.PortLat, port.PortLong, session.settings.currentsummer};
-    return suntimestext(session.suntable, heading, static_cast<int>(session.onshow.tideyear),
-                        static_cast<int>(session.onshow.tidemonth), ",");
 }
 
 }  // namespace tarvane

@@ -24,7 +24,4 @@ void savesuncsv(MainContext& context);
 /// The path chosen for the CSV with its extension put right: the file's name is cut at its first "." and ".csv" added.
 std::string csvpath(const std::string& chosen);
 
-/// The month as CSV, CR LF behind each line; `suntable` column 1 turns into day/month/year.
-std::string suncsvtext(Session& session);
-
 }  // namespace tarvane

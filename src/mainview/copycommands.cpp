@@ -30,7 +30,7 @@ void copydaystides(MainContext& context) {
     const Session& session = context.session;
     copytext(context,
              daystidestext(session.daytable, session.curve.springslag, session.settings.currentsummer, session.onshow));
-    answer(context, "Copied: the day's tides of " + trim(session.port.portname));
+    answer(context, "Copied: the day's tides of " + trimmedname(session.prediction.port.record));
 }
 
 void copymonthstides(MainContext& context) {

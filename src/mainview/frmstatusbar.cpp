@@ -59,12 +59,15 @@ void StatusBar::fill() {
         QString text = answer;
         if (notes.isEmpty()) return text;
         if (!text.isEmpty()) text += ". ";
+        if (count == 0) return text + QString("NOTE: %1 differences").arg(notes.size());
         text += "NOTE: " + notes.first(count).join("; ");
         if (count < notes.size()) text += QString("; and %1 more").arg(notes.size() - count);
         return text;
     };
     qsizetype count = notes.size();
-    while (count > 1 && bold.horizontalAdvance(joined(count)) > room)
+    // What was saved or printed where is told before the notes, which can be reduced to their number.
+    const qsizetype least = answer.isEmpty() ? 1 : 0;
+    while (count > least && bold.horizontalAdvance(joined(count)) > room)
         --count;
     statusnotes->setText(bold.elidedText(joined(count), Qt::ElideMiddle, room));
     statusnotes->setToolTip(joined(notes.size()));

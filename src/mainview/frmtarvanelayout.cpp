@@ -141,8 +141,8 @@ void frmtarvane::layoutrightcolumn(int left, int width) {
     const int picturebottom = Picture1->y() + Picture1->height();
     const int tableheight = withlayers ? tablelines() * fontMetrics().height() + 12 : picturebottom - top;
     daystide1->setGeometry(left, top, width, tableheight);
-    const QRect closingline(surface->width() * 7920 / 9720, twips(5400) + (height() - twips(toldheight)), twips(1080),
-                            3);
+    const QRect closingline(surface->width() * 7920 / 9720, twips(5400) + std::max(0, height() - twips(toldheight)),
+                            twips(1080), 3);
     const QRect table(left, top + tableheight + 4, width, closingline.top() - top - tableheight - 4);
     if (withlayers) layers.place(table, closingline);
     const int listheight = picturebottom - top + Nextday->height() / 2;

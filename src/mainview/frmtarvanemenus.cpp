@@ -65,6 +65,7 @@ void frmtarvane::choose(const MenuEntry& entry) {
     if (!entry.command) return;
     Desk desk{context, [this](Dialog dialog) { opendialog(dialog); }, [this] { close(); }};
     session.view.answer.clear();
+    statusbar->show(session.view);
     if (entry.slow) QApplication::setOverrideCursor(Qt::WaitCursor);
     entry.command(desk);
     if (entry.slow) QApplication::restoreOverrideCursor();

@@ -21,6 +21,7 @@ bool constituentsmove(Session& session, DrawSurface& picture, std::size_t i, dou
     session.layervalues = layerreadout(prediction, i);
     session.layersday = prediction.day;
     session.layersport = prediction.port.number;
+    session.layersarea = session.settings.hcfile;
     session.view.hiteval = session.layervalues.sum;
     return true;
 }

@@ -124,6 +124,8 @@ bool enterusernotes(MainContext& context, UserNotes& notes, std::string_view dep
         tell(context, "There is no port " + notes.portnolabel + " in " + settings.hcfile);
         return false;
     }
+    // A file that has vanished while the window stood open comes back with a record for every port.
+    EnsureDepFile(context.session.folders, context.session.settings);
     UserDepthRecord record = readdepth(settings.depfile, recordnumber);
     record.UserDepth = typedmetres(depth);
     record.Notes = storedlines(usernotes);

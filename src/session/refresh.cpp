@@ -51,8 +51,13 @@ std::int16_t predictdayonshow(Session& session) {
 
 void refreshsun(Session& session, std::int16_t shift) {
     const DateOnShow& onshow = session.onshow;
-    session.sunof = {static_cast<int>(onshow.tideday), static_cast<int>(onshow.tidemonth),
-                     static_cast<int>(onshow.tideyear), session.port.portlat, session.port.portlong};
+    session.sunof = {static_cast<int>(onshow.tideday),
+                     static_cast<int>(onshow.tidemonth),
+                     static_cast<int>(onshow.tideyear),
+                     session.port.portlat,
+                     session.port.portlong,
+                     session.port.zonehours,
+                     shift};
     session.sun =
         SunTimes(session.port.portlat, session.port.portlong, static_cast<int>(onshow.tideday),
                  static_cast<int>(onshow.tidemonth), static_cast<int>(onshow.tideyear), shift, session.port.zonehours);

@@ -51,10 +51,11 @@ struct LayerReadout {
     std::string sum;
 };
 
-/// The day and the place that sun times are for; the day's numbers may be no date.
+/// The day, the place and the clock that sun times are for; the day's numbers may be no date.
 struct SunOf {
     int day = 0, month = 0, year = 0;
     float latitude = 0, longitude = 0;
+    std::int16_t zonehours = 0, summer = 0;
     bool operator==(const SunOf&) const = default;
 };
 
@@ -86,6 +87,7 @@ struct Session {
     LayerReadout layervalues;
     TideDay layersday;  ///< what `layervalues` were read off
     std::int16_t layersport = 0;
+    std::string layersarea;
 };
 
 /// The surfaces that the main window is drawn on. The window's own surface is scaled in twips; the picture's place on

@@ -72,17 +72,23 @@ void notemonth(const Session& session, const Locale& locale, Date date, std::vec
 void notelayers(const Session& session, std::vector<std::string>& notes) {
     const Prediction& prediction = session.prediction;
     const bool shown = session.layersmode == 1 && !session.layervalues.sum.empty();
-    if (shown && (session.layersday != prediction.day || session.layersport != prediction.port.number))
+    if (!shown) return;
+    if (session.layersday != prediction.day || session.layersport != prediction.port.number ||
+        session.layersarea != session.settings.hcfile)
         notes.emplace_back("the contributions are an earlier curve's");
+    if (prediction.port.currentoutput != 1 && prediction.port.userdepth != 0)
+        notes.emplace_back("Height and Sum leave your depth out");
 }
 
 void notesun(const Session& session, Date date, std::vector<std::string>& notes) {
     const SunOf& drawn = session.sundrawn;
     const HarmonicRecord& port = session.prediction.port.record;
-    if (drawn.latitude != port.PortLat || drawn.longitude != port.PortLong)
+    if (drawn.latitude != port.PortLat || drawn.longitude != port.PortLong || drawn.zonehours != zonehoursof(port))
         notes.emplace_back("the sun's lines are another port's");
     else if (drawn.day != dayof(date) || drawn.month != monthof(date) || drawn.year != yearof(date))
         notes.push_back("the sun's lines are of " + slashdate(drawn.day, drawn.month, drawn.year));
+    else if (drawn.summer != session.prediction.day.summer)
+        notes.emplace_back("the sun's lines are an hour off");
 }
 
 /// The month's list stands until it is asked for again, and one shift serves all its days.

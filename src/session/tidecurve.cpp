@@ -132,7 +132,7 @@ void drawtimemarker(Session& session, DrawSurface& picture) {
 }
 
 void drawmarkerline(const Session& session, DrawSurface& picture) {
-    drawmarker(picture, limitsof(session.curve), session.markertime, red);
+    if (session.prediction.defined) drawmarker(picture, limitsof(session.curve), session.markertime, red);
 }
 
 std::size_t sampleindex(double hours, int samplecount) {

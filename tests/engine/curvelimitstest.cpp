@@ -2,16 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <tuple>
 
 namespace tarvane {
 namespace {
 
+/// The rows that count run from 1 to 146; the last one holds the least height.
 std::array<TimedValue, 501> curvebetween(double least, double greatest) {
     std::array<TimedValue, 501> samples{};
-    samples[20].height = greatest;
-    samples[90].height = least;
+    samples.fill({0, least});
+    samples[1].height = greatest;
+    samples[147].height = 50;
     return samples;
 }
 
@@ -26,18 +29,22 @@ Settings option(float output, float draught = 0.5F, float ukc = 0.25F, float dep
 
 TEST(CurveLimits, TopAndBottomBands) {
     const double infinite = std::numeric_limits<double>::infinity();
-    using Row = std::tuple<double, double, double, double>;
-    for (const auto& [least, greatest, bottom, top] :
-         {Row{0, 4.0, 0, 5}, Row{0.5, 3.99, 0, 4}, Row{-0.3, 1, -1, 2}, Row{-1, 1, -1, 2},
-          Row{-1.000000005, 1, -1.000000005, 2}, Row{-0.00000005, 0, -0.00000005, 1}, Row{-1.5, 0, -2, 1},
-          Row{-2.5, 0, -3, 1}, Row{-4, 0, -4, 1}, Row{-4.5, 0, -4.5, 1}, Row{-3.0, -3, -3, 1},
-          Row{-infinite, infinite, 0, 1}}) {
-        auto samples = curvebetween(least, greatest);
-        samples[147].height = 50;  // neither the last sample nor the dotted curve counts
-        const CurveLimits limits = curvelimits(curveseries(samples, 147, option(3, 20, 20)), samples, 147);
-        EXPECT_EQ(limits.curvebottom, bottom) << least;
-        EXPECT_EQ(limits.curvetop, top) << greatest;
+    const auto limits = [](double least, double greatest) {
+        const auto samples = curvebetween(least, greatest);
+        return curvelimits(curveseries(samples, 147, option(3, 20, 20)), samples, 147);
+    };
+    for (const auto& [edge, bottom] : {std::pair{-0.0000001, -1}, std::pair{-1.00000001, -2}, std::pair{-2.0000001, -3},
+                                       std::pair{-3.0000001, -4}}) {
+        for (const double least : {edge, double(bottom)})
+            EXPECT_EQ(limits(least, 1).curvebottom, bottom) << least;
+        for (const double between : {std::nextafter(edge, 0), std::nextafter(bottom, -9)})
+            EXPECT_EQ(limits(between, 1).curvebottom, between);
     }
+    for (const double least : {0.0, 0.5, -infinite})
+        EXPECT_EQ(limits(least, 1).curvebottom, 0);
+    using Row = std::pair<double, double>;
+    for (const auto& [greatest, top] : {Row{4, 5}, Row{3.99, 4}, Row{-3, 1}, Row{infinite, 1}})
+        EXPECT_EQ(limits(-3, greatest).curvetop, top);
 }
 
 TEST(CurveSeries, NotesAndSecondCurveGoByTheOption) {
@@ -50,7 +57,8 @@ TEST(CurveSeries, NotesAndSecondCurveGoByTheOption) {
         const CurveSeries series = curveseries(samples, 147, settings);
         EXPECT_TRUE(series.drawn);
         EXPECT_EQ(series.curvenote, note);
-        EXPECT_DOUBLE_EQ(series.curve2[20].height, second);
+        EXPECT_DOUBLE_EQ(series.curve2[1].height, second);
+        EXPECT_DOUBLE_EQ(series.curve2[147].height, 48 + second);
     }
     const CurveSeries empty = curveseries(samples, 147, option(2.5F));
     EXPECT_FALSE(empty.drawn);

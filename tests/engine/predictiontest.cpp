@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <fstream>
 #include <iterator>
 #include <limits>
+#include <tuple>
 
 #include "engine/height.h"
 #include "engine/springs.h"
@@ -39,6 +39,7 @@ TEST(PredictDay, WorkedDay) {
     EXPECT_EQ(day.samplecount, 147);
     EXPECT_NE(day.curvesamples[149].height, 0);
     EXPECT_EQ(day.curvesamples[150].height, 0);
+    EXPECT_EQ(predicted(files, {2024, 4, 100, -1}).curvesamples[153].height, 0);
 }
 
 /// Figures of the ports that ship, made apart from the program.
@@ -71,37 +72,6 @@ TEST(PredictDay, ShippedPortsOnScatteredDays) {
         EXPECT_NEAR(findspringslag(day).value_or(-1), row.lag, 1e-9);
         const auto& [year, month, dayofyear, summer] = row.day;
         EXPECT_NEAR(heightat(files.settings, month, year, dayofyear, 10.5).first, row.instant, 1e-9);
-    }
-}
-
-TEST(PredictDay, SummerTimeShiftsTheSameTideByAnHour) {
-    PortFiles files;
-    const Prediction standard = predicted(files, {2024, 4, 100, 0}), summer = predicted(files, {2024, 4, 100, -1});
-    for (std::size_t row = 1; row <= 143; ++row) {
-        EXPECT_EQ(standard.curvesamples[row].height, summer.curvesamples[row + 6].height) << row;
-        EXPECT_NEAR(summer.curvesamples[row + 6].time - standard.curvesamples[row].time, 1, 1e-12);
-    }
-}
-
-TEST(PredictDay, EveryDayOfFourYearsIsWhole) {
-    PortFiles files;
-    for (const int year : {1989, 2000, 2023, 2024}) {
-        double midnight = 0;
-        for (int number = 1; number <= (year % 4 == 0 ? 366 : 365); ++number) {
-            SCOPED_TRACE(number);
-            const Prediction day =
-                predicted(files, {year, 1 + (number - 1) / 31, static_cast<std::int16_t>(number), 0});
-            EXPECT_TRUE(day.turningcount == 3 || day.turningcount == 4) << year;
-            EXPECT_GT(day.dayrange, 0.5);
-            for (std::size_t i = 1; i <= static_cast<std::size_t>(day.turningcount); ++i) {
-                const double grid = day.turningpoints[i].time * 6;
-                EXPECT_NEAR(grid, std::round(grid), 1e-9);
-                EXPECT_TRUE(grid > 0 && grid <= 144) << grid;
-            }
-            // Factors are carried on in a straight line over the day before: the days meet within a decimetre.
-            EXPECT_NEAR(day.curvesamples[1].height, number > 1 ? midnight : day.curvesamples[1].height, 0.1) << year;
-            midnight = day.curvesamples[145].height;
-        }
     }
 }
 
@@ -139,17 +109,30 @@ TEST(FindTurningPoints, TakesStrictExtremesOnly) {
     const auto height = [&](std::size_t row) -> double& { return prediction.curvesamples[row].height; };
     for (std::size_t row = 1; row <= 149; ++row)
         height(row) = 1;
-    height(1) = 9;                // a crest in row 1 belongs to the day before
+    height(1) = 9;  // a crest in row 1 belongs to the day before
+    height(2) = 0.5;
     height(20) = height(21) = 2;  // two equal samples at a crest yield nothing
     height(40) = 3;
     height(60) = -2;
     height(145) = 5;  // 24:00 is the day's last
+    height(146) = -9;
     findturningpoints(prediction);
-    ASSERT_EQ(prediction.turningcount, 3);
-    EXPECT_EQ(prediction.turningpoints[1].height, 3);
-    EXPECT_EQ(prediction.turningpoints[2].height, -2);
-    EXPECT_EQ(prediction.turningpoints[3].height, 5);
+    ASSERT_EQ(prediction.turningcount, 4);
+    const double found[] = {0.5, 3, -2, 5};
+    for (std::size_t i = 0; i < 4; ++i)
+        EXPECT_EQ(prediction.turningpoints[i + 1].height, found[i]);
     EXPECT_EQ(prediction.dayrange, 11);
+    using Row = std::pair<double, int>;
+    for (const auto& [lasttime, count] : {Row{24.0844, 4}, Row{24.08441, 3}}) {
+        prediction.curvesamples[145].time = lasttime;
+        findturningpoints(prediction);
+        EXPECT_EQ(prediction.turningcount, count);
+    }
+    for (const double level : {12000, -12000}) {
+        prediction.curvesamples.fill({0, level});
+        findturningpoints(prediction);
+        EXPECT_EQ(prediction.dayrange, 12000 - 9999) << "reckoned from 9999 and -9999";
+    }
     for (std::size_t row = 1; row <= 149; ++row)
         height(row) = row % 2 ? 1 : -1;
     findturningpoints(prediction);
@@ -160,13 +143,24 @@ TEST(PredictDayLinked, GoesByTheDayItself) {
     PortFiles files;
     Prediction linked;
     predictdaylinked(predictedport(files.settings), {2024, 4, 100, 0}, 1.25, 2.5, linked);
-    const Prediction day = predicted(files, {2024, 4, 100, 0});
     EXPECT_EQ(linked.samplecount, 148);
-    EXPECT_EQ(linked.curvesamples[148].time, 99);
-    EXPECT_EQ(linked.curvesamples[148].height, 2.5);
-    EXPECT_LT(linked.curvesamples[147].time, 24.5);
-    for (std::size_t row = 1; row <= 145; ++row)
-        EXPECT_NEAR(linked.curvesamples[row].height, day.curvesamples[row].height, 0.08) << row;
+    using Row = std::tuple<std::size_t, double, double>;
+    for (const auto& [row, time, height] : {Row{1, 0, 1.3580268803}, Row{100, 16.5, 5.3916825433},
+                                            Row{147, 24 + 1.0 / 3, 1.0155710797}, Row{148, 99, 2.5}}) {
+        EXPECT_NEAR(linked.curvesamples[row].time, time, 1e-12) << row;
+        EXPECT_NEAR(linked.curvesamples[row].height, height, 1e-9) << row;
+    }
+}
+
+TEST(HasPredictions, WantsTheDayBeforeToo) {
+    const bool has[] = {true, false, false, true};
+    for (int day = 0; day <= 3; ++day)
+        EXPECT_EQ(haspredictions(1990, day), has[day]) << day;
+    PortFiles files;
+    Prediction prediction = predicted(files, {2024, 4, 100, 0});
+    predictday(files.settings, {1990, 1, 2, 0}, prediction);
+    EXPECT_FALSE(prediction.defined);
+    EXPECT_EQ(prediction.turningcount + prediction.dayrange + prediction.m2layer[50].height, 0);
 }
 
 }  // namespace

@@ -11,14 +11,17 @@ namespace {
 
 TEST(SpringsText, BandsAndTheirSharedEdges) {
     using Row = std::pair<double, const char*>;
-    for (const auto& [lag, status] :
-         {Row{0, "Springs"}, Row{0.3, "Springs"}, Row{2.0 / 6, "Springs +1 day"}, Row{1.4, "Springs +1 day"},
-          Row{1.9, "Springs +2 days"}, Row{2.5, "Springs +3 days"}, Row{3.3, "Neaps -3 days"},
-          Row{4.3, "Neaps -2 days"}, Row{5.2, "Neaps -1days"}, Row{6, "Neaps"}, Row{7.7, "Neaps +1 day"},
-          Row{8.5, "Neaps +2 days"}, Row{9.3, "Neaps +3 days"}, Row{10.2, "Springs -3 days"},
-          Row{10.9, "Springs -2 days"}, Row{13, "Springs -1 day"}, Row{14, "Springs -1 day"}, Row{14.1, ""},
-          Row{-0.1, ""}})
-        EXPECT_EQ(springstext(lag), status) << lag;
+    double from = 0;
+    for (const auto& [to, status] :
+         {Row{0.3, "Springs"}, Row{1.4, "Springs +1 day"}, Row{1.9, "Springs +2 days"}, Row{2.5, "Springs +3 days"},
+          Row{3.3, "Neaps -3 days"}, Row{4.3, "Neaps -2 days"}, Row{5.2, "Neaps -1days"}, Row{6.8, "Neaps"},
+          Row{7.7, "Neaps +1 day"}, Row{8.5, "Neaps +2 days"}, Row{9.3, "Neaps +3 days"}, Row{10.2, "Springs -3 days"},
+          Row{10.9, "Springs -2 days"}, Row{14, "Springs -1 day"}}) {
+        EXPECT_EQ(springstext(from), status) << from;
+        EXPECT_EQ(springstext(to), status) << to;
+        from = std::nextafter(to, 99);
+    }
+    EXPECT_EQ(springstext(from) + springstext(std::nextafter(0, -1)), "");
 }
 
 TEST(SpringsLag, MeasuresFromS2HighToTheNextM2High) {

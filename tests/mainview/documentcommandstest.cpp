@@ -233,8 +233,9 @@ TEST_F(DocumentCommands, NothingIsMadeUpWhereThereIsNoPrediction) {
     }
 }
 
-TEST_F(DocumentCommands, EachIsNamedAfterWhatItHolds) {
+TEST_F(DocumentCommands, EachIsNamedAfterWhatItHoldsAndACsvHasCommas) {
     ASSERT_TRUE(writeport(area(), 1, fixtureport("Alder/Quay: \"A\"", 3)));
+    scripted.locale.months[11] = "décembre";
     scripted.clock.set(2024, 12, 31);
     come();
     calculatemonth(context);
@@ -246,23 +247,16 @@ TEST_F(DocumentCommands, EachIsNamedAfterWhatItHolds) {
         run(commands[i]);
         EXPECT_EQ(scripted.printer.title, titles[i]);
     }
-    run(commands[4], file);
+    const std::string csv = run(commands[4], folder / "tides.csv");
+    EXPECT_TRUE(
+        csv.starts_with("Alder/Quay: \"A\",d\xE9"
+                        "cembre 2024\r\n,\r\n1 d\xE9"
+                        "c,(Sun)\r\n"))
+        << csv;
     EXPECT_EQ(scripted.filedialogs.requests.back().filename, "Alder_Quay_ _A__Jan_2025") << "of the day on show";
     run(commands[10]);
     run(commands[3]);
     EXPECT_EQ(scripted.printer.title, "Alder/Quay: \"A\" sun and moon 2025-01") << "the port's, without titles";
-}
-
-TEST_F(DocumentCommands, ACommaSeparatedMonthInTheSystemsLanguage) {
-    scripted.locale.months[11] = "décembre";
-    scripted.clock.set(2024, 12, 31);
-    come();
-    const std::string text = run(commands[4], folder / "tides.csv");
-    EXPECT_TRUE(
-        text.starts_with("Alder Quay,d\xE9"
-                         "cembre 2024\r\n,\r\n1 d\xE9"
-                         "c,(Sun)\r\n"))
-        << text;
 }
 
 TEST_F(DocumentCommands, PrintingTheCurveDrawsItAnewOnTheScreen) {

@@ -12,7 +12,7 @@ namespace {
 
 using tests::MainFixture;
 
-TEST(MonthCommand, ShowsTheMonthAndRestoresTheDay) {
+TEST(MonthCommand, ShowsTheMonthRestoresTheDayAndOutlastsItsSteps) {
     MainFixture main;
     main.load();
     Session& session = main.session;
@@ -37,6 +37,9 @@ TEST(MonthCommand, ShowsTheMonthAndRestoresTheDay) {
     EXPECT_TRUE(ScriptedSurface::only(main.picture.persistentlayer, ScriptedSurface::Kind::line, blue).empty());
     EXPECT_FALSE(main.picture.persistentlayer.empty());
     EXPECT_DOUBLE_EQ(session.timenow, 23 + 32 / 60.0);
+    nextday(main.context);
+    EXPECT_FALSE(session.month.monthspredictions.empty());
+    EXPECT_TRUE(session.view.monthvisible);
 }
 
 TEST(MonthCommand, TheCorrectionLineHasItsAre) {
@@ -59,18 +62,6 @@ TEST(MonthCommand, TheCorrectionLineHasItsAre) {
             main.session.view.disclaimer.starts_with(std::string(row.line) + "\r\nHeights in Metres, all data"));
         EXPECT_EQ(main.session.sun.sunrise, sunrise);
     }
-}
-
-TEST(MonthCommand, StepsOfTheDateLeaveTheTableStepsOfThePortHideIt) {
-    MainFixture main;
-    main.load();
-    calculatemonth(main.context);
-    nextday(main.context);
-    EXPECT_FALSE(main.session.month.monthspredictions.empty());
-    EXPECT_TRUE(main.session.view.monthvisible);
-    ASSERT_TRUE(nextport(main.context));
-    EXPECT_TRUE(main.session.month.monthspredictions.empty());
-    EXPECT_FALSE(main.session.view.monthvisible);
 }
 
 }  // namespace

@@ -80,13 +80,18 @@ TEST_F(StatusLine, NotesAnotherPortsNameAndSun) {
     EXPECT_EQ(line().substr(0, 24), "Tides of Alder Quay (1),");
     EXPECT_EQ(notes(), "the name above is another port's|");
     nextport(context);
-    EXPECT_EQ(notes(), "") << "all ports of this area lie at one place";
+    EXPECT_EQ(notes(), "the sun's lines are another port's|") << "those of the port left";
+    redrawday(context);
+    EXPECT_EQ(notes(), "");
+    session.sundrawn.summer = -1;
+    EXPECT_EQ(notes(), "the sun's lines are an hour off|");
     session.sundrawn.latitude = 1;
     EXPECT_EQ(notes(), "the sun's lines are another port's|");
 }
 
 TEST_F(StatusLine, NotesSettingsNotYetInTheHeights) {
     nextport(context);
+    redrawday(context);
     ProgramOptions options = openoptions(session);
     EXPECT_EQ(session.settings.currentport, 1) << "the settings go back to the port left";
     chooseoutput(session, options, 1);
@@ -94,7 +99,7 @@ TEST_F(StatusLine, NotesSettingsNotYetInTheHeights) {
     EXPECT_EQ(line().substr(0, 25), "Tides of Birch Sound (2),");
     confirmoptions(context, options);
     EXPECT_EQ(line().substr(0, 24), "Tides of Alder Quay (1),");
-    EXPECT_EQ(notes(), "the name above is another port's|");
+    EXPECT_EQ(notes(), "the name above is another port's|the sun's lines are another port's|");
 }
 
 TEST_F(StatusLine, NotesTextsThatNameTheTimeByTheMonth) {
@@ -149,6 +154,12 @@ TEST_F(StatusLine, NotesContributionsOfAnEarlierCurve) {
     nextday(context);
     EXPECT_NE(notes().find("the contributions are an earlier curve's|"), std::string::npos);
     picturemousemove(session, picture, 6);
+    EXPECT_EQ(notes().find("contributions"), std::string::npos);
+    session.layersarea = "another";
+    EXPECT_NE(notes().find("the contributions are an earlier curve's|"), std::string::npos);
+    nextport(context);
+    picturemousemove(session, picture, 6);
+    EXPECT_NE(notes().find("Height and Sum leave your depth out|"), std::string::npos) << notes();
     EXPECT_EQ(notes().find("contributions"), std::string::npos);
 }
 

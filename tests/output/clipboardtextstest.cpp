@@ -54,24 +54,6 @@ TEST(ClipboardTexts, AMonthsTides) {
     EXPECT_EQ(monthstidestext(table, 0, dateonshow(2024, 7, 1)), rows + "Standard Time\r\n");
 }
 
-TEST(ClipboardTexts, ADaysSunStaysInTheDayTable) {
-    DayTable table;
-    table.daylines[1] = "old";
-    table.daylines[3] = "old";
-    table.daylines[4] = "04:40   5.5";
-    table.daylinecount = 5;
-    SunHours sun;
-    sun.sunrise = 8.999999;
-    sun.sunset = 24.2625;
-    const DateOnShow january = dateonshow(2024, 1, 9);
-    EXPECT_EQ(dayssuntext(table, "Quay ", sun, -1, january),
-              "Port : Quay \tTime Zone = Summer Time\r\n\r\nDate : 9/1/2024\r\n\r\n"
-              "Sunrise : 09:00:00\r\nSunset  : 00:15:45\r\n");
-    EXPECT_EQ(daystidestext(table, 0, -1, january),
-              "Port : Quay \tTime Zone = Summer Time\r\n\r\nDate : 9/1/2024\r\n\r\n04:40   5.5\r\n\r\n"
-              "(Standard Time)\r\nSprings\r\n");
-}
-
 TEST(SunTimesText, AMonthInColumns) {
     SunTable table;
     fillsunvalues(table, {2024, 4, -1, 0}, {50.5, -1.25});

@@ -14,19 +14,16 @@ namespace tarvane::tests {
 namespace {
 
 TEST(ClosingLines, TheTimeLineGoesByTheMonthAlone) {
-    const std::string line = " midnight local time - ", plain = "WITHOUT SUMMER TIME CORRECTION";
-    for (int month = 1; month <= 12; ++month)
-        for (const std::int16_t summer : {std::int16_t{0}, std::int16_t{-1}}) {
-            ScriptedPrinter printer;
-            printer.begin("");
-            printclosinglines(printer, 500, {summer, static_cast<double>(month)}, true);
-            const bool inside = month >= 4 && month <= 10;
-            EXPECT_EQ(texts(printer)[1].text, summer == 0 ? "Times from" + line + plain
-                                              : inside    ? "Times are from" + line + "ADJUSTED FOR SUMMER TIME"
-                                                          : "Times are from" + line + plain)
-                << month;
-            EXPECT_EQ(printer.currenty(), closingheight(printer));
-        }
+    const std::string from = " midnight local time - ", plain = "WITHOUT SUMMER TIME CORRECTION";
+    for (const auto& [summer, month, line] : {std::tuple{0, 7, "Times from" + from + plain},
+                                              {-1, 3, "Times are from" + from + plain},
+                                              {-1, 4, "Times are from" + from + "ADJUSTED FOR SUMMER TIME"}}) {
+        ScriptedPrinter printer;
+        printer.begin("");
+        printclosinglines(printer, 500, {static_cast<std::int16_t>(summer), static_cast<double>(month)}, true);
+        EXPECT_EQ(texts(printer)[1].text, line);
+        EXPECT_EQ(printer.currenty(), closingheight(printer));
+    }
 }
 
 /// A day whose height is 3 + 2.5 cos over the samples, captions and all.

@@ -102,10 +102,13 @@ TEST(Loading, SummerTimeGoesByTheDateOnShow) {
                 {makedate(2024, 10, 27), "Times from midnight local time - WITHOUT SUMMER TIME CORRECTION", nullptr}};
     for (const auto& row : rows) {
         main.scripted.clock.reading.today = row.date;
-        main.load();
-        EXPECT_EQ(main.session.view.disclaimer.substr(0, main.session.view.disclaimer.find('\r')), row.line);
-        if (row.firstwater) {
-            EXPECT_EQ(main.session.daytable.turningtext[1].time, row.firstwater);
+        for (const auto come : {loadmainwindow, refreshday}) {
+            main.session.view.disclaimer.clear();
+            come(main.context);
+            EXPECT_EQ(main.session.view.disclaimer.substr(0, main.session.view.disclaimer.find('\r')), row.line);
+            if (row.firstwater) {
+                EXPECT_EQ(main.session.daytable.turningtext[1].time, row.firstwater);
+            }
         }
     }
 }

@@ -52,6 +52,9 @@ TEST(TideCurve, ScaleGridAndLabels) {
         const auto lines = ScriptedSurface::only(main.picture.persistentlayer, Kind::line);
         EXPECT_EQ(lines.size(), 146U + 8U + row.labels.size());
         EXPECT_TRUE(ScriptedSurface::only(main.picture.persistentlayer, Kind::point).empty());
+        EXPECT_EQ(ScriptedSurface::log(main.window.persistentlayer),
+                  "text 625 4220 03:00\ntext 1350 4220 06:00\ntext 2075 4220 09:00\ntext 2800 4220 12:00\n"
+                  "text 3525 4220 15:00\ntext 4250 4220 18:00\ntext 4975 4220 21:00 Hours\n");
     }
 }
 
@@ -70,15 +73,6 @@ TEST(TideCurve, DottedCurveWithOptionThreeOnly) {
         }
     }
     EXPECT_EQ(ScriptedSurface::only(main.picture.persistentlayer, Kind::line).size(), 8U + 3U);
-}
-
-TEST(TideCurve, HourLabelsOnTheWindow) {
-    MainFixture main;
-    wave(main.session, 0, 4);
-    drawtidecurve(main.session, main.surfaces());
-    EXPECT_EQ(ScriptedSurface::log(main.window.persistentlayer),
-              "text 625 4220 03:00\ntext 1350 4220 06:00\ntext 2075 4220 09:00\ntext 2800 4220 12:00\n"
-              "text 3525 4220 15:00\ntext 4250 4220 18:00\ntext 4975 4220 21:00 Hours\n");
 }
 
 TEST(TideCurve, SunLinesAreDashedToTheBottom) {

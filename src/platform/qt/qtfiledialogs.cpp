@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QRegularExpression>
+#include <QScreen>
 
 namespace tarvane {
 
@@ -43,6 +44,9 @@ std::optional<std::string> run(const FileRequest& request, bool saving) {
         }
     }
     if (!request.filename.empty()) dialog.selectFile(QString::fromStdString(request.filename));
+    // The dialog's own size can be larger than a small screen.
+    const QRect room = dialog.screen()->availableGeometry();
+    dialog.resize(dialog.sizeHint().boundedTo(room.size() - QSize(16, 48)));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().first().toStdString();
 }

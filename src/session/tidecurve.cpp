@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string_view>
 
 #include "engine/springs.h"
 #include "output/curvepicture.h"
@@ -66,7 +67,7 @@ void drawspringsbar(Session& session, DrawSurface& bar) {
 /// Where the curve would be: why there is none, and what to do where the user can.
 void drawwhynot(const Session& session, DrawSurface& picture) {
     std::string lines = std::string("No prediction\n") + session.prediction.whynot;
-    if (session.prediction.whynot == noareafile)
+    if (std::string_view(session.prediction.whynot) == noareafile)
         lines += ":\n" + session.settings.hcfile + "\nChoose one with Select Port, Sea Area, or put it back.";
     drawnote(picture, limitsof(session.curve), lines);
 }

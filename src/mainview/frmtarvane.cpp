@@ -52,6 +52,11 @@ void frmtarvane::Form_Load() {
 }
 
 void frmtarvane::showview() {
+    refreshstatus(context);
+    copyview();
+}
+
+void frmtarvane::copyview() {
     const MainView& view = session.view;
     setWindowTitle(screentext(view.caption));
     const std::pair<QLabel*, const std::string*> labels[] = {
@@ -67,7 +72,6 @@ void frmtarvane::showview() {
     Nextday->setVisible(view.stepbuttonsvisible);
     Previousday->setVisible(view.stepbuttonsvisible);
     showmonthlist();
-    refreshstatus(context);
     statusbar->show(view);
 }
 
@@ -131,7 +135,9 @@ void frmtarvane::Previousday_Click() {
 
 void frmtarvane::Picture1_MouseMove(double x) {
     picturemousemove(session, *Picture1, x);
-    showview();
+    // A mouse move changes what the status bar tells in the constituents view alone.
+    if (session.layersmode == 1) refreshstatus(context);
+    copyview();
 }
 
 void frmtarvane::Picture1_MouseDown() {

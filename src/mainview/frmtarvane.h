@@ -65,6 +65,7 @@ class frmtarvane : public QMainWindow {
     void placecontrols();
     void picture_resized();
     void redrawresized();
+    void copyview();
     void showmenus();
     void showmonthlist();
 

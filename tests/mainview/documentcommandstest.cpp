@@ -227,7 +227,7 @@ TEST_F(DocumentCommands, NothingIsMadeUpWhereThereIsNoPrediction) {
                 EXPECT_NE(text.find("No prediction"), std::string::npos) << entry;
                 EXPECT_NE(text.find(reason), std::string::npos) << entry;
             }
-            for (const char* odd : {"nan", "NaN", "inf", "19998", "    0.0", "\t0.00"})
+            for (const char* odd : {"nan", "NaN", "inf", "Inf", "19998", "    0.0", "\t0.00"})
                 EXPECT_EQ(text.find(odd), std::string::npos) << entry << " has " << odd << "\n" << text;
         }
     }

@@ -62,20 +62,8 @@ void daytext(const PortInHand& port, const Prediction& prediction, std::ostream&
 }
 
 void samplestext(const ViewContext& context, std::ostream& out) {
-    Prediction prediction;
-    for (const PortInHand& port : context.ports) {
-        portheading(context, port, out);
-        eachday(context, [&](Date day) {
-            predictport(context, port, day, prediction);
-            out << "\n" << longdate(day) << "\n" << timeline(context, port, day) << "\n";
-            if (prediction.defined) {
-                daytext(port, prediction, out);
-            } else {
-                out << nopredictionline(prediction) << "\n";
-            }
-        });
-    }
-    out << "\n" << heightscaution << "\n";
+    daystext(context, out,
+             [&](const PortInHand& port, const Prediction& prediction, Date) { daytext(port, prediction, out); });
 }
 
 }  // namespace

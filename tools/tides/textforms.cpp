@@ -59,4 +59,23 @@ std::string plaintext(const std::string& text) {
     return plain;
 }
 
+void daystext(const ViewContext& context, std::ostream& out,
+              const std::function<void(const PortInHand&, const Prediction&, Date)>& whole,
+              const std::function<void(const PortInHand&, Date)>& behind) {
+    Prediction prediction;
+    for (const PortInHand& port : context.ports) {
+        portheading(context, port, out);
+        eachday(context, [&](Date day) {
+            predictport(context, port, day, prediction);
+            out << "\n" << longdate(day) << "\n" << timeline(context, port, day) << "\n";
+            if (prediction.defined)
+                whole(port, prediction, day);
+            else
+                out << nopredictionline(prediction) << "\n";
+            if (behind) behind(port, day);
+        });
+    }
+    out << "\n" << heightscaution << "\n";
+}
+
 }  // namespace tarvane

@@ -2,6 +2,7 @@
 // too. Must not compute anything that the tables don't.
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string>
 
@@ -15,6 +16,12 @@ inline constexpr const char* heightscaution =
 
 std::string padright(const std::string& text, std::size_t width);
 std::string padleft(const std::string& text, std::size_t width);
+
+/// Every port's days in text under their headings, closed by the caution: what `whole` writes of a day with a
+/// prediction or why there is none, then what `behind`, which may be empty, writes of any day.
+void daystext(const ViewContext& context, std::ostream& out,
+              const std::function<void(const PortInHand&, const Prediction&, Date)>& whole,
+              const std::function<void(const PortInHand&, Date)>& behind = {});
 
 /// A port's name, place and zone in two lines, with a blank line before all but the first.
 void portheading(const ViewContext& context, const PortInHand& port, std::ostream& out);

@@ -58,22 +58,15 @@ void predictiontext(const PortInHand& port, const Prediction& prediction, Date d
 }
 
 void waterstext(const ViewContext& context, std::ostream& out) {
-    Prediction prediction;
-    for (const PortInHand& port : context.ports) {
-        portheading(context, port, out);
-        eachday(context, [&](Date day) {
-            predictport(context, port, day, prediction);
-            out << "\n" << longdate(day) << "\n" << timeline(context, port, day) << "\n";
-            if (prediction.defined) {
-                predictiontext(port, prediction, day, out);
-            } else {
-                out << nopredictionline(prediction) << "\n";
-            }
+    daystext(
+        context, out,
+        [&](const PortInHand& port, const Prediction& prediction, Date day) {
+            predictiontext(port, prediction, day, out);
+        },
+        [&](const PortInHand& port, Date day) {
             const SunHours sun = sunofport(context, port, day);
             out << "Sunrise " << eventtext(sun.sunrise) << "  Sunset " << eventtext(sun.sunset) << "\n";
         });
-    }
-    out << "\n" << heightscaution << "\n";
 }
 
 }  // namespace

@@ -100,6 +100,10 @@ bool canopen(const std::string& path) {
     return file.isopen() && ::fstat(file.number(), &status) == 0 && !S_ISDIR(status.st_mode);
 }
 
+bool canwritein(const std::string& folder) {
+    return ::access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
 std::optional<std::vector<std::byte>> wholefile(const std::string& path) {
     const File file(path, forreading);
     if (!file.isopen()) {

@@ -16,6 +16,9 @@ namespace tarvane {
 /// True if the file can be opened for reading (a folder can't).
 bool canopen(const std::string& path);
 
+/// True if files can be made in the folder, which is there.
+bool canwritein(const std::string& folder);
+
 /// The whole file's bytes; none for a file that isn't there; nothing when it is there and can't be read.
 std::optional<std::vector<std::byte>> wholefile(const std::string& path);
 

@@ -1,6 +1,7 @@
 #include "portdata/configuration.h"
 
 #include "files/wholefiles.h"
+#include "portdata/datafolder.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
@@ -46,18 +47,25 @@ bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record) {
     return SaveConfig(folders, record);
 }
 
-ConfigRecord readconfig(const ProgramFolders& folders) {
-    ConfigRecord record = LoadConfig(folders);
+void findareafile(const ProgramFolders& folders, ConfigRecord& record) {
     const std::string stored = trim(record.hcfilepath);
     // A record that another system wrote may hold a path with the other separator.
-    const std::string beside = folders.programfolder + "/" + stored.substr(stored.find_last_of("/\\") + 1);
-    if (!canopen(stored) && canopen(beside)) record.hcfilepath = beside;
+    const std::string name = stored.substr(stored.find_last_of("/\\") + 1);
+    const bool shipped = !folders.ownfolder.empty() && stored == folders.programfolder + "/" + name;
+    if (!shipped && canopen(stored)) return;
+    if (const std::string found = datafile(folders, name); canopen(found)) record.hcfilepath = found;
+}
+
+ConfigRecord readconfig(const ProgramFolders& folders) {
+    ConfigRecord record = LoadConfig(folders);
+    findareafile(folders, record);
     return record;
 }
 
 void loadsettings(const ProgramFolders& folders, Settings& settings) {
     const bool unwritable = !canopen(folders.cfgpath()) && !CreateDefaultConfig(folders, settings.configrec);
-    if (!unwritable) settings.configrec = readconfig(folders);
+    if (!unwritable) settings.configrec = LoadConfig(folders);
+    findareafile(folders, settings.configrec);
     takesettings(settings);
 }
 

@@ -15,6 +15,7 @@ struct ProgramFolders {
     std::string docsfolder;        ///< the user's documents
     std::string appdatafolder;     ///< the user's local application data
     std::string textoutputfolder;  ///< where saved texts go by default
+    std::string ownfolder{};       ///< takes the program folder's place for changes; empty when that can be written
 
     std::string cfgpath() const;       ///< appdatafolder/TarvaneTides/TarTidesv9.cfg
     std::string configfolder() const;  ///< appdatafolder/TarvaneTides
@@ -56,8 +57,11 @@ bool CreateDefaultConfig(const ProgramFolders& folders, ConfigRecord& record);
 /// all module values from it.
 void loadsettings(const ProgramFolders& folders, Settings& settings);
 
-/// The record as it stands in the file, its area file looked up: when the stored one is gone (the program's folder has
-/// moved), one of that name in the program's folder takes its place.
+/// Puts the path of the area file right: when the stored one is gone (the program's folder has moved), one of that name
+/// in the program's folder takes its place, and so does one in the user's own folder for one in the program's.
+void findareafile(const ProgramFolders& folders, ConfigRecord& record);
+
+/// The record as it stands in the file, its area file found.
 ConfigRecord readconfig(const ProgramFolders& folders);
 
 /// The one way to read the configuration while the program runs: `settings.configrec` becomes the record as it stands

@@ -6,6 +6,7 @@
 
 #include "files/wholefiles.h"
 #include "portdata/coordinates.h"
+#include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
 
 namespace tarvane {
@@ -14,8 +15,7 @@ std::string hcbasename(const ProgramFolders& folders, const std::string& hcfile)
     const std::string folder = folders.programfolder + "/";
     const bool inside = hcfile.starts_with(folder) && hcfile.find('/', folder.size()) == std::string::npos;
     // A record that another system wrote may hold a path with the other separator.
-    const std::string name = hcfile.substr(inside ? folder.size() : hcfile.find_last_of("/\\") + 1);
-    return name.substr(0, name.find('.'));
+    return namebeforepoint(hcfile.substr(inside ? folder.size() : hcfile.find_last_of("/\\") + 1));
 }
 
 std::string depfileof(const ProgramFolders& folders, const std::string& hcfile) {

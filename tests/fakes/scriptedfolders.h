@@ -17,7 +17,7 @@ class ScriptedFolders : public Folders {
     std::string programfolder = root / "program";
     std::optional<std::string> documentsfolder = root / "documents";
     std::string appdatafolder = root / "appdata";
-    std::set<std::string> refused;  ///< paths that can't be made or removed
+    std::set<std::string> refused;  ///< paths that can't be made, removed or written in
 
     ScriptedFolders();
 
@@ -25,6 +25,7 @@ class ScriptedFolders : public Folders {
     std::optional<std::string> documents() const override { return documentsfolder; }
     std::string localappdata() const override { return appdatafolder; }
 
+    bool canwrite(const std::string& path) const override { return !refused.contains(path); }
     bool make(const std::string& path) override;
     bool remove(const std::string& path) override;
 };

@@ -60,6 +60,7 @@ ProgramFolders foldersof(const TidesEnvironment& environment) {
     folders.programfolder = environment.programfolder;
     folders.docsfolder = documentsof(environment);
     folders.appdatafolder = folderor(environment.datahome, environment.home + "/.local/share");
+    if (!canwritein(folders.programfolder)) folders.ownfolder = folders.configfolder() + "/Areas";
     return folders;
 }
 
@@ -73,6 +74,7 @@ std::string readsettings(const ProgramFolders& folders, Settings& settings) {
     } else {
         settings.configrec = defaultconfig(folders);
     }
+    findareafile(folders, settings.configrec);
     takesettings(settings);
     return "";
 }

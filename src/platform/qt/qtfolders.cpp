@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include "files/wholefiles.h"
+
 namespace tarvane {
 
 std::string QtFolders::program() const {
@@ -19,6 +21,10 @@ std::optional<std::string> QtFolders::documents() const {
 
 std::string QtFolders::localappdata() const {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
+}
+
+bool QtFolders::canwrite(const std::string& path) const {
+    return canwritein(path);
 }
 
 bool QtFolders::make(const std::string& path) {

@@ -10,6 +10,7 @@ class QtFolders : public Folders {
     std::string program() const override;
     std::optional<std::string> documents() const override;
     std::string localappdata() const override;
+    bool canwrite(const std::string& path) const override;
     bool make(const std::string& path) override;
     bool remove(const std::string& path) override;
 };

@@ -1,0 +1,77 @@
+#include "portdata/datafolder.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+namespace tarvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string lower(std::string_view text) {
+    std::string folded(text);
+    for (char& c : folded)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return folded;
+}
+
+/// Every plain file of a folder; none when it isn't there.
+std::vector<std::string> namesin(const std::string& folder) {
+    std::vector<std::string> names;
+    std::error_code error;
+    fs::directory_iterator entry(folder, error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error))
+        if (std::error_code odd; entry->is_regular_file(odd)) names.push_back(entry->path().filename().string());
+    return names;
+}
+
+std::vector<std::string> foldersof(const ProgramFolders& folders) {
+    if (folders.ownfolder.empty()) return {folders.programfolder};
+    return {folders.ownfolder, folders.programfolder};
+}
+
+}  // namespace
+
+std::vector<std::string> datafiles(const ProgramFolders& folders, std::string_view ending) {
+    std::set<std::string> names;
+    for (const std::string& folder : foldersof(folders))
+        for (const std::string& name : namesin(folder))
+            if (lower(name).ends_with(lower(ending))) names.insert(name);
+    return {names.begin(), names.end()};
+}
+
+std::string datafile(const ProgramFolders& folders, const std::string& name) {
+    for (const std::string& folder : foldersof(folders))
+        if (canopen(folder + "/" + name)) return folder + "/" + name;
+    for (const std::string& folder : foldersof(folders)) {
+        std::vector<std::string> names = namesin(folder);
+        std::sort(names.begin(), names.end());
+        for (const std::string& other : names)
+            if (lower(other) == lower(name)) return folder + "/" + other;
+    }
+    return folders.programfolder + "/" + name;
+}
+
+WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& name) {
+    const std::string standing = datafile(folders, name);
+    if (folders.ownfolder.empty() || standing.starts_with(folders.ownfolder + "/")) return {standing, {}};
+    WriteOutcome prepared;
+    fs::create_directories(folders.ownfolder, prepared.error);
+    const std::string own = folders.ownfolder + standing.substr(standing.rfind('/'));
+    if (prepared && canopen(standing)) prepared = replacefile(own, readwhole(standing));
+    return {own, prepared};
+}
+
+std::string filenamefault(std::string_view name) {
+    if (name.find_first_of("/\\") != std::string_view::npos || name.starts_with('.'))
+        return "A file name can't hold \"/\" or \"\\\", nor begin with a point: files lie in the program's folder";
+    const bool control = std::any_of(name.begin(), name.end(), [](unsigned char c) { return c < ' ' || c == 0x7f; });
+    return control ? "A file name can't hold control characters" : "";
+}
+
+std::string namebeforepoint(std::string_view name) {
+    return std::string(name.substr(0, name.find('.')));
+}
+
+}  // namespace tarvane

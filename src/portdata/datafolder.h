@@ -1,0 +1,36 @@
+// Where the files lie that the user may change: area files, heights read on the spot and the work file. It is the
+// program's folder, or where that can't be written a folder of the user's own, which comes first. One place knows it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "files/wholefiles.h"
+#include "portdata/configuration.h"
+
+namespace tarvane {
+
+/// Names of the files that end so (".hc", whatever the case), each once, sorted; without their folder.
+std::vector<std::string> datafiles(const ProgramFolders& folders, std::string_view ending);
+
+/// Where to read a file of this name: the user's own where there is one, else the program folder's, there or not. A
+/// file whose name differs in the case of letters alone is meant when there is none of the very name.
+std::string datafile(const ProgramFolders& folders, const std::string& name);
+
+struct WritableFile {
+    std::string path;
+    WriteOutcome prepared;  ///< an error when the folder or the copy couldn't be made
+};
+
+/// Where to write it. In the user's own folder, which is made, the file as shipped is put first if it isn't there yet,
+/// so that a change to a part of it leaves the rest.
+WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& name);
+
+/// Why a typed text can't be the name of a file in the folder, a sentence; empty when it can.
+std::string filenamefault(std::string_view name);
+
+/// "UK" of "UK.hc": a file's name up to its first point.
+std::string namebeforepoint(std::string_view name);
+
+}  // namespace tarvane

@@ -11,14 +11,6 @@ namespace {
 
 constexpr double radians = std::numbers::pi / 180;
 
-/// The angle between two places seen from the middle of the globe, degrees, by the haversine formula.
-double distance(double latitude1, double longitude1, double latitude2, double longitude2) {
-    const double across = std::sin((latitude2 - latitude1) * radians / 2);
-    const double along = std::sin((longitude2 - longitude1) * radians / 2);
-    const double h = across * across + std::cos(latitude1 * radians) * std::cos(latitude2 * radians) * along * along;
-    return 2 * std::asin(std::min(1.0, std::sqrt(h))) / radians;
-}
-
 }  // namespace
 
 ConstantTexts textsof(const HarmonicRecord& record) {
@@ -68,12 +60,23 @@ double circlemean(double first, double second, double weight) {
     return turned < 360 ? turned : 0;
 }
 
+// By the haversine formula.
+double globeangle(double latitude, double longitude, const HarmonicRecord& port) {
+    const double across = std::sin((port.PortLat - latitude) * radians / 2);
+    const double along = std::sin((port.PortLong - longitude) * radians / 2);
+    const double h = across * across + std::cos(latitude * radians) * std::cos(port.PortLat * radians) * along * along;
+    return 2 * std::asin(std::min(1.0, std::sqrt(h))) / radians;
+}
+
+double distanceweight(double tofirst, double tosecond) {
+    const double whole = tofirst + tosecond;
+    return whole > 0 ? tosecond / whole : 0.5;
+}
+
 ConstantTexts distancemeans(const HarmonicRecord& first, const HarmonicRecord& second, double latitude,
                             double longitude) {
-    const double tofirst = distance(latitude, longitude, first.PortLat, first.PortLong);
-    const double tosecond = distance(latitude, longitude, second.PortLat, second.PortLong);
-    const double whole = tofirst + tosecond;
-    const double weight = whole > 0 ? tosecond / whole : 0.5;
+    const double weight =
+        distanceweight(globeangle(latitude, longitude, first), globeangle(latitude, longitude, second));
     ConstantTexts means;
     for (std::size_t i = 0; i < constantrows.size(); ++i) {
         const ConstantRow& row = constantrows[i];

@@ -61,6 +61,12 @@ bool acrossnorth(const ConstantRow& row, const HarmonicRecord& first, const Harm
 /// The mean of two phases on the circle, degrees from 0 to below 360, the first counting `weight` (0 to 1).
 double circlemean(double first, double second, double weight = 0.5);
 
+/// The angle between a place and a port seen from the middle of the globe, degrees.
+double globeangle(double latitude, double longitude, const HarmonicRecord& port);
+
+/// How much the first of two ports counts by the inverse of its distance, 0 to 1; a half when both are at the place.
+double distanceweight(double tofirst, double tosecond);
+
 /// Constants at a place between two ports, by the inverse of its distances from them on the globe: amplitudes and level
 /// as weighted means, phases on the circle. Positions in degrees, north and east positive. At a port it is that port.
 ConstantTexts distancemeans(const HarmonicRecord& first, const HarmonicRecord& second, double latitude,

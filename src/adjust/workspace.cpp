@@ -16,6 +16,7 @@ namespace {
 
 constexpr double curvefloor = -2;
 constexpr std::size_t leastdrawn = 10;
+constexpr const char* toofewtext = "Not enough data to draw in a curve";
 
 /// The texts that a curve is made of.
 const ConstantTexts& shownin(const AdjustWorkspace& workspace, CurvePlace place) {
@@ -43,10 +44,17 @@ void showdate(AdjustWorkspace& workspace, const MainContext& context) {
                             formatdate(locale, date, "dddd") + ")";
 }
 
-void fillboxes(AdjustWorkspace& workspace, const ConstantTexts& texts) {
-    workspace.boxes = texts;
-    for (std::size_t i = 0; i < constantrows.size(); ++i)
-        workspace.steps[i] = stepof(constantrows[i], val(texts[i]));
+/// Reads the chosen file anew; what is wrong with it goes to `answer`.
+void rereadheights(AdjustWorkspace& workspace) {
+    workspace.readings.clear();
+    workspace.toofewreadings = false;
+    if (workspace.heightfile.empty()) return;
+    const ObservedHeights heights = readheights(workspace.heightfile);
+    workspace.toofewreadings = heights.fault.empty() && heights.readings.size() < leastdrawn;
+    if (!heights.fault.empty() || workspace.toofewreadings)
+        workspace.answer = workspace.toofewreadings ? toofewtext : heights.fault + ": " + workspace.heightfile;
+    else
+        workspace.readings = heights.readings;
 }
 
 void drawreadings(const std::vector<HeightRecord>& readings, DrawSurface& picture) {
@@ -63,7 +71,7 @@ double hoursof(const std::string& time) {
 }
 
 std::string known(double value, double error, const char* pattern, const char* unit) {
-    return format(value, pattern) + " " + unit + " (+/- " + format(error, pattern) + ")";
+    return format(value, pattern) + unit + " (+/- " + format(error, pattern) + ")";
 }
 
 std::string missestext(const FitMisses& misses) {
@@ -88,8 +96,10 @@ AdjustWorkspace openworkspace(MainContext& context) {
         loadport1(workspace, record);
     }
     if (number >= 0 && number + 1 <= ports) {
+        // kept: the following record becomes the current port for its reading
         settings.currentport = static_cast<std::int16_t>(number + 1);
         loadport2(workspace, readport(settings.hcfile, settings.currentport));
+        settings.currentport = number;
     }
     if (workspace.name1.empty())
         workspace.answer = "There is no current port. Load ports with File, Load Port Constants.";
@@ -97,6 +107,8 @@ AdjustWorkspace openworkspace(MainContext& context) {
         workspace.answer =
             workspace.name1 + " is the last port of its area: load a Port 2 with File, Load Port Constants.";
     fillboxes(workspace, workspace.name2.empty() ? workspace.port1 : plainmeans(workspace.first, workspace.second));
+    workspace.undo.reset();
+    workspace.saved = workspace.boxes;
     updatecalc(workspace, context);
     return workspace;
 }
@@ -106,6 +118,7 @@ void updatecalc(AdjustWorkspace& workspace, MainContext& context) {
     const int year = yearof(onshow.tidedate), day = dayofyear(onshow.tidedate);
     for (const CurvePlace place : {port1curve, port2curve, intermediatecurve})
         predictworkspace(recordof(shownin(workspace, place)), year, day, workspace.curves[place]);
+    rereadheights(workspace);
     showdate(workspace, context);
     AdjustReadout(workspace);
 }
@@ -123,7 +136,6 @@ void cmdcalc(AdjustWorkspace& workspace, MainContext& context) {
 void stepworkspace(AdjustWorkspace& workspace, MainContext& context, int days) {
     setdateonshow(context.session.onshow, context.session.onshow.tidedate + std::chrono::days{days});
     workspace.heightfile.clear();
-    workspace.readings.clear();
     updatecalc(workspace, context);
 }
 
@@ -170,12 +182,36 @@ void drawworkspacecurve(const AdjustWorkspace& workspace, CurvePlace place, Draw
     if (curve.defined && hasport(workspace, place)) {
         LayerChoice all;
         all.fill(true);
+        picture.setlinewidth(2);
         drawseries(picture, curve.curvesamples, curve.samplecount - 1, black);
-        drawlayers(picture, curve, all);
+        picture.setlinewidth(1);
+        drawlayers(picture, curve, all, dashedlayers);
         if (place == intermediatecurve) drawreadings(workspace.readings, picture);
     }
     drawgrid(picture, limits, " Metres");
     picture.setpersistent(false);
+}
+
+std::string TurningText(const Prediction& curve) {
+    std::string text;
+    for (int i = 1; curve.defined && i <= curve.turningcount; ++i) {
+        const TimedValue& point = curve.turningpoints[static_cast<std::size_t>(i)];
+        text += (i > 1 ? "   " : "") + timetext(point.time) + " " + format(point.height, "#,#0.0;;;");
+    }
+    return text;
+}
+
+void fillboxes(AdjustWorkspace& workspace, const ConstantTexts& texts) {
+    workspace.undo = workspace.boxes;
+    workspace.boxes = texts;
+    for (std::size_t i = 0; i < constantrows.size(); ++i)
+        workspace.steps[i] = stepof(constantrows[i], val(texts[i]));
+}
+
+void undoboxes(AdjustWorkspace& workspace) {
+    if (!workspace.undo) return;
+    fillboxes(workspace, ConstantTexts(*workspace.undo));
+    workspace.undo.reset();
 }
 
 void loadport1(AdjustWorkspace& workspace, const HarmonicRecord& record) {
@@ -192,21 +228,14 @@ void loadport2(AdjustWorkspace& workspace, const HarmonicRecord& record) {
 
 void loadintermediate(AdjustWorkspace& workspace, const HarmonicRecord& record) {
     // kept: the step controls stay where they are until the next step
+    workspace.undo = workspace.boxes;
     workspace.boxes = textsof(record);
 }
 
 void chooseheights(AdjustWorkspace& workspace, const std::string& path) {
-    workspace.heightfile.clear();
-    workspace.readings.clear();
-    const ObservedHeights heights = readheights(path);
-    workspace.answer = heights.fault;
-    if (!heights.fault.empty()) return;
     workspace.heightfile = path;
-    if (heights.readings.size() < leastdrawn) {
-        workspace.answer = "Not enough data to draw in a curve";
-        return;
-    }
-    workspace.readings = heights.readings;
+    workspace.answer.clear();
+    rereadheights(workspace);
 }
 
 HeightFit fitworkspace(AdjustWorkspace& workspace, MainContext& context) {
@@ -217,7 +246,6 @@ HeightFit fitworkspace(AdjustWorkspace& workspace, MainContext& context) {
     const HarmonicConstants start = seasonalconstants(recordof(workspace.boxes), 0);
     const HeightFit fit = fitheights(start, yearof(onshow.tidedate), dayofyear(onshow.tidedate), readings);
     if (!fit.refusal.empty()) return fit;
-    workspace.undo = workspace.boxes;
     const HarmonicConstants& found = fit.constants;
     const double values[] = {found.Z0,  found.M2g,  found.M2Hm, found.S2g, found.S2Hm, found.K1g, found.K1Hm,
                              found.O1g, found.O1Hm, found.SF4,  found.LF4, found.SF6,  found.LF6};
@@ -229,19 +257,12 @@ HeightFit fitworkspace(AdjustWorkspace& workspace, MainContext& context) {
     return fit;
 }
 
-void undofit(AdjustWorkspace& workspace, MainContext& context) {
-    if (!workspace.undo) return;
-    fillboxes(workspace, *workspace.undo);
-    workspace.undo.reset();
-    updatecalc(workspace, context);
-}
-
 std::string fittext(const HeightFit& fit, const std::vector<HeightRecord>& readings) {
     if (!fit.refusal.empty()) return "Nothing was fitted: " + fit.refusal + ".";
     std::string text = "Before: " + missestext(fit.before) + "\nAfter: " + missestext(fit.after) + "\n\nMean level " +
-                       known(fit.change.level, fit.uncertainty.level, "0.00", "m") + "\nAll amplitudes times " +
+                       known(fit.change.level, fit.uncertainty.level, "0.00", " m") + "\nAll amplitudes times " +
                        known(fit.change.factor, fit.uncertainty.factor, "0.000", "") + "\nTide later by " +
-                       known(fit.change.shift * 60, fit.uncertainty.shift * 60, "0.0", "minutes");
+                       known(fit.change.shift * 60, fit.uncertainty.shift * 60, "0.0", " minutes");
     if (fit.rejected.empty()) return text;
     text += "\n\nLeft out as wild:";
     for (const std::size_t place : fit.rejected)

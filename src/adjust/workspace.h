@@ -1,5 +1,5 @@
 // The workshop in which constants for a place are derived: two ports, an intermediate location between them, and a
-// day's curve of each. What its window does, as far as it isn't controls. Must not touch a file to try a constant.
+// day's curve of each. What its window does, as far as it isn't controls. Must not write a file to try a constant.
 #pragma once
 
 #include <array>
@@ -23,6 +23,13 @@ struct AdjustColumn {
     std::string total;
 };
 
+/// What the user has told of the place itself, for the record to be saved.
+struct GivenPlace {
+    std::string name;
+    double latitude = 0, longitude = 0;  ///< degrees, north and east positive
+    std::string zoneletter;              ///< empty when not given
+};
+
 struct AdjustWorkspace {
     HarmonicRecord first, second;                  ///< the ports as read, for their positions
     std::string name1, name2;                      ///< of Port 1 and Port 2; empty when there is none
@@ -34,9 +41,12 @@ struct AdjustWorkspace {
     std::string tidedatebox;
     std::string timeval;
     std::string heightfile;              ///< of the readings drawn; empty for none
-    std::vector<HeightRecord> readings;  ///< as they were read when the file was chosen
+    std::vector<HeightRecord> readings;  ///< those of the file when the curves were last reckoned
+    bool toofewreadings = false;         ///< the file holds some, but not enough to draw
     int freezecount = 0;                 ///< 0 while the readouts follow the mouse
-    std::optional<ConstantTexts> undo;   ///< the boxes before the last fit
+    std::optional<GivenPlace> place;     ///< where the intermediate location lies, when it was told
+    std::optional<ConstantTexts> undo;   ///< the boxes before they were last filled by a fit or by distance
+    ConstantTexts saved;                 ///< the boxes as they were opened with or saved last
     std::string answer;                  ///< what the last command did, or why not
 };
 
@@ -65,18 +75,24 @@ void AdjustReadout(AdjustWorkspace& workspace);
 /// Draws one curve on its picture, the readings over the intermediate one.
 void drawworkspacecurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSurface& picture);
 
+/// `TurningText`: high and low waters of a curve as `TurningPoints1`, `TurningPoints2` and `TurningPoints3` pick them,
+/// "03:12 1.2" each with blanks between.
+std::string TurningText(const Prediction& curve);
+
+/// Fills the boxes and puts their step controls there; what stood in them can be taken back.
+void fillboxes(AdjustWorkspace& workspace, const ConstantTexts& texts);
+void undoboxes(AdjustWorkspace& workspace);
+
 /// Loads a port of an area as Port 1, as Port 2 or as the intermediate location. Nothing is reckoned anew.
 void loadport1(AdjustWorkspace& workspace, const HarmonicRecord& record);
 void loadport2(AdjustWorkspace& workspace, const HarmonicRecord& record);
 void loadintermediate(AdjustWorkspace& workspace, const HarmonicRecord& record);
 
-/// Chooses the file of readings; its fault is told in `answer` and nothing is drawn then.
+/// Chooses the file of readings, empty for none. Its fault is told in `answer`, and nothing is drawn then.
 void chooseheights(AdjustWorkspace& workspace, const std::string& path);
 
-/// Fits the boxes' constants to the readings and fills the boxes with what was found; the values before can be taken
-/// back.
+/// Fits the boxes' constants to the readings and fills the boxes with what was found.
 HeightFit fitworkspace(AdjustWorkspace& workspace, MainContext& context);
-void undofit(AdjustWorkspace& workspace, MainContext& context);
 
 /// A fit as the window tells it: before and after, the three numbers with their standard errors, readings left out.
 std::string fittext(const HeightFit& fit, const std::vector<HeightRecord>& readings);

@@ -9,7 +9,10 @@
 #include <QPushButton>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <vector>
+
+#include "adjust/frmharmadjust.h"
 
 #include "mainview/frmlayerspanel.h"
 #include "mainview/frmstatusbar.h"
@@ -53,6 +56,7 @@ class frmtarvane : public QMainWindow {
     void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void buildlayout();
@@ -79,6 +83,7 @@ class frmtarvane : public QMainWindow {
 
     void choose(const MenuEntry& entry);
     void opendialog(Dialog dialog);
+    void openadjust();
 
     /// A menu or an entry that the view can hide or disable.
     struct Switched {
@@ -96,8 +101,9 @@ class frmtarvane : public QMainWindow {
     int laidoutlines = 0;                  ///< and the lines of its day table
     std::vector<std::string> listedmonth;  ///< what `monthspredictions` was filled with
     bool loaded = false;
-    bool layingout = false;  ///< the controls are being placed: resized pictures wait
-    bool resized = false;    ///< a picture is empty and waits to be drawn anew
+    bool layingout = false;                 ///< the controls are being placed: resized pictures wait
+    std::unique_ptr<frmHarmAdjust> adjust;  ///< once it was opened
+    bool resized = false;                   ///< a picture is empty and waits to be drawn anew
 };
 
 }  // namespace tarvane

@@ -1,5 +1,6 @@
 // The menu tree of the main window as the table has it, and the windows that it opens.
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMenuBar>
 
 #include "almanac/frmsunrise.h"
@@ -37,7 +38,26 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openmodal<frmshowconf>(context, this);
         case Dialog::sunrise:
             return openmodal<Frmsunrise>(context, this);
+        case Dialog::adjust:
+            return openadjust();
     }
+}
+
+/// The workshop stands beside the main window, and both end together.
+void frmtarvane::openadjust() {
+    if (!adjust) {
+        adjust = std::make_unique<frmHarmAdjust>(context, this);
+        adjust->onchanged = [this] { showview(); };
+        adjust->onclosed = [this] { close(); };
+    }
+    adjust->show();
+    adjust->raise();
+    adjust->activateWindow();
+}
+
+void frmtarvane::closeEvent(QCloseEvent* event) {
+    if (adjust && adjust->isVisible() && !adjust->close()) return event->ignore();
+    QMainWindow::closeEvent(event);
 }
 
 void frmtarvane::buildmenus() {

@@ -77,6 +77,10 @@ void showconfiguration(Desk& desk) {
     drawcurve(desk);
 }
 
+void adjustharmonics(Desk& desk) {
+    desk.open(Dialog::adjust);
+}
+
 void help(Desk& desk) {
     desk.context.services.messages.show(helptext(), programname, MessageIcon::information);
 }
@@ -123,7 +127,7 @@ constexpr MenuEntry entries[] = {
     {"mnumaintenance", "mnucopyconstants", "&Copy ports", "", nullptr, false, &MainView::copyportsvisible},
     {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", nullptr, false, &MainView::diamondsvisible},
     {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", "Ctrl+T", run<togglelayers>},
-    {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", nullptr, false, &MainView::adjustvisible},
+    {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", adjustharmonics, true, &MainView::adjustvisible},
     {"mnuHelpTop", "mnuHelp", "Help", "F1", help},
     {"mnuSpecial", "mnuAnglesAndFactors", "Angles and Factors", "", nullptr},
     {"mnuSpecial", "mnuYears", "Years", "", nullptr},

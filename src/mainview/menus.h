@@ -11,12 +11,12 @@
 namespace tarvane {
 
 /// The windows that menu entries open.
-enum class Dialog { dateentry, selectport, programoptions, portnotes, configuration, sunrise };
+enum class Dialog { dateentry, selectport, programoptions, portnotes, configuration, sunrise, adjust };
 
 /// What a menu command works with: the session's context, and what only the window itself can do.
 struct Desk {
     MainContext& context;
-    std::function<void(Dialog)> open;  ///< shows a window modally and comes back when it is closed
+    std::function<void(Dialog)> open;  ///< shows a window, modal but for `adjust`: back when it is closed
     std::function<void()> leave;       ///< closes the main window
 };
 

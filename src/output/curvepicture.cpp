@@ -22,8 +22,8 @@ void eachpair(const Rows& rows, int count, Draw draw) {
         draw(i, rows[i], rows[i + 1]);
 }
 
-void drawlayerdots(DrawSurface& picture, const Layer& layer, int count, Colour colour) {
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(count); ++i)
+void drawlayerdots(DrawSurface& picture, const Layer& layer, int count, Colour colour, std::size_t pitch) {
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(count); i += pitch)
         picture.point(hoursof(i), layer[i].height, colour);
 }
 
@@ -46,18 +46,23 @@ void drawdots(DrawSurface& picture, const std::array<TimedValue, 501>& rows, int
         picture.point(hoursof(i), rows[i].height, colour);
 }
 
-void drawlayers(DrawSurface& picture, const Prediction& prediction, const LayerChoice& ticked) {
+void drawlayers(DrawSurface& picture, const Prediction& prediction, const LayerChoice& ticked,
+                const LayerDashes& dashes) {
+    // In a narrow picture the dots of every row would run together.
+    const std::size_t pitch = dashes == solidlayers ? 1 : 3;
     for (std::size_t place = 0; place < constituents.size(); ++place) {
         if (!ticked[place]) continue;
+        picture.setlinestyle(dashes[place]);
         const Constituent& constituent = constituents[place];
         const Layer& layer = prediction.*constituent.layer;
         if (constituent.points)
-            drawlayerdots(picture, layer, prediction.samplecount, constituent.colour);
+            drawlayerdots(picture, layer, prediction.samplecount, constituent.colour, pitch);
         else
             eachpair(layer, prediction.samplecount, [&](std::size_t row, const TimedValue& from, const TimedValue& to) {
                 picture.line(hoursof(row), from.height, hoursof(row + 1), to.height, constituent.colour);
             });
     }
+    picture.setlinestyle(LineStyle::solid);
 }
 
 void drawgrid(DrawSurface& picture, const CurveLimits& limits, const std::string& topunit) {

@@ -24,8 +24,17 @@ void drawseries(DrawSurface& picture, const std::array<TimedValue, 501>& rows, i
 /// A dot for each row from 1 to `count`.
 void drawdots(DrawSurface& picture, const std::array<TimedValue, 501>& rows, int count, Colour colour);
 
+/// How the lines of the constituents can differ beside their colours, for who can't tell these; K1 and the mean level
+/// are points.
+using LayerDashes = std::array<LineStyle, constituents.size()>;
+inline constexpr LayerDashes solidlayers{};
+inline constexpr LayerDashes dashedlayers{LineStyle::solid,      LineStyle::dashed,     LineStyle::dotted,
+                                          LineStyle::dashdotted, LineStyle::longdashed, LineStyle::dotted,
+                                          LineStyle::dotted};
+
 /// The ticked constituents of a prediction in their colours.
-void drawlayers(DrawSurface& picture, const Prediction& prediction, const LayerChoice& ticked);
+void drawlayers(DrawSurface& picture, const Prediction& prediction, const LayerChoice& ticked,
+                const LayerDashes& dashes = solidlayers);
 
 /// A line every three hours and every metre, each metre named and the topmost with `topunit` behind it.
 void drawgrid(DrawSurface& picture, const CurveLimits& limits, const std::string& topunit);

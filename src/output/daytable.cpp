@@ -32,7 +32,7 @@ void buildpredictiontext(DayTable& table, const Prediction& prediction, int n, c
     table.daystide1 += "   (Range " + format(prediction.dayrange, "0.0") + "M)\r\n   Time    Ht.\r\n";
     for (int i = 1; i <= n; ++i) {
         const TimedValue& point = prediction.turningpoints[static_cast<std::size_t>(i)];
-        TurningText& text = table.turningtext[static_cast<std::size_t>(i)];
+        WaterText& text = table.turningtext[static_cast<std::size_t>(i)];
         text = {timetext(point.time), heighttext(point.height)};
         table.daystide1 += "   " + text.time + "   " + text.height + "\r";
         table.daylines[static_cast<std::size_t>(i) + 3] = text.time + "   " + text.height;

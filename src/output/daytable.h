@@ -11,14 +11,14 @@
 
 namespace tarvane {
 
-struct TurningText {
+struct WaterText {
     std::string time;    ///< "hh:mm"
     std::string height;  ///< metres
 };
 
 /// Row 0 of both arrays is unused.
 struct DayTable {
-    std::array<TurningText, 16> turningtext;  ///< heights with one decimal
+    std::array<WaterText, 16> turningtext;  ///< heights with one decimal
     std::array<std::string, 301> daylines;
     int daylinecount = 0;
     std::string daystide1;  ///< the day table's caption, CR LF and lone CR as line ends

@@ -54,7 +54,7 @@ void addday(MonthTable& table, MonthDay day, const std::string& monthname, const
     addpair(table, date, inbrackets);
     auto& cells = table.monthcells[static_cast<std::size_t>(dayof(day.date))];
     std::size_t j = 0;
-    for (const TurningText& tide : day.tides) {
+    for (const WaterText& tide : day.tides) {
         ++j;
         cells[1][j] = tide.time;
         cells[2][j] = tide.height;

@@ -20,7 +20,7 @@ struct MonthDay {
     Date date{};
     int weekday = 0;                 ///< 0 Sunday to 6 Saturday
     std::string head;                ///< "9 Apr (Tue)", both names the system's
-    std::vector<TurningText> tides;  ///< "hh:mm" and metres with two decimals, in time order
+    std::vector<WaterText> tides;  ///< "hh:mm" and metres with two decimals, in time order
     bool defined = true;             ///< false for a day without a prediction, which has no tides
     const char* whynot = "";         ///< why then, a sentence for the user
 };

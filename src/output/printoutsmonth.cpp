@@ -27,7 +27,7 @@ using Rows = std::vector<Row>;
 /// A day's head and the rows of its tides.
 Rows rowsof(const MonthDay& day) {
     Rows rows{{trim(day.head), true}};
-    for (const TurningText& tide : day.tides)
+    for (const WaterText& tide : day.tides)
         rows.push_back({tide.time + "   " + tide.height});
     if (!day.defined) rows.push_back({nopredictionword});
     return rows;

@@ -19,7 +19,7 @@ inline constexpr Colour yellow = 0x00FFFF;
 inline constexpr Colour magenta = 0xFF00FF;
 inline constexpr Colour grey = 0x808080;
 
-enum class LineStyle { solid, dashed, dotted };
+enum class LineStyle { solid, dashed, dotted, longdashed, dashdotted };
 
 class DrawSurface {
   public:

@@ -16,6 +16,7 @@
 #include "output/monthtable.h"
 #include "platform/drawsurface.h"
 #include "platform/services.h"
+#include "portdata/areaedits.h"
 #include "portdata/configuration.h"
 #include "portdata/currentport.h"
 #include "sunmoon/lunarphases.h"
@@ -85,6 +86,7 @@ struct Session {
     bool showconstants = false;
     LayerChoice layers{};
     LayerReadout layervalues;
+    AreaBackups backups;  ///< the area files of which this run has kept a copy
     TideDay layersday;  ///< what `layervalues` were read off
     std::int16_t layersport = 0;
     std::string layersarea;

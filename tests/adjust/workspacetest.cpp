@@ -7,6 +7,7 @@
 
 #include "fakes/mainfixture.h"
 #include "text/numbers.h"
+#include "text/timetext.h"
 
 namespace tarvane::tests {
 namespace {
@@ -74,7 +75,7 @@ struct Workspace : testing::Test, protected MainFixture {
 TEST_F(Workspace, OpensOnTheCurrentPortAndTheNextWithTheirMeans) {
     const AdjustWorkspace workspace = opened();
     EXPECT_EQ(workspace.name1 + "|" + workspace.name2, "Alder Quay|Birch Sound");
-    EXPECT_EQ(session.settings.currentport, 2) << "Port 2 becomes current for its step";
+    EXPECT_EQ(session.settings.currentport, 1) << "Port 2 is current for its reading alone";
     EXPECT_EQ(workspace.port1[1] + "|" + workspace.port2[1] + "|" + workspace.boxes[1], "120|160|140");
     EXPECT_EQ(workspace.steps[0], 350);
     EXPECT_EQ(workspace.tidedatebox, "Date   : 9 April 2024 (Tuesday)");
@@ -135,6 +136,8 @@ TEST_F(Workspace, DrawsCurvesOverOneFloorAndReadingsUntilTheDayIsStepped) {
     EXPECT_EQ(picture.top, std::trunc(picture.top));
     stepworkspace(workspace, context, 1);
     EXPECT_EQ(workspace.heightfile, "");
+    EXPECT_EQ(TurningText(workspace.curves[port1curve]).substr(0, 5),
+              timetext(workspace.curves[0].turningpoints[1].time));
     EXPECT_EQ(greenlines(intermediatecurve), f4);
     EXPECT_EQ(workspace.tidedatebox, "Date   : 10 April 2024 (Wednesday)");
 }
@@ -153,7 +156,7 @@ TEST_F(Workspace, AFitFillsTheBoxesAndOneUndoBringsThemBack) {
         << fittext(fit, workspace.readings);
     const auto& sample = workspace.curves[intermediatecurve].curvesamples[23];
     EXPECT_NEAR(sample.height, workspace.readings[0].obsheight, 0.02);
-    undofit(workspace, context);
+    undoboxes(workspace);
     EXPECT_EQ(workspace.boxes, before);
     EXPECT_FALSE(workspace.undo.has_value());
 }

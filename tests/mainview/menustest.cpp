@@ -103,6 +103,7 @@ const Row rows[] = {
     {"mnuchartdepth", nothing, [](const MenusFixture& m) { return m.opened == Dialog::portnotes; }},
     {"Mnushowconfig", nothing, [](const MenusFixture& m) { return m.opened == Dialog::configuration; }},
     {"mnuLayersShow", nothing, [](const MenusFixture& m) { return m.session.layersmode == 1; }},
+    {"mnuAdjustLoad", nothing, [](const MenusFixture& m) { return m.opened == Dialog::adjust; }},
     {"mnuHelp", [](MenusFixture& m) { m.scripted.messages.expectshow(helptext()); },
      [](const MenusFixture&) { return true; }},
 };

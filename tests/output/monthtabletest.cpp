@@ -126,7 +126,7 @@ TEST(MonthTable, OneShiftThatOfTheDayOnShowServesTheMonth) {
     const MonthTable shifted = maker.table(2024, 3, 31);
     EXPECT_EQ(shifted.monthspredictions[4], "(Standard Times)");
     for (const std::size_t d : {0U, 30U}) {
-        const TurningText &from = standard.days[d].tides[1], &to = shifted.days[d].tides[1];
+        const WaterText &from = standard.days[d].tides[1], &to = shifted.days[d].tides[1];
         EXPECT_EQ(val(to.time.substr(0, 2)), val(from.time.substr(0, 2)) + 1);
         EXPECT_EQ(to.time.substr(2) + to.height, from.time.substr(2) + from.height);
     }

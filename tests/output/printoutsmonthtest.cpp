@@ -27,7 +27,7 @@ std::vector<MonthDay> month(int days, int first, Tides tides) {
     return all;
 }
 
-std::string row(const TurningText& tide) {
+std::string row(const WaterText& tide) {
     return tide.time + "   " + tide.height;
 }
 

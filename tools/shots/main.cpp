@@ -6,6 +6,11 @@
 #include <QTemporaryFile>
 #include <cstdio>
 
+#include "adjust/frmadjustfileselect.h"
+#include "adjust/frmadjustsave.h"
+#include "adjust/frmheightenter.h"
+#include "adjust/frmselectheightfile.h"
+#include "adjust/frmweighting.h"
 #include "almanac/frmriseresults.h"
 #include "almanac/frmsunrise.h"
 #include "almanac/sunview.h"
@@ -132,6 +137,50 @@ void takestatus(Album& album, Stage& stage) {
     stage.show(77, makedate(2026, 7, 14));
 }
 
+/// The workshop with readings of a creek over its middle curve, and the windows that it opens.
+void takeworkshop(Album& album, Stage& stage) {
+    MainContext context = stage.context();
+    stage.show(30, makedate(2026, 7, 14));
+    frmHarmAdjust window(context, &stage.window());
+    album.take(window, "frmHarmAdjust");
+    AdjustWorkspace workspace = openworkspace(context);
+    std::vector<HeightRecord> readings;
+    for (int i = 0; i < 20; ++i) {
+        const TimedValue& sample =
+            workspace.curves[intermediatecurve].curvesamples[static_cast<std::size_t>(30 + 4 * i)];
+        readings.push_back({static_cast<float>(sample.time + 0.4), static_cast<float>(sample.height * 0.9 + 0.3)});
+    }
+    const std::string heights = stage.sessiononstage().folders.programfolder + "/creek.ht";
+    writeheights(heights, readings);
+    window.displayheights(heights);
+    window.findChild<QPushButton*>("cmdFit")->click();
+    window.columns[intermediatecurve].picture->onmousemove(9.4, 0);
+    album.take(window, "frmHarmAdjust-fitted");
+    frmHeightEnter entry(context, workspace, &window);
+    entry.File1->setCurrentRow(0);
+    entry.cmdOpen->click();
+    entry.lstHours->setCurrentRow(9);
+    entry.lstMetres->setCurrentRow(3);
+    album.take(entry, "frmHeightEnter");
+    frmSelectHeightFile select(context, workspace, &window);
+    select.File1->setCurrentRow(0);
+    album.take(select, "frmSelectHeightFile");
+    FrmAdjustfileselect load(context, workspace, &window);
+    load.File1->setCurrentRow(0);
+    load.List1->setCurrentRow(8);
+    load.cmdPort1->click();
+    album.take(load, "FrmAdjustfileselect");
+    frmAdjustSave save(context, workspace, &window);
+    save.File1->setCurrentRow(0);
+    album.take(save, "frmAdjustSave");
+    frmWeighting weighting(context, workspace, &window);
+    weighting.txtname->setText("Kingfisher Creek");
+    weighting.txtlat->setText("50.20.00N");
+    weighting.txtlong->setText("003.50.00W");
+    album.take(weighting, "frmWeighting");
+    stage.show(77, makedate(2026, 7, 14));
+}
+
 void takeeverything(Album& album, const std::string& area) {
     const ClockReading at{makedate(2026, 7, 14), 14, 32, 0};
     Stage stage(area, at);
@@ -153,6 +202,7 @@ void takeeverything(Album& album, const std::string& area) {
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));
     album.takedialog<Frmriseresults>(stage, "Frmriseresults");
+    takeworkshop(album, stage);
     frmConditions conditions(context.services, stage.sessiononstage().folders);
     album.take(conditions, "frmConditions");
     Form1 locales(context.services.locale);

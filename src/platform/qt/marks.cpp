@@ -74,9 +74,18 @@ Mark areamark(QRect area, Colour colour) {
     return mark;
 }
 
-/// A dash and the gap behind it, in widths of the line.
-std::array<int, 2> dashesof(LineStyle style) {
-    return style == LineStyle::dashed ? std::array{4, 3} : std::array{1, 2};
+/// Two dashes and the gap behind each, in widths of the line.
+std::array<int, 4> dashesof(LineStyle style) {
+    switch (style) {
+        case LineStyle::dashed:
+            return {4, 3, 4, 3};
+        case LineStyle::longdashed:
+            return {9, 3, 9, 3};
+        case LineStyle::dashdotted:
+            return {6, 2, 1, 2};
+        default:
+            return {1, 2, 1, 2};
+    }
 }
 
 void paintarea(QPainter& painter, const Mark& mark) {
@@ -87,19 +96,22 @@ void paintarea(QPainter& painter, const Mark& mark) {
     }
     const bool upright = area.height() > area.width();
     const int width = upright ? area.width() : area.height();
-    const auto [dash, gap] = dashesof(mark.style);
-    const QPoint step = upright ? QPoint(0, width * (dash + gap)) : QPoint(width * (dash + gap), 0);
-    QRect piece(area.topLeft(), upright ? QSize(width, width * dash) : QSize(width * dash, width));
-    for (; piece.intersects(area); piece.translate(step))
-        painter.fillRect(piece.intersected(area), mark.colour);
+    const std::array<int, 4> dashes = dashesof(mark.style);
+    QPoint at = area.topLeft();
+    for (std::size_t i = 0; area.contains(at); i = (i + 1) % dashes.size()) {
+        const int length = width * dashes[i];
+        const QRect piece(at, upright ? QSize(width, length) : QSize(length, width));
+        if (i % 2 == 0) painter.fillRect(piece.intersected(area), mark.colour);
+        at += upright ? QPoint(0, length) : QPoint(length, 0);
+    }
 }
 
 void paintcurve(QPainter& painter, const Mark& mark) {
     QPen pen(mark.colour, mark.width, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin);
     if (mark.style != LineStyle::solid) {
-        const auto [dash, gap] = dashesof(mark.style);
+        const std::array<int, 4> dashes = dashesof(mark.style);
         pen.setCapStyle(Qt::FlatCap);
-        pen.setDashPattern({double(dash), double(gap)});
+        pen.setDashPattern(QList<qreal>(dashes.begin(), dashes.end()));
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(pen);

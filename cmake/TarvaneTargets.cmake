@@ -36,6 +36,14 @@ function(tarvane_library name)
     target_link_libraries(tarvane_${name} INTERFACE tarvane_rules ${arg_LINKS})
   endif()
   add_library(tarvane::${name} ALIAS tarvane_${name})
+  if(name MATCHES "_windows$")
+    tarvane_windows(tarvane_${name})
+  endif()
+endfunction()
+
+# tarvane_windows(TARGET): the toolkit's headers are parsed once, for platform_qt and all that stands on it.
+function(tarvane_windows target)
+  target_precompile_headers(${target} REUSE_FROM tarvane_platform_qt)
 endfunction()
 
 # tarvane_test(FOLDER SOURCES a.cpp ... LINKS tarvane::a ...): one executable a folder, shuffled. PRECOMPILED headers take

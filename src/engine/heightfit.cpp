@@ -1,8 +1,9 @@
 #include "engine/heightfit.h"
 
-#include <Eigen/Dense>
+#include <Eigen/LU>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <optional>
 
 #include "text/numbers.h"
@@ -22,6 +23,8 @@ constexpr double poorfit = 0.4;  // of the readings' own spread
 constexpr int mostrounds = 60;
 
 using Parameters = Eigen::Vector3d;  // level, factor, shift
+using Residuals = std::vector<double>;
+using Slopes = std::vector<Parameters>;
 
 Parameters parametersof(const FitChange& change) {
     return {change.level, change.factor, change.shift};
@@ -46,23 +49,26 @@ class Curve {
         return inputs;
     }
 
-    Eigen::VectorXd residuals(std::span<const Reading> readings, const Parameters& parameters) const {
+    Residuals residuals(std::span<const Reading> readings, const Parameters& parameters) const {
         const HeightInputs inputs = changed(parameters);
-        Eigen::VectorXd result(static_cast<Eigen::Index>(readings.size()));
-        for (std::size_t i = 0; i < readings.size(); ++i)
-            result[static_cast<Eigen::Index>(i)] = readings[i].height - heightformula(inputs, readings[i].time).height;
+        Residuals result;
+        result.reserve(readings.size());
+        for (const Reading& each : readings)
+            result.push_back(each.height - heightformula(inputs, each.time).height);
         return result;
     }
 
-    /// How the heights change with each parameter, by central differences.
-    Eigen::MatrixX3d slopes(std::span<const Reading> readings, const Parameters& parameters) const {
+    /// How each reading's height on the curve changes with the parameters, by central differences.
+    Slopes slopes(std::span<const Reading> readings, const Parameters& parameters) const {
         const Parameters steps(1e-4, 1e-5, 1e-4);
-        Eigen::MatrixX3d result(static_cast<Eigen::Index>(readings.size()), 3);
+        Slopes result(readings.size());
         for (Eigen::Index column = 0; column < 3; ++column) {
             Parameters less = parameters, more = parameters;
             less[column] -= steps[column];
             more[column] += steps[column];
-            result.col(column) = (residuals(readings, less) - residuals(readings, more)) / (2 * steps[column]);
+            const Residuals below = residuals(readings, less), above = residuals(readings, more);
+            for (std::size_t i = 0; i < result.size(); ++i)
+                result[i][column] = (below[i] - above[i]) / (2 * steps[column]);
         }
         return result;
     }
@@ -71,32 +77,44 @@ class Curve {
     HeightInputs basis;
 };
 
-double medianof(Eigen::VectorXd values) {
-    const auto middle = values.begin() + values.size() / 2;
+double medianofsizes(Residuals values) {
+    for (double& value : values)
+        value = std::abs(value);
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
 }
 
 /// The spread of residuals by the median of their sizes, as a standard deviation.
-double scaleof(const Eigen::VectorXd& residuals) {
-    return std::max(1.4826 * medianof(residuals.cwiseAbs()), leastscale);
+double scaleof(const Residuals& residuals) {
+    return std::max(1.4826 * medianofsizes(residuals), leastscale);
 }
 
-Eigen::VectorXd tukeyweights(const Eigen::VectorXd& residuals, double scale) {
-    return residuals.unaryExpr([&](double residual) {
-        const double u = residual / (tukeyscales * scale);
-        return std::abs(u) < 1 ? (1 - u * u) * (1 - u * u) : 0.0;
-    });
+double tukeyweight(double residual, double scale) {
+    const double u = residual / (tukeyscales * scale);
+    return std::abs(u) < 1 ? (1 - u * u) * (1 - u * u) : 0.0;
+}
+
+std::vector<double> weightsof(const Residuals& residuals, bool robust) {
+    std::vector<double> weights(residuals.size(), 1);
+    const double scale = scaleof(residuals);
+    for (std::size_t i = 0; robust && i < weights.size(); ++i)
+        weights[i] = tukeyweight(residuals[i], scale);
+    return weights;
 }
 
 /// One Gauss-Newton step; nothing when the readings can't tell the three numbers apart.
-std::optional<Parameters> newtonstep(const Curve& curve, std::span<const Reading> readings,
-                                     const Eigen::VectorXd& weights, const Parameters& from) {
-    const Eigen::MatrixX3d slopes = curve.slopes(readings, from);
-    const Eigen::Matrix3d normal = slopes.transpose() * weights.asDiagonal() * slopes;
+std::optional<Parameters> newtonstep(const Slopes& slopes, const Residuals& residuals,
+                                     const std::vector<double>& weights, const Parameters& from) {
+    Eigen::Matrix3d normal = Eigen::Matrix3d::Zero();
+    Parameters right = Parameters::Zero();
+    for (std::size_t i = 0; i < slopes.size(); ++i) {
+        normal += weights[i] * slopes[i] * slopes[i].transpose();
+        right += weights[i] * residuals[i] * slopes[i];
+    }
     const Eigen::FullPivLU<Eigen::Matrix3d> solver(normal);
     if (!normal.allFinite() || !solver.isInvertible() || solver.rcond() < 1e-10) return std::nullopt;
-    const Parameters step = solver.solve(slopes.transpose() * weights.asDiagonal() * curve.residuals(readings, from));
+    const Parameters step = solver.solve(right);
     Parameters to = from + step;
     to[1] = std::clamp(to[1], from[1] / 2, from[1] * 2);
     to[2] = std::clamp(to[2], from[2] - 1, from[2] + 1);
@@ -106,10 +124,8 @@ std::optional<Parameters> newtonstep(const Curve& curve, std::span<const Reading
 /// Rounds of steps until they stand still. `robust` weighs the readings anew before each.
 std::optional<Parameters> settle(const Curve& curve, std::span<const Reading> readings, Parameters at, bool robust) {
     for (int round = 0; round < mostrounds; ++round) {
-        const Eigen::VectorXd residuals = curve.residuals(readings, at);
-        const Eigen::VectorXd weights = robust ? tukeyweights(residuals, scaleof(residuals))
-                                               : Eigen::VectorXd(Eigen::VectorXd::Ones(residuals.size()));
-        const auto next = newtonstep(curve, readings, weights, at);
+        const Residuals residuals = curve.residuals(readings, at);
+        const auto next = newtonstep(curve.slopes(readings, at), residuals, weightsof(residuals, robust), at);
         if (!next) return std::nullopt;
         const double moved = (*next - at).cwiseAbs().maxCoeff();
         at = *next;
@@ -125,7 +141,7 @@ std::optional<Parameters> robustfit(const Curve& curve, std::span<const Reading>
     for (double shift = -widestshift; shift <= widestshift; shift += 1) {
         const auto settled = settle(curve, readings, parametersof({0, 1, shift}), true);
         if (!settled || std::abs((*settled)[2]) > widestshift || (*settled)[1] < 0.05) continue;
-        const double scale = medianof(curve.residuals(readings, *settled).cwiseAbs());
+        const double scale = medianofsizes(curve.residuals(readings, *settled));
         // Of fits as good as one another the least shift is meant.
         const bool better = !best || scale < bestscale * 0.999 ||
                             (scale < bestscale * 1.001 && std::abs((*settled)[2]) < std::abs((*best)[2]));
@@ -136,12 +152,16 @@ std::optional<Parameters> robustfit(const Curve& curve, std::span<const Reading>
     return best;
 }
 
+double sumofsquares(const Residuals& residuals) {
+    return std::inner_product(residuals.begin(), residuals.end(), residuals.begin(), 0.0);
+}
+
 FitMisses missesof(const Curve& curve, std::span<const Reading> readings, const Parameters& parameters) {
-    const Eigen::VectorXd residuals = curve.residuals(readings, parameters);
-    Eigen::Index place = 0;
-    residuals.cwiseAbs().maxCoeff(&place);
-    return {std::sqrt(residuals.squaredNorm() / static_cast<double>(residuals.size())), residuals[place],
-            readings[static_cast<std::size_t>(place)].time};
+    const Residuals residuals = curve.residuals(readings, parameters);
+    const auto greatest = std::max_element(residuals.begin(), residuals.end(),
+                                           [](double a, double b) { return std::abs(a) < std::abs(b); });
+    return {std::sqrt(sumofsquares(residuals) / static_cast<double>(residuals.size())), *greatest,
+            readings[static_cast<std::size_t>(greatest - residuals.begin())].time};
 }
 
 /// Standard deviation of the readings about their own mean.
@@ -156,10 +176,12 @@ double spreadof(std::span<const Reading> readings) {
 }
 
 FitChange uncertaintyof(const Curve& curve, std::span<const Reading> readings, const Parameters& parameters) {
-    const Eigen::MatrixX3d slopes = curve.slopes(readings, parameters);
+    Eigen::Matrix3d normal = Eigen::Matrix3d::Zero();
+    for (const Parameters& slope : curve.slopes(readings, parameters))
+        normal += slope * slope.transpose();
     const double freedom = static_cast<double>(readings.size()) - 3;
-    const double variance = curve.residuals(readings, parameters).squaredNorm() / freedom;
-    const Eigen::Matrix3d covariance = variance * (slopes.transpose() * slopes).inverse();
+    const double variance = sumofsquares(curve.residuals(readings, parameters)) / freedom;
+    const Eigen::Matrix3d covariance = variance * normal.inverse();
     return changeof(covariance.diagonal().cwiseMax(0).cwiseSqrt());
 }
 
@@ -226,11 +248,11 @@ HeightFit fitheights(const HarmonicConstants& constants, int year, int dayofyear
         fit.refusal = nofit;
         return fit;
     }
-    const Eigen::VectorXd residuals = curve.residuals(readings, *robust);
+    const Residuals residuals = curve.residuals(readings, *robust);
     const double wild = std::max(wildscales * scaleof(residuals), leastwild);
     std::vector<Reading> kept;
     for (std::size_t i = 0; i < readings.size(); ++i) {
-        if (std::abs(residuals[static_cast<Eigen::Index>(i)]) > wild)
+        if (std::abs(residuals[i]) > wild)
             fit.rejected.push_back(i);
         else
             kept.push_back(readings[i]);

@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QTemporaryDir>
+#include <array>
 #include <memory>
 
+#include "adjust/workspace.h"
 #include "files/wholefiles.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/monthcommand.h"
@@ -90,6 +92,23 @@ void redraw(benchmark::State& state) {
     }
 }
 BENCHMARK(redraw)->Unit(benchmark::kMillisecond);
+
+/// The workshop's three curves reckoned and painted, at the size of its pictures on a screen of 1280 x 800.
+void updatecalc(benchmark::State& state) {
+    Bench bench;
+    AdjustWorkspace workspace = openworkspace(bench.context);
+    std::array<ImageSurface, curveplaces> pictures{ImageSurface(QSize(320, 380)), ImageSurface(QSize(320, 380)),
+                                                   ImageSurface(QSize(320, 380))};
+    for (auto _ : state) {
+        stepconstant(workspace, 1, workspace.steps[1] % 359 + 1);
+        tarvane::updatecalc(workspace, bench.context);
+        for (const CurvePlace place : {port1curve, port2curve, intermediatecurve}) {
+            drawworkspacecurve(workspace, place, pictures[place]);
+            benchmark::DoNotOptimize(pictures[place].image());
+        }
+    }
+}
+BENCHMARK(updatecalc)->Unit(benchmark::kMillisecond);
 
 void daystep(benchmark::State& state) {
     Bench bench;

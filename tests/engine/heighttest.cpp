@@ -9,11 +9,8 @@
 #include "engine/prediction.h"
 #include "fakes/testport.h"
 
-namespace tarvane {
+namespace tarvane::tests {
 namespace {
-
-using tests::PortFiles;
-using tests::roundport;
 
 const HarmonicConstants exampleport{8, 0.94, 60, 0.42, 215, 0.23, 162, 0.14, 290, 0.185, 168, 0.038, 2.55, 0};
 const AnglesAndFactors exampleday{19, 1.17, 12, 0.82, 161, 1.28, 229, 1.05};
@@ -124,4 +121,4 @@ TEST(Height, ZoneTimeHandsOnlyTheNextDayOn) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::tests

@@ -43,6 +43,19 @@ ConfigRecord MainFixture::stored() const {
     return LoadConfig(session.folders);
 }
 
+void MainFixture::store(const std::function<void(ConfigRecord&)>& change) const {
+    ConfigRecord record = stored();
+    change(record);
+    ASSERT_TRUE(SaveConfig(session.folders, record));
+}
+
+void MainFixture::storedepth(std::int16_t port, float metres, const std::string& note) const {
+    UserDepthRecord record = readdepth(session.settings.depfile, port);
+    record.UserDepth = metres;
+    record.Notes = note;
+    ASSERT_TRUE(writedepth(session.settings.depfile, port, record));
+}
+
 void MainFixture::load() {
     loadmainwindow(context);
 }

@@ -2,6 +2,9 @@
 // or a screen.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <functional>
 #include <string>
 
 #include "fakes/scriptedsurface.h"
@@ -26,6 +29,12 @@ class MainFixture {
     std::string area() const;
     ConfigRecord stored() const;
 
+    /// Changes the configuration's record on the disk, and there alone.
+    void store(const std::function<void(ConfigRecord&)>& change) const;
+
+    /// The user's depth in metres, and the note, of a port in the depth file that is in use.
+    void storedepth(std::int16_t port, float metres, const std::string& note = "") const;
+
     MainSurfaces& surfaces() { return context.surfaces; }
 
     /// The start of the main window, as after Accept.
@@ -36,6 +45,12 @@ class MainFixture {
     ScriptedSurface picture, bar, window;
     Session session;
     MainContext context;
+};
+
+/// The same for a TEST_F, the main window loaded.
+class LoadedMain : public testing::Test, protected MainFixture {
+  protected:
+    LoadedMain() { load(); }
 };
 
 }  // namespace tarvane::tests

@@ -26,8 +26,8 @@ class ScriptedPrinter : public Printer {
         std::string text;
     };
 
-    double pagewidth = 11000;
-    double pageheight = 16000;
+    double pagewidth = 11186;
+    double pageheight = 15120;
     std::string refuse;  ///< why `begin` fails; empty: it doesn't
     std::string fail;    ///< why `enddocument` fails
     std::string place;   ///< what `destination` tells

@@ -1,7 +1,6 @@
 #include "fakes/scriptedsurface.h"
 
 #include <algorithm>
-#include <iomanip>
 #include <iterator>
 #include <sstream>
 #include <utility>
@@ -13,15 +12,10 @@ using Kind = ScriptedSurface::Kind;
 using Drawn = ScriptedSurface::Drawn;
 
 std::string logline(const Drawn& entry) {
-    constexpr const char* names[] = {"line", "box", "point", "text"};
     std::ostringstream line;
-    line << std::setprecision(7) << names[static_cast<int>(entry.kind)] << ' ' << entry.x1 << ' ' << entry.y1 << ' ';
-    if (entry.kind == Kind::text) return line.str() + entry.text;
-    if (entry.kind != Kind::point) line << entry.x2 << ' ' << entry.y2 << ' ';
-    line << std::hex << std::uppercase << std::setfill('0') << std::setw(6) << entry.colour;
-    if (entry.kind != Kind::point) line << std::dec << ' ' << entry.width;
-    if (entry.style == LineStyle::dashed) line << " dashed";
-    if (entry.style == LineStyle::dotted) line << " dotted";
+    for (const double place : {entry.x1, entry.y1, entry.x2, entry.y2})
+        line << place << ' ';
+    line << std::hex << entry.colour << std::dec << ' ' << entry.width << ' ' << entry.text << '\n';
     return line.str();
 }
 
@@ -30,7 +24,7 @@ std::string logline(const Drawn& entry) {
 std::string ScriptedSurface::log(const std::vector<Drawn>& layer) {
     std::string all;
     for (const Drawn& entry : layer)
-        all += logline(entry) + "\n";
+        all += logline(entry);
     return all;
 }
 

@@ -30,8 +30,7 @@ class ScriptedSurface : public DrawSurface {
     int linewidth = 1;
     LineStyle linestyle = LineStyle::solid;
 
-    /// One layer as text, an entry a line: "line 0 4 0 -1 000000 1", "line 0 4 0 -1 000000 1 dashed",
-    /// "text 0 4 4M".
+    /// One layer as text, an entry a line: places, colour, width and text: "0 4 0 -1 ff 1 ", "0 4 0 0 0 1 4M".
     static std::string log(const std::vector<Drawn>& layer);
 
     /// The entries of one kind and colour in a layer.

@@ -16,17 +16,6 @@ class ScriptedWindows : public Windows {
     /// What the user does in the window; without it the window is closed at once.
     void expect(std::string name, std::function<void(ModalWindow&)> act = {});
 
-    /// The same for a window of a known class.
-    template <class Window>
-    void expect(std::string name, std::function<void(Window&)> act) {
-        expect(std::move(name), [act = std::move(act)](ModalWindow& window) {
-            if (auto* known = dynamic_cast<Window*>(&window))
-                act(*known);
-            else
-                failtest(window.windowname() + " is of another class");
-        });
-    }
-
     void showmodal(ModalWindow& window) override;
 
   private:

@@ -14,9 +14,6 @@
 namespace tarvane {
 
 struct ScriptedServices {
-    ScriptedServices();
-    ~ScriptedServices();
-
     ScriptedMessages messages;
     ScriptedFileDialogs filedialogs;
     ScriptedPrinter printer;

@@ -1,10 +1,18 @@
 // A folder of a test's own, gone with it. In memory where the machine allows; must not be anywhere that a user keeps
-// files.
+// files. And what stands in files, whole.
 #pragma once
 
 #include <string>
 
-namespace tarvane::fakes {
+namespace tarvane {
+
+/// The bytes of a file; none when it can't be read.
+std::string filetext(const std::string& path);
+
+/// Makes the file, or replaces it, in place.
+void putfile(const std::string& path, const std::string& text);
+
+namespace fakes {
 
 class TemporaryFolder {
   public:
@@ -20,4 +28,5 @@ class TemporaryFolder {
     std::string folder;
 };
 
-}  // namespace tarvane::fakes
+}  // namespace fakes
+}  // namespace tarvane

@@ -8,7 +8,6 @@
 #include <filesystem>
 
 #include "fakes/temporaryfolder.h"
-#include "files/wholefiles.h"
 
 namespace tarvane {
 namespace {
@@ -29,11 +28,6 @@ struct qtprinter : testing::Test {
         return printer.enddocument().whynot;
     }
 
-    static std::string contents(const std::string& path) {
-        const std::vector<std::byte> bytes = readwhole(path);
-        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-    }
-
     fakes::TemporaryFolder folder;
     const std::string made = folder / "made/here";
     QtPrinter printer;
@@ -42,19 +36,19 @@ struct qtprinter : testing::Test {
 TEST_F(qtprinter, APdfStandsInAndNeverOverwrites) {
     EXPECT_EQ(printpages("Tide curve", 1), "");
     EXPECT_EQ(printer.destination(), made + "/Tide curve.pdf");
-    const std::string first = contents(made + "/Tide curve.pdf");
+    const std::string first = filetext(made + "/Tide curve.pdf");
     EXPECT_TRUE(first.starts_with("%PDF"));
     EXPECT_EQ(printpages("Tide curve", 3), "");
     EXPECT_EQ(printer.destination(), made + "/Tide curve 2.pdf");
-    EXPECT_EQ(contents(made + "/Tide curve.pdf"), first);
-    EXPECT_NE(contents(made + "/Tide curve 2.pdf").find("/Count 3"), std::string::npos);
+    EXPECT_EQ(filetext(made + "/Tide curve.pdf"), first);
+    EXPECT_NE(filetext(made + "/Tide curve 2.pdf").find("/Count 3"), std::string::npos);
     printpages("Quay: a/b curve", 1);
     EXPECT_EQ(printer.destination(), made + "/Quay_ a_b curve.pdf");
 }
 
 TEST_F(qtprinter, AFullDiskLeavesNothingAndIsTold) {
     printpages("Title", 1);
-    const std::string whole = contents(made + "/Title.pdf");
+    const std::string whole = filetext(made + "/Title.pdf");
     rlimit old{};
     getrlimit(RLIMIT_FSIZE, &old);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
@@ -73,7 +67,7 @@ TEST_F(qtprinter, AFullDiskLeavesNothingAndIsTold) {
 
 TEST_F(qtprinter, AFolderThatCannotBeUsedIsNamedWithItsReason) {
     const std::string file = folder / "file", closed = folder / "closed";
-    ASSERT_TRUE(replacefile(file, std::string("x")));
+    putfile(file, "x");
     std::filesystem::create_directory(closed);
     std::filesystem::permissions(closed, std::filesystem::perms::owner_read);
     std::filesystem::permissions(folder.path(), std::filesystem::perms::all);

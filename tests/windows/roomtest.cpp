@@ -31,12 +31,10 @@ struct Large : ModalDialog {
     QPushButton button;
 };
 
-class Room : public testing::Test, protected MainFixture {
-  protected:
+struct Room : LoadedMain {
     using Windows = std::vector<std::unique_ptr<QWidget>>;
 
     Room() {
-        load();
         preparesunview(session);
         calculatesun(context, portsuninput(session));
     }

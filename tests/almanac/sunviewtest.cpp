@@ -19,14 +19,6 @@ struct SunView : LoadedMain {
     std::string file(const std::string& name) const { return folder / name; }
 };
 
-TEST_F(SunView, ComesUpWithThePortsPositionAndTheMonthsPhases) {
-    preparesunview(session);
-    EXPECT_EQ(session.lunar.lunarlist[3], "   08 Apr 2024       NEW MOON     ");
-    const SunInput input = portsuninput(session);
-    EXPECT_EQ(calculatesun(context, input), SunOutcome::calculated);
-    EXPECT_EQ(session.suntable.titles, (std::array<std::string, 4>{"", "Alder Quay", " 1.15W", " 50.30N"}));
-}
-
 TEST_F(SunView, PositionsTakenAndRefused) {
     constexpr auto good = SunOutcome::calculated, lat = SunOutcome::badlatitude, lon = SunOutcome::badlongitude;
     using Row = std::tuple<const char*, const char*, SunOutcome>;

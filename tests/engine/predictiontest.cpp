@@ -134,16 +134,5 @@ TEST(PredictDayLinked, GoesByTheDayItself) {
     }
 }
 
-TEST(HasPredictions, WantsTheDayBeforeToo) {
-    const bool has[] = {true, false, false, true};
-    for (int day = 0; day <= 3; ++day)
-        EXPECT_EQ(haspredictions(1990, day), has[day]) << day;
-    PortFiles files;
-    Prediction prediction = predicted(files, {2024, 4, 100, 0});
-    predictday(files.settings, {1990, 1, 2, 0}, prediction);
-    EXPECT_FALSE(prediction.defined);
-    EXPECT_EQ(prediction.turningcount + prediction.dayrange + prediction.m2layer[50].height, 0);
-}
-
 }  // namespace
 }  // namespace tarvane::tests

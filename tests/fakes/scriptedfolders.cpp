@@ -42,17 +42,4 @@ ScriptedFolders::ScriptedFolders() {
         std::filesystem::create_directories(path);
 }
 
-bool ScriptedFolders::make(const std::string& path) {
-    if (refused.contains(path)) return false;
-    std::error_code error;
-    std::filesystem::create_directories(path, error);
-    return std::filesystem::is_directory(path, error);
-}
-
-bool ScriptedFolders::remove(const std::string& path) {
-    if (refused.contains(path)) return false;
-    std::error_code error;
-    return std::filesystem::is_regular_file(path, error) && std::filesystem::remove(path, error);
-}
-
 }  // namespace tarvane

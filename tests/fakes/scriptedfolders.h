@@ -2,6 +2,7 @@
 // outside it unless a test sets a path that does.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <set>
 #include <string>
@@ -25,8 +26,10 @@ class ScriptedFolders : public Folders {
     std::optional<std::string> documents() const override { return documentsfolder; }
     std::string localappdata() const override { return appdatafolder; }
 
-    bool make(const std::string& path) override;
-    bool remove(const std::string& path) override;
+    bool make(const std::string& path) override {
+        return !refused.contains(path) && (std::filesystem::create_directories(path) || std::filesystem::exists(path));
+    }
+    bool remove(const std::string& path) override { return !refused.contains(path) && std::filesystem::remove(path); }
 };
 
 }  // namespace tarvane

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 #include <sstream>
-#include <utility>
 
 namespace tarvane {
 namespace {
@@ -47,26 +46,6 @@ void ScriptedSurface::clear() {
     if (!persistent) return;
     persistentlayer.clear();
     ++persistentclears;
-}
-
-void ScriptedSurface::line(double x1, double y1, double x2, double y2, Colour colour) {
-    put({Kind::line, x1, y1, x2, y2, colour, linewidth, {}, linestyle});
-}
-
-void ScriptedSurface::box(double x1, double y1, double x2, double y2, Colour colour) {
-    put({Kind::box, x1, y1, x2, y2, colour, linewidth, {}});
-}
-
-void ScriptedSurface::point(double x, double y, Colour colour) {
-    put({Kind::point, x, y, 0, 0, colour, linewidth, {}});
-}
-
-void ScriptedSurface::text(double x, double y, const std::string& text) {
-    put({Kind::text, x, y, 0, 0, black, linewidth, text});
-}
-
-void ScriptedSurface::put(Drawn entry) {
-    (persistent ? persistentlayer : passinglayer).push_back(std::move(entry));
 }
 
 }  // namespace tarvane

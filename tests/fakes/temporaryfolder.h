@@ -2,6 +2,9 @@
 // files. And what stands in files, whole.
 #pragma once
 
+#include <sys/resource.h>
+
+#include <csignal>
 #include <string>
 
 namespace tarvane {
@@ -11,6 +14,20 @@ std::string filetext(const std::string& path);
 
 /// Makes the file, or replaces it, in place.
 void putfile(const std::string& path, const std::string& text);
+
+/// Runs the writing while no file may grow past so many bytes, and tells what it told.
+template <typename Write>
+auto onadiskof(rlim_t bytes, Write write) {
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, old.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const auto told = write();
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, handler);
+    return told;
+}
 
 namespace fakes {
 

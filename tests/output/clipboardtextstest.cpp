@@ -41,15 +41,6 @@ TEST(ClipboardTexts, ADaysTides) {
     EXPECT_EQ(table.daystide1, "  Predictions\r\n   No prediction\r\n   A reason as long as\r   that\r");
 }
 
-TEST(ClipboardTexts, AMonthsTides) {
-    MonthTable table;
-    table.monthcolumn1 = {" Fécamp ", "", "1 Apr"};
-    table.monthcolumn2 = {"avril 2024", " ", " (Mon)"};
-    const std::string rows = "Fécamp\tavril 2024\r\n\t\r\n1 Apr\t(Mon)\r\nTimes are for :\t";
-    EXPECT_EQ(monthstidestext(table, -1, dateonshow(2024, 10, 1)), rows + "Summer Time\r\n");
-    EXPECT_EQ(monthstidestext(table, 0, dateonshow(2024, 7, 1)), rows + "Standard Time\r\n");
-}
-
 TEST(SunTimesText, AMonthInColumns) {
     SunTable table;
     fillsunvalues(table, {2024, 4, -1, 0}, {50.5, -1.25});

@@ -94,10 +94,5 @@ TEST(Zones, TheThreeTablesWalkedCompletely) {
     EXPECT_EQ(zonehoursof(port), 76 - 0xE9);
 }
 
-TEST(Constants, AreShownAsLabelsHaveThem) {
-    EXPECT_EQ(constituenttext(256.5, 1.865) + z0text(-0.125), " (g 257 : Hm 1.87) (Z0 -0.13)");
-    EXPECT_EQ(f4text(7.2, 0.0351) + f6text(129, 0.0049), " (f4 007 : F4 0.04) (f6 129 : F6 0.00)");
-}
-
 }  // namespace
 }  // namespace tarvane

@@ -95,16 +95,6 @@ TEST_F(TideCurve, SunLinesAreDashedToTheBottom) {
     EXPECT_DOUBLE_EQ(names[0].x1, 4.5);
 }
 
-TEST_F(TideCurve, MarkerStandsAtTheClockOnThePassingLayer) {
-    session.timenow = 17.0;
-    picture.clear();
-    drawtimemarker(session, picture);
-    EXPECT_EQ(session.view.timeval, "17:00");
-    EXPECT_EQ(session.view.hiteval, "5.5");
-    EXPECT_EQ(session.view.lblrate, "");
-    EXPECT_EQ(ScriptedSurface::only(picture.passinglayer, Kind::line, red).size(), 1U);
-}
-
 TEST_F(SpringsBar, ChangesItsEndsHalfWay) {
     using Row = std::tuple<double, const char*, const char*, double>;
     for (const auto& [lag, left, right, filled] :

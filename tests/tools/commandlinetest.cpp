@@ -11,34 +11,17 @@ namespace {
 using CommandLine = Companion;
 using Files = Companion;
 
-void expectrefused(const Outcome& outcome, const std::string& words, const std::string& what = {}) {
-    EXPECT_EQ(outcome.status, 2) << what;
-    EXPECT_EQ(outcome.out, "") << what;
-    EXPECT_EQ(linesof(outcome.err).size(), 1U) << what << ": " << outcome.err;
-    EXPECT_TRUE(has(outcome.err, words)) << what << ": " << outcome.err;
+void expectrefused(const Outcome& outcome, const std::string& words) {
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(linesof(outcome.err).size(), 1U) << outcome.err;
+    EXPECT_TRUE(has(outcome.err, words)) << outcome.err;
 }
 
-TEST_F(CommandLine, FaultsAreOneLineAndNoOutput) {
-    store({portnamed("Fécamp"), portnamed("Le Havre"), portnamed("Port Ellen"), portnamed("Portland")});
-    configure(1);
-    using Row = std::pair<std::string, const char*>;
-    for (const auto& [line, words] :
-         {Row{"--tomorrow", "no option '--tomorrow'"}, Row{"-x", "no option '-x'"},
-          Row{"--port", "--port needs a value: NUMBER|NAME|all"}, Row{"--port --sun", "--port needs a value"},
-          Row{"--area=", "--area needs a value"}, Row{"--port 1 --port 2", "--port is given twice"},
-          Row{"--port 1 2", "given twice, as '1' and as '2'"}, Row{"--sun --sun", "--sun is given twice"},
-          Row{"--sun --samples", "--samples and --sun exclude each other"}, Row{"--sun=no", "--sun takes no value"},
-          Row{"--format CSV", "text, csv or json"}, Row{"--summer yes", "on or off"}, Row{"--days 0", "1 to 3660"},
-          Row{"--days 3661", "1 to 3660"}, Row{"--days=-2", "1 to 3660"}, Row{"--days 2.5", "1 to 3660"}})
-        expectrefused(run(line), words, line);
-    for (const auto& [line, words] :
-         {Row{"--date 2024-02-30", "'2024-02-30' is no date"}, Row{"--date 9999-12-31 --days 2", "past 9999-12-31"},
-          Row{"--days 99999999999999999999", "1 to 3660"}, Row{"5", "the nearest is 4 Portland"},
-          Row{"Fekamp", "the nearest names are 1 Fécamp"},
-          Row{"port", "fits 2 ports of UK.hc: 3 Port Ellen, 4 Portland"},
-          Row{"--area " + folder / "None.hc", "None.hc can't be read"},
-          Row{"--area " + environment.home, "can't be read"}})
-        expectrefused(run(line), words, line);
+TEST_F(CommandLine, FaultsAreOneLineWhateverIsTyped) {
+    expectrefused(run("--area " + folder / "None.hc"), "None.hc can't be read");
+    expectrefused(run("--area " + environment.home), "can't be read");
+    store({portnamed("Home")});
     expectrefused(runwith({"--bad\nline"}), "'--bad?line'");
     expectrefused(runwith({"--port", "  "}), "--port needs");
 }
@@ -49,7 +32,6 @@ TEST_F(CommandLine, TheSameAskedInOtherForms) {
     for (const char* line : {"--days=3 --port=2", "le --days 3 havre", "--days 3 -- HAVRE"})
         EXPECT_EQ(csv(line), wanted) << line;
     EXPECT_EQ(runwith({"--days", "3", "--port", "Le Havre", "--format=csv"}).out, wanted);
-    EXPECT_EQ(run("--version").out, "Tarvane Tides (v9.5.0)\n");
     const std::string help = run("-h").out;
     EXPECT_EQ(run("--nonsense --help").out, help);
     for (const char* part : {"--port NUMBER|NAME|all", "--orbital", "\"moment\"", "Exit status"})

@@ -109,34 +109,6 @@ TEST_F(Tables, WellFormedWhateverTheFileHolds) {
     EXPECT_EQ(csv("--port 3"), "port,name,date,time,height,kind,moment,depth\n");
 }
 
-TEST_F(Tables, DaysWithoutAPredictionAreLeftOutAndTold) {
-    HarmonicRecord broken = portnamed("Broken");
-    broken.S2Hm = std::numeric_limits<float>::infinity();
-    store({portnamed("Sound"), broken});
-    const std::string noconstants = ": The method has no constants for this day\n";
-    const std::string brokenrecord = ": The port's record holds values that are no numbers\n";
-    const std::string told =
-        "tides: no prediction for Sound, port 1, on 2 days from 1990-01-01 to 1990-01-02" + noconstants +
-        "tides: no prediction for Broken, port 2, on 2 days from 1989-12-31 to 1990-01-03" + brokenrecord +
-        "tides: no prediction for Broken, port 2, on 2 days from 1990-01-01 to 1990-01-02" + noconstants;
-    for (const std::string view : {"", "--samples"}) {
-        const auto outcome = run(view + " --port all --date 1989-12-31 --days 4 --format csv");
-        EXPECT_EQ(std::to_string(outcome.status) + outcome.err, "0" + told);
-        const std::string after = csv(view + " --port 1 --date 1990-01-03");
-        EXPECT_EQ(outcome.out, csv(view + " --port 1 --date 1989-12-31") + after.substr(after.find('\n') + 1));
-    }
-    using Row = std::pair<std::string, std::string>;
-    for (const auto& [line, fault] :
-         {Row{"1 --date 1990-01-02", "no prediction for Sound, port 1, on 1990-01-02" + noconstants},
-          Row{"2 --month", "no prediction for Broken, port 2, on 30 days from 2024-04-01 to 2024-04-30" + brokenrecord},
-          Row{"--orbital --date 1990-01-01", "no angles and factors on 1990-01-01" + noconstants}}) {
-        for (const std::string format : {" --format csv", " --format json"}) {
-            const auto outcome = run(line + format);
-            EXPECT_EQ(std::to_string(outcome.status) + outcome.out + outcome.err, "2tides: " + fault);
-        }
-    }
-}
-
 struct CommaPoint : std::numpunct<char> {
     char do_decimal_point() const override { return ','; }
     char do_thousands_sep() const override { return '.'; }

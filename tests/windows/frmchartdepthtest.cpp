@@ -25,7 +25,6 @@ struct FrmChartdepth : LoadedMain {
 TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
     frmChartdepth form(context);
     present(form);
-    expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "cdok");
     click(form, 2);
     EXPECT_EQ(form.portnolabel->text() + form.portlabel->text(), "3Cedar Head");

@@ -27,7 +27,6 @@ struct FrmConfig : LoadedMain {
 TEST_F(FrmConfig, ASailorTypesPartOfANameSearchesOnStepsBackAndPressesEnter) {
     frmconfig form(context);
     present(form);
-    expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "portconfigok");
     EXPECT_EQ(form.portlist2->count(), ports - 1);
     EXPECT_EQ(taborder(form), (std::vector<std::string>{"txtSearch", "cmdSearch", "portlist2", "optSortbyName",

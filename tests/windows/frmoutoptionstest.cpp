@@ -21,7 +21,6 @@ TEST_F(FrmoutoptionsTest, SettingsAreChosenAndStored) {
     const auto before = filebytes();
     frmoutoptions form(context);
     present(form);
-    expectroomfortexts(form);
     EXPECT_TRUE(form.Option3->isChecked() && form.optNonDaylightsavings->isChecked());
     EXPECT_EQ(form.draughttext->text() + " " + form.ukctext->text(), "1.25 0.75");
     form.Option2->click();

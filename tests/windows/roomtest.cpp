@@ -2,7 +2,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
-#include <functional>
 #include <memory>
 
 #include "almanac/frmriseresults.h"

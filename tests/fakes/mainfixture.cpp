@@ -33,8 +33,6 @@ MainFixture::MainFixture() : context{session, scripted.services(), {picture, bar
     scripted.clock.reading = {makedate(2024, 4, 9), 14, 32, 10};
 }
 
-MainFixture::~MainFixture() = default;
-
 std::string MainFixture::area() const {
     return session.folders.programfolder + "/UK.hc";
 }

@@ -24,7 +24,6 @@ HarmonicRecord fixtureport(const std::string& name, float level, const std::stri
 class MainFixture {
   public:
     MainFixture();
-    ~MainFixture();
 
     std::string area() const;
     ConfigRecord stored() const;

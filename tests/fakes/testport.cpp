@@ -27,6 +27,4 @@ PortFiles::PortFiles(const HarmonicRecord& port, float depth) {
     writedepth(settings.depfile, 1, user);
 }
 
-PortFiles::~PortFiles() = default;
-
 }  // namespace tarvane::tests

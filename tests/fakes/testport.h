@@ -19,7 +19,6 @@ std::vector<HarmonicRecord> shippedports();
 class PortFiles {
   public:
     explicit PortFiles(const HarmonicRecord& port = roundport(), float depth = 0);
-    ~PortFiles();
 
     fakes::TemporaryFolder folder;
     Settings settings;

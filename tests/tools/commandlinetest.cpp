@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "tides/options.h"
-#include "tides/portchoice.h"
 #include "tools/companion.h"
 
 namespace tarvane::tests {
@@ -45,22 +44,6 @@ TEST_F(CommandLine, DatesThatExist) {
     EXPECT_EQ(parseisodate("0001-01-01"), makedate(1, 1, 1));
     EXPECT_EQ(parseisodate("9999-12-31"), makedate(9999, 12, 31));
     EXPECT_EQ(parseisodate("2000-02-29"), makedate(2000, 2, 29));
-}
-
-TEST_F(CommandLine, PortsByNumberNameAndPart) {
-    const std::vector<std::string> names{"Saint-Malo", "Fécamp",     "Île de Bréhat", "St Mary's",
-                                         "Port",       "Port Ellen", "Port",          "Œuf"};
-    using Row = std::pair<const char*, std::int16_t>;
-    for (const auto& [wanted, number] :
-         {Row{" 002 ", 2}, Row{"FECAMP", 2}, Row{"ile", 3}, Row{"Saint Mary’s", 4}, Row{"ellen", 6}, Row{"st malo", 1}})
-        EXPECT_EQ(chooseports(names, wanted, "Area").numbers, std::vector<std::int16_t>{number}) << wanted;
-    EXPECT_EQ(chooseports(names, "all", "Area").numbers.size(), names.size());
-    using Refusal = std::pair<const char*, const char*>;
-    for (const auto& [wanted, fault] :
-         {Refusal{"port", "fits 2 ports of Area: 5 Port, 7 Port"}, Refusal{"e", "fits 4 ports"},
-          Refusal{"st mallo", "nearest names are 1 Saint-Malo"}, Refusal{"9", "1 to 8"}})
-        EXPECT_TRUE(has(chooseports(names, wanted, "Area").fault, fault)) << wanted;
-    EXPECT_NE(chooseports({}, "1", "Area").fault, "");
 }
 
 TEST_F(Files, WithoutConfigurationTheFirstStartsValuesAndNothingMade) {

@@ -20,7 +20,8 @@ TEST_F(Text, EachCommandOfTheTranscriptAnswersAsWritten) {
     east.TimeZoneLetter = "M";
     east.PortLong = 103.85F;
     pole.PortLat = 89;
-    store({portnamed("Fécamp"), broken, HarmonicRecord{}, east, pole, portnamed("Hook, \"the\" West")});
+    store({portnamed("Fécamp"), broken, HarmonicRecord{}, east, pole, portnamed("Hook, \"the\" West"),
+           portnamed("Port"), portnamed("Port Ellen"), portnamed("Port")});
     configure(1);
     std::string answered;
     for (const std::string& line : linesof(filetext(TARVANE_TESTDATA "/tides.txt"))) {

@@ -42,21 +42,18 @@ TEST(Height, TraceFollowsTheForm) {
 TEST(Height, PhasesAreWrappedOnce) {
     const SpeedsAndRates rates = speedsandrates(exampleday, examplenext);
     // Degrees that M2 has turned through: 231 at 8 hours, 577.5 at 20. Its angle at midnight is 19.
-    const struct {
-        double M2g, time, curvephase, instantphase;
-    } rows[] = {{592, 8, 20, 20},         {572, 8, 0, 0},           {212, 8, 0, 0},          {211, 8, 359, 359},
-                {341, 20, 142.5, -217.5}, {400, 20, 201.5, -158.5}, {340, 20, 141.5, 141.5}, {0, 20, -198.5, -198.5}};
-    for (const auto& row : rows) {
-        const HarmonicConstants constants{row.M2g, 1};
-        const auto expected = [&](double phase) {
-            return std::cos(phase * 0.017453925199433) * (row.time * rates.dfm + exampleday.mf);
+    using Row = std::tuple<double, double, double, double>;
+    for (const auto& [M2g, time, curvephase, instantphase] :
+         {Row{592, 8, 20, 20}, Row{572, 8, 0, 0}, Row{212, 8, 0, 0}, Row{211, 8, 359, 359}, Row{341, 20, 142.5, -217.5},
+          Row{400, 20, 201.5, -158.5}, Row{340, 20, 141.5, 141.5}, Row{0, 20, -198.5, -198.5}}) {
+        const HarmonicConstants constants{M2g, 1};
+        const auto expected = [&, hours = time](double phase) {
+            return std::cos(phase * 0.017453925199433) * (hours * rates.dfm + exampleday.mf);
         };
-        EXPECT_DOUBLE_EQ(heightformula({constants, exampleday, examplenext, rates}, row.time).height,
-                         expected(row.curvephase))
-            << row.M2g;
-        EXPECT_DOUBLE_EQ(heightofconstants(constants, exampleday, examplenext, row.time).first,
-                         expected(row.instantphase))
-            << row.M2g;
+        EXPECT_DOUBLE_EQ(heightformula({constants, exampleday, examplenext, rates}, time).height, expected(curvephase))
+            << M2g;
+        EXPECT_DOUBLE_EQ(heightofconstants(constants, exampleday, examplenext, time).first, expected(instantphase))
+            << M2g;
     }
 }
 

@@ -10,14 +10,8 @@
 #include "sunmoon/sunmonth.h"
 #include "text/timetext.h"
 
-namespace tarvane {
+namespace tarvane::tests {
 namespace {
-
-DateOnShow dateonshow(int year, int month, int day) {
-    DateOnShow onshow;
-    setdateonshow(onshow, makedate(year, month, day));
-    return onshow;
-}
 
 TEST(ClipboardTexts, ADaysTides) {
     Prediction prediction;
@@ -44,7 +38,7 @@ TEST(ClipboardTexts, ADaysTides) {
 TEST(SunTimesText, AMonthInColumns) {
     SunTable table;
     fillsunvalues(table, {2024, 4, -1, 0}, {50.5, -1.25});
-    std::string expected = tests::goldenfile("clipboard-sun-april.txt");
+    std::string expected = goldenfile("clipboard-sun-april.txt");
     EXPECT_EQ(suntimestext(table, {"Alder Quay", 50.5F, -1.25F, -1}, 2024, 4, "\t"), expected);
     EXPECT_EQ(table.suntext[30][1] + table.suntext[31][1] + table.suntext[30][4], "30/4/2024");
     std::replace(expected.begin(), expected.end(), '\t', ',');
@@ -65,4 +59,4 @@ TEST(ClockText, CarriesAndWraps) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::tests

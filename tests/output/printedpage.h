@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "dates/dateformats.h"
 #include "fakes/scriptedprinter.h"
 #include "fakes/temporaryfolder.h"
 
@@ -19,6 +20,12 @@ inline std::string goldenfile(const std::string& name) {
     const std::string text = filetext(TARVANE_TESTDATA "/" + name);
     EXPECT_NE(text, "") << name;
     return text;
+}
+
+inline DateOnShow dateonshow(int year, int month, int day) {
+    DateOnShow onshow;
+    setdateonshow(onshow, makedate(year, month, day));
+    return onshow;
 }
 
 inline double textend(const Printed& text) {

@@ -9,22 +9,14 @@
 #include "files/filenames.h"
 #include "output/printedpage.h"
 
-namespace tarvane {
+namespace tarvane::tests {
 namespace {
-
-using tests::goldenfile;
-
-DateOnShow dateonshow(int year, int month, int day) {
-    DateOnShow onshow;
-    setdateonshow(onshow, makedate(year, month, day));
-    return onshow;
-}
 
 TEST(TextFiles, AMonthOfAFlatPort) {
     HarmonicRecord record;
     record.PortName = "Still Water";
     record.Z0 = 3;
-    tests::PortFiles files(record);
+    PortFiles files(record);
     MonthTable table;
     buildmonthtable(table, files.settings, {"Still Water"}, dateonshow(2024, 2, 10), ScriptedLocale{});
     EXPECT_EQ(monthfile(table, "\t", 0, dateonshow(2024, 2, 10)), goldenfile("month-flat-february.txt"));
@@ -100,4 +92,4 @@ TEST(TextFiles, TheSunsColumnsInTheFilesOrder) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::tests

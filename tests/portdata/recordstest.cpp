@@ -70,7 +70,10 @@ TEST(RecordBytes, OfAnyLengthDecode) {
     config.hcfilepath = "/opt/tarvane/UK.hc";
     config.reserved1 = -2;
     config.reserved2 = 0x01020304;
+    config.draught = 1.25F;
+    config.ukc = 2.5F;
     expectanylength(encode(config), decodeconfig);
+    EXPECT_EQ(numberat<float>(encode(config), 1283) + 10 * numberat<float>(encode(config), 1287), 26.25F);
     EXPECT_EQ(textat(encode(config), 1299, 8), "\xFE\xFF\xFF\xFF\x04\x03\x02\x01");
 }
 

@@ -33,26 +33,23 @@ std::vector<std::string> texts(const ScriptedSurface& surface) {
 }
 
 TEST_F(TideCurve, ScaleGridAndLabels) {
-    const struct {
-        double least, greatest, top, bottom;
-        std::vector<std::string> labels;
-    } rows[] = {{0.4, 3.5, 4, 0, {"-1", "0", "1", "2", "3", "4M"}},
-                {-0.5, 4.0, 5, -1, {"-1", "0", "1", "2", "3", "4", "5M"}},
-                {-2.5, 0.5, 1, -3, {"-1", "0", "1M"}},
-                {-6, -5, 1, -6, {"-1", "0", "1M"}}};
-    for (const auto& row : rows) {
-        wave(session, row.least, row.greatest);
+    using Row = std::tuple<double, double, double, double, std::vector<std::string>>;
+    for (const auto& [least, greatest, top, bottom, labels] :
+         {Row{0.4, 3.5, 4, 0, {"-1", "0", "1", "2", "3", "4M"}},
+          Row{-0.5, 4.0, 5, -1, {"-1", "0", "1", "2", "3", "4", "5M"}}, Row{-2.5, 0.5, 1, -3, {"-1", "0", "1M"}},
+          Row{-6, -5, 1, -6, {"-1", "0", "1M"}}}) {
+        wave(session, least, greatest);
         session.settings.currentoutput = 1;
         drawtidecurve(session, surfaces());
-        EXPECT_EQ(picture.top, row.top);
-        EXPECT_NEAR(picture.bottom, row.bottom, 1e-3);
+        EXPECT_EQ(picture.top, top);
+        EXPECT_NEAR(picture.bottom, bottom, 1e-3);
         EXPECT_EQ(picture.left, 0);
         EXPECT_EQ(picture.right, 24);
-        std::vector<std::string> wanted = row.labels;
+        std::vector<std::string> wanted = labels;
         wanted.insert(wanted.end(), {"Sunrise", "Sunset"});
         EXPECT_EQ(texts(picture), wanted);
         const auto lines = ScriptedSurface::only(picture.persistentlayer, Kind::line);
-        EXPECT_EQ(lines.size(), 146U + 8U + row.labels.size());
+        EXPECT_EQ(lines.size(), 146U + 8U + labels.size());
         EXPECT_TRUE(ScriptedSurface::only(picture.persistentlayer, Kind::point).empty());
         EXPECT_EQ(ScriptedSurface::log(window.persistentlayer),
                   "625 4220 0 0 0 1 03:00\n1350 4220 0 0 0 1 06:00\n2075 4220 0 0 0 1 09:00\n2800 4220 0 0 0 1 12:00\n"

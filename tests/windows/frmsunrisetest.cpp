@@ -31,10 +31,9 @@ TEST_F(FrmriseresultsTest, ComesUpOnTheDayOnShow) {
     present(form);
     EXPECT_EQ(shown(*form.risedate), " 9Apr  2024");
     const auto& row = session.suntable.suntext[9];
-    const QLabel* labels[] = {form.nautdawn, form.civildawn, form.risetime,
-                              form.settime,  form.civildusk, form.nautdusk};
+    const char* names[] = {"nautdawn", "civildawn", "risetime", "settime", "civildusk", "nautdusk"};
     for (std::size_t i = 0; i < 6; ++i)
-        EXPECT_EQ(shown(*labels[i]), row[i + 2]);
+        EXPECT_EQ(shown(control<QLabel>(form, names[i])), row[i + 2]) << names[i];
     EXPECT_TRUE(form.Label2->text().contains("\n   08 Apr 2024       NEW MOON     \n"));
     EXPECT_TRUE(session.view.stepbuttonsvisible);
     EXPECT_EQ(infocus(form), "VScroll1");

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "fakes/mainfixture.h"
 #include "mainview/layersview.h"
 #include "mainview/stepping.h"
@@ -35,14 +37,14 @@ TEST_F(LayersView, SavingAndPrintingFollowADateStep) {
 }
 
 TEST_F(LayersView, ADayPastTheYearBecomesTheNextYearsFirst) {
-    const struct { int year, past; } rows[] = {{2024, 367}, {2023, 366}, {1900, 366}, {2000, 367}};
-    for (const auto& row : rows) {
-        session.onshow.tideyear = row.year;
-        session.onshow.tidedayofyear = row.past;
+    using Row = std::array<int, 4>;
+    for (const auto& [year, dayofyear, yearthen, daythen] :
+         {Row{2024, 367, 2025, 1}, Row{2024, 366, 2024, 366}, Row{2023, 366, 2024, 1}, Row{1900, 366, 1901, 1}}) {
+        session.onshow.tideyear = year;
+        session.onshow.tidedayofyear = dayofyear;
         togglelayers(context);
-        EXPECT_EQ(session.onshow.tideyear, row.year + 1);
-        EXPECT_EQ(session.onshow.tidedayofyear, 1);
-        EXPECT_EQ(session.onshow.tidemonth, 1);
+        EXPECT_EQ(session.onshow.tideyear, yearthen) << year;
+        EXPECT_EQ(session.onshow.tidedayofyear, daythen) << year;
     }
 }
 

@@ -135,6 +135,8 @@ TEST_F(StatusLine, NotesAMonthListOfSomethingElse) {
     session.settings.currentoutput = 1;
     refreshday(context);
     EXPECT_EQ(listnote(), "the month list has other heights");
+    session.month.made.hcfile = "another area";
+    EXPECT_EQ(listnote(), "the month list is Alder Quay's");
 }
 
 TEST_F(StatusLine, NotesContributionsOfAnEarlierCurve) {

@@ -29,6 +29,7 @@ TEST_F(Text, EachCommandOfTheTranscriptAnswersAsWritten) {
         const auto [status, out, err] = run(line.substr(7));
         answered += line + "\n" + out + err + (status ? "(status " + std::to_string(status) + ")\n" : "");
     }
+    EXPECT_NE(answered, "");
     EXPECT_EQ(answered, filetext(TARVANE_TESTDATA "/tides.txt"));
 }
 

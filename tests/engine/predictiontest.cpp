@@ -134,5 +134,11 @@ TEST(PredictDayLinked, GoesByTheDayItself) {
     }
 }
 
+TEST(HasPredictions, WantsTheDayBeforeToo) {
+    const bool has[] = {true, false, false, true};
+    for (int day = 0; day <= 3; ++day)
+        EXPECT_EQ(haspredictions(1990, day), has[day]) << day;
+}
+
 }  // namespace
 }  // namespace tarvane::tests

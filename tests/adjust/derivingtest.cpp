@@ -11,8 +11,7 @@
 namespace tarvane::tests {
 namespace {
 
-struct Deriving : testing::Test, protected MainFixture {
-    Deriving() { load(); }
+struct Deriving : LoadedMain {
     const ProgramFolders& folders() { return session.folders; }
 };
 

@@ -51,9 +51,8 @@ TEST(ConstantRows, ByDistanceTheNearerPortCountsMore) {
     EXPECT_EQ(distancemeans(south, north, 51, -2)[2], "2.000");
 }
 
-struct Workspace : testing::Test, protected MainFixture {
+struct Workspace : LoadedMain {
     Workspace() {
-        load();
         HarmonicRecord later = fixtureport("Birch Sound", 4, "M");
         later.M2g = 160;
         writeport(area(), 2, later);

@@ -3,8 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
+#include <tuple>
 
 #include "fakes/mainfixture.h"
 #include "session/refresh.h"
@@ -12,61 +11,28 @@
 namespace tarvane::tests {
 namespace {
 
-class SunView : public MainFixture, public testing::Test {
-  protected:
-    SunView() { load(); }
-
+struct SunView : LoadedMain {
     SunOutcome calculate(const std::string& latitude, const std::string& longitude) {
         return calculatesun(context, {"User entry", latitude, longitude});
-    }
-
-    static std::string contents(const std::string& path) {
-        std::ifstream stream(path, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(stream), {});
     }
 
     std::string file(const std::string& name) const { return folder / name; }
 };
 
-TEST_F(SunView, ComesUpWithThePortsPositionAndTheMonthsPhases) {
-    preparesunview(session);
-    EXPECT_EQ(session.lunar.lunarlist[3], "   08 Apr 2024       NEW MOON     ");
-    const SunInput input = portsuninput(session);
-    EXPECT_EQ(calculatesun(context, input), SunOutcome::calculated);
-    EXPECT_EQ(session.suntable.titles, (std::array<std::string, 4>{"", "Alder Quay", " 1.15W", " 50.30N"}));
-}
-
 TEST_F(SunView, PositionsTakenAndRefused) {
-    struct Case {
-        const char* latitude;
-        const char* longitude;
-        SunOutcome outcome;
-    };
     constexpr auto good = SunOutcome::calculated, lat = SunOutcome::badlatitude, lon = SunOutcome::badlongitude;
-    const std::vector<Case> cases{
-        {"  50.45.00N  ", " 001.30.00W ", good},
-        {"89.59S", "179.59W", good},
-        {"50N", "1W", good},
-        {"50.45N", "180.00E", lon},
-        {"90.00N", "1.30W", lat},
-        {"S50.45", "1.30W", lat},
-        {"S50.45N", "1.30W", lat},
-        {"050.45.00N", "1.30W", lat},
-        {"50.45N", "0001.30.00W", lon},
-        {"50.45N", "1.30", lon},
-        {"50.45n", "1.30W", lat},
-        {"50.45N", "1.30N", lon},
-        {"", "1.30W", lat},
-        {"50.45N", "", lon},
-        {"N", "1.30W", lat},
-        {"bad", "bad", lon},
-        {"50.45N", "1.30W\xc3\xa9", lon},
-    };
-    for (const Case& row : cases) {
+    using Row = std::tuple<const char*, const char*, SunOutcome>;
+    for (const auto& [latitude, longitude, outcome] :
+         {Row{"  50.45.00N  ", " 001.30.00W ", good}, Row{"89.59S", "179.59W", good}, Row{"50N", "1W", good},
+          Row{"50.45N", "180.00E", lon}, Row{"90.00N", "1.30W", lat}, Row{"S50.45", "1.30W", lat},
+          Row{"S50.45N", "1.30W", lat}, Row{"050.45.00N", "1.30W", lat}, Row{"50.45N", "0001.30.00W", lon},
+          Row{"50.45N", "1.30", lon}, Row{"50.45n", "1.30W", lat}, Row{"50.45N", "1.30N", lon}, Row{"", "1.30W", lat},
+          Row{"50.45N", "", lon}, Row{"N", "1.30W", lat}, Row{"bad", "bad", lon},
+          Row{"50.45N", "1.30W\xc3\xa9", lon}}) {
         const int beeps = scripted.messages.beeps;
-        EXPECT_EQ(calculate(row.latitude, row.longitude), row.outcome) << row.latitude << " " << row.longitude;
-        EXPECT_EQ(scripted.messages.beeps - beeps, row.outcome == good ? 0 : 1);
-        EXPECT_EQ(session.suntable.suntext[1][1].empty(), row.outcome != good) << row.latitude << " " << row.longitude;
+        EXPECT_EQ(calculate(latitude, longitude), outcome) << latitude << " " << longitude;
+        EXPECT_EQ(scripted.messages.beeps - beeps, outcome == good ? 0 : 1);
+        EXPECT_EQ(session.suntable.suntext[1][1].empty(), outcome != good) << latitude << " " << longitude;
     }
 }
 
@@ -119,7 +85,7 @@ TEST_F(SunView, SavesATypedPlaceUnderThePortsHeadingAndReplacesOnYesOnly) {
     session.settings.currentsummer = -1;
     scripted.filedialogs.expectsave(file("sun.text"));
     savesuncsv(context);
-    const std::string written = contents(file("sun.csv"));
+    const std::string written = filetext(file("sun.csv"));
     EXPECT_TRUE(written.starts_with("Alder Quay,Time Zone = Summer Time, 50.30N, 1.15W\r\nDate,Sunrise,")) << written;
     EXPECT_TRUE(written.ends_with(",00:00:00,00:00:00\r\n")) << "no nautical twilight so late in April";
     EXPECT_EQ(session.view.answer, "Saved: " + file("sun.csv"));
@@ -127,12 +93,12 @@ TEST_F(SunView, SavesATypedPlaceUnderThePortsHeadingAndReplacesOnYesOnly) {
     EXPECT_EQ(request.folder, session.folders.programfolder);
     EXPECT_EQ(request.filter, "CSV file | *csv");
     EXPECT_FALSE(request.askoverwrite);
-    std::ofstream(file("sun.csv")) << "old";
+    putfile(file("sun.csv"), "old");
     for (const bool answer : {false, true}) {
         scripted.filedialogs.expectsave(file("sun"));
         scripted.messages.expectask("File exist - Overwrite?", answer, "Tarvane", MessageIcon::question);
         savesuncsv(context);
-        EXPECT_EQ(contents(file("sun.csv")), answer ? written : "old");
+        EXPECT_EQ(filetext(file("sun.csv")), answer ? written : "old");
     }
 }
 

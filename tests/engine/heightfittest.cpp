@@ -89,18 +89,13 @@ TEST(HeightFit, RefusesWhatCannotCarryAFit) {
     auto opposite = whole;
     for (std::size_t i = 0; i < opposite.size(); ++i)
         opposite[i].height = i % 3 == 0 ? 9 : static_cast<double>(i % 3);
-    const struct {
-        std::vector<Reading> readings;
-        const char* words;
-    } rows[] = {{nine, "There are 9 readings"},
-                {broken, "no numbers"},
-                {late, "outside the day"},
-                {creek.readings({}, 6, 12, 0.5), "cover 6.0 hours"},
-                {creek.readings({0, 0.01, 0}, 6, 18, 1), "a few centimetres only"},
-                {opposite, "No change of level"}};
-    for (const auto& row : rows) {
-        const HeightFit fit = creek.fit(row.readings);
-        EXPECT_NE(fit.refusal.find(row.words), std::string::npos) << row.words << ": " << fit.refusal;
+    using Row = std::pair<std::vector<Reading>, const char*>;
+    for (const auto& [readings, words] :
+         {Row{nine, "There are 9 readings"}, Row{broken, "no numbers"}, Row{late, "outside the day"},
+          Row{creek.readings({}, 6, 12, 0.5), "cover 6.0 hours"},
+          Row{creek.readings({0, 0.01, 0}, 6, 18, 1), "a few centimetres only"}, Row{opposite, "No change of level"}}) {
+        const HeightFit fit = creek.fit(readings);
+        EXPECT_NE(fit.refusal.find(words), std::string::npos) << words << ": " << fit.refusal;
         EXPECT_EQ(fit.constants.M2Hm, 1.5);
     }
     EXPECT_NE(fitheights({}, 2024, 100, whole).refusal.find("no tide"), std::string::npos);

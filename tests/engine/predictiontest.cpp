@@ -2,22 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <tuple>
 
 #include "engine/height.h"
 #include "engine/springs.h"
 #include "fakes/testport.h"
-#include "portdata/portscsv.h"
 #include "text/timetext.h"
 
-namespace tarvane {
+namespace tarvane::tests {
 namespace {
-
-using tests::PortFiles;
-using tests::roundport;
 
 Prediction predicted(PortFiles& files, const TideDay& day) {
     Prediction prediction;
@@ -44,8 +38,7 @@ TEST(PredictDay, WorkedDay) {
 
 /// Figures of the ports that ship, made apart from the program.
 TEST(PredictDay, ShippedPortsOnScatteredDays) {
-    std::ifstream table(TARVANE_DATA "/uk-ports.csv");
-    const auto ports = readportscsv(std::string(std::istreambuf_iterator<char>(table), {})).ports;
+    const auto ports = shippedports();
     const struct {
         std::size_t port;
         TideDay day;
@@ -91,17 +84,6 @@ TEST(PredictDay, MissingRecordsGiveFlatWaterAndNonsenseDoesNoHarm) {
         PortFiles broken(port, nonsense);
         EXPECT_LE(predicted(broken, {2024, 4, 100, -1}).turningcount, 15);
     }
-}
-
-TEST(PredictDay, SeesAChangedRecordAtOnce) {
-    PortFiles files;
-    Prediction before, after;
-    predictday(files.settings, {2024, 4, 100, 0}, before);
-    HarmonicRecord port = roundport();
-    port.Z0 = 4.0F;
-    files.store(port);
-    predictday(files.settings, {2024, 4, 100, 0}, after);
-    EXPECT_NEAR(after.curvesamples[1].height - before.curvesamples[1].height, 1, 1e-6);
 }
 
 TEST(FindTurningPoints, TakesStrictExtremesOnly) {
@@ -156,12 +138,7 @@ TEST(HasPredictions, WantsTheDayBeforeToo) {
     const bool has[] = {true, false, false, true};
     for (int day = 0; day <= 3; ++day)
         EXPECT_EQ(haspredictions(1990, day), has[day]) << day;
-    PortFiles files;
-    Prediction prediction = predicted(files, {2024, 4, 100, 0});
-    predictday(files.settings, {1990, 1, 2, 0}, prediction);
-    EXPECT_FALSE(prediction.defined);
-    EXPECT_EQ(prediction.turningcount + prediction.dayrange + prediction.m2layer[50].height, 0);
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::tests

@@ -4,8 +4,6 @@
 
 #include <cmath>
 
-#include "fakes/testport.h"
-
 namespace tarvane {
 namespace {
 
@@ -38,15 +36,6 @@ TEST(SpringsLag, MeasuresFromS2HighToTheNextM2High) {
         // At a lag of 0 the M2 high must come after the S2 high: the next one is a whole turn on.
         EXPECT_NEAR(*found, lag == 0 ? 12.5 : lag / 6.0, 0.17) << lag;
     }
-}
-
-TEST(SpringsLag, NothingToMeasure) {
-    Prediction flat;
-    HarmonicRecord port = tests::roundport();
-    port.S2Hm = 0;
-    tests::PortFiles files(port);
-    predictday(files.settings, {2024, 4, 100, 0}, flat);
-    EXPECT_FALSE(findspringslag(flat));
 }
 
 }  // namespace

@@ -33,14 +33,25 @@ MainFixture::MainFixture() : context{session, scripted.services(), {picture, bar
     scripted.clock.reading = {makedate(2024, 4, 9), 14, 32, 10};
 }
 
-MainFixture::~MainFixture() = default;
-
 std::string MainFixture::area() const {
     return session.folders.programfolder + "/UK.hc";
 }
 
 ConfigRecord MainFixture::stored() const {
     return LoadConfig(session.folders);
+}
+
+void MainFixture::store(const std::function<void(ConfigRecord&)>& change) const {
+    ConfigRecord record = stored();
+    change(record);
+    ASSERT_TRUE(SaveConfig(session.folders, record));
+}
+
+void MainFixture::storedepth(std::int16_t port, float metres, const std::string& note) const {
+    UserDepthRecord record = readdepth(session.settings.depfile, port);
+    record.UserDepth = metres;
+    record.Notes = note;
+    ASSERT_TRUE(writedepth(session.settings.depfile, port, record));
 }
 
 void MainFixture::load() {

@@ -2,6 +2,9 @@
 // or a screen.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <functional>
 #include <string>
 
 #include "fakes/scriptedsurface.h"
@@ -21,10 +24,15 @@ HarmonicRecord fixtureport(const std::string& name, float level, const std::stri
 class MainFixture {
   public:
     MainFixture();
-    ~MainFixture();
 
     std::string area() const;
     ConfigRecord stored() const;
+
+    /// Changes the configuration's record on the disk, and there alone.
+    void store(const std::function<void(ConfigRecord&)>& change) const;
+
+    /// The user's depth in metres, and the note, of a port in the depth file that is in use.
+    void storedepth(std::int16_t port, float metres, const std::string& note = "") const;
 
     MainSurfaces& surfaces() { return context.surfaces; }
 
@@ -36,6 +44,12 @@ class MainFixture {
     ScriptedSurface picture, bar, window;
     Session session;
     MainContext context;
+};
+
+/// The same for a TEST_F, the main window loaded.
+class LoadedMain : public testing::Test, protected MainFixture {
+  protected:
+    LoadedMain() { load(); }
 };
 
 }  // namespace tarvane::tests

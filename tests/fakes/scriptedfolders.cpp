@@ -4,9 +4,22 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <system_error>
 
 namespace tarvane {
+
+std::string filetext(const std::string& path) {
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+void putfile(const std::string& path, const std::string& text) {
+    std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
+}
+
 namespace fakes {
 
 TemporaryFolder::TemporaryFolder() {
@@ -27,19 +40,6 @@ TemporaryFolder::~TemporaryFolder() {
 ScriptedFolders::ScriptedFolders() {
     for (const std::string& path : {programfolder, *documentsfolder, appdatafolder})
         std::filesystem::create_directories(path);
-}
-
-bool ScriptedFolders::make(const std::string& path) {
-    if (refused.contains(path)) return false;
-    std::error_code error;
-    std::filesystem::create_directories(path, error);
-    return std::filesystem::is_directory(path, error);
-}
-
-bool ScriptedFolders::remove(const std::string& path) {
-    if (refused.contains(path)) return false;
-    std::error_code error;
-    return std::filesystem::is_regular_file(path, error) && std::filesystem::remove(path, error);
 }
 
 }  // namespace tarvane

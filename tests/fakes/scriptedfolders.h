@@ -2,6 +2,7 @@
 // outside it unless a test sets a path that does.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <set>
 #include <string>
@@ -26,8 +27,10 @@ class ScriptedFolders : public Folders {
     std::string localappdata() const override { return appdatafolder; }
 
     bool canwrite(const std::string& path) const override { return !refused.contains(path); }
-    bool make(const std::string& path) override;
-    bool remove(const std::string& path) override;
+    bool make(const std::string& path) override {
+        return !refused.contains(path) && (std::filesystem::create_directories(path) || std::filesystem::exists(path));
+    }
+    bool remove(const std::string& path) override { return !refused.contains(path) && std::filesystem::remove(path); }
 };
 
 }  // namespace tarvane

@@ -1,7 +1,5 @@
 #include "fakes/scriptedlocale.h"
 
-#include <algorithm>
-#include <charconv>
 #include <cstdio>
 
 namespace tarvane {
@@ -13,20 +11,13 @@ std::string digits(int value, int width) {
     return text.data();
 }
 
-/// The numbers of a text that is three of them, each of one to four digits, with "/", "-" or "." between them.
-std::optional<std::array<int, 3>> threenumbers(std::string_view text) {
+/// The numbers of a text that is three of them with "/", "-" or "." between them.
+std::optional<std::array<int, 3>> threenumbers(const std::string& text) {
     std::array<int, 3> numbers{};
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        if (i > 0) {
-            if (text.find_first_of("/-.") != 0) return std::nullopt;
-            text.remove_prefix(1);
-        }
-        const std::size_t length = std::min(text.find_first_not_of("0123456789"), text.size());
-        if (length < 1 || length > 4) return std::nullopt;
-        std::from_chars(text.data(), text.data() + length, numbers[i]);
-        text.remove_prefix(length);
-    }
-    if (!text.empty()) return std::nullopt;
+    std::size_t length = 0;
+    if (std::sscanf(text.c_str(), "%4d%*1[-/.]%4d%*1[-/.]%4d%zn", &numbers[0], &numbers[1], &numbers[2], &length) < 3 ||
+        length < text.size())
+        return std::nullopt;
     return numbers;
 }
 
@@ -55,7 +46,7 @@ std::string ScriptedLocale::shortdate(std::chrono::sys_days date) const {
 
 std::optional<std::chrono::sys_days> ScriptedLocale::parsedate(std::string_view text) const {
     if (const auto found = readings.find(text); found != readings.end()) return found->second;
-    const auto numbers = threenumbers(text);
+    const auto numbers = threenumbers(std::string(text));
     if (!numbers) return std::nullopt;
     const bool yearfirst = text.find_first_of("/-.") == 4;
     const bool dayfirst = order.find('D') < order.find('M');

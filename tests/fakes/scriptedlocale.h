@@ -4,7 +4,6 @@
 
 #include <array>
 #include <chrono>
-#include <functional>
 #include <map>
 #include <optional>
 #include <string>

@@ -1,10 +1,10 @@
 #include "fakes/scriptedprinter.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cmath>
 #include <sstream>
-
-#include "fakes/script.h"
 
 namespace tarvane {
 namespace {
@@ -63,28 +63,8 @@ double ScriptedPrinter::textwidth(const std::string& text) const {
     return widest;
 }
 
-void ScriptedPrinter::print(const std::string& text) {
-    put(text);
-    x = left;
-    y += textheight();
-}
-
-void ScriptedPrinter::line(double x1, double y1, double x2, double y2) {
-    printed.push_back({Kind::line, pages, x1, y1, x2, y2, linewidth, false, {}});
-}
-
-void ScriptedPrinter::point(double px, double py) {
-    printed.push_back({Kind::point, pages, px, py, 0, 0, size, bold, {}});
-}
-
-void ScriptedPrinter::newpage() {
-    ++pages;
-    x = left;
-    y = top;
-}
-
 PrintOutcome ScriptedPrinter::enddocument() {
-    if (!open) failtest("a document that was not opened is handed over");
+    EXPECT_TRUE(open) << "a document that was not opened is handed over";
     open = false;
     if (fail.empty()) ++documents;
     return {fail};

@@ -26,8 +26,8 @@ class ScriptedPrinter : public Printer {
         std::string text;
     };
 
-    double pagewidth = 11000;
-    double pageheight = 16000;
+    double pagewidth = 11186;
+    double pageheight = 15120;
     std::string refuse;  ///< why `begin` fails; empty: it doesn't
     std::string fail;    ///< why `enddocument` fails
     std::string place;   ///< what `destination` tells
@@ -67,13 +67,23 @@ class ScriptedPrinter : public Printer {
     double textwidth(const std::string& text) const override;
     double textheight() const override { return 24 * size; }
 
-    void print(const std::string& text) override;
+    void print(const std::string& text) override {
+        put(text);
+        x = left;
+        y += textheight();
+    }
     void printon(const std::string& text) override { put(text); }
 
-    void line(double x1, double y1, double x2, double y2) override;
-    void point(double px, double py) override;
+    void line(double x1, double y1, double x2, double y2) override {
+        printed.push_back({Kind::line, pages, x1, y1, x2, y2, linewidth, false, {}});
+    }
+    void point(double px, double py) override { printed.push_back({Kind::point, pages, px, py, 0, 0, size, bold, {}}); }
 
-    void newpage() override;
+    void newpage() override {
+        ++pages;
+        x = left;
+        y = top;
+    }
 
     PrintOutcome enddocument() override;
     std::string destination() const override { return place; }

@@ -1,10 +1,8 @@
 #include "fakes/scriptedsurface.h"
 
 #include <algorithm>
-#include <iomanip>
 #include <iterator>
 #include <sstream>
-#include <utility>
 
 namespace tarvane {
 namespace {
@@ -13,15 +11,10 @@ using Kind = ScriptedSurface::Kind;
 using Drawn = ScriptedSurface::Drawn;
 
 std::string logline(const Drawn& entry) {
-    constexpr const char* names[] = {"line", "box", "point", "text"};
     std::ostringstream line;
-    line << std::setprecision(7) << names[static_cast<int>(entry.kind)] << ' ' << entry.x1 << ' ' << entry.y1 << ' ';
-    if (entry.kind == Kind::text) return line.str() + entry.text;
-    if (entry.kind != Kind::point) line << entry.x2 << ' ' << entry.y2 << ' ';
-    line << std::hex << std::uppercase << std::setfill('0') << std::setw(6) << entry.colour;
-    if (entry.kind != Kind::point) line << std::dec << ' ' << entry.width;
-    if (entry.style == LineStyle::dashed) line << " dashed";
-    if (entry.style == LineStyle::dotted) line << " dotted";
+    for (const double place : {entry.x1, entry.y1, entry.x2, entry.y2})
+        line << place << ' ';
+    line << std::hex << entry.colour << std::dec << ' ' << entry.width << ' ' << entry.text << '\n';
     return line.str();
 }
 
@@ -30,7 +23,7 @@ std::string logline(const Drawn& entry) {
 std::string ScriptedSurface::log(const std::vector<Drawn>& layer) {
     std::string all;
     for (const Drawn& entry : layer)
-        all += logline(entry) + "\n";
+        all += logline(entry);
     return all;
 }
 
@@ -53,26 +46,6 @@ void ScriptedSurface::clear() {
     if (!persistent) return;
     persistentlayer.clear();
     ++persistentclears;
-}
-
-void ScriptedSurface::line(double x1, double y1, double x2, double y2, Colour colour) {
-    put({Kind::line, x1, y1, x2, y2, colour, linewidth, {}, linestyle});
-}
-
-void ScriptedSurface::box(double x1, double y1, double x2, double y2, Colour colour) {
-    put({Kind::box, x1, y1, x2, y2, colour, linewidth, {}});
-}
-
-void ScriptedSurface::point(double x, double y, Colour colour) {
-    put({Kind::point, x, y, 0, 0, colour, linewidth, {}});
-}
-
-void ScriptedSurface::text(double x, double y, const std::string& text) {
-    put({Kind::text, x, y, 0, 0, black, linewidth, text});
-}
-
-void ScriptedSurface::put(Drawn entry) {
-    (persistent ? persistentlayer : passinglayer).push_back(std::move(entry));
 }
 
 }  // namespace tarvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/drawsurface.h"
@@ -18,7 +19,6 @@ class ScriptedSurface : public DrawSurface {
         Colour colour = black;
         int width = 1;
         std::string text;
-        LineStyle style = LineStyle::solid;
     };
 
     std::vector<Drawn> persistentlayer;  ///< what stands there now
@@ -28,10 +28,8 @@ class ScriptedSurface : public DrawSurface {
     bool persistent = false;
     int persistentclears = 0;
     int linewidth = 1;
-    LineStyle linestyle = LineStyle::solid;
 
-    /// One layer as text, an entry a line: "line 0 4 0 -1 000000 1", "line 0 4 0 -1 000000 1 dashed",
-    /// "text 0 4 4M".
+    /// One layer as text, an entry a line: places, colour, width and text: "0 4 0 -1 ff 1 ", "0 4 0 0 0 1 4M".
     static std::string log(const std::vector<Drawn>& layer);
 
     /// The entries of one kind and colour in a layer.
@@ -42,14 +40,20 @@ class ScriptedSurface : public DrawSurface {
     void clear() override;
     void setbackcolour(Colour colour) override { backcolour = colour; }
     void setlinewidth(int pixels) override { linewidth = pixels; }
-    void setlinestyle(LineStyle style) override { linestyle = style; }
-    void line(double x1, double y1, double x2, double y2, Colour colour) override;
-    void box(double x1, double y1, double x2, double y2, Colour colour) override;
-    void point(double x, double y, Colour colour) override;
-    void text(double x, double y, const std::string& text) override;
+    void setlinestyle(LineStyle) override {}
+    void line(double x1, double y1, double x2, double y2, Colour colour) override {
+        put({Kind::line, x1, y1, x2, y2, colour, linewidth, {}});
+    }
+    void box(double x1, double y1, double x2, double y2, Colour colour) override {
+        put({Kind::box, x1, y1, x2, y2, colour, linewidth, {}});
+    }
+    void point(double x, double y, Colour colour) override { put({Kind::point, x, y, 0, 0, colour, linewidth, {}}); }
+    void text(double x, double y, const std::string& text) override {
+        put({Kind::text, x, y, 0, 0, black, linewidth, text});
+    }
 
   private:
-    void put(Drawn entry);
+    void put(Drawn entry) { (persistent ? persistentlayer : passinglayer).push_back(std::move(entry)); }
 };
 
 }  // namespace tarvane

@@ -1,22 +1,41 @@
 // All scripted services together, as a test hands them to the code that it drives. Must not hold a real one.
 #pragma once
 
-#include "fakes/scriptedclipboard.h"
-#include "fakes/scriptedclock.h"
-#include "fakes/scriptedfiledialogs.h"
+#include <chrono>
+#include <string>
+
 #include "fakes/scriptedfolders.h"
 #include "fakes/scriptedlocale.h"
-#include "fakes/scriptedmessages.h"
 #include "fakes/scriptedprinter.h"
-#include "fakes/scriptedwindows.h"
+#include "fakes/scriptedquestions.h"
 #include "platform/services.h"
 
 namespace tarvane {
 
-struct ScriptedServices {
-    ScriptedServices();
-    ~ScriptedServices();
+/// A clipboard in memory.
+struct ScriptedClipboard : Clipboard {
+    std::string contents;
+    int clears = 0;
 
+    void clear() override {
+        contents.clear();
+        ++clears;
+    }
+    void settext(const std::string& text) override { contents = text; }
+};
+
+/// A clock that stands where a test puts it: noon of 22 November 2026 until told otherwise.
+struct ScriptedClock : Clock {
+    ClockReading reading{std::chrono::year{2026} / 11 / 22, 12, 0, 0};
+
+    void set(int year, unsigned month, unsigned day, int hour = 12, int minute = 0, int second = 0) {
+        reading = {std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(day), hour, minute, second};
+    }
+
+    ClockReading now() const override { return reading; }
+};
+
+struct ScriptedServices {
     ScriptedMessages messages;
     ScriptedFileDialogs filedialogs;
     ScriptedPrinter printer;

@@ -1,5 +1,7 @@
 #include "fakes/testport.h"
 
+#include "portdata/portscsv.h"
+
 namespace tarvane::tests {
 
 HarmonicRecord roundport() {
@@ -10,21 +12,19 @@ HarmonicRecord roundport() {
     return port;
 }
 
+std::vector<HarmonicRecord> shippedports() {
+    return readportscsv(filetext(TARVANE_DATA "/uk-ports.csv")).ports;
+}
+
 PortFiles::PortFiles(const HarmonicRecord& port, float depth) {
     settings.hcfile = folder / "Area.hc";
     settings.depfile = folder / "Area.DEP";
     settings.currentport = 1;
     settings.currentoutput = 1;
-    store(port);
+    writeport(settings.hcfile, 1, port);
     UserDepthRecord user;
     user.UserDepth = depth;
     writedepth(settings.depfile, 1, user);
-}
-
-PortFiles::~PortFiles() = default;
-
-void PortFiles::store(const HarmonicRecord& port) {
-    writeport(settings.hcfile, 1, port);
 }
 
 }  // namespace tarvane::tests

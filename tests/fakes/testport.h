@@ -2,6 +2,8 @@
 // a service.
 #pragma once
 
+#include <vector>
+
 #include "fakes/temporaryfolder.h"
 #include "portdata/configuration.h"
 #include "portdata/recordfiles.h"
@@ -10,13 +12,13 @@ namespace tarvane::tests {
 
 HarmonicRecord roundport();
 
+/// The ports that ship.
+std::vector<HarmonicRecord> shippedports();
+
 /// Area and depth files of one port in a temporary folder, and settings that point at them.
 class PortFiles {
   public:
     explicit PortFiles(const HarmonicRecord& port = roundport(), float depth = 0);
-    ~PortFiles();
-
-    void store(const HarmonicRecord& port);
 
     fakes::TemporaryFolder folder;
     Settings settings;

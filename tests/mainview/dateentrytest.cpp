@@ -10,9 +10,7 @@
 namespace tarvane::tests {
 namespace {
 
-class DateEntryTest : public testing::Test, protected MainFixture {
-  protected:
-    DateEntryTest() { load(); }
+struct DateEntryTest : LoadedMain {
     DateEntry open() { return opendateentry(context); }
     void pickandconfirm(int year, int month, int day) {
         DateEntry entry = open();

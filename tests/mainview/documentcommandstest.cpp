@@ -7,7 +7,6 @@
 
 #include "almanac/sunview.h"
 #include "fakes/mainfixture.h"
-#include "files/wholefiles.h"
 #include "mainview/menus.h"
 #include "mainview/monthcommand.h"
 #include "mainview/stepping.h"
@@ -63,13 +62,12 @@ const Command commands[] = {
     {Kind::copy, "mnuCopyMonthSunTimes", "Months sunrise and sunset times have been copied to the clipboard", "",
      "Alder Quay\tTime Zone = Summer Time\t 50.30N\t 1.15W\r\n|\r\n1/4/2024\t06:40:|\r\n30/4/2024\t", ""}};
 
-class DocumentCommands : public MainFixture, public testing::Test {
-  protected:
+struct DocumentCommands : MainFixture, testing::Test {
     DocumentCommands() {
-        ConfigRecord record = stored();
-        record.summertimeflag = -1;
-        record.outputoption = 1;
-        SaveConfig(session.folders, record);
+        store([](ConfigRecord& record) {
+            record.summertimeflag = -1;
+            record.outputoption = 1;
+        });
         come();
     }
 
@@ -90,11 +88,9 @@ class DocumentCommands : public MainFixture, public testing::Test {
         if (command.kind == Kind::copy && *command.asked) scripted.messages.expectshow(command.asked, "Tarvane");
         if (!failure.empty()) scripted.messages.expectshow(failure, "Tarvane", MessageIcon::exclamation);
         choose(command.entry);
-        std::string text = scripted.clipboard.contents;
+        std::string text = scripted.clipboard.contents + filetext(path);
         for (const std::string& line : scripted.printer.texts())
             text += line + "\n";
-        for (const std::byte byte : readwhole(path))
-            text += static_cast<char>(byte);
         scripted.printer.printed.clear();
         scripted.clipboard.contents.clear();
         return text;
@@ -123,7 +119,7 @@ TEST_F(DocumentCommands, EachHandsOverItsOwnWithTheShiftAndTheWordsOfSummerTime)
             EXPECT_EQ(run(command, file, false), "") << command.entry;
             EXPECT_EQ(session.view.answer, "of before");
         }
-        ASSERT_TRUE(replacefile(file, std::string(100000, 'x')));
+        putfile(file, std::string(100000, 'x'));
         const int documents = scripted.printer.documents, clears = scripted.clipboard.clears;
         const std::string text = run(command, file);
         std::istringstream parts(command.parts);
@@ -159,7 +155,7 @@ TEST_F(DocumentCommands, EachHandsOverItsOwnWithTheShiftAndTheWordsOfSummerTime)
 
 TEST_F(DocumentCommands, WhatCannotBeDoneIsToldWithItsReasonAndHarmsNothing) {
     const std::string nowhere = folder / "nowhere/tides.txt";
-    ASSERT_TRUE(replacefile(file, std::string("old")));
+    putfile(file, "old");
     for (const Command& command : commands) {
         if (command.kind == Kind::print) {
             const std::string told = "The page could not be printed:\r/home/anna/TextOutput: Permission denied";
@@ -175,7 +171,7 @@ TEST_F(DocumentCommands, WhatCannotBeDoneIsToldWithItsReasonAndHarmsNothing) {
         }
     }
     EXPECT_EQ(scripted.printer.documents, 0);
-    EXPECT_EQ(readwhole(file).size(), 3U);
+    EXPECT_EQ(filetext(file), "old");
 }
 
 TEST_F(DocumentCommands, WhatIsNotThereIsCalculatedOrRefused) {
@@ -210,14 +206,10 @@ TEST_F(DocumentCommands, NothingIsMadeUpWhereThereIsNoPrediction) {
     HarmonicRecord broken = fixtureport("Alder Quay", 3);
     broken.M2g = std::numeric_limits<float>::quiet_NaN();
     for (const std::string reason : {noconstants, brokenrecord}) {
-        if (reason == noconstants) {
-            scripted.clock.set(1990, 1, 2);
-        } else {
-            scripted.clock.set(2024, 4, 9);
+        scripted.clock.set(reason == noconstants ? 1990 : 2024, 1, 2);
+        if (reason == brokenrecord) {
             ASSERT_TRUE(writeport(area(), 1, broken));
-            UserDepthRecord depth;
-            depth.UserDepth = std::numeric_limits<float>::infinity();
-            ASSERT_TRUE(writedepth(session.settings.depfile, 1, depth));
+            storedepth(1, std::numeric_limits<float>::infinity());
         }
         come();
         session.settings.currentoutput = 3;

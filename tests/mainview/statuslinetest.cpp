@@ -16,14 +16,8 @@
 namespace tarvane::tests {
 namespace {
 
-struct StatusLine : testing::Test, protected MainFixture {
-    StatusLine() {
-        load();
-        // Port 2, zone M, is the one that the traps lead to.
-        UserDepthRecord record = readdepth(session.settings.depfile, 2);
-        record.UserDepth = -2;
-        writedepth(session.settings.depfile, 2, record);
-    }
+struct StatusLine : LoadedMain {
+    StatusLine() { storedepth(2, -2); }  // port 2, zone M, is the one that the traps lead to
 
     std::string line() const { return statusline(session.prediction, scripted.locale); }
 
@@ -39,15 +33,15 @@ TEST_F(StatusLine, TellsThePredictionAndNothingElse) {
     EXPECT_EQ(line(), "Tides of Alder Quay (1), Tuesday 9 April 2024, UT, heights above chart datum");
     session.settings.summerflag2 = session.settings.currentsummer = -1;
     nextport(context);
-    EXPECT_EQ(line(),
-              "Tides of Birch Sound (2), Tuesday 9 April 2024, UT+2 (summer time), heights over your depth of -2.0 m");
+    const std::string told =
+        "Tides of Birch Sound (2), Tuesday 9 April 2024, UT+2 (summer time), heights over your depth of -2.0 m";
+    EXPECT_EQ(line(), told);
     // Whatever the screen and the settings say from here on.
     session.port.portname = "Elsewhere";
     session.view.tidedatebox = "Date   : never";
     session.settings.currentoutput = 1;
     session.onshow = {};
-    EXPECT_EQ(line(),
-              "Tides of Birch Sound (2), Tuesday 9 April 2024, UT+2 (summer time), heights over your depth of -2.0 m");
+    EXPECT_EQ(line(), told);
 }
 
 TEST_F(StatusLine, ADayWithoutTidesSaysWhy) {
@@ -104,18 +98,14 @@ TEST_F(StatusLine, NotesSettingsNotYetInTheHeights) {
 
 TEST_F(StatusLine, NotesTextsThatNameTheTimeByTheMonth) {
     session.settings.summerflag2 = session.settings.currentsummer = -1;
-    const struct {
-        Date date;
-        const char* note;
-    } rows[] = {{makedate(2024, 3, 30), ""},
-                {makedate(2024, 3, 31), "texts call these times Standard Time|"},
-                {makedate(2024, 10, 26), ""},
-                {makedate(2024, 10, 27), "texts call these times Summer Time|"}};
-    for (const auto& row : rows) {
-        setdateonshow(session.onshow, row.date);
+    using Row = std::pair<Date, const char*>;
+    for (const auto& [date, note] :
+         {Row{makedate(2024, 3, 30), ""}, Row{makedate(2024, 3, 31), "texts call these times Standard Time|"},
+          Row{makedate(2024, 10, 26), ""}, Row{makedate(2024, 10, 27), "texts call these times Summer Time|"}}) {
+        setdateonshow(session.onshow, date);
         refreshday(context);
         redrawday(context);
-        EXPECT_EQ(notes(), row.note) << line();
+        EXPECT_EQ(notes(), note) << line();
     }
 }
 
@@ -145,6 +135,8 @@ TEST_F(StatusLine, NotesAMonthListOfSomethingElse) {
     session.settings.currentoutput = 1;
     refreshday(context);
     EXPECT_EQ(listnote(), "the month list has other heights");
+    session.month.made.hcfile = "another area";
+    EXPECT_EQ(listnote(), "the month list is Alder Quay's");
 }
 
 TEST_F(StatusLine, NotesContributionsOfAnEarlierCurve) {

@@ -7,14 +7,25 @@
 #include <string>
 #include <vector>
 
+#include "dates/dateformats.h"
 #include "fakes/scriptedprinter.h"
+#include "fakes/temporaryfolder.h"
 
 namespace tarvane::tests {
 
 using Printed = ScriptedPrinter::Printed;
 
-inline double lineheight(const Printed& text) {
-    return 24 * text.size;
+/// A file under tests/data.
+inline std::string goldenfile(const std::string& name) {
+    const std::string text = filetext(TARVANE_TESTDATA "/" + name);
+    EXPECT_NE(text, "") << name;
+    return text;
+}
+
+inline DateOnShow dateonshow(int year, int month, int day) {
+    DateOnShow onshow;
+    setdateonshow(onshow, makedate(year, month, day));
+    return onshow;
 }
 
 inline double textend(const Printed& text) {
@@ -49,11 +60,11 @@ inline void expectclean(const ScriptedPrinter& printer, double left = 0, double 
         EXPECT_GE(a.x, left) << a.text;
         EXPECT_GE(a.y, top) << a.text;
         EXPECT_LE(textend(a), left + printer.pagewidth) << a.text;
-        EXPECT_LE(a.y + lineheight(a), top + printer.pageheight) << a.text << " on page " << a.page;
+        EXPECT_LE(a.y + 24 * a.size, top + printer.pageheight) << a.text << " on page " << a.page;
         for (std::size_t j = i + 1; j < all.size(); ++j) {
             const Printed& b = all[j];
             const bool apart = a.page != b.page || textend(a) <= b.x || textend(b) <= a.x ||
-                               a.y + lineheight(a) <= b.y + 0.5 || b.y + lineheight(b) <= a.y + 0.5;
+                               a.y + 24 * a.size <= b.y + 0.5 || b.y + 24 * b.size <= a.y + 0.5;
             EXPECT_TRUE(apart) << "\"" << a.text << "\" and \"" << b.text << "\" overlap";
         }
     }

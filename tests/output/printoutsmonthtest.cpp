@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <set>
 
-#include "output/goldenfile.h"
 #include "output/printedpage.h"
 #include "output/printouts.h"
 
@@ -27,10 +26,6 @@ std::vector<MonthDay> month(int days, int first, Tides tides) {
     return all;
 }
 
-std::string row(const WaterText& tide) {
-    return tide.time + "   " + tide.height;
-}
-
 int fourtides(int) {
     return 4;
 }
@@ -39,13 +34,23 @@ class MonthPrintout : public testing::Test {
   protected:
     void print(const std::vector<MonthDay>& days, double height = 15120, float depth = 0) {
         printer = ScriptedPrinter{};
-        printer.pagewidth = 11186;
         printer.pageheight = height;
         printer.begin("");
         printmonthpages(printer, {days, "Alder Quay", 2026, depth, {0, 3}});
     }
 
-    double column(int week) const { return printer.pagewidth / 7 * week; }
+    /// The head of a day that is whole: its rows stand under it.
+    Printed wholeday(const MonthDay& day) const {
+        const Printed head = only(printer, day.head);
+        EXPECT_TRUE(head.bold);
+        for (std::size_t j = 0; j < day.tides.size(); ++j) {
+            const Printed tide = only(printer, day.tides[j].time + "   " + day.tides[j].height);
+            EXPECT_TRUE(tide.x == head.x && tide.page == head.page) << "a day is torn apart: " << day.head;
+            EXPECT_EQ(tide.y, head.y + static_cast<double>(j + 1) * 216);
+            EXPECT_FALSE(tide.bold);
+        }
+        return head;
+    }
 
     ScriptedPrinter printer;
 };
@@ -72,19 +77,12 @@ TEST_F(MonthPrintout, EveryMonthShapeOnBothPapers) {
                           printer.pages);
                 std::set<double> tops;
                 for (int day = 1; day <= days; ++day) {
-                    const MonthDay& data = all[static_cast<std::size_t>(day) - 1];
                     const int slot = first + day - 1;
-                    const Printed head = only(printer, data.head);
+                    const Printed head = wholeday(all[static_cast<std::size_t>(day) - 1]);
                     EXPECT_EQ(head.page, slot < 35 ? 1 : 2);
-                    EXPECT_DOUBLE_EQ(head.x, column(slot < 35 ? slot / 7 + 1 : 1)) << day;
-                    EXPECT_TRUE(head.bold);
+                    EXPECT_DOUBLE_EQ(head.x, printer.pagewidth / 7 * (slot < 35 ? slot / 7 + 1 : 1)) << day;
                     EXPECT_EQ(head.size, 9) << "data rows are in size 9 where they fit";
                     tops.insert(head.y - slot % 7 * 8 * 216.0);
-                    for (std::size_t j = 0; j < data.tides.size(); ++j) {
-                        const Printed tide = only(printer, row(data.tides[j]));
-                        EXPECT_EQ(tide.y, head.y + static_cast<double>(j + 1) * 216);
-                        EXPECT_FALSE(tide.bold);
-                    }
                 }
                 EXPECT_EQ(tops.size(), 1U) << "all columns start at one height";
             }
@@ -99,16 +97,8 @@ TEST_F(MonthPrintout, DaysTooFullAreNotSetByWeeks) {
             const auto lines = printer.texts();
             EXPECT_EQ(std::count(lines.begin(), lines.end(), complexline), most < 6 ? 0 : printer.pages) << most;
             EXPECT_EQ(printer.pages == 3, most == 14);
-            for (const MonthDay& day : all) {
-                const Printed head = only(printer, day.head);
-                EXPECT_TRUE(head.bold);
-                for (std::size_t j = 0; j < day.tides.size(); ++j) {
-                    const Printed tide = only(printer, row(day.tides[j]));
-                    EXPECT_TRUE(tide.x == head.x && tide.page == head.page) << "a day is torn apart: " << day.head;
-                    EXPECT_EQ(tide.y, head.y + static_cast<double>(j + 1) * 216);
-                    EXPECT_FALSE(tide.bold);
-                }
-            }
+            for (const MonthDay& day : all)
+                wholeday(day);
         }
     }
 }

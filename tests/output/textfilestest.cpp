@@ -2,74 +2,55 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "fakes/scriptedlocale.h"
 #include "fakes/testport.h"
 #include "files/filenames.h"
-#include "output/goldenfile.h"
+#include "output/printedpage.h"
 
-namespace tarvane {
+namespace tarvane::tests {
 namespace {
-
-using tests::goldenfile;
-
-DateOnShow dateonshow(int year, int month, int day) {
-    DateOnShow onshow;
-    setdateonshow(onshow, makedate(year, month, day));
-    return onshow;
-}
 
 TEST(TextFiles, AMonthOfAFlatPort) {
     HarmonicRecord record;
     record.PortName = "Still Water";
     record.Z0 = 3;
-    tests::PortFiles files(record);
+    PortFiles files(record);
     MonthTable table;
     buildmonthtable(table, files.settings, {"Still Water"}, dateonshow(2024, 2, 10), ScriptedLocale{});
-    const std::string golden = goldenfile("month-flat-february.txt");
-    ASSERT_FALSE(golden.empty());
-    EXPECT_EQ(monthfile(table, "\t", 0, dateonshow(2024, 2, 10)), golden);
+    EXPECT_EQ(monthfile(table, "\t", 0, dateonshow(2024, 2, 10)), goldenfile("month-flat-february.txt"));
 }
 
 TEST(TextFiles, TheMonthsLastLineAndSeparators) {
     MonthTable table;
     table.monthcolumn1 = {"Fécamp", "", "1 Apr"};
     table.monthcolumn2 = {"avril 2024", "", "(Mon, \"1\")"};
-    struct Row {
-        std::string separator;
-        std::int16_t option;
-        int month;
-        const char* last;
-    };
-    for (const Row& row :
+    using Row = std::tuple<std::string, std::int16_t, int, const char*>;
+    for (const auto& [s, option, month, last] :
          {Row{"\t", -1, 3, "Standard Time"}, Row{"\t", -1, 4, "Summer Time"}, Row{"\t", -1, 10, "Summer Time"},
           Row{"\t", -1, 11, "Standard Time"}, Row{"\t", 0, 7, "Times are for :\tStandard Time"},
           Row{",", -1, 1, "Times are for :,Summer Time"}, Row{",", 0, 7, "Times are for :,Standard Time"}}) {
-        const std::string& s = row.separator;
-        EXPECT_EQ(monthfile(table, s, row.option, dateonshow(2024, row.month, 1)),
+        EXPECT_EQ(monthfile(table, s, option, dateonshow(2024, month, 1)),
                   "F\xE9"
                   "camp" +
-                      s + "avril 2024\r\n" + s + "\r\n1 Apr" + s + "(Mon, \"1\")\r\n" + row.last + "\r\n");
+                      s + "avril 2024\r\n" + s + "\r\n1 Apr" + s + "(Mon, \"1\")\r\n" + last + "\r\n");
     }
 }
 
 TEST(TextFiles, CommasForACsvInTheNameAlone) {
-    struct Row {
-        const char* path;
-        const char* separator;
-    };
-    for (const Row& row :
+    using Row = std::pair<const char*, const char*>;
+    for (const auto& [path, separator] :
          {Row{"april.csv.txt", ","}, Row{"/home/a.csv/april.txt", "\t"}, Row{"april.CSV", "\t"}, Row{"aprilcsv", "\t"}})
-        EXPECT_EQ(tableseparator(row.path), row.separator) << row.path;
+        EXPECT_EQ(tableseparator(path), separator) << path;
 }
 
 TEST(TextFiles, ProposedNames) {
     EXPECT_EQ(monthfilename("  St Mary's Quay  ", dateonshow(2024, 5, 9)), "St Mary's Quay_May_2024");
-    struct Row {
-        const char *called, *name;
-    };
-    for (const Row& row : {Row{" Q/u\\a:y* \"1\"? ", "Q_u_a_y_ _1__"}, Row{"<a|b>\t\x7f", "_a_b___"},
-                           Row{"..é\xEF\xBF\xBD", "_.é_"}, Row{"a.b", "a.b"}, Row{"  ", "Tarvane"}})
-        EXPECT_EQ(safefilename(row.called), row.name);
+    using Row = std::pair<const char*, const char*>;
+    for (const auto& [called, name] : {Row{" Q/u\\a:y* \"1\"? ", "Q_u_a_y_ _1__"}, Row{"<a|b>\t\x7f", "_a_b___"},
+                                       Row{"..é\xEF\xBF\xBD", "_.é_"}, Row{"a.b", "a.b"}, Row{"  ", "Tarvane"}})
+        EXPECT_EQ(safefilename(called), name);
     std::string months;
     for (int month = 1; month <= 12; ++month)
         months += monthfilename("", dateonshow(2026, month, 1)) + " ";
@@ -85,9 +66,7 @@ TEST(TextFiles, ADayEveryTenMinutes) {
         curve.curvesamplescopy[i] = {step / 6, step / 8 - 3};
     }
     const std::string port = "Port    : Fécamp", date = "Date   : 9 April 2024 (Tuesday)";
-    const std::string golden = goldenfile("day-eighths.txt");
-    ASSERT_FALSE(golden.empty());
-    EXPECT_EQ(dayfile(curve, port, date), golden);
+    EXPECT_EQ(dayfile(curve, port, date), goldenfile("day-eighths.txt"));
     EXPECT_EQ(undefineddayfile("Grund: é", port, date),
               "Port    : F\xE9"
               "camp\r\nDate   : 9 April 2024 (Tuesday)\r\nNo prediction. Grund: \xE9\r\n");
@@ -113,4 +92,4 @@ TEST(TextFiles, TheSunsColumnsInTheFilesOrder) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::tests

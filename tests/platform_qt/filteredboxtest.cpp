@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "fakes/scriptedmessages.h"
+#include "fakes/scriptedquestions.h"
 
 namespace tarvane {
 namespace {

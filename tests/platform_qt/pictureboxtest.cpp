@@ -4,7 +4,6 @@
 
 #include <QBackingStore>
 #include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPaintEvent>
 #include <limits>
 #include <tuple>
@@ -259,24 +258,6 @@ TEST(PictureBox, StandsOnWholeDevicePixels) {
         for (const QImage& seen : {*screen, window.grab().toImage()})
             expectevengrid(seen.copy(inside).convertToFormat(QImage::Format_RGB32), std::max(1, int(ratio)));
     }
-}
-
-TEST(PictureBox, TheMouseSpeaksTheScale) {
-    PictureBox box;
-    box.resize(240, 100);
-    box.show();
-    box.setscale(0, 4, 24, -1);
-    QPointF moved, pressed;
-    box.onmousemove = [&](double x, double y) { moved = {x, y}; };
-    box.onmousedown = [&](double x, double y) { pressed = {x, y}; };
-    const QPointF place(60, 20);
-    QMouseEvent move(QEvent::MouseMove, place, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QMouseEvent press(QEvent::MouseButtonPress, place, place, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&box, &move);
-    QCoreApplication::sendEvent(&box, &press);
-    EXPECT_TRUE(box.hasMouseTracking());
-    EXPECT_EQ(moved, QPointF(6, 3));
-    EXPECT_EQ(pressed, moved);
 }
 
 }  // namespace

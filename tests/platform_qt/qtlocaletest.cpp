@@ -9,15 +9,11 @@
 namespace tarvane {
 namespace {
 
-Date date(int year, int month, int day) {
-    return std::chrono::year{year} / month / day;
-}
-
 QtLocale named(const char* name) {
     return QtLocale{QLocale(QString::fromLatin1(name))};
 }
 
-std::string probe(const QtLocale& locale, Date today = date(2026, 11, 22)) {
+std::string probe(const QtLocale& locale, Date today = makedate(2026, 11, 22)) {
     ProbedDate probed;
     const std::string found = CheckDateFormat(locale, today, probed).dateformat;
     EXPECT_EQ(std::tuple(probed.year, probed.month, probed.day),
@@ -34,7 +30,7 @@ TEST(QtLocale, TheProbeFindsItsOrder) {
           Row{"nl_NL", "DD-MM-YYYY", "05-03-2024"}, Row{"nl_BE", "DD/MM/YYYY", "5/03/2024"},
           Row{"eu_ES", "YYYY/MM/DD", "2024/3/5"}, Row{"ja_JP", "", "2024/03/05"}, Row{"pl_PL", "", "5.03.2024"}}) {
         EXPECT_EQ(probe(named(name)), form) << name;
-        EXPECT_EQ(named(name).shortdate(date(2024, 3, 5)), shortdate) << name;
+        EXPECT_EQ(named(name).shortdate(makedate(2024, 3, 5)), shortdate) << name;
     }
 }
 
@@ -47,7 +43,7 @@ TEST(QtLocale, EveryTerritoryPasses) {
         for (const QLocale& locale : QLocale::matchingLocales(language, QLocale::LatinScript, QLocale::AnyTerritory)) {
             const std::string form = probe(QtLocale{locale});
             EXPECT_NE(form, "") << locale.name().toStdString();
-            for (const Date day : {date(2001, 1, 1), date(2028, 12, 31)})
+            for (const Date day : {makedate(2001, 1, 1), makedate(2028, 12, 31)})
                 EXPECT_EQ(probe(QtLocale{locale}, day), form) << locale.name().toStdString();
             ++count;
         }
@@ -60,7 +56,7 @@ TEST(QtLocale, ReadsWhatItWrites) {
     for (const QLocale& system :
          QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
         const QtLocale locale{system};
-        for (Date day = date(2024, 1, 1); day < date(2028, 1, 1); day += std::chrono::days{43})
+        for (Date day = makedate(2024, 1, 1); day < makedate(2028, 1, 1); day += std::chrono::days{43})
             ASSERT_EQ(locale.parsedate(locale.shortdate(day)), day) << system.name().toStdString();
     }
 }
@@ -68,11 +64,11 @@ TEST(QtLocale, ReadsWhatItWrites) {
 TEST(QtLocale, ReadsDates) {
     const QtLocale british = named("en_GB"), american = named("en_US");
     for (const char* text : {"03-01-2001", "2001.03.01"}) {
-        EXPECT_EQ(british.parsedate(text), date(2001, 1, 3));
-        EXPECT_EQ(american.parsedate(text), date(2001, 3, 1));
+        EXPECT_EQ(british.parsedate(text), makedate(2001, 1, 3));
+        EXPECT_EQ(american.parsedate(text), makedate(2001, 3, 1));
     }
-    EXPECT_EQ(british.parsedate("1/2/24"), date(2024, 2, 1));
-    EXPECT_EQ(british.parsedate("1/2/30"), date(1930, 2, 1));
+    EXPECT_EQ(british.parsedate("1/2/24"), makedate(2024, 2, 1));
+    EXPECT_EQ(british.parsedate("1/2/30"), makedate(1930, 2, 1));
     for (const char* text :
          {"", "29/02/2023", "00/01/2024", "1/13/2024", "1/2", "1/2/3/4", "1 February 2024", "20240201", "12345/01/02",
           "1/257/2024", "257/1/2024", "1//2024", "-1/2/2024", "٠١/٠٢/٢٠٢٤"})

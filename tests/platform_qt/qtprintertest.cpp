@@ -1,14 +1,11 @@
 #include "platform/qt/qtprinter.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 
 #include "fakes/temporaryfolder.h"
-#include "files/wholefiles.h"
 
 namespace tarvane {
 namespace {
@@ -29,11 +26,6 @@ struct qtprinter : testing::Test {
         return printer.enddocument().whynot;
     }
 
-    static std::string contents(const std::string& path) {
-        const std::vector<std::byte> bytes = readwhole(path);
-        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-    }
-
     fakes::TemporaryFolder folder;
     const std::string made = folder / "made/here";
     QtPrinter printer;
@@ -42,38 +34,31 @@ struct qtprinter : testing::Test {
 TEST_F(qtprinter, APdfStandsInAndNeverOverwrites) {
     EXPECT_EQ(printpages("Tide curve", 1), "");
     EXPECT_EQ(printer.destination(), made + "/Tide curve.pdf");
-    const std::string first = contents(made + "/Tide curve.pdf");
+    const std::string first = filetext(made + "/Tide curve.pdf");
     EXPECT_TRUE(first.starts_with("%PDF"));
     EXPECT_EQ(printpages("Tide curve", 3), "");
     EXPECT_EQ(printer.destination(), made + "/Tide curve 2.pdf");
-    EXPECT_EQ(contents(made + "/Tide curve.pdf"), first);
-    EXPECT_NE(contents(made + "/Tide curve 2.pdf").find("/Count 3"), std::string::npos);
+    EXPECT_EQ(filetext(made + "/Tide curve.pdf"), first);
+    EXPECT_NE(filetext(made + "/Tide curve 2.pdf").find("/Count 3"), std::string::npos);
     printpages("Quay: a/b curve", 1);
     EXPECT_EQ(printer.destination(), made + "/Quay_ a_b curve.pdf");
 }
 
 TEST_F(qtprinter, AFullDiskLeavesNothingAndIsTold) {
     printpages("Title", 1);
-    const std::string whole = contents(made + "/Title.pdf");
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    for (const rlim_t bytes : {rlim_t{0}, rlim_t{100}, static_cast<rlim_t>(whole.size() - 1)}) {
-        const rlimit limit{bytes, old.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        const std::string whynot = printpages("Title", 1);
-        setrlimit(RLIMIT_FSIZE, &old);
+    const std::string whole = filetext(made + "/Title.pdf");
+    for (const std::size_t bytes : {std::size_t{0}, std::size_t{100}, whole.size() - 1}) {
+        const std::string whynot = onadiskof(bytes, [&] { return printpages("Title", 1); });
         EXPECT_EQ(whynot, made + "/Title 2.pdf: File too large");
         EXPECT_EQ(printer.destination(), "");
         EXPECT_EQ(std::distance(std::filesystem::directory_iterator(made), {}), 1);
     }
-    std::signal(SIGXFSZ, handler);
     EXPECT_EQ(printpages("Title", 1), "");
 }
 
 TEST_F(qtprinter, AFolderThatCannotBeUsedIsNamedWithItsReason) {
     const std::string file = folder / "file", closed = folder / "closed";
-    ASSERT_TRUE(replacefile(file, std::string("x")));
+    putfile(file, "x");
     std::filesystem::create_directory(closed);
     std::filesystem::permissions(closed, std::filesystem::perms::owner_read);
     std::filesystem::permissions(folder.path(), std::filesystem::perms::all);

@@ -3,10 +3,10 @@
 
 #include <cstddef>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <span>
 #include <string>
+
+#include "fakes/temporaryfolder.h"
 
 namespace tarvane {
 
@@ -23,15 +23,6 @@ inline std::string textat(std::span<const std::byte> bytes, std::size_t offset, 
 
 inline std::string filled(const std::string& text, std::size_t width) {
     return text + std::string(width - text.size(), ' ');
-}
-
-inline std::string filetext(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-inline void putfile(const std::string& path, const std::string& text) {
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
 }
 
 }  // namespace tarvane

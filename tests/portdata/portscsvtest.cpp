@@ -28,7 +28,7 @@ void expectfault(const std::string& text, std::size_t line, std::size_t column, 
 }
 
 TEST(PortsCsv, TheShippedTableIsSound) {
-    const PortsTable read = readportscsv(filetext(std::string(TARVANE_DATA) + "/uk-ports.csv"));
+    const PortsTable read = readportscsv(filetext(TARVANE_DATA "/uk-ports.csv"));
     ASSERT_FALSE(read.fault.has_value()) << read.fault->line << " " << read.fault->reason;
     ASSERT_EQ(read.ports.size(), 84u);
     const HarmonicRecord& first = read.ports.front();

@@ -9,53 +9,33 @@
 namespace tarvane {
 namespace {
 
-std::vector<std::string> shippednames() {
-    std::vector<std::string> names;
-    for (const HarmonicRecord& port : readportscsv(filetext(std::string(TARVANE_DATA) + "/uk-ports.csv")).ports)
-        names.push_back(trimmedname(port));
-    return names;
-}
-
 TEST(PortSearch, NamesFold) {
     using Row = std::pair<const char*, std::u32string_view>;
     for (const auto& [name, folded] :
          {Row{"  ÎLE de  Bréhat ", U"ile de brehat"}, Row{"Fe\u0301camp", U"fecamp"},
           Row{"Saint-Quay–Portrieux", U"saint quay portrieux"}, Row{"St. Mary’s", U"saint marys"},
           Row{"Ste Anne/STE.\u00A0Marie", U"saint anne saint marie"}, Row{"St.Malo", U"saint malo"},
-          Row{"Stornoway Saints", U"stornoway saints"}, Row{"Port Ellen (Islay)", U"port ellen islay"},
+          Row{"Sainte-Anne", U"saint anne"}, Row{"Stornoway Saints", U"stornoway saints"},
+          Row{"Port Ellen (Islay)", U"port ellen islay"},
           Row{"Œuf Straße Þórshöfn Ærø Žďár", U"oeuf strasse thorshofn aero zďar"}, Row{"- . '", U""}, Row{"", U""}})
         EXPECT_TRUE(foldname(name) == folded) << name;
 }
 
 TEST(PortSearch, ShippedPortsAsAPersonTypesThem) {
-    const auto names = shippednames();
+    std::vector<std::string> names;
+    for (const HarmonicRecord& port : readportscsv(filetext(TARVANE_DATA "/uk-ports.csv")).ports)
+        names.push_back(trimmedname(port));
     ASSERT_EQ(names.size(), 84U);
-    using Row = std::pair<const char*, const char*>;
-    for (const auto& [typed, name] : {Row{"st malo", "Saint-Malo"},
-                                      Row{"saint malo", "Saint-Malo"},
-                                      Row{"st-malo", "Saint-Malo"},
-                                      Row{"ST. MALO", "Saint-Malo"},
-
-                                      Row{"malo", "Saint-Malo"},
-                                      Row{"Portsmuth", "Portsmouth"},
-                                      Row{"Protsmouth", "Portsmouth"},
-                                      Row{"portsmu", "Portsmouth"},
-                                      Row{"saint marys", "St Mary's"},
-                                      Row{"sainte helier", "St Helier (Jersey)"},
-                                      Row{"jersey", "St Helier (Jersey)"},
-                                      Row{"lehavre", "Le Havre"},
-                                      Row{"kinloch bervie", "Kinlochbervie"},
-                                      Row{"boulogne sur mer", "Boulogne-sur-Mer"},
-                                      Row{"liverpol", "Liverpool (Gladstone Dock)"},
-                                      Row{"gladstnoe", "Liverpool (Gladstone Dock)"},
-                                      Row{"diélette", "Dielette"},
-                                      Row{"wick", "Wick"},
-                                      Row{"sto", "Stornoway"},
-                                      Row{"dvoer", "Dover"}}) {
-        const auto hits = findports(names, typed);
-        ASSERT_FALSE(hits.empty()) << typed;
-        EXPECT_EQ(names[hits[0].place], name) << typed;
-    }
+    using Row = std::pair<const char*, std::vector<const char*>>;
+    for (const auto& [name, texts] :
+         {Row{"Saint-Malo", {"st malo", "saint malo", "st-malo", "ST. MALO", "malo"}},
+          Row{"Portsmouth", {"Portsmuth", "Protsmouth", "portsmu"}}, Row{"St Mary's", {"saint marys"}},
+          Row{"St Helier (Jersey)", {"sainte helier", "jersey"}}, Row{"Le Havre", {"lehavre"}},
+          Row{"Kinlochbervie", {"kinloch bervie"}}, Row{"Boulogne-sur-Mer", {"boulogne sur mer"}},
+          Row{"Liverpool (Gladstone Dock)", {"liverpol", "gladstnoe"}}, Row{"Dielette", {"diélette"}},
+          Row{"Wick", {"wick"}}, Row{"Stornoway", {"sto"}}, Row{"Dover", {"dvoer"}}})
+        for (const char* typed : texts)
+            EXPECT_EQ(names[findports(names, typed).at(0).place], name) << typed;
     for (const char* typed : {"dvr", "xyz", "Reykjavik", "port of spain"})
         EXPECT_TRUE(findports(names, typed).empty()) << typed;
     for (const auto& name : names)

@@ -1,11 +1,9 @@
 #include "portdata/recordfiles.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 
 #include "fakes/temporaryfolder.h"
@@ -84,20 +82,6 @@ TEST_F(RecordFiles, WriteInPlaceAndGrowWithZeros) {
         EXPECT_FALSE(writeport(refused, 1, named("nowhere"))) << refused;
     EXPECT_EQ(filetext(path), before);
     EXPECT_EQ(filesin(folder.path()), 1);
-}
-
-/// Runs the writing while no file may grow past so many bytes.
-template <typename Write>
-bool onadiskof(rlim_t bytes, Write write) {
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, old.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    const bool written = write();
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, handler);
-    return written;
 }
 
 TEST_F(ReplaceFile, ADiskFullAtAnyByteLeavesTheOldFile) {

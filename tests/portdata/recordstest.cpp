@@ -70,7 +70,10 @@ TEST(RecordBytes, OfAnyLengthDecode) {
     config.hcfilepath = "/opt/tarvane/UK.hc";
     config.reserved1 = -2;
     config.reserved2 = 0x01020304;
+    config.draught = 1.25F;
+    config.ukc = 2.5F;
     expectanylength(encode(config), decodeconfig);
+    EXPECT_EQ(numberat<float>(encode(config), 1283) + 10 * numberat<float>(encode(config), 1287), 26.25F);
     EXPECT_EQ(textat(encode(config), 1299, 8), "\xFE\xFF\xFF\xFF\x04\x03\x02\x01");
 }
 
@@ -92,11 +95,6 @@ TEST(Zones, TheThreeTablesWalkedCompletely) {
     EXPECT_EQ(zonetextof("") + zonetextof("TT") + zonetextof("é"), "000");
     port.TimeZoneLetter = "é";
     EXPECT_EQ(zonehoursof(port), 76 - 0xE9);
-}
-
-TEST(Constants, AreShownAsLabelsHaveThem) {
-    EXPECT_EQ(constituenttext(256.5, 1.865) + z0text(-0.125), " (g 257 : Hm 1.87) (Z0 -0.13)");
-    EXPECT_EQ(f4text(7.2, 0.0351) + f6text(129, 0.0049), " (f4 007 : F4 0.04) (f6 129 : F6 0.00)");
 }
 
 }  // namespace

@@ -2,27 +2,24 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <filesystem>
 #include <limits>
 
 #include "fakes/mainfixture.h"
-#include "files/wholefiles.h"
+#include "text/singlebyte.h"
 
 namespace tarvane::tests {
 namespace {
 
-class UserNotesTest : public testing::Test, protected MainFixture {
-  protected:
-    UserNotesTest() { load(); }
+struct UserNotesTest : LoadedMain {
     Settings& settings = session.settings;
 };
 
 TEST_F(UserNotesTest, OpensOnTheRecordsPortWithEveryPortListed) {
-    ConfigRecord record = stored();
-    record.portnumber = 2;
-    record.summertimeflag = -1;
-    SaveConfig(session.folders, record);
+    store([](ConfigRecord& record) {
+        record.portnumber = 2;
+        record.summertimeflag = -1;
+    });
     const UserNotes notes = loadusernotes(context);
     ASSERT_EQ(notes.rows.size(), 4U);
     EXPECT_EQ(notes.rows[1], "2  Birch Sound" + std::string(24, ' '));
@@ -34,18 +31,13 @@ TEST_F(UserNotesTest, OpensOnTheRecordsPortWithEveryPortListed) {
 TEST_F(UserNotesTest, AnEnteredDepthAndNoteStandInTheirRecordAlone) {
     UserNotes notes = loadusernotes(context);
     pickusernotes(settings, notes, 2);
-    auto wanted = readwhole(settings.depfile);
+    std::string wanted = filetext(settings.depfile);
     EXPECT_TRUE(enterusernotes(context, notes, "-2.5", "Bar dries\nFerry \u20AC5, caf\u00E9"));
-    std::string note =
-        "Bar dries\r\nFerry \x80"
-        "5, caf\xE9";
+    std::string note = tosinglebyte("Bar dries\r\nFerry \u20AC5, caf\u00E9");
     note.resize(longestnote, ' ');
-    const auto put = [&](std::size_t at, const std::string& text) {
-        std::memcpy(wanted.data() + 2 * userdepthrecordsize + at, text.data(), text.size());
-    };
-    put(37, {"\0\0\x20\xC0", 4});
-    put(49, note);
-    EXPECT_EQ(readwhole(settings.depfile), wanted);
+    wanted.replace(2 * userdepthrecordsize + 37, 4, {"\0\0\x20\xC0", 4});
+    wanted.replace(2 * userdepthrecordsize + 49, longestnote, note);
+    EXPECT_EQ(filetext(settings.depfile), wanted);
 
     pickusernotes(settings, notes, 3);
     pickusernotes(settings, notes, 2);
@@ -73,9 +65,7 @@ TEST(AdmittedNoteTest, OnlyWhatTheRecordCanHoldAndWhileThereIsRoom) {
 
 TEST_F(UserNotesTest, LeavingShowsTheNewDepthWhereTheOutputAsksForIt) {
     for (const float output : {1.0F, 2.0F}) {
-        ConfigRecord record = stored();
-        record.outputoption = output;
-        SaveConfig(session.folders, record);
+        store([&](ConfigRecord& record) { record.outputoption = output; });
         UserNotes notes = loadusernotes(context);
         enterusernotes(context, notes, "0", "");
         closeusernotes(context);
@@ -98,10 +88,10 @@ TEST_F(UserNotesTest, AVanishedConfigurationComesBackWithPort73AndWhatCannotBeSt
     wanted.portnumber = 73;
     wanted.wayfilepath = "/somewhere/My.way";
     EXPECT_EQ(encode(stored()), encode(wanted));
-    const auto before = readwhole(settings.depfile);
+    const auto before = filetext(settings.depfile);
     scripted.messages.expectshow("There is no port 73 in " + area(), "Tarvane");
     EXPECT_FALSE(enterusernotes(context, notes, "1", "lost"));
-    EXPECT_EQ(readwhole(settings.depfile), before);
+    EXPECT_EQ(filetext(settings.depfile), before);
 
     pickusernotes(settings, notes, 1);
     std::filesystem::remove_all(session.folders.depthsfolder());

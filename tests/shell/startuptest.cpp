@@ -6,6 +6,7 @@
 
 #include "fakes/services.h"
 #include "shell/conditions.h"
+#include "shell/localeinfo.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -87,6 +88,18 @@ TEST(conditions, twentyfivelinesinsixblocks) {
         EXPECT_LE(charactercount(lines[i]), 16u + 90u) << lines[i];
     }
     EXPECT_EQ(blocks, 6);
+}
+
+TEST(LocaleInfo, OrdersInWordsAndWhatTheSystemDoesNotKnowIsEmpty) {
+    ScriptedLocale locale;
+    locale.infotexts = {{1, "0809"}, {33, "1"}, {34, "2"}, {4107, std::nullopt}};
+    auto rows = localeinforows(locale);
+    EXPECT_EQ(rows[0].text, "0809");
+    EXPECT_EQ(rows[3].text, "2   Year - Month - Day");
+    EXPECT_EQ(rows[4].text, "1   Day - Month - Year");
+    EXPECT_EQ(rows[10].text, "");
+    locale.infotexts[33] = "0";
+    EXPECT_EQ(localeinforows(locale)[4].text, "0   Month - Day - Year");
 }
 
 }  // namespace

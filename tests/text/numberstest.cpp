@@ -96,5 +96,44 @@ TEST(TimeText, RoundsTheMinutesAndCarries) {
     }
 }
 
+/// Each row: a value, the pattern and the text.
+using Formatted = std::tuple<double, const char*, const char*>;
+
+void expectformatted(std::initializer_list<Formatted> rows) {
+    for (const auto& [value, pattern, text] : rows)
+        EXPECT_EQ(format(value, pattern), text) << value << " under " << pattern;
+}
+
+TEST(Format, RoundsHalvesAwayFromZeroOnTheDecimalText) {
+    expectformatted({Formatted{1.005, "0.00", "1.01"}, Formatted{2.675, "0.00", "2.68"},
+                     Formatted{-0.05, "0.0", "-0.1"}, Formatted{-2.5, "0", "-3"}, Formatted{0.4999, "0", "0"},
+                     Formatted{999.95, "0.0", "1000.0"}, Formatted{9.5, "000", "010"},
+                     Formatted{1.4999999999999999, "0.0", "1.5"}});
+    // Every tenth step of a half: the binary value lies to either side of the decimal one, the text never does.
+    for (int i = 0; i < 2000; ++i) {
+        const double value = (10 * i + 5) / 100.0;
+        const std::string expected = std::to_string((i + 1) / 10) + "." + std::to_string((i + 1) % 10);
+        ASSERT_EQ(format(value, "#,#0.0;;;"), expected);
+    }
+}
+
+TEST(Format, FillsGroupsAndKeepsPlaces) {
+    expectformatted({Formatted{359.6, "000", "360"}, Formatted{5.5, "00.00", "05.50"}, Formatted{45, "###000", "045"},
+                     Formatted{123456, "###000", "123456"}, Formatted{45, "###,000", "045"},
+                     Formatted{1234, "###,000", "1,234"}, Formatted{12.34, "##0.0", "12.3"},
+                     Formatted{1234567.891, "#,##0.00;;;", "1,234,567.89"}, Formatted{0.5, "#.##", ".5"},
+                     Formatted{1e-300, "0.00", "0.00"}, Formatted{-1000, "#,##0", "-1,000"},
+                     Formatted{-100, "#,##0", "-100"}, Formatted{1e20, "0", "100000000000000000000"},
+                     Formatted{123456789012345678.0, "#,##0", "123,456,789,012,346,000"}});
+}
+
+TEST(Format, ChoosesTheSectionBySign) {
+    expectformatted({Formatted{-1.25, "#,#0.0;;;", "-1.3"}, Formatted{0, "#,#0.0;;;", "0.0"},
+                     Formatted{-0.0, "0.0", "0.0"}, Formatted{-0.04, "#,#0.0;;;", "0.0"},
+                     Formatted{-2, "0.0;00.00", "02.00"}, Formatted{0, "0.0;;000", "000"},
+                     Formatted{3, "0.0;00.00;000", "3.0"}, Formatted{-3, "0.0;", "-3.0"},
+                     Formatted{infinite, "0.0", ""}, Formatted{-infinite + infinite, "0.00", ""}});
+}
+
 }  // namespace
 }  // namespace tarvane

@@ -1,165 +1,113 @@
 // What a command line may hold, which port it means, where the files are, and that nothing is ever written.
 #include <gtest/gtest.h>
 
-#include "tides/options.h"
-#include "tides/portchoice.h"
 #include "tools/companion.h"
 
-namespace tarvane {
+namespace tarvane::tests {
 namespace {
 
-using tests::Companion;
-using tests::has;
-using tests::Outcome;
-using tests::portnamed;
+using CommandLine = Companion;
+using Files = Companion;
 
-void expectrefused(const Outcome& outcome, const std::string& words, const std::string& what = {}) {
-    EXPECT_EQ(outcome.status, 2) << what;
-    EXPECT_EQ(outcome.out, "") << what;
-    EXPECT_EQ(tests::linesof(outcome.err).size(), 1U) << what << ": " << outcome.err;
-    EXPECT_TRUE(has(outcome.err, words)) << what << ": " << outcome.err;
+void expectrefused(const Outcome& outcome, const std::string& words) {
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(linesof(outcome.err).size(), 1U) << outcome.err;
+    EXPECT_TRUE(has(outcome.err, words)) << outcome.err;
 }
 
-TEST(CommandLine, FaultsAreOneLineAndNoOutput) {
-    Companion machine;
-    machine.store({portnamed("Fécamp"), portnamed("Le Havre"), portnamed("Port Ellen"), portnamed("Portland")});
-    machine.configure(1);
-    using Row = std::pair<std::string, const char*>;
-    for (const auto& [line, words] :
-         {Row{"--tomorrow", "no option '--tomorrow'"}, Row{"-x", "no option '-x'"},
-          Row{"--port", "--port needs a value: NUMBER|NAME|all"}, Row{"--port --sun", "--port needs a value"},
-          Row{"--area=", "--area needs a value"}, Row{"--port 1 --port 2", "--port is given twice"},
-          Row{"--port 1 2", "given twice, as '1' and as '2'"}, Row{"--sun --sun", "--sun is given twice"},
-          Row{"--sun --samples", "--samples and --sun exclude each other"}, Row{"--sun=no", "--sun takes no value"},
-          Row{"--format CSV", "text, csv or json"}, Row{"--summer yes", "on or off"}, Row{"--days 0", "1 to 3660"},
-          Row{"--days 3661", "1 to 3660"}, Row{"--days=-2", "1 to 3660"}, Row{"--days 2.5", "1 to 3660"}})
-        expectrefused(machine.run(line), words, line);
-    for (const auto& [line, words] :
-         {Row{"--date 2024-02-30", "'2024-02-30' is no date"}, Row{"--date 9999-12-31 --days 2", "past 9999-12-31"},
-          Row{"--days 99999999999999999999", "1 to 3660"}, Row{"5", "the nearest is 4 Portland"},
-          Row{"Fekamp", "the nearest names are 1 Fécamp"},
-          Row{"port", "fits 2 ports of UK.hc: 3 Port Ellen, 4 Portland"},
-          Row{"--area " + machine.folder / "None.hc", "None.hc can't be read"},
-          Row{"--area " + machine.environment.home, "can't be read"}})
-        expectrefused(machine.run(line), words, line);
-    expectrefused(machine.runwith({"--bad\nline"}), "'--bad?line'");
-    expectrefused(machine.runwith({"--port", "  "}), "--port needs");
+TEST_F(CommandLine, FaultsAreOneLineWhateverIsTyped) {
+    expectrefused(run("--area " + folder / "None.hc"), "None.hc can't be read");
+    expectrefused(run("--area " + environment.home), "can't be read");
+    store({portnamed("Home")});
+    expectrefused(runwith({"--bad\nline"}), "'--bad?line'");
+    expectrefused(runwith({"--port", "  "}), "--port needs");
+    expectrefused(runwith({"--date", "2024-01-01 "}), "is no date");
 }
 
-TEST(CommandLine, TheSameAskedInOtherForms) {
-    Companion machine;
-    machine.store({portnamed("Fécamp"), portnamed("Le Havre")});
-    const std::string wanted = machine.csv("--port 2 --days 3");
+TEST_F(CommandLine, TheSameAskedInOtherForms) {
+    store({portnamed("Fécamp"), portnamed("Le Havre")});
+    const std::string wanted = csv("--port 2 --days 3");
     for (const char* line : {"--days=3 --port=2", "le --days 3 havre", "--days 3 -- HAVRE"})
-        EXPECT_EQ(machine.csv(line), wanted) << line;
-    EXPECT_EQ(machine.runwith({"--days", "3", "--port", "Le Havre", "--format=csv"}).out, wanted);
-    EXPECT_EQ(machine.run("--version").out, "Tarvane Tides (v9.5.0)\n");
-    const std::string help = machine.run("-h").out;
-    EXPECT_EQ(machine.run("--nonsense --help").out, help);
+        EXPECT_EQ(csv(line), wanted) << line;
+    EXPECT_EQ(runwith({"--days", "3", "--port", "Le Havre", "--format=csv"}).out, wanted);
+    const std::string help = run("-h").out;
+    EXPECT_EQ(run("--nonsense --help").out, help);
     for (const char* part : {"--port NUMBER|NAME|all", "--orbital", "\"moment\"", "Exit status"})
         EXPECT_TRUE(has(help, part)) << help;
 }
 
-TEST(CommandLine, DatesThatExist) {
-    for (const char* text : {"24-1-1", "1900-02-29", "2024-13-01", "2024-00-10", "2024-01-00", "0000-01-01",
-                             "10000-01-01", "2024-1-01", "2024/01/01", "2024-01-01 ", "+024-01-01", "2024-01-1x", ""})
-        EXPECT_FALSE(parseisodate(text)) << text;
-    EXPECT_EQ(parseisodate("0001-01-01"), makedate(1, 1, 1));
-    EXPECT_EQ(parseisodate("9999-12-31"), makedate(9999, 12, 31));
-    EXPECT_EQ(parseisodate("2000-02-29"), makedate(2000, 2, 29));
-}
-
-TEST(CommandLine, PortsByNumberNameAndPart) {
-    const std::vector<std::string> names{"Saint-Malo", "Fécamp",     "Île de Bréhat", "St Mary's",
-                                         "Port",       "Port Ellen", "Port",          "Œuf"};
-    using Row = std::pair<const char*, std::int16_t>;
-    for (const auto& [wanted, number] :
-         {Row{" 002 ", 2}, Row{"FECAMP", 2}, Row{"ile", 3}, Row{"Saint Mary’s", 4}, Row{"ellen", 6}, Row{"st malo", 1}})
-        EXPECT_EQ(chooseports(names, wanted, "Area").numbers, std::vector<std::int16_t>{number}) << wanted;
-    EXPECT_EQ(chooseports(names, "all", "Area").numbers.size(), names.size());
-    using Refusal = std::pair<const char*, const char*>;
-    for (const auto& [wanted, fault] :
-         {Refusal{"port", "fits 2 ports of Area: 5 Port, 7 Port"}, Refusal{"e", "fits 4 ports"},
-          Refusal{"st mallo", "nearest names are 1 Saint-Malo"}, Refusal{"9", "1 to 8"}})
-        EXPECT_TRUE(has(chooseports(names, wanted, "Area").fault, fault)) << wanted;
-    EXPECT_NE(chooseports({}, "1", "Area").fault, "");
-}
-
-TEST(Files, WithoutConfigurationTheFirstStartsValuesAndNothingMade) {
-    Companion machine;
-    machine.store(std::vector<HarmonicRecord>(76, portnamed("Other")));
-    writeport(machine.areapath(), 77, portnamed("Seventy-seven"));
-    const auto before = machine.everything();
+TEST_F(Files, WithoutConfigurationTheFirstStartsValuesAndNothingMade) {
+    store(std::vector<HarmonicRecord>(76, portnamed("Other")));
+    writeport(areapath(), 77, portnamed("Seventy-seven"));
+    const auto before = everything();
     for (const char* line : {"--samples", "--sun", "--orbital", "--list", "--port 1 --format json", "--bad"})
-        machine.run(line);
-    EXPECT_TRUE(has(machine.run("").out, "Seventy-seven, port 77 of UK.hc"));
-    EXPECT_TRUE(has(machine.run("").out, "Tuesday 9 April 2024"));
-    EXPECT_EQ(machine.everything(), before);
+        run(line);
+    EXPECT_TRUE(has(run("").out, "Seventy-seven, port 77 of UK.hc"));
+    EXPECT_TRUE(has(run("").out, "Tuesday 9 April 2024"));
+    EXPECT_EQ(everything(), before);
 }
 
-TEST(Files, StoredPortSummerAndArea) {
-    Companion machine;
-    machine.store({portnamed("First"), portnamed("Second")});
-    machine.configure(2, 1, -1);
-    const std::string shifted = machine.csv("");
+TEST_F(Files, StoredPortSummerAndArea) {
+    store({portnamed("First"), portnamed("Second")});
+    configure(2, 1, -1);
+    const std::string shifted = csv("");
     EXPECT_TRUE(has(shifted, "2,Second,2024-04-09,05:40,")) << shifted;
-    EXPECT_TRUE(has(machine.csv("--summer off"), ",04:40,"));
+    EXPECT_TRUE(has(csv("--summer off"), ",04:40,"));
     // the rule of the day still decides under --summer on
-    EXPECT_EQ(machine.csv("--date 2024-01-15 --summer on"), machine.csv("--date 2024-01-15 --summer off"));
-    machine.configure(2, 1, 0);
-    EXPECT_EQ(machine.csv("--summer on"), shifted);
-    machine.configure(3);
-    expectrefused(machine.run(""), "has no port 3");
+    EXPECT_EQ(csv("--date 2024-01-15 --summer on"), csv("--date 2024-01-15 --summer off"));
+    configure(2, 1, 0);
+    EXPECT_EQ(csv("--summer on"), shifted);
+    configure(3);
+    expectrefused(run(""), "has no port 3");
 }
 
-TEST(Files, DepthsOfTheAreaInTheUsersDocuments) {
-    Companion machine;
-    machine.store({portnamed("Home"), portnamed("Next")});
-    machine.store({portnamed("Away")}, "Far.hc");
-    machine.configure(1, 2);
-    const std::string bare = machine.csv("");
+TEST_F(Files, DepthsOfTheAreaInTheUsersDocuments) {
+    store({portnamed("Home"), portnamed("Next")});
+    store({portnamed("Away")}, "Far.hc");
+    configure(1, 2);
+    const std::string bare = csv("");
     EXPECT_TRUE(has(bare, ",5.5")) << bare;
-    std::filesystem::create_directories(machine.environment.home + "/.config");
-    std::ofstream(machine.environment.home + "/.config/user-dirs.dirs")
-        << "# XDG_DOCUMENTS_DIR=\"$HOME/No\"\nXDG_DESKTOP_DIR=\"$HOME/Desk\"\nXDG_DOCUMENTS_DIR=\"$HOME/Papers/\"\n";
-    EXPECT_EQ(foldersof(machine.environment).docsfolder, machine.environment.home + "/Papers");
-    machine.storedepth(10);
-    machine.storedepth(20, "Far.DEP");
-    EXPECT_TRUE(has(machine.csv(""), ",15.5"));
-    EXPECT_TRUE(has(machine.csv("next"), ",5.5"));
-    EXPECT_TRUE(has(machine.csv("--area " + machine.areapath("Far.hc")), ",25.5"));
-    machine.configure(1, 1);
-    EXPECT_EQ(machine.csv(""), bare);
+    std::filesystem::create_directories(environment.home + "/.config");
+    putfile(environment.home + "/.config/user-dirs.dirs",
+            "# XDG_DOCUMENTS_DIR=\"$HOME/No\"\nXDG_DESKTOP_DIR=\"$HOME/Desk\"\nXDG_DOCUMENTS_DIR=\"$HOME/Papers/\"\n");
+    EXPECT_EQ(foldersof(environment).docsfolder, environment.home + "/Papers");
+    storedepth(10);
+    storedepth(20, "Far.DEP");
+    EXPECT_TRUE(has(csv(""), ",15.5"));
+    EXPECT_TRUE(has(csv("next"), ",5.5"));
+    EXPECT_TRUE(has(csv("--area " + areapath("Far.hc")), ",25.5"));
+    configure(1, 1);
+    EXPECT_EQ(csv(""), bare);
 }
 
-TEST(Files, FoldersFromTheEnvironment) {
-    TidesEnvironment environment;
+TEST_F(Files, FoldersFromTheEnvironment) {
     environment.home = "/home/anne";
     EXPECT_EQ(foldersof(environment).docsfolder, "/home/anne/Documents");
     using Row = std::pair<const char*, const char*>;
-    for (const auto& [datahome, folder] :
+    for (const auto& [datahome, appdata] :
          {Row{"", "/home/anne/.local/share"}, Row{"/srv/data", "/srv/data"}, Row{"here", "/home/anne/.local/share"}}) {
         environment.datahome = datahome;
-        EXPECT_EQ(foldersof(environment).appdatafolder, folder);
+        EXPECT_EQ(foldersof(environment).appdatafolder, appdata);
     }
 }
 
-TEST(Files, BrokenOnesAreRefused) {
-    Companion machine;
-    expectrefused(machine.run(""), "UK.hc can't be read");
-    std::ofstream(machine.areapath("Empty.hc")).close();
-    expectrefused(machine.run("--port 1 --area " + machine.areapath("Empty.hc")), "holds no ports");
-    machine.store({portnamed("Home")});
-    machine.configure(1, 3);
-    const ProgramFolders folders = foldersof(machine.environment);
+TEST_F(Files, BrokenOnesAreRefused) {
+    expectrefused(run(""), "UK.hc can't be read");
+    EXPECT_EQ(run("--orbital").status, 0) << "needs none";
+    putfile(areapath("Empty.hc"), "");
+    expectrefused(run("--port 1 --area " + areapath("Empty.hc")), "holds no ports");
+    store({portnamed("Home")});
+    configure(1, 3);
+    const ProgramFolders folders = foldersof(environment);
     std::filesystem::create_directories(folders.depthsfolder() + "/UK.DEP");
-    expectrefused(machine.run(""), "UK.DEP can't be read");
+    expectrefused(run(""), "UK.DEP can't be read");
     std::filesystem::resize_file(folders.cfgpath(), 0);
-    expectrefused(machine.run(""), "names no sea area file");
+    expectrefused(run(""), "names no sea area file");
     std::filesystem::remove(folders.cfgpath());
     std::filesystem::create_directory(folders.cfgpath());
-    expectrefused(machine.run(""), "configuration");
+    expectrefused(run(""), "configuration");
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::tests

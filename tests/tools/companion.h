@@ -1,8 +1,9 @@
 // A user's machine in a temporary folder, `tides` run on it, and what came out.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <map>
 #include <sstream>
@@ -45,8 +46,7 @@ inline bool has(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
 }
 
-class Companion {
-  public:
+struct Companion : testing::Test {
     Companion() {
         environment.programfolder = folder / "bin";
         environment.home = folder / "home";
@@ -98,9 +98,8 @@ class Companion {
     /// Every file and folder under the temporary one with its size.
     std::map<std::string, std::uintmax_t> everything() const {
         std::map<std::string, std::uintmax_t> found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path()))
             found[entry.path().string()] = entry.is_regular_file() ? entry.file_size() : 0;
-        }
         return found;
     }
 

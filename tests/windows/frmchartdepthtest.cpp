@@ -1,22 +1,15 @@
 #include "ports/frmchartdepth.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
-#include <QTest>
 #include <filesystem>
 
 #include "fakes/mainfixture.h"
-#include "files/wholefiles.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {
 namespace {
 
-class FrmChartdepth : public testing::Test, protected MainFixture {
-  protected:
-    FrmChartdepth() { load(); }
-
+struct FrmChartdepth : LoadedMain {
     static void click(const frmChartdepth& form, int row) {
         QTest::mouseClick(form.List1->viewport(), Qt::LeftButton, {},
                           form.List1->visualItemRect(form.List1->item(row)).center());
@@ -32,7 +25,6 @@ class FrmChartdepth : public testing::Test, protected MainFixture {
 TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
     frmChartdepth form(context);
     present(form);
-    expectroomfortexts(form);
     EXPECT_EQ(defaultbutton(form), "cdok");
     click(form, 2);
     EXPECT_EQ(form.portnolabel->text() + form.portlabel->text(), "3Cedar Head");
@@ -64,10 +56,7 @@ TEST_F(FrmChartdepth, ADepthAndANoteAreEnteredAndShownAgain) {
 }
 
 TEST_F(FrmChartdepth, TheDepthOpensSelectedAndADroppedKeyLeavesItSo) {
-    UserDepthRecord before = record(1);
-    before.UserDepth = 3.5F;
-    before.Notes = "Dries\u00A04 m";
-    writedepth(session.settings.depfile, 1, before);
+    storedepth(1, 3.5F, "Dries\u00A04 m");
     frmChartdepth form(context);
     present(form);
     EXPECT_EQ(form.List1->currentRow(), 0);
@@ -105,7 +94,7 @@ TEST_F(FrmChartdepth, WhatWasTypedIsNotLostUnaskedNorWhenTheWriteFails) {
 
     form.depth->selectAll();
     QTest::keyClicks(form.depth, "9");
-    const auto before = readwhole(session.settings.depfile);
+    const auto before = filetext(session.settings.depfile);
     std::filesystem::rename(session.folders.depthsfolder(), folder / "away");
     for (const Answer answer : {Answer::yes, Answer::cancel})
         for (const bool leaving : {false, true}) {
@@ -123,7 +112,7 @@ TEST_F(FrmChartdepth, WhatWasTypedIsNotLostUnaskedNorWhenTheWriteFails) {
     scripted.messages.expectaskorcancel(question, Answer::no, "Tarvane");
     QTest::mouseClick(form.cdclose, Qt::LeftButton);
     EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(readwhole(session.settings.depfile), before) << "Exit doesn't write";
+    EXPECT_EQ(filetext(session.settings.depfile), before) << "Exit doesn't write";
 }
 
 TEST_F(FrmChartdepth, APortPastTheAreaHighlightsNone) {

@@ -17,12 +17,15 @@
 namespace tarvane::tests {
 namespace {
 
-struct FrmHarmAdjust : testing::Test, protected MainFixture {
+struct FrmHarmAdjust : LoadedMain {
     FrmHarmAdjust() {
-        load();
         HarmonicRecord later = fixtureport("Birch Sound", 4, "L");
         later.M2g = 160;
         writeport(area(), 2, later);
+    }
+    template <class Window, class Act>
+    void expectwindow(const char* name, Act act) {
+        scripted.windows.expect(name, [act](ModalWindow& opened) { act(dynamic_cast<Window&>(opened)); });
     }
     static QAction& entry(frmHarmAdjust& shop, const char* name) { return *shop.findChild<QAction*>(name); }
     std::string answer(frmHarmAdjust& shop) { return shown(control<QLabel>(shop, "answer")); }
@@ -71,7 +74,7 @@ TEST_F(FrmHarmAdjust, TheCreeksStory) {
     present(shop);
     EXPECT_FALSE(control<QPushButton>(shop, "cmdFit").isEnabled());
     // Twelve readings half a metre over the middle curve, and a slip of a finger among them.
-    scripted.windows.expect<frmHeightEnter>("frmHeightEnter", [&](frmHeightEnter& form) {
+    expectwindow<frmHeightEnter>("frmHeightEnter", [&](frmHeightEnter& form) {
         scripted.messages.expectshow("No time selected", "Tarvane");
         form.cmdAdd->click();
         for (int hour = 6; hour < 18; ++hour) {
@@ -106,7 +109,7 @@ TEST_F(FrmHarmAdjust, TheCreeksStory) {
     EXPECT_NE(shown(control<QLabel>(shop, "found")).find("Left out as wild: 09:00"), std::string::npos)
         << shown(control<QLabel>(shop, "found"));
 
-    scripted.windows.expect<frmAdjustSave>("frmAdjustSave", [&](frmAdjustSave& form) {
+    expectwindow<frmAdjustSave>("frmAdjustSave", [&](frmAdjustSave& form) {
         scripted.messages.expectshow("Area must have a name", "Tarvane");
         form.cmdSave->click();
         form.File1->setCurrentRow(0);
@@ -122,7 +125,7 @@ TEST_F(FrmHarmAdjust, TheCreeksStory) {
 TEST_F(FrmHarmAdjust, PortsAreLoadedAndHeightFilesChosen) {
     frmHarmAdjust shop(context, nullptr);
     present(shop);
-    scripted.windows.expect<FrmAdjustfileselect>("FrmAdjustfileselect", [&](FrmAdjustfileselect& form) {
+    expectwindow<FrmAdjustfileselect>("FrmAdjustfileselect", [&](FrmAdjustfileselect& form) {
         scripted.messages.expectshow("Select a location", "Tarvane");
         form.cmdLoad->click();
         form.File1->setCurrentRow(0);
@@ -138,7 +141,7 @@ TEST_F(FrmHarmAdjust, PortsAreLoadedAndHeightFilesChosen) {
     EXPECT_EQ(shown(control<QLabel>(shop, "lblportname1")), "Alder Quay");
 
     ASSERT_TRUE(writeheights(session.folders.programfolder + "/few.ht", {{1, 1}, {2, 2}}).written);
-    scripted.windows.expect<frmSelectHeightFile>("frmSelectHeightFile", [&](frmSelectHeightFile& form) {
+    expectwindow<frmSelectHeightFile>("frmSelectHeightFile", [&](frmSelectHeightFile& form) {
         scripted.messages.expectshow("Select a file", "Tarvane");
         form.cmdOK->click();
         scripted.messages.expectshow("Not enough data to draw in a curve");
@@ -146,11 +149,11 @@ TEST_F(FrmHarmAdjust, PortsAreLoadedAndHeightFilesChosen) {
         form.cmdOK->click();
     });
     entry(shop, "mnuDataHeightSelect").trigger();
-    scripted.windows.expect<frmSelectHeightFile>("frmSelectHeightFile",
-                                                 [](frmSelectHeightFile& form) { form.cmdCancel->click(); });
+    expectwindow<frmSelectHeightFile>("frmSelectHeightFile",
+                                      [](frmSelectHeightFile& form) { form.cmdCancel->click(); });
     entry(shop, "mnuDataHeightSelect").trigger();
     EXPECT_EQ(shown(control<QLabel>(shop, "heightsname")), "No observed heights");
-    scripted.windows.expect<frmWeighting>("frmWeighting", [](frmWeighting& form) {
+    expectwindow<frmWeighting>("frmWeighting", [](frmWeighting& form) {
         QTest::keyClicks(form.txtlat, "50,20.00n");
         EXPECT_EQ(form.txtlat->text(), "50.20.00N");
         EXPECT_FALSE(form.cmdWeigh->isEnabled());

@@ -1,29 +1,26 @@
 #include "ports/frmoutoptions.h"
 
 #include "fakes/mainfixture.h"
-#include "files/wholefiles.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {
 namespace {
 
-class FrmoutoptionsTest : public testing::Test, protected MainFixture {
-  protected:
+struct FrmoutoptionsTest : LoadedMain {
     FrmoutoptionsTest() {
-        ConfigRecord record = stored();
-        record.draught = 1.25F;
-        record.ukc = 0.75F;
-        SaveConfig(session.folders, record);
+        store([](ConfigRecord& record) {
+            record.draught = 1.25F;
+            record.ukc = 0.75F;
+        });
         load();
     }
-    std::vector<std::byte> filebytes() const { return readwhole(session.folders.cfgpath()); }
+    std::string filebytes() const { return filetext(session.folders.cfgpath()); }
 };
 
 TEST_F(FrmoutoptionsTest, SettingsAreChosenAndStored) {
     const auto before = filebytes();
     frmoutoptions form(context);
     present(form);
-    expectroomfortexts(form);
     EXPECT_TRUE(form.Option3->isChecked() && form.optNonDaylightsavings->isChecked());
     EXPECT_EQ(form.draughttext->text() + " " + form.ukctext->text(), "1.25 0.75");
     form.Option2->click();
@@ -59,10 +56,10 @@ TEST_F(FrmoutoptionsTest, CancelStoresNothingButTheOptionPickedHolds) {
 }
 
 TEST_F(FrmoutoptionsTest, AnOptionThatStandsCanBeClickedAndTheTickOffersMaintenanceEitherWay) {
-    ConfigRecord record = stored();
-    record.outputoption = 0;
-    record.summertimeflag = 2;
-    SaveConfig(session.folders, record);
+    store([](ConfigRecord& record) {
+        record.outputoption = 0;
+        record.summertimeflag = 2;
+    });
     frmoutoptions form(context);
     EXPECT_FALSE(form.optDaylightSavings->isChecked() || form.optNonDaylightsavings->isChecked());
     EXPECT_EQ(session.settings.currentoutput, 0);

@@ -1,31 +1,26 @@
 #include "ports/frmshowconf.h"
 
 #include "fakes/mainfixture.h"
-#include "files/wholefiles.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {
 namespace {
 
-class FrmshowconfTest : public testing::Test, protected MainFixture {
-  protected:
+struct FrmshowconfTest : LoadedMain {
     FrmshowconfTest() {
         for (std::int16_t number = 5; number <= 60; ++number)
             writeport(area(), number, fixtureport(std::string(35, 'W'), 7));
-        ConfigRecord config = stored();
-        config.draught = 1.25F;
-        config.ukc = 0.75F;
-        SaveConfig(session.folders, config);
+        store([](ConfigRecord& record) {
+            record.draught = 1.25F;
+            record.ukc = 0.75F;
+        });
         load();
-        UserDepthRecord record = readdepth(session.settings.depfile, 2);
-        record.UserDepth = 2.5F;
-        record.Notes = "  <b>Bar</b> & shoal\r\nVHF 80 ";
-        writedepth(session.settings.depfile, 2, record);
+        storedepth(2, 2.5F, "  <b>Bar</b> & shoal\r\nVHF 80 ");
     }
 };
 
 TEST_F(FrmshowconfTest, ThePortsAreLookedThroughAndNothingChanges) {
-    const auto before = readwhole(session.folders.cfgpath());
+    const auto before = filetext(session.folders.cfgpath());
     frmshowconf form(context);
     present(form);
     const auto value = [&](const char* name) { return shown(control<QLabel>(form, name)); };
@@ -43,14 +38,12 @@ TEST_F(FrmshowconfTest, ThePortsAreLookedThroughAndNothingChanges) {
     EXPECT_EQ(value("confportnamebox"), "Cedar Head");
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(readwhole(session.folders.cfgpath()), before);
+    EXPECT_EQ(filetext(session.folders.cfgpath()), before);
 }
 
 TEST_F(FrmshowconfTest, OpensOnTheCurrentPortInViewOrOnNoneAndEscapeCloses) {
     for (const float number : {30.0F, 99.0F}) {
-        ConfigRecord record = stored();
-        record.portnumber = number;
-        SaveConfig(session.folders, record);
+        store([&](ConfigRecord& record) { record.portnumber = number; });
         frmshowconf form(context);
         present(form);
         const auto& list = control<QListWidget>(form, "confportlist");

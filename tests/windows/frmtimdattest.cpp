@@ -10,10 +10,7 @@
 namespace tarvane::tests {
 namespace {
 
-class FrmtimdatTest : public testing::Test, protected MainFixture {
-  protected:
-    FrmtimdatTest() { load(); }
-
+struct FrmtimdatTest : LoadedMain {
     void clickrow(QListWidget& list, const char* text) {
         const auto found = list.findItems(text, Qt::MatchExactly);
         ASSERT_EQ(found.size(), 1) << text;

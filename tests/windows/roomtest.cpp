@@ -2,7 +2,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
-#include <functional>
 #include <memory>
 
 #include "almanac/frmriseresults.h"
@@ -31,12 +30,10 @@ struct Large : ModalDialog {
     QPushButton button;
 };
 
-class Room : public testing::Test, protected MainFixture {
-  protected:
+struct Room : LoadedMain {
     using Windows = std::vector<std::unique_ptr<QWidget>>;
 
     Room() {
-        load();
         preparesunview(session);
         calculatesun(context, portsuninput(session));
     }

@@ -1,8 +1,0 @@
-#include "fakes/services.h"
-
-namespace tarvane {
-
-ScriptedServices::ScriptedServices() = default;
-ScriptedServices::~ScriptedServices() = default;
-
-}  // namespace tarvane

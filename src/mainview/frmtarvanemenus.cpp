@@ -7,6 +7,8 @@
 #include "mainview/frmtimdat.h"
 #include "ports/frmchartdepth.h"
 #include "ports/frmconfig.h"
+#include "ports/frmharmedit.h"
+#include "ports/frmhccopy.h"
 #include "ports/frmoutoptions.h"
 #include "ports/frmshowconf.h"
 
@@ -37,6 +39,10 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openmodal<frmshowconf>(context, this);
         case Dialog::sunrise:
             return openmodal<Frmsunrise>(context, this);
+        case Dialog::correctconstants:
+            return openmodal<frmharmedit>(context, this);
+        case Dialog::copyports:
+            return openmodal<frmHCcopy>(context, this);
     }
 }
 

@@ -71,6 +71,7 @@ void chooseoutput(Session& session, ProgramOptions& options, int option) {
 void offermaintenance(Session& session) {
     // kept: taking the tick away shows the menus too
     session.view.maintenancevisible = true;
+    session.view.copyportsvisible = true;
 }
 
 void confirmoptions(MainContext& context, const ProgramOptions& options) {

@@ -16,6 +16,7 @@
 #include "output/monthtable.h"
 #include "platform/drawsurface.h"
 #include "platform/services.h"
+#include "portdata/areaedits.h"
 #include "portdata/configuration.h"
 #include "portdata/currentport.h"
 #include "sunmoon/lunarphases.h"
@@ -62,6 +63,7 @@ struct SunOf {
 struct Session {
     ProgramFolders folders;
     Settings settings;
+    AreaBackups backups;  ///< which area files this run has kept a copy of
     DateConventions conventions;
     CurrentPort port;
     DateOnShow onshow;

@@ -102,6 +102,8 @@ const Row rows[] = {
      }},
     {"mnuchartdepth", nothing, [](const MenusFixture& m) { return m.opened == Dialog::portnotes; }},
     {"Mnushowconfig", nothing, [](const MenusFixture& m) { return m.opened == Dialog::configuration; }},
+    {"mnumaintainfile", nothing, [](const MenusFixture& m) { return m.opened == Dialog::correctconstants; }},
+    {"mnucopyconstants", nothing, [](const MenusFixture& m) { return m.opened == Dialog::copyports; }},
     {"mnuLayersShow", nothing, [](const MenusFixture& m) { return m.session.layersmode == 1; }},
     {"mnuHelp", [](MenusFixture& m) { m.scripted.messages.expectshow(helptext()); },
      [](const MenusFixture&) { return true; }},

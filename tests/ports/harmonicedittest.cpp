@@ -77,28 +77,18 @@ TEST(PortBoxes, WhatIsTypedIsReadAsTold) {
 }
 
 TEST(PortBoxes, EachKindTakesItsKeys) {
-    const std::pair<BoxKind, std::u32string> rows[] = {{BoxKind::number, U"0123456789.-+\b"},
-                                                       {BoxKind::zone, U"0123456789.-+\b"},
-                                                       {BoxKind::latitude, U"0123456789.NS\b"},
-                                                       {BoxKind::longitude, U"0123456789.EW\b"}};
-    for (const auto& [kind, keys] : rows) {
+    const struct {
+        BoxKind kind;
+        std::u32string kept, turned;
+    } rows[] = {{BoxKind::zone, U"0123456789.-+\b", U",."},
+                {BoxKind::latitude, U"0123456789.NS\b", U"sS"},
+                {BoxKind::longitude, U"0123456789.EW\b", U"eE"}};
+    for (const auto& row : rows) {
         for (char32_t key = 1; key < 256; ++key)
-            EXPECT_EQ(boxkey(kind)(key) == key, keys.find(key) != std::u32string::npos) << static_cast<unsigned>(key);
+            EXPECT_EQ(boxkey(row.kind)(key) == key, row.kept.find(key) != std::u32string::npos) << unsigned{key};
+        EXPECT_EQ(boxkey(row.kind)(row.turned[0]), row.turned[1]);
     }
-    EXPECT_EQ(boxkey(BoxKind::latitude)(U's'), U'S');
-    EXPECT_EQ(boxkey(BoxKind::longitude)(U'e'), U'E');
-    EXPECT_EQ(boxkey(BoxKind::latitude)(U'w'), 0U);
-    EXPECT_EQ(boxkey(BoxKind::number)(U','), U'.');
-    EXPECT_EQ(boxkey(BoxKind::text)(U','), U',');
-}
-
-TEST(PortBoxes, TwoBoxesFillOthers) {
-    EXPECT_EQ(filledfrom("txtjanm2"), std::vector{boxplace("txtfebm2")});
-    const auto months = filledfrom("txtm2hm");
-    ASSERT_EQ(months.size(), 12U);
-    EXPECT_EQ(months.front(), boxplace("txtjanm2"));
-    EXPECT_EQ(months.back(), boxplace("txtdecm2"));
-    EXPECT_TRUE(filledfrom("txtfebm2").empty());
+    EXPECT_EQ(boxkey(BoxKind::number), boxkey(BoxKind::zone));
 }
 
 class HarmonicEditTest : public testing::Test, protected MainFixture {
@@ -231,28 +221,6 @@ TEST_F(HarmonicEditTest, WhatCannotBeWrittenStaysInTheBoxes) {
         EXPECT_TRUE(unaccepted(edit));
     }
     EXPECT_EQ(names(area()), "ABCA");
-}
-
-TEST_F(HarmonicEditTest, WhatWasTypedIsAskedForBeforeItGoes) {
-    typenewport();
-    const std::string add = "What was typed stands in no area file. Add it as a new port?";
-    const std::string accept = "The constants of Cedar Head were changed. Accept the changes?";
-    scripted.messages.expectaskorcancel(add, Answer::cancel, "Tarvane");
-    EXPECT_FALSE(acceptorleave(context, edit));
-    pickarea(context, edit, "UK.hc");
-    scripted.messages.expectaskorcancel(add, Answer::yes);
-    EXPECT_TRUE(acceptorleave(context, edit));
-    EXPECT_EQ(names(area()), "ABCAN");
-    pickport(context, edit, 2);
-    EXPECT_TRUE(acceptorleave(context, edit)) << "nothing was typed";
-    typenewport();
-    scripted.messages.expectaskorcancel(accept, Answer::no);
-    EXPECT_TRUE(acceptorleave(context, edit));
-    scripted.messages.expectaskorcancel(accept, Answer::yes);
-    EXPECT_TRUE(acceptorleave(context, edit));
-    EXPECT_EQ(names(area()), "ABNAN");
-    edit.texts = BoxTexts(portboxes().size());
-    EXPECT_TRUE(acceptorleave(context, edit)) << "cleared boxes are nothing";
 }
 
 TEST_F(HarmonicEditTest, TheMainViewFollowsWhatWasChanged) {

@@ -123,8 +123,15 @@ TEST_F(FrmHarmedit, WhatWasTypedIsNotLostUnasked) {
     EXPECT_EQ(text("txtportname"), "Ash Head") << "the boxes stay, for Add Port";
     form.cmdAdd->click();
     EXPECT_EQ(trimmedname(readport(area(), 3)) + trimmedname(readport(area(), 5)), "Cedar HeadAsh Head");
+    form.cmdClear->click();
+    type("txtportname", "Fir Point");
+    scripted.messages.expectaskorcancel("What was typed stands in no area file. Add it as a new port?", Answer::yes);
+    scripted.messages.expectshow("Error - Latitude entry", "Tarvane", MessageIcon::exclamation);
     form.Command2->click();
-    EXPECT_FALSE(form.isVisible());
+    EXPECT_TRUE(form.isVisible());
+    form.cmdClear->click();
+    form.Command2->click();
+    EXPECT_FALSE(form.isVisible()) << "empty boxes are nothing";
 }
 
 }  // namespace

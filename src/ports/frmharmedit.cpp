@@ -13,6 +13,11 @@ bool enters(const QKeyEvent& key) {
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
+bool moves(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_Home ||
+           key.key() == Qt::Key_End || key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
+}
+
 /// The highlighted row; a row can be current without that.
 int highlighted(const QListWidget& list) {
     const auto selected = list.selectedItems();
@@ -162,15 +167,23 @@ void frmharmedit::reject() {
     ModalDialog::reject();
 }
 
+/// What the list's own keys don't do.
+bool frmharmedit::listkey(QListWidget& list, const QEvent& event) {
+    const bool pressed = event.type() == QEvent::KeyPress;
+    if (!pressed && event.type() != QEvent::KeyRelease) return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    // Enter picks the row, as a click does: it must not write the port that stands there. A moving key that finds the
+    // row current already hasn't highlighted it.
+    if (pressed ? !enters(key) : !moves(key) || highlighted(list) >= 0) return false;
+    if (list.currentRow() >= 0) highlight(list, list.currentRow());
+    clicked(list);
+    return true;
+}
+
 bool frmharmedit::eventFilter(QObject* watched, QEvent* event) {
     if (movesaway(*event)) leavebox(watched);
     auto* const list = qobject_cast<QListWidget*>(watched);
-    if (list && event->type() == QEvent::KeyPress && enters(static_cast<QKeyEvent&>(*event))) {
-        // Enter picks the row, as a click does: it must not write the port that stands there.
-        if (list->currentRow() >= 0) highlight(*list, list->currentRow());
-        clicked(*list);
-        return true;
-    }
+    if (list && listkey(*list, *event)) return true;
     return ModalDialog::eventFilter(watched, event);
 }
 

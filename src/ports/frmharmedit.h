@@ -47,6 +47,7 @@ class frmharmedit : public ModalDialog {
     void taketexts();
     void showedit();
     bool offertoaccept();
+    bool listkey(QListWidget& list, const QEvent& event);
     void leavebox(const QObject* left);
     void run(Command command);
 

@@ -134,7 +134,7 @@ TEST_F(AreaEdits, NothingIsWrittenOverAFileThatCannotBeReadNorForAPortThatIsNotT
     EXPECT_EQ(letters(path), "abc");
     EXPECT_FALSE(canopen(scratch) || canopen(backup) || canopen(folder / "new.hc"));
     std::filesystem::resize_file(path, 197UL * 32768);
-    EXPECT_EQ(addport(backups, path, lettered('n')).written.error, std::errc::file_too_large);
+    EXPECT_EQ(changeport(backups, path, 1, lettered('n')).written.error, std::errc::file_too_large);
     EXPECT_EQ(std::filesystem::file_size(path), 197UL * 32768);
 }
 

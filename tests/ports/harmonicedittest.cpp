@@ -65,7 +65,7 @@ TEST(PortBoxes, WhatIsTypedIsReadAsTold) {
         {"txtportno", " 12345 ", "123456", "\"Number\" has room for 5 characters"},
         {"txtportname", "\u20AC5 caf\u00E9", std::string(36, 'x'), "\"Name\" has room for 35 characters"},
         {"txtportname", "", "\u0394", "\"Name\" holds characters that an area file can't hold"},
-        {"txtportlong", "179.59.99W", std::string(40, '9'), "\"Longitude\" is too large for an area file: "},
+        {"txtportlong", "179.59.99W", std::string(39, '4'), "\"Longitude\" is too large for an area file: "},
         {"txtjunm2", "-1", std::string(400, '9'), "\"M2 amplitude in June, metres\" is too large for an area file: "},
     };
     for (const auto& row : rows) {

@@ -89,6 +89,7 @@ TEST_F(FrmHarmedit, EnterWritesNothingFromAListNorFromAButton) {
         QTest::keyClick(button, Qt::Key_Return);
     }
     EXPECT_EQ(readwhole(area()), before);
+    EXPECT_EQ(status(), "UK.hc: 4 ports");
     form.cmdClear->click();
     EXPECT_EQ(text("txtportname") + text("txtdecdz0"), "");
     click(*form.portlist, 1);
@@ -97,6 +98,9 @@ TEST_F(FrmHarmedit, EnterWritesNothingFromAListNorFromAButton) {
     EXPECT_EQ(form.portlist->count(), 3);
     EXPECT_TRUE(form.portlist->selectedItems().isEmpty());
     EXPECT_TRUE(status().starts_with("UK.hc: 3 ports; Birch Sound was deleted\n"));
+    form.cmdAdd->click();
+    QTest::keyClick(form.portlist, Qt::Key_End);
+    EXPECT_EQ(form.portlist->selectedItems().value(0), form.portlist->item(3)) << "where the keys stand already";
 }
 
 TEST_F(FrmHarmedit, WhatWasTypedIsNotLostUnasked) {

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QTimer>
 
 #include "platform/qt/named.h"
 #include "portdata/datafolder.h"
@@ -87,7 +88,7 @@ void frmharmedit::showedit() {
         for (const std::string& name : listed)
             portlist->addItem(QString::fromStdString(name));
     }
-    highlight(*portlist, edit.listindex);
+    showhighlights();
     if (edit.listindex < 0 && edit.rowinview >= 0) {
         const QSignalBlocker quiet(portlist);
         portlist->setCurrentRow(std::min(edit.rowinview, portlist->count() - 1), QItemSelectionModel::NoUpdate);
@@ -100,6 +101,21 @@ void frmharmedit::showedit() {
             boxes[i]->setCursorPosition(0);
         }
     lblstatus->setText(QString::fromStdString(edit.status));
+}
+
+void frmharmedit::showhighlights() {
+    const auto chosen = fileList->findItems(QString::fromStdString(edit.editfilename), Qt::MatchExactly);
+    highlight(*fileList, chosen.isEmpty() ? -1 : fileList->row(chosen.first()));
+    highlight(*portlist, edit.listindex);
+}
+
+/// A row that was clicked is not taken. A moving key highlights it once more behind that, which is taken back too.
+void frmharmedit::stay() {
+    settling = true;
+    QTimer::singleShot(0, this, [this] {
+        settling = false;
+        showhighlights();
+    });
 }
 
 void frmharmedit::leavebox(const QObject* left) {
@@ -129,22 +145,18 @@ void frmharmedit::run(Command command) {
 
 void frmharmedit::fileList_Click() {
     const int row = highlighted(*fileList);
-    if (row < 0) return;
+    if (row < 0 || settling) return;
+    taketexts();
     // Without a highlighted port what was typed belongs to none, and stays in the boxes.
-    if (edit.listindex >= 0 && !offertoaccept()) {
-        const auto former = fileList->findItems(QString::fromStdString(edit.editfilename), Qt::MatchExactly);
-        highlight(*fileList, former.isEmpty() ? -1 : fileList->row(former.first()));
-    } else {
-        taketexts();
-        if (!pickarea(context, edit, fileList->item(row)->text().toStdString())) highlight(*fileList, -1);
-    }
+    const bool asks = edit.listindex >= 0;
+    if ((asks && !offertoaccept()) || !pickarea(context, edit, fileList->item(row)->text().toStdString())) stay();
     showedit();
 }
 
 void frmharmedit::portlist_Click() {
     const int row = highlighted(*portlist);
-    if (row < 0) return;
-    if (offertoaccept()) pickport(context, edit, row);
+    if (row < 0 || settling) return;
+    if (!offertoaccept() || !pickport(context, edit, row)) stay();
     showedit();
 }
 
@@ -172,9 +184,11 @@ bool frmharmedit::listkey(QListWidget& list, const QEvent& event) {
     const bool pressed = event.type() == QEvent::KeyPress;
     if (!pressed && event.type() != QEvent::KeyRelease) return false;
     const auto& key = static_cast<const QKeyEvent&>(event);
-    // Enter picks the row, as a click does: it must not write the port that stands there. A moving key that finds the
-    // row current already hasn't highlighted it.
-    if (pressed ? !enters(key) : !moves(key) || highlighted(list) >= 0) return false;
+    // A moving key that finds the row current already doesn't highlight it.
+    const bool stayed = !pressed && moves(key) && highlighted(list) < 0 && list.currentRow() == rowpressed;
+    rowpressed = pressed && moves(key) && highlighted(list) < 0 ? list.currentRow() : -1;
+    // Enter picks the row, as a click does: it must not write the port that stands there.
+    if (!stayed && !(pressed && enters(key))) return false;
     if (list.currentRow() >= 0) highlight(list, list.currentRow());
     clicked(list);
     return true;

@@ -46,6 +46,8 @@ class frmharmedit : public ModalDialog {
 
     void taketexts();
     void showedit();
+    void showhighlights();
+    void stay();
     bool offertoaccept();
     bool listkey(QListWidget& list, const QEvent& event);
     void leavebox(const QObject* left);
@@ -59,6 +61,8 @@ class frmharmedit : public ModalDialog {
     MainContext& context;
     HarmonicEdit edit;
     std::vector<std::string> listed;  ///< what `portlist` was filled with
+    bool settling = false;            ///< a click that was refused is being taken back
+    int rowpressed = -1;              ///< row that a moving key was pressed on, none being highlighted
 };
 
 }  // namespace tarvane

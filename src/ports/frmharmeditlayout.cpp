@@ -58,11 +58,6 @@ void frmharmedit::buildlayout() {
     whole->addSpacing(twips(90));
     whole->addLayout(buildbuttons());
     whole->addWidget(lblstatus);
-    QWidget* before = portlist;
-    for (FilteredBox* each : boxes) {
-        setTabOrder(before, each);
-        before = each;
-    }
 }
 
 void frmharmedit::buildboxes() {

@@ -145,7 +145,7 @@ void frmHCcopy::showcopy() {
 void frmHCcopy::fillist_Click() {
     const auto chosen = fillist->selectedItems();
     if (chosen.isEmpty()) return;
-    if (!picksource(context, copy, chosen.first()->text().toStdString())) fillist->clearSelection();
+    picksource(context, copy, chosen.first()->text().toStdString());
     List1->clear();
     showcopy();
 }
@@ -186,9 +186,9 @@ bool frmHCcopy::eventFilter(QObject* watched, QEvent* event) {
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) return enterpressed(*list);
     }
     if (watched == List1->viewport() && event->type() == QEvent::MouseButtonRelease) {
-        const auto& mouse = static_cast<QMouseEvent&>(*event);
-        const bool beside = !List1->itemAt(mouse.position().toPoint());
-        if (beside && mouse.button() == Qt::LeftButton && List1->selectedItems().isEmpty()) List1_Click();
+        // Beside the entries; a click on one is told by the list.
+        const bool left = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+        if (left && List1->selectedItems().isEmpty()) List1_Click();
     }
     return ModalDialog::eventFilter(watched, event);
 }

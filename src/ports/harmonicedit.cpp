@@ -147,7 +147,7 @@ bool pickport(MainContext& context, HarmonicEdit& edit, int index) {
     const auto number = static_cast<std::int16_t>(index + 1);
     edit.listindex = edit.rowinview = -1;
     if (index < 0 || number > portcount(edit.editfilepath))
-        return refuse(context, "The " + portnumbered(number) + " of " + edit.editfilepath + " can't be read");
+        return refuse(context, "There is no " + portnumbered(number) + " to be read in " + edit.editfilepath);
     edit.listindex = index;
     edit.texts = edit.stored = boxtexts(readport(edit.editfilepath, number));
     return true;

@@ -159,7 +159,7 @@ TEST_F(HarmonicEditTest, WhatIsMissingIsToldInTheToldOrderAndNothingIsWritten) {
     const std::string unread = "The area file can't be read: " + area() + ". Nothing was written.";
     refused({unread, unread, unread, unread});
     EXPECT_FALSE(canopen(area()));
-    expecttold("The port 1 of " + area() + " can't be read");
+    expecttold("There is no port 1 to be read in " + area());
     EXPECT_FALSE(pickport(context, edit, 0));
     EXPECT_EQ(edit.listindex, -1);
     expecttold("The area file can't be read: " + area());

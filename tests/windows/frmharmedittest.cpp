@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "fakes/mainfixture.h"
 #include "files/wholefiles.h"
 #include "windows/controls.h"
@@ -101,18 +103,27 @@ TEST_F(FrmHarmedit, EnterWritesNothingFromAListNorFromAButton) {
     form.cmdAdd->click();
     QTest::keyClick(form.portlist, Qt::Key_End);
     EXPECT_EQ(form.portlist->selectedItems().value(0), form.portlist->item(3)) << "where the keys stand already";
+    std::filesystem::remove(area());
+    scripted.messages.expectshow("There is no port 3 to be read in " + area());
+    QTest::keyClick(form.portlist, Qt::Key_Up);
+    QApplication::processEvents();
+    EXPECT_TRUE(form.portlist->selectedItems().isEmpty());
 }
 
 TEST_F(FrmHarmedit, WhatWasTypedIsNotLostUnasked) {
     click(*form.portlist, 1);
     type("txtportname", "Beech Sound");
     const auto before = readwhole(area());
-    const std::function<void()> ways[] = {[&] { click(*form.portlist, 2); }, [&] { click(*form.portlist, 1); },
-                                          [&] { click(*form.fileList, 0); }, [&] { form.Command2->click(); },
+    const std::function<void()> ways[] = {[&] { click(*form.portlist, 2); },
+                                          [&] { click(*form.portlist, 1); },
+                                          [&] { QTest::keyClick(form.portlist, Qt::Key_Down); },
+                                          [&] { click(*form.fileList, 0); },
+                                          [&] { form.Command2->click(); },
                                           [&] { QTest::keyClick(&form, Qt::Key_Escape); }};
     for (const auto& leave : ways) {
         scripted.messages.expectaskorcancel(question, Answer::cancel, "Tarvane");
         leave();
+        QApplication::processEvents();
         EXPECT_TRUE(form.isVisible());
         EXPECT_EQ(form.portlist->selectedItems().value(0), form.portlist->item(1));
         EXPECT_EQ(text("txtportname") + infocus(form), "Beech Soundtxtportname");

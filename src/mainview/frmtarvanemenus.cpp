@@ -8,6 +8,8 @@
 #include "mainview/frmtimdat.h"
 #include "ports/frmchartdepth.h"
 #include "ports/frmconfig.h"
+#include "ports/frmharmedit.h"
+#include "ports/frmhccopy.h"
 #include "ports/frmoutoptions.h"
 #include "ports/frmshowconf.h"
 
@@ -40,6 +42,10 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openmodal<Frmsunrise>(context, this);
         case Dialog::adjust:
             return openadjust();
+        case Dialog::correctconstants:
+            return openmodal<frmharmedit>(context, this);
+        case Dialog::copyports:
+            return openmodal<frmHCcopy>(context, this);
     }
 }
 

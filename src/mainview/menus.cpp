@@ -81,6 +81,14 @@ void adjustharmonics(Desk& desk) {
     desk.open(Dialog::adjust);
 }
 
+void correctconstants(Desk& desk) {
+    desk.open(Dialog::correctconstants);
+}
+
+void copyports(Desk& desk) {
+    desk.open(Dialog::copyports);
+}
+
 void help(Desk& desk) {
     desk.context.services.messages.show(helptext(), programname, MessageIcon::information);
 }
@@ -123,8 +131,9 @@ constexpr MenuEntry entries[] = {
     {"mnuconfig", "mnuoutputoptions", "&Program Options", "", programoptions},
     {"mnuconfig", "mnuchartdepth", "Port &Notes", "Ctrl+N", portnotes},
     {"mnuconfig", "Mnushowconfig", "Show &Configuration/Notes", "", showconfiguration},
-    {"mnumaintenance", "mnumaintainfile", "&Correct Port Constants", "", nullptr, false, &MainView::maintenancevisible},
-    {"mnumaintenance", "mnucopyconstants", "&Copy ports", "", nullptr, false, &MainView::copyportsvisible},
+    {"mnumaintenance", "mnumaintainfile", "&Correct Port Constants", "", correctconstants, false,
+     &MainView::maintenancevisible},
+    {"mnumaintenance", "mnucopyconstants", "&Copy ports", "", copyports, false, &MainView::copyportsvisible},
     {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", nullptr, false, &MainView::diamondsvisible},
     {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", "Ctrl+T", run<togglelayers>},
     {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", adjustharmonics, true, &MainView::adjustvisible},

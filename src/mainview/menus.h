@@ -11,7 +11,17 @@
 namespace tarvane {
 
 /// The windows that menu entries open.
-enum class Dialog { dateentry, selectport, programoptions, portnotes, configuration, sunrise, adjust };
+enum class Dialog {
+    dateentry,
+    selectport,
+    programoptions,
+    portnotes,
+    configuration,
+    sunrise,
+    correctconstants,
+    copyports,
+    adjust
+};
 
 /// What a menu command works with: the session's context, and what only the window itself can do.
 struct Desk {

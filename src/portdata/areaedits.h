@@ -1,6 +1,6 @@
 // Changes to a sea area's file beyond one record: a port deleted, inserted or added, by way of the scratch file that
-// stays behind. Each leaves the old file or the new one whole, and the file as it was before the run beside it. Must
-// not ask or tell the user anything.
+// stays behind. Each leaves the old file or the new one whole, and the file as it was before the run beside it; nothing
+// is written over a file that can't be read, nor for a port that isn't in it. Must not ask or tell the user anything.
 #pragma once
 
 #include <array>
@@ -48,5 +48,8 @@ AreaEdit insertport(AreaBackups& backups, const std::string& path, const std::st
 
 /// Puts all records of one area file behind those of another, which is made when it isn't there.
 AreaEdit appendports(AreaBackups& backups, const std::string& path, const std::string& from);
+
+/// Puts port `number` of an area file behind those that the scratch file holds, of which no copy is kept.
+AreaEdit gatherport(const std::string& scratch, const std::string& from, std::int16_t number);
 
 }  // namespace tarvane

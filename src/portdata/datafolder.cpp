@@ -59,8 +59,17 @@ WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& n
     WriteOutcome prepared;
     fs::create_directories(folders.ownfolder, prepared.error);
     const std::string own = folders.ownfolder + standing.substr(standing.rfind('/'));
-    if (prepared && canopen(standing)) prepared = replacefile(own, readwhole(standing));
+    const auto shipped = wholefile(standing);
+    if (!shipped) prepared.error = std::make_error_code(std::errc::permission_denied);
+    if (prepared && canopen(standing)) prepared = replacefile(own, *shipped);
     return {own, prepared};
+}
+
+WritableFile workfile(const ProgramFolders& folders) {
+    WriteOutcome prepared;
+    if (folders.ownfolder.empty()) return {folders.programfolder + "/scratch.hc", prepared};
+    fs::create_directories(folders.ownfolder, prepared.error);
+    return {folders.ownfolder + "/scratch.hc", prepared};
 }
 
 std::string filenamefault(std::string_view name) {

@@ -27,6 +27,9 @@ struct WritableFile {
 /// so that a change to a part of it leaves the rest.
 WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& name);
 
+/// Where the work file "scratch.hc" lies: in the folder that changes are written to, which is made.
+WritableFile workfile(const ProgramFolders& folders);
+
 /// Why a typed text can't be the name of a file in the folder, a sentence; empty when it can.
 std::string filenamefault(std::string_view name);
 

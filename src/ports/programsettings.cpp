@@ -72,6 +72,7 @@ void offermaintenance(Session& session) {
     // kept: taking the tick away shows the menus too
     session.view.maintenancevisible = true;
     session.view.adjustvisible = true;
+    session.view.copyportsvisible = true;
 }
 
 void confirmoptions(MainContext& context, const ProgramOptions& options) {

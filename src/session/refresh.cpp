@@ -40,7 +40,11 @@ std::int16_t predictdayonshow(Session& session) {
     const TideDay day{static_cast<int>(onshow.tideyear), static_cast<int>(onshow.tidemonth),
                       static_cast<std::int16_t>(onshow.tidedayofyear), shift};
     predictday(session.settings, day, session.prediction);
-    if (!canopen(session.settings.hcfile)) leaveundefined(session.prediction, noareafile);
+    const Settings& settings = session.settings;
+    if (!canopen(settings.hcfile))
+        leaveundefined(session.prediction, noareafile);
+    else if (settings.currentport < 1 || settings.currentport > portcount(settings.hcfile))
+        leaveundefined(session.prediction, nosuchport);
     if (!session.prediction.defined) session.layervalues = {};
     session.settings.userdepth = session.prediction.port.userdepth;
     findturningpoints(session.prediction);

@@ -21,6 +21,9 @@ std::int16_t predictdayonshow(Session& session);
 /// Why there is no prediction when the sea area's file is gone.
 inline constexpr const char* noareafile = "The sea area's file can't be found";
 
+/// And when the file holds fewer ports than the number of the current one.
+inline constexpr const char* nosuchport = "The sea area has no port of this number";
+
 /// Sun times of the date on show at the current port into the session.
 void refreshsun(Session& session, std::int16_t shift);
 

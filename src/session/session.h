@@ -63,6 +63,7 @@ struct SunOf {
 struct Session {
     ProgramFolders folders;
     Settings settings;
+    AreaBackups backups;  ///< which area files this run has kept a copy of
     DateConventions conventions;
     CurrentPort port;
     DateOnShow onshow;
@@ -86,7 +87,6 @@ struct Session {
     bool showconstants = false;
     LayerChoice layers{};
     LayerReadout layervalues;
-    AreaBackups backups;  ///< the area files of which this run has kept a copy
     TideDay layersday;  ///< what `layervalues` were read off
     std::int16_t layersport = 0;
     std::string layersarea;

@@ -62,6 +62,13 @@ TEST_F(AreaEdits, RecordsMoveAsTold) {
          5},
         {"add", [](AreaEdits& t) { return addport(t.backups, t.path, lettered('n')); }, "abcn", "", 4, 4},
         {"change", [](AreaEdits& t) { return changeport(t.backups, t.path, 2, lettered('n')); }, "anc", "", 3, 2},
+        {"gather the second",
+         [](AreaEdits& t) {
+             gatherport(t.scratch, t.path, 2);
+             gatherport(t.scratch, t.path, 1);
+             return addport(t.backups, t.path, lettered('n'));
+         },
+         "abcn", "ba", 4, 4},
         {"append itself", [](AreaEdits& t) { return appendports(t.backups, t.path, t.path); }, "abcabc", "", 6, 6},
     };
     for (const auto& row : rows) {
@@ -94,6 +101,41 @@ TEST_F(AreaEdits, OneBackupARunHoldsTheFileAsItWas) {
     EXPECT_FALSE(refused.written);
     EXPECT_EQ(refused.ports, 3);
     EXPECT_EQ(letters(path), "abc");
+}
+
+TEST_F(AreaEdits, NothingIsWrittenOverAFileThatCannotBeReadNorForAPortThatIsNotThere) {
+    put("abc");
+    const std::function<AreaEdit()> edits[] = {
+        [&] { return addport(backups, path, lettered('n')); },
+        [&] { return changeport(backups, path, 2, lettered('n')); },
+        [&] { return deleteport(backups, path, scratch, 2); },
+        [&] { return insertport(backups, path, scratch, 2, lettered('n')); },
+        [&] { return appendports(backups, path, folder / "none.hc"); },
+        [&] { return appendports(backups, folder / "new.hc", path); },
+        [&] { return gatherport(scratch, path, 1); },
+        [&] { return AreaEdit{keepbackup(backups, path)}; },
+    };
+    // A folder in the file's place can be read by nobody, whoever runs this.
+    std::filesystem::rename(path, folder / "away");
+    std::filesystem::create_directory(path);
+    for (const auto& edit : edits)
+        EXPECT_FALSE(edit().written) << &edit - edits;
+    std::filesystem::remove(path);
+    for (const bool there : {false, true}) {
+        if (there) std::filesystem::rename(folder / "away", path);
+        for (const std::int16_t number : std::initializer_list<std::int16_t>{-1, 0, 4}) {
+            EXPECT_FALSE(changeport(backups, path, number, lettered('n')).written) << number;
+            EXPECT_FALSE(deleteport(backups, path, scratch, number).written) << number;
+            EXPECT_FALSE(insertport(backups, path, scratch, number, lettered('n')).written) << number;
+            EXPECT_FALSE(gatherport(scratch, path, number).written) << number;
+        }
+        EXPECT_EQ(canopen(path), there);
+    }
+    EXPECT_EQ(letters(path), "abc");
+    EXPECT_FALSE(canopen(scratch) || canopen(backup) || canopen(folder / "new.hc"));
+    std::filesystem::resize_file(path, 197UL * 32768);
+    EXPECT_EQ(changeport(backups, path, 1, lettered('n')).written.error, std::errc::file_too_large);
+    EXPECT_EQ(std::filesystem::file_size(path), 197UL * 32768);
 }
 
 TEST_F(AreaEdits, APieceOfARecordIsFilledWithZeros) {

@@ -261,13 +261,15 @@ TEST_F(FrmTarvane, DialogsOpenThroughTheOneDoor) {
     });
     choose("mnuoutputoptions");
     EXPECT_TRUE(window.menuentry("mnumaintenance")->isVisible());
-    EXPECT_FALSE(window.menuentry("mnumaintainfile")->isEnabled());
+    EXPECT_TRUE(window.menuentry("mnucopyconstants")->isVisible());
     movemouse(10);
     EXPECT_TRUE(window.lblrate->text().contains(" : Draft=1.8M")) << window.lblrate->text().toStdString();
     for (const auto& [entry, name] : {std::pair{"mnutidedate", "Frmtimdat"},
                                       {"mnuPortList", "frmconfig"},
                                       {"mnuchartdepth", "frmChartdepth"},
                                       {"Mnushowconfig", "frmshowconf"},
+                                      {"mnumaintainfile", "frmharmedit"},
+                                      {"mnucopyconstants", "frmHCcopy"},
                                       {"mnusunrise", "Frmsunrise"}}) {
         scripted.windows.expect(name, [](ModalWindow&) {});
         choose(entry);

@@ -3,6 +3,7 @@
 // FOLDER [--area FILE.hc]" of every printout as a PDF. The screen is given in its own pixels.
 #include <QApplication>
 #include <QDir>
+#include <QKeyEvent>
 #include <QTemporaryFile>
 #include <cstdio>
 
@@ -20,6 +21,8 @@
 #include "platform/qt/appearance.h"
 #include "ports/frmchartdepth.h"
 #include "ports/frmconfig.h"
+#include "ports/frmharmedit.h"
+#include "ports/frmhccopy.h"
 #include "ports/frmoutoptions.h"
 #include "ports/frmshowconf.h"
 #include "shell/form1.h"
@@ -181,6 +184,24 @@ void takeworkshop(Album& album, Stage& stage) {
     stage.show(77, makedate(2026, 7, 14));
 }
 
+/// The editor with a port in its boxes, and the copying of three ports behind those of the same area.
+void takemaintenance(Album& album, Stage& stage) {
+    MainContext context = stage.context();
+    frmharmedit editor(context, &stage.window());
+    editor.fileList->setCurrentRow(0);
+    editor.portlist->setCurrentRow(76);
+    album.take(editor, "frmharmedit");
+    frmHCcopy copying(context, &stage.window());
+    copying.fillist->setCurrentRow(0);
+    copying.fileDestName->setCurrentRow(0);
+    for (const int row : {2, 6, 6}) {
+        copying.List1->setCurrentRow(row);
+        QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ");
+        QApplication::sendEvent(copying.List1, &space);
+    }
+    album.take(copying, "frmHCcopy");
+}
+
 void takeeverything(Album& album, const std::string& area) {
     const ClockReading at{makedate(2026, 7, 14), 14, 32, 0};
     Stage stage(area, at);
@@ -198,6 +219,7 @@ void takeeverything(Album& album, const std::string& area) {
     album.takedialog<Frmtimdat>(stage, "Frmtimdat");
     album.takedialog<frmoutoptions>(stage, "frmoutoptions");
     album.takedialog<frmshowconf>(stage, "frmshowconf");
+    takemaintenance(album, stage);
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));

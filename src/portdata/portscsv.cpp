@@ -148,11 +148,6 @@ std::string textfault(const std::string& text, std::size_t most) {
     return control ? "holds a control character" : "";
 }
 
-std::string namefault(const std::string& name) {
-    const std::string fault = name.empty() ? "is empty" : textfault(name, longestname);
-    return fault.empty() ? "" : "the name " + fault;
-}
-
 std::string labelfault(const std::string& label) {
     const std::string fault = textfault(label, longestlabel);
     return fault.empty() ? "" : "the number shown " + fault;
@@ -166,7 +161,7 @@ std::string takefield(const Column& column, const std::string& field, std::size_
             return trim(field) == port.PortNo ? "" : "the number should be " + port.PortNo;
         case Holds::name:
             port.PortName = trim(field);
-            return namefault(port.PortName);
+            return portnamefault(port.PortName);
         case Holds::zone:
             port.TimeZoneLetter = trim(field);
             return port.TimeZoneLetter.size() == 1 && field.find_first_of("ABCDEFGHIJKLMNOPQRSTUVW") != field.npos
@@ -349,6 +344,11 @@ std::string portscsvof(std::span<const std::byte> area) {
         text += csvline(rows[i]);
     }
     return text;
+}
+
+std::string portnamefault(const std::string& name) {
+    const std::string fault = name.empty() ? "is empty" : textfault(name, longestname);
+    return fault.empty() ? "" : "the name " + fault;
 }
 
 std::vector<std::string> portscsvnames() {

@@ -41,6 +41,9 @@ PortsTable readportscsv(std::string_view text);
 /// when a port needs them.
 std::string portscsvof(std::span<const std::byte> area);
 
+/// Why a text can't be a port's name, "the name is empty"; empty when it can.
+std::string portnamefault(const std::string& name);
+
 /// The names of the columns that every table has, and what they hold of one port.
 std::vector<std::string> portscsvnames();
 std::vector<std::string> portscsvfields(const HarmonicRecord& port, std::size_t number);

@@ -7,6 +7,7 @@
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
 #include "text/numbers.h"
+#include "text/singlebyte.h"
 #include "tides/fitcommand.h"
 #include "tides/options.h"
 #include "tides/portchoice.h"
@@ -38,9 +39,11 @@ std::string takeports(const Options& options, ViewContext& context) {
     const PortChoice choice = chooseports(area.names, wanted, area.name);
     for (const std::int16_t number : choice.numbers) {
         const auto index = static_cast<std::size_t>(number - 1);
-        const float depth = options.view->needsport ? readdepth(context.settings.depfile, number).UserDepth : 0;
-        context.ports.push_back(
-            {area.names[index], {area.records[index], number, depth, context.settings.currentoutput}});
+        const UserDepthRecord depth =
+            options.view->needsport ? readdepth(context.settings.depfile, number) : UserDepthRecord{};
+        context.ports.push_back({area.names[index],
+                                 {area.records[index], number, depth.UserDepth, context.settings.currentoutput,
+                                  trim(depth.DepthPortName)}});
     }
     return choice.fault;
 }

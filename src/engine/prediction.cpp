@@ -8,6 +8,7 @@
 #include "engine/constituents.h"
 #include "engine/height.h"
 #include "portdata/recordfiles.h"
+#include "text/singlebyte.h"
 
 namespace tarvane {
 namespace {
@@ -56,8 +57,14 @@ void leaveundefined(Prediction& prediction, const char* whynot) {
 }
 
 PredictedPort predictedport(const Settings& settings) {
-    return {readport(settings.hcfile, settings.currentport), settings.currentport,
-            readdepth(settings.depfile, settings.currentport).UserDepth, settings.currentoutput};
+    const UserDepthRecord depth = readdepth(settings.depfile, settings.currentport);
+    return {readport(settings.hcfile, settings.currentport), settings.currentport, depth.UserDepth,
+            settings.currentoutput, trim(depth.DepthPortName)};
+}
+
+std::string depthofanother(const PredictedPort& port) {
+    const bool included = port.currentoutput != 1 && port.userdepth != 0;
+    return included && port.depthname != trimmedname(port.record) ? port.depthname : "";
 }
 
 void predictday(const Settings& settings, const TideDay& day, Prediction& prediction) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 #include "portdata/configuration.h"
 
@@ -32,7 +33,12 @@ struct PredictedPort {
     std::int16_t number = 0;  ///< its record number, from 1
     float userdepth = 0;      ///< the user's charted depth, metres
     float currentoutput = 1;  ///< 1 leaves the depth out of the heights
+    std::string depthname{};  ///< name of the port that the depth's record was made for; empty when not known
 };
+
+/// The name of the port that the record of the depth in the heights was made for, when it is another than this one;
+/// else empty.
+std::string depthofanother(const PredictedPort& port);
 
 /// What a prediction leaves behind; each overwrites it. Row 0 of every array is unused.
 struct Prediction {

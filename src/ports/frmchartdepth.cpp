@@ -50,6 +50,9 @@ QLayout* frmChartdepth::buildside() {
     usernotes->setMinimumSize(character * 44, usernotes->fontMetrics().lineSpacing() * 9);
     usernotes->setTabChangesFocus(true);
     noteslimit = named<QLabel>("noteslimit");
+    matchline = named<QLabel>("matchline");
+    matchline->setWordWrap(true);
+    matchnames = named<QPushButton>("matchnames", "&Match by Name");
     cdok = named<QPushButton>("cdok", "&Enter");
     cdclose = named<QPushButton>("cdclose", "E&xit");
     auto* depthcaption = new QLabel("User &depth (Metres)?", this);
@@ -66,6 +69,7 @@ QLayout* frmChartdepth::buildside() {
     depthrow->addWidget(depth);
     depthrow->addStretch(1);
     auto* buttons = new QHBoxLayout;
+    buttons->addWidget(matchnames);
     buttons->addStretch(1);
     buttons->addWidget(cdok);
     buttons->addWidget(cdclose);
@@ -76,6 +80,7 @@ QLayout* frmChartdepth::buildside() {
     side->addWidget(notescaption);
     side->addWidget(usernotes, 1);
     side->addWidget(noteslimit);
+    side->addWidget(matchline);
     side->addLayout(buttons);
     return side;
 }
@@ -90,6 +95,7 @@ void frmChartdepth::connectcontrols() {
     });
     connect(usernotes, &QPlainTextEdit::textChanged, this, &frmChartdepth::usernotes_Change);
     connect(cdok, &QPushButton::clicked, this, &frmChartdepth::cdok_Click);
+    connect(matchnames, &QPushButton::clicked, this, &frmChartdepth::matchnames_Click);
     connect(cdclose, &QPushButton::clicked, this, &frmChartdepth::reject);
 }
 
@@ -101,6 +107,9 @@ void frmChartdepth::shownotes() {
     usernotes->setPlainText(QString::fromStdString(notes.usernotes));
     // The box has its own forms of some blanks, and these are no change.
     notes.usernotes = usernotes->toPlainText().toStdString();
+    matchline->setText(QString::fromStdString(notes.matchline));
+    matchline->setVisible(!notes.matchline.empty());
+    matchnames->setEnabled(!notes.matchline.empty());
     showstate();
 }
 
@@ -163,6 +172,12 @@ bool frmChartdepth::cdok_Click() {
         enterusernotes(context, notes, depth->text().toStdString(), usernotes->toPlainText().toStdString());
     if (entered) shownotes();
     return entered;
+}
+
+void frmChartdepth::matchnames_Click() {
+    if (!offertoenter()) return;
+    matchnotes(context, notes);
+    shownotes();
 }
 
 void frmChartdepth::reject() {

@@ -26,7 +26,8 @@ class frmChartdepth : public ModalDialog {
     FilteredBox* depth = nullptr;
     QPlainTextEdit* usernotes = nullptr;
     QLabel* noteslimit = nullptr;  ///< how much of the note's room is used
-    QPushButton *cdok = nullptr, *cdclose = nullptr;
+    QLabel* matchline = nullptr;   ///< how many records were made for another port, hidden when none was
+    QPushButton *cdok = nullptr, *cdclose = nullptr, *matchnames = nullptr;
 
   private:
     void buildlayout();
@@ -40,6 +41,7 @@ class frmChartdepth : public ModalDialog {
     void List1_DblClick();
     void usernotes_Change();
     bool cdok_Click();
+    void matchnames_Click();
 
     MainContext& context;
     UserNotes notes;

@@ -5,6 +5,7 @@
 
 #include "files/wholefiles.h"
 #include "output/monthtable.h"
+#include "portdata/depthmatch.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
 #include "session/refresh.h"
@@ -70,6 +71,37 @@ void shownotes(const Settings& settings, UserNotes& notes, std::int16_t recordnu
     notes.usernotes = plainlines(trim(record.Notes));
 }
 
+/// How many records were made for another port than the one at their number.
+std::string matchlineof(const Settings& settings) {
+    const DepthMatch match = matchdepths(settings.hcfile, settings.depfile);
+    if (match.elsewhere == 0) return "";
+    return numbertext(match.elsewhere) + " of " + numbertext(match.records) + " depths and notes " +
+           (match.elsewhere == 1 ? "was" : "were") + " made for another port than the one now at " +
+           (match.elsewhere == 1 ? "its" : "their") + " number.";
+}
+
+/// The first of a list, each on a line of its own.
+std::string listed(const std::string& heading, const std::vector<std::string>& entries) {
+    constexpr std::size_t most = 10;
+    if (entries.empty()) return "";
+    std::string text = "\n\n" + heading;
+    for (std::size_t i = 0; i < entries.size() && i < most; ++i)
+        text += "\n" + entries[i];
+    if (entries.size() > most) text += "\nand " + numbertext(static_cast<int>(entries.size() - most)) + " more";
+    return text;
+}
+
+std::string matchquestion(const DepthMatch& match, const std::string& depfile) {
+    const std::string name = depfile.substr(depfile.find_last_of('/') + 1);
+    return "Match the " + numbertext(match.records) + " depths and notes of this area by name?\n\n" +
+           "To the port of their name: " + numbertext(match.moved) +
+           "\nStaying where they are: " + numbertext(match.stayed) +
+           "\nDropped, with no port of their name any more: " + numbertext(match.dropped) +
+           listed("Lost would be what you entered for", match.lost) +
+           listed("Left where they are, as a name or a place is claimed twice", match.left) +
+           "\n\nThe file as it is now is kept as " + name + ".bak.";
+}
+
 bool notecharacter(std::string_view utf8) {
     if (utf8 == "\n" || utf8 == "\t") return true;
     const bool control = utf8.size() == 1 && (static_cast<unsigned char>(utf8[0]) < ' ' || utf8[0] == '\x7F');
@@ -104,6 +136,7 @@ UserNotes loadusernotes(MainContext& context) {
     UserNotes notes;
     shownotes(settings, notes, settings.currentport);
     notes.rows = portrows(settings.hcfile);
+    notes.matchline = matchlineof(settings);
     return notes;
 }
 
@@ -127,6 +160,7 @@ bool enterusernotes(MainContext& context, UserNotes& notes, std::string_view dep
     // A file that has vanished while the window stood open comes back with a record for every port.
     EnsureDepFile(context.session.folders, context.session.settings);
     UserDepthRecord record = readdepth(settings.depfile, recordnumber);
+    // kept: the record's name stays, whatever port it was made for
     record.UserDepth = typedmetres(depth);
     record.Notes = storedlines(usernotes);
     if (!writedepth(settings.depfile, recordnumber, record)) {
@@ -134,7 +168,22 @@ bool enterusernotes(MainContext& context, UserNotes& notes, std::string_view dep
         return false;
     }
     shownotes(settings, notes, recordnumber);
+    notes.matchline = matchlineof(settings);
     return true;
+}
+
+bool matchnotes(MainContext& context, UserNotes& notes) {
+    const Settings& settings = context.session.settings;
+    const DepthMatch match = matchdepths(settings.hcfile, settings.depfile);
+    const bool agreed =
+        match.elsewhere > 0 && context.services.messages.ask(matchquestion(match, settings.depfile), "Tarvane");
+    const WriteOutcome written = agreed ? writematched(settings.depfile, match) : WriteOutcome{};
+    if (!written)
+        tell(context, "The depths and notes can't be matched, nothing was changed: " + written.reason() + ": " +
+                          settings.depfile);
+    shownotes(settings, notes, cint(val(notes.portnolabel)));
+    notes.matchline = matchlineof(settings);
+    return agreed && written;
 }
 
 void closeusernotes(MainContext& context) {

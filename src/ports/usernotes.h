@@ -21,6 +21,7 @@ struct UserNotes {
     std::string portnolabel;        ///< its record number
     std::string depth;              ///< metres, as plain number
     std::string usernotes;          ///< without the blanks at its ends
+    std::string matchline;          ///< how many records were made for another port; empty when none was
 };
 
 /// Every port of an area file as a list shows it: record number, two blanks, the name with the blanks that fill it
@@ -46,6 +47,10 @@ void pickandnameport(Session& session, UserNotes& notes, int index);
 /// `cdok`: stores depth and note of the port in hand and shows them as stored. Texts as typed; a depth without a number
 /// is 0. False if nothing was stored, which is told.
 bool enterusernotes(MainContext& context, UserNotes& notes, std::string_view depth, std::string_view usernotes);
+
+/// `matchnames`: each depth and note goes to the port of its name, once the user has agreed to what that does; the port
+/// in hand is shown anew. False if nothing was written.
+bool matchnotes(MainContext& context, UserNotes& notes);
 
 /// `cdclose`: the month's list goes, and the main view is refreshed with the current port's depth.
 void closeusernotes(MainContext& context);

@@ -53,6 +53,9 @@ void noteheights(const Session& session, std::vector<std::string>& notes) {
     const bool datum = port.currentoutput == 1;
     if (datum != (settings.currentoutput == 1) || (!datum && settings.userdepth != port.userdepth))
         notes.emplace_back("these heights are not yet those of the settings");
+    const std::string other = depthofanother(port);
+    if (session.prediction.defined && !other.empty())
+        notes.push_back("the depth of " + format(port.userdepth, "0.0#") + " m stands under the name of " + other);
 }
 
 /// The date that the clipboard's texts carry, which steps of the day leave behind.

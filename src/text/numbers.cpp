@@ -240,6 +240,12 @@ std::string numbertext(int value) {
     return numbertext(static_cast<double>(value));
 }
 
+std::string shortest(float value) {
+    std::array<char, 100> buffer{};
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+    return std::string(buffer.data(), written.ptr);
+}
+
 std::string format(double value, std::string_view pattern) {
     if (!std::isfinite(value)) return {};
     const std::vector<std::string_view> sections = sectionsof(pattern);

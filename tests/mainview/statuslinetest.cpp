@@ -55,6 +55,22 @@ TEST_F(StatusLine, ADayWithoutTidesSaysWhy) {
     EXPECT_NE(ScriptedSurface::log(picture.persistentlayer).find("Sea Area, or put it back"), std::string::npos);
 }
 
+TEST_F(StatusLine, NotesADepthThatWasEnteredForAnother) {
+    UserDepthRecord record = readdepth(session.settings.depfile, 2);
+    record.DepthPortName = "Lerwick";
+    writedepth(session.settings.depfile, 2, record);
+    session.settings.currentport = 2;
+    takecurrentport(session, true);
+    for (const auto& [output, depth] : {std::pair{3.0F, -2.0F}, {1.0F, -2.0F}, {3.0F, 0.0F}}) {
+        record.UserDepth = depth;
+        writedepth(session.settings.depfile, 2, record);
+        session.settings.currentoutput = output;
+        refreshday(context);
+        const bool included = output != 1 && depth != 0;
+        EXPECT_EQ(notes().find("the depth of -2.0 m stands under the name of Lerwick|") != std::string::npos, included);
+    }
+}
+
 TEST_F(StatusLine, NotesEachTrap) {
     EXPECT_EQ(notes(), "");
     nextday(context);

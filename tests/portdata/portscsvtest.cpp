@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <tuple>
 
 #include "portdata/bytes.h"
@@ -49,6 +50,45 @@ TEST(PortsCsv, TakesQuotesLineEndsBlankLinesAndSources) {
         EXPECT_EQ(read.ports[1].PortNo + read.ports[1].PortName, "2Fécamp");
         EXPECT_EQ(read.ports[1].PortLong, 180.0f);
     }
+}
+
+TEST(PortsCsv, AnAreaComesBackByteForByte) {
+    const std::vector<std::byte> shipped = readportscsv(filetext(std::string(TARVANE_DATA) + "/uk-ports.csv")).area;
+    const struct {
+        const char* what;
+        std::size_t offset;
+        std::string bytes;  ///< put into the second record
+        const char* columns;
+    } rows[] = {
+        {"as shipped", 0, "2", ""},
+        {"commas, quotes and letters of Windows-1252", 5, "A, \"b\" \xE9\x9C\x92", ""},
+        {"a single of many digits and the least", 149, {'\xFF', '\x67', '\x9C', '\x41', 1, 0, 0, 0}, ",mh"},
+        {"another number shown", 0, "12a", ",portno"},
+        {"zero bytes in position and zone", 40, std::string(9, '\0'), ",record"},
+        {"a level that is no number", 53, std::string(4, '\xFF'), ",record"},
+        {"a name that begins with a blank", 5, " x", ",record"},
+        {"an unassigned code", 5, "\x81", ",record"},
+    };
+    for (const auto& row : rows) {
+        std::vector<std::byte> area = shipped;
+        std::memcpy(&area[harmonicrecordsize + row.offset], row.bytes.data(), row.bytes.size());
+        const std::string text = portscsvof(area);
+        const std::string columns = text.substr(header.size(), text.find('\n') - header.size());
+        EXPECT_EQ(columns.substr(0, 3), std::string(row.columns).substr(0, 3)) << row.what;
+        EXPECT_EQ(columns.ends_with("record"), std::string(row.columns) == ",record") << row.what;
+        const PortsTable read = readportscsv(text);
+        EXPECT_FALSE(read.fault) << row.what << ": " << (read.fault ? read.fault->reason : "");
+        EXPECT_TRUE(read.area == area) << row.what;
+    }
+    std::vector<std::byte> area(harmonicrecordsize);
+    std::string text = portscsvof(area);
+    text.replace(text.find("\n1,,0") + 4, 1, "5");
+    expectfault(text, 2, 32, "another latitude");
+    text.erase(text.size() - 2, 1);
+    expectfault(text, 2, 32, "394 hexadecimal");
+    expectfault(header + ",mh01\n" + row("1,A,1,2,L,3") + ",1", 1, 0, "some of mh01");
+    expectfault(header + ",portno,source\n", 1, 32, "source");
+    expectfault(header + ",portno\n" + row("1,A,1,2,L,3") + ",123456", 2, 31, "longer than 5");
 }
 
 TEST(PortsCsv, RefusesAFieldByItsPlace) {

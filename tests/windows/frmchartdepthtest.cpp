@@ -4,6 +4,8 @@
 #include <filesystem>
 
 #include "fakes/mainfixture.h"
+#include "portdata/areaedits.h"
+#include "text/singlebyte.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {
@@ -113,6 +115,40 @@ TEST_F(FrmChartdepth, WhatWasTypedIsNotLostUnaskedNorWhenTheWriteFails) {
     QTest::mouseClick(form.cdclose, Qt::LeftButton);
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(filetext(session.settings.depfile), before) << "Exit doesn't write";
+}
+
+TEST_F(FrmChartdepth, MatchByNameAsksFirstAndShowsWhatIsThere) {
+    UserDepthRecord cedar = record(3), birch = record(2);
+    cedar.UserDepth = birch.UserDepth = -2;
+    birch.Notes = "Bar";
+    writedepth(session.settings.depfile, 2, birch);
+    writedepth(session.settings.depfile, 3, cedar);
+    EXPECT_FALSE(frmChartdepth(context).matchnames->isEnabled());
+    AreaBackups backups;
+    deleteport(backups, area(), folder / "scratch.hc", 2);
+    const auto before = filetext(session.settings.depfile);
+    frmChartdepth form(context);
+    present(form);
+    expectroomfortexts(form);
+    EXPECT_EQ(form.matchline->text(),
+              "3 of 4 depths and notes were made for another port than the one now at their number.");
+    const std::string asked =
+        "Match the 4 depths and notes of this area by name?\n\nTo the port of their name: 1\n"
+        "Staying where they are: 1\nDropped, with no port of their name any more: 2\n\n"
+        "Lost would be what you entered for\nBirch Sound: -2 m and a note\n\n"
+        "The file as it is now is kept as UK.DEP.bak.";
+    click(form, 1);
+    EXPECT_EQ(form.usernotes->toPlainText(), "Bar");
+    scripted.messages.expectask(asked, false, "Tarvane");
+    QTest::mouseClick(form.matchnames, Qt::LeftButton);
+    EXPECT_EQ(filetext(session.settings.depfile), before);
+    scripted.messages.expectask(asked, true);
+    QTest::mouseClick(form.matchnames, Qt::LeftButton);
+    EXPECT_EQ(filetext(session.settings.depfile + ".bak"), before);
+    EXPECT_EQ(form.depth->text() + "|" + form.usernotes->toPlainText().left(8), "-2|Position");
+    EXPECT_EQ(trim(record(2).DepthPortName), "Cedar Head");
+    EXPECT_FALSE(form.matchnames->isEnabled());
+    EXPECT_TRUE(form.matchline->isHidden());
 }
 
 TEST_F(FrmChartdepth, APortPastTheAreaHighlightsNone) {

@@ -79,4 +79,14 @@ std::string readsettings(const ProgramFolders& folders, Settings& settings) {
     return "";
 }
 
+std::string readarea(const std::string& path, AreaInHand& area) {
+    if (path.empty()) return "the stored configuration names no sea area file; give one with --area";
+    if (!canopen(path)) return "the sea area file " + path + " can't be read";
+    area.name = std::filesystem::path(path).filename().string();
+    area.records = readports(path);
+    for (const HarmonicRecord& record : area.records)
+        area.names.push_back(trimmedname(record));
+    return "";
+}
+
 }  // namespace tarvane

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "dates/calendar.h"
 #include "portdata/configuration.h"
@@ -23,5 +24,15 @@ ProgramFolders foldersof(const TidesEnvironment& environment);
 /// The stored settings, or those of a first start where no configuration is stored. The fault, empty when there is
 /// none.
 std::string readsettings(const ProgramFolders& folders, Settings& settings);
+
+/// A sea area as it was read.
+struct AreaInHand {
+    std::string name;  ///< of the file, without its folder
+    std::vector<HarmonicRecord> records;
+    std::vector<std::string> names;  ///< of the ports, trimmed, in file order
+};
+
+/// Reads the area file at `path`, which a configuration may leave empty. The fault, empty when there is none.
+std::string readarea(const std::string& path, AreaInHand& area);
 
 }  // namespace tarvane

@@ -1,6 +1,5 @@
 #include "tides/options.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -8,6 +7,7 @@
 #include "text/numbers.h"
 #include "text/programcaption.h"
 #include "text/singlebyte.h"
+#include "tides/valueoptions.h"
 
 namespace tarvane {
 
@@ -22,17 +22,13 @@ std::optional<int> wholenumber(std::string_view text) {
     return number;
 }
 
-std::string inquotes(const std::string& text) {
-    return "'" + text + "'";
-}
-
 std::string takearea(const std::string& value, Options& options) {
     options.area = value;
     return "";
 }
 
 std::string takeport(const std::string& value, Options& options) {
-    options.port = validutf8(value) ? value : fromsinglebyte(value);
+    options.port = argumenttext(value);
     return "";
 }
 
@@ -56,26 +52,10 @@ std::string takesummer(const std::string& value, Options& options) {
 }
 
 std::string takeformat(const std::string& value, Options& options) {
-    struct Name {
-        const char* name;
-        OutputFormat format;
-    };
-    constexpr std::array<Name, 3> names{
-        {{"text", OutputFormat::text}, {"csv", OutputFormat::csv}, {"json", OutputFormat::json}}};
-    const auto row = std::find_if(names.begin(), names.end(), [&](const Name& name) { return value == name.name; });
-    if (row == names.end()) return "--format takes text, csv or json, not " + inquotes(value);
-    options.format = row->format;
-    return "";
+    return parseformat(value, options.format);
 }
 
-struct ValueOption {
-    const char* option;
-    const char* form;
-    const char* help;
-    std::string (*take)(const std::string&, Options&);
-};
-
-constexpr std::array<ValueOption, 6> valueoptions{{
+constexpr std::array<ValueOption<Options>, 6> valueoptions{{
     {"--area", "FILE.hc", "the sea area file, in place of the stored one", takearea},
     {"--port", "NUMBER|NAME|all", "a port by its number, its name or a part of its name, or every port", takeport},
     {"--date", "YYYY-MM-DD", "the first day, in place of today", takedate},
@@ -103,6 +83,7 @@ constexpr const char* notes =
     "that it is ahead of universal time, 2026-07-14T05:40+01:00, and \"depth\" the charted depth in metres that the\n"
     "height includes, 0 with heights above chart datum. Days without a prediction are left out there and named on\n"
     "standard error, in a line for each port and reason.\n"
+    "\"tides fit\" fits constants to heights read on the spot; tides fit --help tells how.\n"
     "Exit status: 0; or 2 with one line on standard error and nothing on standard output, and when CSV or JSON would\n"
     "hold nothing because every day is without a prediction.";
 
@@ -114,11 +95,7 @@ void describe(CommandLine& line) {
     line.portwords = app.add_option("PORT", "a port by its number, its name or a part of its name; or all, every port");
     line.portwords->expected(-1)->option_text("NUMBER|NAME|all");
     line.portwords->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    for (const ValueOption& row : valueoptions) {
-        // a value that is missing or too much is told in our own words, too
-        line.values.push_back(app.add_option(row.option, row.help)->option_text(row.form)->expected(0, 1));
-        line.values.back()->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    }
+    line.values = addvalues<Options>(app, valueoptions);
     for (const View* view : views().subspan(1))
         line.flags.push_back(app.add_flag(view->option, view->help)->group("What is shown"));
     app.get_formatter()->column_width(30);
@@ -142,16 +119,9 @@ std::string takeview(const CommandLine& line, Options& options) {
     return "";
 }
 
-std::string takevalues(const CommandLine& line, Options& options) {
-    for (std::size_t i = 0; i < valueoptions.size(); ++i) {
-        const ValueOption& row = valueoptions[i];
-        const std::vector<std::string>& given = line.values[i]->results();
-        if (given.empty()) continue;
-        if (given.size() > 1) return std::string(row.option) + " is given twice";
-        if (given[0].empty()) return std::string(row.option) + " needs a value: " + row.form;
-        const std::string fault = row.take(given[0], options);
-        if (!fault.empty()) return fault;
-    }
+std::string takegiven(const CommandLine& line, Options& options) {
+    const std::string fault = takevalues<Options>(line.values, valueoptions, options);
+    if (!fault.empty()) return fault;
     if (line.portwords->count() == 0) return "";
     const std::string words = CLI::detail::join(line.portwords->results(), " ");
     if (options.port) return "the port is given twice, as " + inquotes(*options.port) + " and as " + inquotes(words);
@@ -177,7 +147,28 @@ std::string parseoptions(const std::vector<std::string>& arguments, Options& opt
     for (const std::string& unknown : line.app.remaining())
         if (unknown != "--") return "there is no option " + inquotes(unknown) + "; tides --help lists them";
     const std::string fault = takeview(line, options);
-    return fault.empty() ? takevalues(line, options) : fault;
+    return fault.empty() ? takegiven(line, options) : fault;
+}
+
+std::string inquotes(const std::string& text) {
+    return "'" + text + "'";
+}
+
+std::string argumenttext(const std::string& argument) {
+    return validutf8(argument) ? argument : fromsinglebyte(argument);
+}
+
+std::string parseformat(const std::string& value, OutputFormat& format) {
+    struct Name {
+        const char* name;
+        OutputFormat format;
+    };
+    constexpr std::array<Name, 3> names{
+        {{"text", OutputFormat::text}, {"csv", OutputFormat::csv}, {"json", OutputFormat::json}}};
+    const auto row = std::find_if(names.begin(), names.end(), [&](const Name& name) { return value == name.name; });
+    if (row == names.end()) return "--format takes text, csv or json, not " + inquotes(value);
+    format = row->format;
+    return "";
 }
 
 std::optional<Date> parseisodate(std::string_view text) {

@@ -31,4 +31,12 @@ std::string parseoptions(const std::vector<std::string>& arguments, Options& opt
 /// A date written yyyy-mm-dd, year 0001 to 9999; nothing for any other text and for a day that its month doesn't have.
 std::optional<Date> parseisodate(std::string_view text);
 
+/// Fills `format` from the value of --format; the fault, empty when there is none.
+std::string parseformat(const std::string& value, OutputFormat& format);
+
+/// An argument as UTF-8: one that isn't is taken for Windows-1252.
+std::string argumenttext(const std::string& argument);
+
+std::string inquotes(const std::string& text);
+
 }  // namespace tarvane

@@ -8,22 +8,14 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
+#include "text/csvrows.h"
+
 namespace tarvane {
 
 namespace {
 
 /// With its members in the order of the columns.
 using Json = nlohmann::ordered_json;
-
-std::string csvcell(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    std::string quoted = "\"";
-    for (const char character : text) {
-        if (character == '"') quoted += '"';
-        quoted += character;
-    }
-    return quoted + '"';
-}
 
 /// A cell of digits as a number; null when it is none, as "nan" and "inf" are.
 Json jsonnumber(const std::string& text) {
@@ -49,13 +41,6 @@ std::string fixed(double value, int decimals) {
     return text;
 }
 
-std::string shortest(float value) {
-    std::array<char, 100> buffer{};
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
-    assert(written.ec == std::errc{});
-    return std::string(buffer.data(), written.ptr);
-}
-
 RowWriter::RowWriter(std::ostream& out, OutputFormat format, std::vector<Column> columns)
     : stream(out), outputformat(format), heads(std::move(columns)) {}
 
@@ -64,18 +49,17 @@ void RowWriter::start() {
         stream << "[";
         return;
     }
-    for (std::size_t i = 0; i < heads.size(); ++i)
-        stream << (i ? "," : "") << heads[i].name;
-    stream << "\n";
+    std::vector<std::string> names;
+    for (const Column& head : heads)
+        names.push_back(head.name);
+    stream << csvline(names);
 }
 
 void RowWriter::row(const std::vector<std::string>& cells) {
     assert(cells.size() == heads.size());
     if (rowcount == 0) start();
     if (outputformat == OutputFormat::csv) {
-        for (std::size_t i = 0; i < heads.size(); ++i)
-            stream << (i ? "," : "") << csvcell(cells[i]);
-        stream << "\n";
+        stream << csvline(cells);
     } else {
         Json object;
         for (std::size_t i = 0; i < heads.size(); ++i)

@@ -18,9 +18,6 @@ struct Column {
 /// The value with so many decimals, its exact binary value rounded once; a value that rounds to zero carries no sign.
 std::string fixed(double value, int decimals);
 
-/// The shortest plain decimals that read back as the same single.
-std::string shortest(float value);
-
 /// Writes a header line and rows (CSV), or an array with one object a row (JSON), from the first row on. A number that
 /// isn't finite reads "nan" or "inf" in CSV and null in JSON.
 class RowWriter {

@@ -7,6 +7,8 @@
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
 #include "text/numbers.h"
+#include "text/singlebyte.h"
+#include "tides/fitcommand.h"
 #include "tides/options.h"
 #include "tides/portchoice.h"
 #include "tides/textforms.h"
@@ -26,28 +28,22 @@ std::string checkdepths(const Settings& settings) {
     return wanted && unreadable ? "the depths file " + settings.depfile + " can't be read" : "";
 }
 
-std::string checkarea(const std::string& area) {
-    return canopen(area) ? "" : "the sea area file " + area + " can't be read";
-}
-
 /// The ports that the options ask for, read from the area file.
 std::string takeports(const Options& options, ViewContext& context) {
-    const std::string& area = context.settings.hcfile;
-    if (area.empty()) return "the stored configuration names no sea area file; give one with --area";
-    const std::string unreadable = checkarea(area);
+    AreaInHand area;
+    const std::string unreadable = readarea(context.settings.hcfile, area);
     if (!unreadable.empty()) return unreadable;
-    context.areaname = std::filesystem::path(area).filename().string();
-    const std::vector<HarmonicRecord> records = readports(area);
-    std::vector<std::string> names;
-    for (const HarmonicRecord& record : records)
-        names.push_back(trimmedname(record));
+    context.areaname = area.name;
     const std::string wanted =
         options.view->needsport ? options.port.value_or(numbertext(context.settings.currentport)) : "all";
-    const PortChoice choice = chooseports(names, wanted, context.areaname);
+    const PortChoice choice = chooseports(area.names, wanted, area.name);
     for (const std::int16_t number : choice.numbers) {
         const auto index = static_cast<std::size_t>(number - 1);
-        const float depth = options.view->needsport ? readdepth(context.settings.depfile, number).UserDepth : 0;
-        context.ports.push_back({names[index], {records[index], number, depth, context.settings.currentoutput}});
+        const UserDepthRecord depth =
+            options.view->needsport ? readdepth(context.settings.depfile, number) : UserDepthRecord{};
+        context.ports.push_back({area.names[index],
+                                 {area.records[index], number, depth.UserDepth, context.settings.currentoutput,
+                                  trim(depth.DepthPortName)}});
     }
     return choice.fault;
 }
@@ -77,7 +73,8 @@ std::string prepare(const Options& options, const TidesEnvironment& environment,
         fault = takeports(options, context);
         if (fault.empty()) fault = checkdepths(context.settings);
     } else if (options.area) {
-        fault = checkarea(*options.area);
+        AreaInHand readable;
+        fault = readarea(*options.area, readable);
     }
     if (fault.empty()) fault = takedays(options, environment.today, context);
     return fault;
@@ -102,6 +99,8 @@ int show(const Options& options, const ViewContext& context, std::ostream& out, 
 
 int runtides(const std::vector<std::string>& arguments, const TidesEnvironment& environment, std::ostream& out,
              std::ostream& err) {
+    if (!arguments.empty() && arguments.front() == "fit")
+        return runfit({arguments.begin() + 1, arguments.end()}, environment, out, err);
     Options options;
     ViewContext context;
     std::string fault = parseoptions(arguments, options);

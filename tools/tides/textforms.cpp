@@ -34,7 +34,9 @@ std::string timeline(const ViewContext& context, const PortInHand& port, Date da
 std::string datumline(const PortInHand& port) {
     if (port.port.currentoutput == 1) return "Heights are above chart datum";
     if (port.port.userdepth == 0) return "Heights are above chart datum, no charted depth being set for this port";
-    return "Heights include the charted depth of " + format(port.port.userdepth, "0.00") + " m set for this port";
+    const std::string other = depthofanother(port.port);
+    return "Heights include the charted depth of " + format(port.port.userdepth, "0.00") +
+           (other.empty() ? " m set for this port" : " m, which stands under the name of " + plaintext(other));
 }
 
 std::string nopredictionline(const Prediction& prediction) {

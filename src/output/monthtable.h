@@ -18,11 +18,11 @@ namespace tarvane {
 /// One day of the table.
 struct MonthDay {
     Date date{};
-    int weekday = 0;                 ///< 0 Sunday to 6 Saturday
-    std::string head;                ///< "9 Apr (Tue)", both names the system's
+    int weekday = 0;               ///< 0 Sunday to 6 Saturday
+    std::string head;              ///< "9 Apr (Tue)", both names the system's
     std::vector<WaterText> tides;  ///< "hh:mm" and metres with two decimals, in time order
-    bool defined = true;             ///< false for a day without a prediction, which has no tides
-    const char* whynot = "";         ///< why then, a sentence for the user
+    bool defined = true;           ///< false for a day without a prediction, which has no tides
+    const char* whynot = "";       ///< why then, a sentence for the user
 };
 
 /// What a table holds, or would hold if it were made now: two that are equal have the same tides.

@@ -25,9 +25,11 @@ target_compile_definitions(tarvane_testrules INTERFACE TARVANE_DATA="${CMAKE_SOU
                                                        TARVANE_TESTDATA="${CMAKE_SOURCE_DIR}/tests/data")
 target_compile_options(tarvane_testrules INTERFACE -O0 -g1 -fPIC)
 
-# tarvane_library(NAME SOURCES a.cpp ... LINKS tarvane::b ...)
+# tarvane_library(NAME SOURCES a.cpp ... LINKS tarvane::b ...). Under the sanitizers the standard library's headers are parsed
+# once, for text and all that stands on it; optimised, this compiler warns of what it inlines from a precompiled header.
+# PRECOMPILES for a target that says itself which headers.
 function(tarvane_library name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(arg "PRECOMPILES" "" "SOURCES;LINKS" ${ARGN})
   if(arg_SOURCES)
     add_library(tarvane_${name} STATIC ${arg_SOURCES})
     target_link_libraries(tarvane_${name} PUBLIC tarvane_rules ${arg_LINKS})
@@ -38,6 +40,8 @@ function(tarvane_library name)
   add_library(tarvane::${name} ALIAS tarvane_${name})
   if(name MATCHES "_windows$")
     tarvane_windows(tarvane_${name})
+  elseif(TARVANE_SANITIZE AND arg_SOURCES AND NOT arg_PRECOMPILES)
+    target_precompile_headers(tarvane_${name} REUSE_FROM tarvane_text)
   endif()
 endfunction()
 

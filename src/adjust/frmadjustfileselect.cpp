@@ -9,12 +9,6 @@
 #include "text/singlebyte.h"
 
 namespace tarvane {
-namespace {
-
-constexpr int rowsinview = 16;
-
-}  // namespace
-
 FrmAdjustfileselect::FrmAdjustfileselect(MainContext& maincontext, AdjustWorkspace& adjustworkspace, QWidget* parent)
     : ModalDialog("FrmAdjustfileselect", "Select Port", parent), context(maincontext), workspace(adjustworkspace) {
     buildlayout();
@@ -33,7 +27,7 @@ void FrmAdjustfileselect::buildlayout() {
     File1 = named<QListWidget>("File1");
     List1 = named<QListWidget>("List1");
     List1->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
-    setrowsinview(*List1, rowsinview);
+    setrowsinview(*List1, 16);
     lblselectedport = namedvalue("lblselectedport");
     cmdPort1 = named<QPushButton>("cmdPort1", "Load as Port &1");
     cmdPort2 = named<QPushButton>("cmdPort2", "Load as Port &2");
@@ -42,10 +36,8 @@ void FrmAdjustfileselect::buildlayout() {
     answer = named<QLabel>("answer");
     answer->setTextFormat(Qt::PlainText);
     answer->setWordWrap(true);
-    auto* files = new QLabel("&Area Files");
-    files->setBuddy(File1);
-    auto* locations = new QLabel("&Locations");
-    locations->setBuddy(List1);
+    auto* files = captionof("&Area Files", File1);
+    auto* locations = captionof("&Locations", List1);
     auto* side = new QVBoxLayout;
     side->addWidget(new QLabel("Selected Location"));
     side->addWidget(lblselectedport);

@@ -10,12 +10,6 @@
 #include "portdata/recordfiles.h"
 
 namespace tarvane {
-namespace {
-
-constexpr int rowsinview = 16;
-
-}  // namespace
-
 frmAdjustSave::frmAdjustSave(MainContext& maincontext, AdjustWorkspace& adjustworkspace, QWidget* parent)
     : ModalDialog("frmAdjustSave", "Save Intermediate Ports Constants", parent),
       context(maincontext),
@@ -37,7 +31,7 @@ void frmAdjustSave::buildlayout() {
     List1 = named<QListWidget>("List1");
     List1->setAccessibleName("Locations");
     List1->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
-    setrowsinview(*List1, rowsinview);
+    setrowsinview(*List1, 16);
     auto* whole = new QHBoxLayout(this);
     whole->addWidget(File1);
     whole->addWidget(List1, 1);
@@ -59,10 +53,8 @@ QLayout* frmAdjustSave::buildside() {
         new QLabel("Note: Monthly variations in Z0 will be set to zero; Monthly values of  M2Hm will be uniform.");
     note->setWordWrap(true);
     note->setMinimumHeight(fontMetrics().lineSpacing() * 4);
-    auto* area = new QLabel("Save &in area:");
-    area->setBuddy(txtAreaName);
-    auto* location = new QLabel("As &location :");
-    location->setBuddy(Text1);
+    auto* area = captionof("Save &in area:", txtAreaName);
+    auto* location = captionof("As &location :", Text1);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(cmdSave);

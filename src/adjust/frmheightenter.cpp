@@ -11,8 +11,6 @@
 namespace tarvane {
 namespace {
 
-constexpr int rowsinview = 12;
-
 struct ListOfNumbers {
     QListWidget* frmHeightEnter::*list;
     const char *name, *spoken;
@@ -68,7 +66,7 @@ QLayout* frmHeightEnter::buildlists() {
         for (int i = 0; i < told.count; ++i)
             list->addItem(QString::asprintf(told.pattern, i * told.step));
         list->setFixedWidth(fontMetrics().horizontalAdvance("Minutes") + 26);
-        setrowsinview(*list, rowsinview);
+        setrowsinview(*list, 12);
         grid->addWidget(list, 2, column++);
     }
     lblTime = namedvalue("lblTime");
@@ -91,8 +89,7 @@ QLayout* frmHeightEnter::buildentries() {
     buttons->addWidget(cmdAdd);
     buttons->addWidget(cmdChange);
     auto* column = new QVBoxLayout;
-    auto* caption = new QLabel("Double click an entry to edit");
-    caption->setBuddy(List1);
+    auto* caption = captionof("Double click an entry to edit", List1);
     column->addWidget(caption);
     column->addWidget(List1, 1);
     column->addLayout(buttons);
@@ -108,10 +105,8 @@ QLayout* frmHeightEnter::buildfiles() {
     Command2->setToolTip("Saves the list and shows it over the intermediate curve");
     cmdCancel = named<QPushButton>("cmdCancel", "Cancel");
     cmdCancel->setToolTip("Closes, and no height file is displayed then; close the window by its frame to keep it");
-    auto* caption = new QLabel("Select existing height file");
-    caption->setBuddy(File1);
-    auto* typed = new QLabel("OR Enter new file &name");
-    typed->setBuddy(txtFileName);
+    auto* caption = captionof("Select existing height file", File1);
+    auto* typed = captionof("OR Enter new file &name", txtFileName);
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : {cmdOpen, Command2, cmdCancel})
         buttons->addWidget(button);

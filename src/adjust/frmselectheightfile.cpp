@@ -30,8 +30,7 @@ void frmSelectHeightFile::buildlayout() {
     cmdOK = named<QPushButton>("cmdOK", "OK");
     cmdCancel = named<QPushButton>("cmdCancel", "Cancel");
     cmdCancel->setToolTip("Closes, and no height file is displayed then");
-    auto* caption = new QLabel("Select a height file name and press OK");
-    caption->setBuddy(File1);
+    auto* caption = captionof("Select a height file name and press OK", File1);
     auto* selected = new QHBoxLayout;
     selected->addWidget(new QLabel("Selected File"));
     selected->addWidget(lblselectedfile, 1);

@@ -8,9 +8,6 @@
 namespace tarvane {
 namespace {
 
-/// Beyond this many metres a line a metre would only blacken the picture.
-constexpr double mostgridlines = 500;
-
 /// Hours of a row. Not the row's own time: one layer's is not always written.
 double hoursof(std::size_t row) {
     return (static_cast<double>(row) - 1) / 6;

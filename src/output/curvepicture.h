@@ -15,6 +15,9 @@ namespace tarvane {
 /// The constituents that are ticked, by their places in `constituents`.
 using LayerChoice = std::array<bool, constituents.size()>;
 
+/// Beyond this many metres a line a metre would only blacken a picture.
+inline constexpr double mostgridlines = 500;
+
 /// Starts the persistent picture anew with 24 hours across and the limits up; persistent drawing stays on.
 void startpicture(DrawSurface& picture, const CurveLimits& limits);
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "output/curvepicture.h"
 #include "output/daytable.h"
 #include "output/pagetext.h"
 #include "output/printouts.h"
@@ -10,9 +11,6 @@
 
 namespace tarvane {
 namespace {
-
-/// Beyond this many metres a line a metre would only blacken the box.
-constexpr double mostgridlines = 500;
 
 /// Thickness of lines, twips: the curve stands out from the hair-thin grid.
 constexpr double curvewidth = 36;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <limits>
 #include <optional>
 #include <span>
 #include <vector>
@@ -12,9 +11,6 @@
 
 namespace tarvane {
 namespace {
-
-/// A record number has 16 bits.
-constexpr std::size_t mostports = std::numeric_limits<std::int16_t>::max();
 
 WriteOutcome refusal(int code) {
     return {std::error_code(code, std::generic_category())};

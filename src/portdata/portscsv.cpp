@@ -4,9 +4,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <system_error>
 
+#include "portdata/recordfiles.h"
 #include "text/csvrows.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
@@ -16,8 +16,6 @@ namespace {
 
 constexpr std::size_t longestname = 35;
 constexpr std::size_t longestlabel = 5;
-constexpr std::size_t mostports = std::numeric_limits<std::int16_t>::max();
-
 enum class Holds { number, name, zone, value, level, source, label, month, bytes };
 
 struct Column {

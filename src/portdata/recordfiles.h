@@ -1,6 +1,7 @@
 // Records in their files: each call reads or replaces a file whole. Must not keep anything open.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -8,6 +9,9 @@
 #include "portdata/records.h"
 
 namespace tarvane {
+
+/// As many ports as an area file can hold: their numbers are 16-bit integers.
+inline constexpr std::size_t mostports = 32767;
 
 /// Ports in an area file: its length over 197 to the nearest whole number, halves to even; 0 if it can't be opened.
 std::int16_t portcount(const std::string& path);

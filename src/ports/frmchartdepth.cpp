@@ -10,12 +10,6 @@
 #include "platform/qt/twips.h"
 
 namespace tarvane {
-namespace {
-
-constexpr int rowsinview = 22;
-
-}  // namespace
-
 frmChartdepth::frmChartdepth(MainContext& maincontext, QWidget* parent)
     : ModalDialog("frmChartdepth", "User Depth and Notes", parent),
       context(maincontext),
@@ -23,7 +17,7 @@ frmChartdepth::frmChartdepth(MainContext& maincontext, QWidget* parent)
     buildlayout();
     for (const std::string& row : notes.rows)
         List1->addItem(QString::fromStdString(row));
-    setrowsinview(*List1, rowsinview);
+    setrowsinview(*List1, 22);
     List1->setCurrentRow(context.session.settings.currentport - 1);
     shownotes();
     connectcontrols();

@@ -17,8 +17,6 @@
 namespace tarvane {
 namespace {
 
-constexpr int rowsinview = 22;
-
 const char* const helptext =
     "Double click on an entry or select a port from the list and click OK.\n"
     "Enter part of the ports name and click the Search button.\n"
@@ -131,7 +129,7 @@ void frmconfig::openlist() {
         sortbyname(ports);
         showlist();
     }
-    setrowsinview(*portlist2, rowsinview);
+    setrowsinview(*portlist2, 22);
     if (trim(settings.areafile) != trim(settings.hcfile)) return;
     // Silently: a click goes by the name, which two ports may have.
     const QSignalBlocker quiet(portlist2);

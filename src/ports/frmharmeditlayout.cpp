@@ -11,7 +11,6 @@ namespace tarvane {
 namespace {
 
 constexpr int filerows = 5;
-constexpr int portrows = 12;
 constexpr int numberdigits = 9;
 constexpr int namecharacters = 22;
 
@@ -25,12 +24,6 @@ constexpr ConstantRow constantrows[] = {
 };
 
 constexpr const char* months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-
-QLabel* captionof(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(text);
-    label->setBuddy(buddy);
-    return label;
-}
 
 }  // namespace
 
@@ -82,7 +75,7 @@ QLayout* frmharmedit::buildlists() {
         list->setMinimumWidth(namecharacters * fontMetrics().averageCharWidth() + twips(300));
         list->installEventFilter(this);
     }
-    setrowsinview(*portlist, portrows);
+    setrowsinview(*portlist, 12);
     fileList->setFixedHeight(filerows * fontMetrics().lineSpacing() + 2 * fileList->frameWidth() + twips(90));
     auto* lists = new QVBoxLayout;
     lists->addWidget(captionof("Choose the area to &edit", fileList));

@@ -13,17 +13,10 @@
 namespace tarvane {
 namespace {
 
-constexpr int rowsinview = 12;
 constexpr int destinationrows = 5;
 
 const char* const destinationhelp =
     "Click on a filename to which ports will be added or type a new file name (omit the .HC extension)";
-
-QLabel* captionof(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(text);
-    label->setBuddy(buddy);
-    return label;
-}
 
 /// Puts names into a list that shows others; its place and its highlighted row stay where only some were added.
 void fill(QListWidget& list, const std::vector<std::string>& names) {
@@ -78,7 +71,7 @@ QLayout* frmHCcopy::buildlists() {
          {std::pair{fillist, "&Area to copy from"}, std::pair{List1, "&Click on an entry to copy to destination file"},
           std::pair{List2, "&Ports of the destination file"}}) {
         list->setMinimumWidth(twips(column == 0 ? 2000 : 3300));
-        setrowsinview(*list, rowsinview);
+        setrowsinview(*list, 12);
         list->installEventFilter(this);
         grid->addWidget(captionof(caption, list), 0, column);
         grid->addWidget(list, 1, column++);

@@ -11,9 +11,8 @@
 namespace tarvane {
 namespace {
 
-constexpr int rowsinview = 16;
 constexpr int notelines = 6;
-constexpr int numberdigits = 9;
+constexpr int digitsinview = 9;
 
 void put(QLabel* label, const std::string& value) {
     label->setText(QString::fromStdString(value));
@@ -73,7 +72,7 @@ QLayout* frmshowconf::buildvalues() {
     values->setRowMinimumHeight(4, fontMetrics().height() / 2);
     addrow(5, "Port", portnolabel, confportnamebox);
     addrow(6, "User Depth", depth);
-    values->setColumnMinimumWidth(1, numberdigits * fontMetrics().horizontalAdvance('0'));
+    values->setColumnMinimumWidth(1, digitsinview * fontMetrics().horizontalAdvance('0'));
     values->setColumnStretch(2, 1);
 
     auto* right = new QVBoxLayout;
@@ -94,7 +93,7 @@ void frmshowconf::showconfiguration() {
     const int rowwidth = confportlist->sizeHintForColumn(0) + 2 * confportlist->frameWidth() +
                          confportlist->verticalScrollBar()->sizeHint().width() + 2;
     confportlist->setFixedWidth(std::max(rowwidth, 24 * fontMetrics().averageCharWidth()));
-    setrowsinview(*confportlist, rowsinview);
+    setrowsinview(*confportlist, 16);
     confportlist->setCurrentRow(view.selectedrow);
     showport();
 }

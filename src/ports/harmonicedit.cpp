@@ -15,11 +15,6 @@
 namespace tarvane {
 namespace {
 
-bool refuse(MainContext& context, const std::string& why) {
-    context.services.messages.show(why, messagetitle, MessageIcon::exclamation);
-    return false;
-}
-
 std::int16_t recordnumber(const HarmonicEdit& edit) {
     return static_cast<std::int16_t>(edit.listindex + 1);
 }

@@ -11,11 +11,6 @@
 namespace tarvane {
 namespace {
 
-bool refuse(MainContext& context, const std::string& why) {
-    context.services.messages.show(why, messagetitle, MessageIcon::exclamation);
-    return false;
-}
-
 /// The names of a file's ports, whatever was there before them. False, told, when it can't be read.
 bool readnames(MainContext& context, const std::string& path, std::vector<std::string>& names) {
     names.clear();

@@ -16,6 +16,11 @@ void tellfailure(MainContext& context, const std::string& failed, const std::str
     context.services.messages.show(failed + "\r" + reason, messagetitle, MessageIcon::exclamation);
 }
 
+bool refuse(MainContext& context, const std::string& why) {
+    context.services.messages.show(why, messagetitle, MessageIcon::exclamation);
+    return false;
+}
+
 void tellmissing(MainContext& context, const std::string& first) {
     answer(context, "");
     context.services.messages.show(first + "\rbefore choosing this option", messagetitle, MessageIcon::information);

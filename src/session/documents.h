@@ -20,6 +20,9 @@ void answer(MainContext& context, const std::string& text);
 /// Why a command has done nothing, told in a box: "The file could not be written:", and the reason under it.
 void tellfailure(MainContext& context, const std::string& failed, const std::string& reason);
 
+/// Why a command isn't to be had as it was asked for, told in a box. False, for its caller to hand on.
+bool refuse(MainContext& context, const std::string& why);
+
 /// Tells that something must be calculated before: "Calculate a months tides".
 void tellmissing(MainContext& context, const std::string& first);
 

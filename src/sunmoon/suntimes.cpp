@@ -51,8 +51,8 @@ SolarPosition position(int N, double lonrad, bool evening) {
     sun.T = N + (lonrad + (evening ? threequarters : quartercircle)) / wholecircle;
     const double M = 0.017202 * sun.T - 0.0574039;
     double L = wrapcircle(M + 0.0334405 * std::sin(M) + 0.000349066 * std::sin(2 * M) + 4.93289, wholecircle);
-    const double quarters = L / quartercircle;
-    if (quarters == std::floor(quarters)) L += secondofarc;
+    const double quadrants = L / quartercircle;
+    if (quadrants == std::floor(quadrants)) L += secondofarc;
 
     sun.rightascension = std::atan(0.91746 * std::tan(L));
     if (L > threequarters) {

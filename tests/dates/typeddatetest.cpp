@@ -9,7 +9,7 @@
 namespace tarvane {
 namespace {
 
-const Date today = makedate(2026, 11, 23);
+const Date thisday = makedate(2026, 11, 23);
 
 /// Each row: the form, what is typed one way and another, "|" between, and the date as year-month-day or the beginning
 /// of the refusal.
@@ -19,7 +19,7 @@ void expectrows(const std::vector<Row>& rows, const Locale& locale) {
     for (const auto& [form, texts, expected] : rows) {
         std::istringstream all(texts);
         for (std::string typed; std::getline(all, typed, '|');) {
-            const ReadDate read = readdate(typed, {form, ""}, locale, today);
+            const ReadDate read = readdate(typed, {form, ""}, locale, thisday);
             const std::string outcome = read.date ? formatdate(locale, *read.date, "yyyy-mm-dd") : read.refusal;
             EXPECT_TRUE(outcome.starts_with(expected)) << form << " " << typed << " " << outcome;
             EXPECT_NE(read.date.has_value(), !read.refusal.empty()) << typed;
@@ -68,7 +68,7 @@ TEST(ReadDate, WhatIsNoDayIsRefusedNotMovedToAnother) {
                 {DMY, "5/2|5/2/2027/1|005/2/2027|5:2:2027|tomorrow",
                  "The date is typed as day/month/year, such as 23/11/2026."}},
                ScriptedLocale());
-    EXPECT_TRUE(readdate("", {DMY, ""}, ScriptedLocale(), today).refusal.starts_with("The date is typed"));
+    EXPECT_TRUE(readdate("", {DMY, ""}, ScriptedLocale(), thisday).refusal.starts_with("The date is typed"));
 }
 
 TEST(ReadDate, MonthsByName) {
@@ -94,7 +94,7 @@ TEST(ReadDate, EveryDayComesBackFromItsOwnText) {
     for (const char* form : {DMY, MDY, YMD, YDM})
         for (Date date = makedate(2027, 12, 25); date < makedate(2029, 1, 5); date += std::chrono::days(1)) {
             const DateConventions conventions{form, ""};
-            EXPECT_EQ(readdate(typeddate(date, conventions, locale), conventions, locale, today).date, date);
+            EXPECT_EQ(readdate(typeddate(date, conventions, locale), conventions, locale, thisday).date, date);
         }
 }
 

@@ -7,13 +7,12 @@
 #include "text/singlebyte.h"
 #include "tides/options.h"
 #include "tides/portchoice.h"
+#include "tides/runtides.h"
 #include "tides/textforms.h"
 
 namespace tarvane {
 
 namespace {
-
-constexpr int refused = 2;
 
 /// The phases whose plain mean points the other way, by the names of a table of ports.
 std::string phasesacrossnorth(const HarmonicRecord& first, const HarmonicRecord& second) {

@@ -18,8 +18,6 @@ namespace tarvane {
 
 namespace {
 
-constexpr int refused = 2;
-
 /// Heights with the user's depth would be silently wrong if its file were there and not readable.
 std::string checkdepths(const Settings& settings) {
     std::error_code ignored;

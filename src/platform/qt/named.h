@@ -21,6 +21,13 @@ inline QLabel* namedlabel(const char* name, QWidget* parent, const QString& text
     return label;
 }
 
+/// What stands beside a control: its letter behind "&" goes there.
+inline QLabel* captionof(const char* text, QWidget* buddy) {
+    auto* label = new QLabel(text);
+    label->setBuddy(buddy);
+    return label;
+}
+
 /// A label in a sunken frame for a value that the user can't change. Never taken for rich text.
 inline QLabel* namedvalue(const char* name) {
     auto* label = named<QLabel>(name);

@@ -196,7 +196,7 @@ void frmHarmAdjust::redraw() {
 
 void frmHarmAdjust::drawcurve(CurvePlace place) {
     shown = true;
-    drawworkspacecurve(workspace, place, *columns[place].picture);
+    DrawAdjustCurve(workspace, place, *columns[place].picture);
     columns[place].turning->setText(onscreen(TurningText(workspace.curves[place])));
 }
 

@@ -69,6 +69,7 @@ class frmHarmAdjust : public QMainWindow {
     void undo_Click();
     void weigh_Click();
     void circle_Click();
+    // `Picture1_MouseMove`, `Picture2_MouseMove` and `Picture3_MouseMove` do the same; so do the three `_MouseDown`.
     void Picture_MouseMove(double x);
     void Picture_MouseDown();
     void steptime(int tenminutes);

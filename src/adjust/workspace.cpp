@@ -57,7 +57,7 @@ void rereadheights(AdjustWorkspace& workspace) {
         workspace.readings = heights.readings;
 }
 
-void drawreadings(const std::vector<HeightRecord>& readings, DrawSurface& picture) {
+void DrawObservedHeights(const std::vector<HeightRecord>& readings, DrawSurface& picture) {
     // kept: joined in the order of entry, never sorted
     for (std::size_t i = 0; i + 1 < readings.size(); ++i)
         picture.line(readings[i].obstime, readings[i].obsheight, readings[i + 1].obstime, readings[i + 1].obsheight,
@@ -174,7 +174,7 @@ void AdjustReadout(AdjustWorkspace& workspace) {
     }
 }
 
-void drawworkspacecurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSurface& picture) {
+void DrawAdjustCurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSurface& picture) {
     const Prediction& curve = workspace.curves[place];
     const CurveLimits limits = limitsof(curve);
     startpicture(picture, limits);
@@ -186,7 +186,7 @@ void drawworkspacecurve(const AdjustWorkspace& workspace, CurvePlace place, Draw
         drawseries(picture, curve.curvesamples, curve.samplecount - 1, black);
         picture.setlinewidth(1);
         drawlayers(picture, curve, all, dashedlayers);
-        if (place == intermediatecurve) drawreadings(workspace.readings, picture);
+        if (place == intermediatecurve) DrawObservedHeights(workspace.readings, picture);
     }
     drawgrid(picture, limits, " Metres");
     picture.setpersistent(false);

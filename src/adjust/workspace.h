@@ -72,8 +72,9 @@ void workspacepress(AdjustWorkspace& workspace);
 /// `AdjustReadout`: the columns at the time in `timeval`.
 void AdjustReadout(AdjustWorkspace& workspace);
 
-/// Draws one curve on its picture, the readings over the intermediate one.
-void drawworkspacecurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSurface& picture);
+/// `DrawAdjustCurve1`, `DrawAdjustCurve2` and `DrawAdjustCurve3`: one curve on its picture, the readings over the
+/// intermediate one.
+void DrawAdjustCurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSurface& picture);
 
 /// `TurningText`: high and low waters of a curve as `TurningPoints1`, `TurningPoints2` and `TurningPoints3` pick them,
 /// "03:12 1.2" each with blanks between.

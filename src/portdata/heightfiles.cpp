@@ -9,7 +9,7 @@
 namespace tarvane {
 namespace {
 
-constexpr std::size_t notestart = 20;
+constexpr std::size_t notestart = 20;  // of `obsnote`, blanks
 constexpr double hoursofday = 24;
 
 float readsingle(std::span<const std::byte> bytes) {

@@ -126,7 +126,7 @@ TEST_F(Workspace, DrawsCurvesOverOneFloorAndReadingsUntilTheDayIsStepped) {
     chooseheights(workspace, readings(workspace, 0, 0, 10));
     using Kind = ScriptedSurface::Kind;
     const auto greenlines = [&](CurvePlace place) {
-        drawworkspacecurve(workspace, place, picture);
+        DrawAdjustCurve(workspace, place, picture);
         return ScriptedSurface::only(picture.persistentlayer, Kind::line, 0x00FF00).size();
     };
     const std::size_t f4 = greenlines(port1curve);

@@ -103,7 +103,7 @@ void updatecalc(benchmark::State& state) {
         stepconstant(workspace, 1, workspace.steps[1] % 359 + 1);
         tarvane::updatecalc(workspace, bench.context);
         for (const CurvePlace place : {port1curve, port2curve, intermediatecurve}) {
-            drawworkspacecurve(workspace, place, pictures[place]);
+            DrawAdjustCurve(workspace, place, pictures[place]);
             benchmark::DoNotOptimize(pictures[place].image());
         }
     }

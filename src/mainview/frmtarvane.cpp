@@ -66,7 +66,8 @@ void frmtarvane::copyview() {
     for (const auto& [label, text] : labels)
         label->setText(screentext(*text));
     if (laidoutmode != session.layersmode || laidoutlines != tablelines()) layoutcontrols();
-    showdaytable();
+    if (shownday != session.daytable.daystide1) showdaytable();
+    daystide2->setVisible(!daystide2->text().isEmpty() && !view.monthvisible);
     layers.show(session);
     showmenus();
     Nextday->setVisible(view.stepbuttonsvisible);

@@ -96,8 +96,10 @@ class frmtarvane : public QMainWindow {
     PictureBox* surface = nullptr;  ///< the window's own surface, on which the controls lie
     MainContext context;
     std::vector<Switched> switched;
+    QAction* layersentry = nullptr;  ///< mnuLayersShow, which carries a tick
     FirstDrawing firstdrawing;
     int laidoutmode = 0;                   ///< the layers mode that the layout was made for
+    std::string shownday;                  ///< the day table that `daystide1` and `daystide2` show
     int laidoutlines = 0;                  ///< and the lines of its day table
     std::vector<std::string> listedmonth;  ///< what `monthspredictions` was filled with
     bool loaded = false;

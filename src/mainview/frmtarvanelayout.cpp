@@ -153,6 +153,7 @@ void frmtarvane::layoutrightcolumn(int left, int width) {
 /// The day's table with all its rows: in large letters where the column is its own and they have room, else in smaller
 /// ones, and in two columns when even these don't.
 void frmtarvane::showdaytable() {
+    shownday = session.daytable.daystide1;
     const QStringList lines = screentext(session.daytable.daystide1).split('\n');
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.3);
@@ -165,7 +166,6 @@ void frmtarvane::showdaytable() {
     daystide1->setText(lines.first(std::min(lines.size(), capacity)).join('\n'));
     const QStringList rest = lines.mid(capacity);
     daystide2->setText(rest.join('\n'));
-    daystide2->setVisible(!rest.isEmpty() && !session.view.monthvisible);
     const int headings = headinglines * QFontMetrics(used).lineSpacing();
     daystide2->setGeometry(daystide1->x() + daystide1->width() / 2, daystide1->y() + headings, daystide1->width() / 2,
                            daystide1->height() - headings);

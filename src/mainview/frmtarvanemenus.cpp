@@ -84,7 +84,8 @@ void frmtarvane::buildmenus() {
         connect(action, &QAction::triggered, this, [this, &entry] { choose(entry); });
         switched.push_back({action, entry.visible, nullptr});
     }
-    menuentry("mnuLayersShow")->setCheckable(true);
+    layersentry = menuentry("mnuLayersShow");
+    layersentry->setCheckable(true);
 }
 
 void frmtarvane::choose(const MenuEntry& entry) {
@@ -103,7 +104,7 @@ void frmtarvane::showmenus() {
         if (entry.visible) entry.action->setVisible(session.view.*entry.visible);
         if (entry.enabled) entry.action->setEnabled(session.view.*entry.enabled);
     }
-    menuentry("mnuLayersShow")->setChecked(session.layersmode == 1);
+    layersentry->setChecked(session.layersmode == 1);
 }
 
 QAction* frmtarvane::menuentry(const char* name) const {

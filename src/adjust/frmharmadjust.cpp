@@ -210,9 +210,10 @@ void frmHarmAdjust::showboxes() {
 }
 
 void frmHarmAdjust::showmarks() {
+    const bool twoports = !workspace.name1.empty() && !workspace.name2.empty();
     for (std::size_t row = 0; row < boxes.size(); ++row) {
         const ConstantRow& constant = constantrows[row];
-        const bool across = !workspace.name2.empty() && acrossnorth(constant, workspace.first, workspace.second);
+        const bool across = twoports && acrossnorth(constant, workspace.first, workspace.second);
         northmarks[row]->setVisible(across);
         if (!across) continue;
         const double one = workspace.first.*constant.field, other = workspace.second.*constant.field;

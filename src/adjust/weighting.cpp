@@ -107,6 +107,7 @@ void takecirclemean(AdjustWorkspace& workspace, std::size_t row) {
 }
 
 std::string takecirclemeans(AdjustWorkspace& workspace) {
+    if (workspace.name1.empty() || workspace.name2.empty()) return "Two ports are needed: load them first.";
     std::string taken;
     const ConstantTexts before = workspace.boxes;
     for (std::size_t row = 0; row < constantrows.size(); ++row) {

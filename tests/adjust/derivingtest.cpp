@@ -62,6 +62,7 @@ TEST_F(Deriving, APlaceIsWeighedOnceItIsUnderstood) {
     };
     EXPECT_TRUE(hasend(": two ports are needed to weigh between.")) << "a place can be kept without ports";
     loadport1(workspace, south);
+    EXPECT_EQ(takecirclemeans(workspace), "Two ports are needed: load them first.");
     loadport2(workspace, north);
     EXPECT_EQ(placetexts(workspace).zone, "0");
     const struct {

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "platform/qt/choicelist.h"
 #include "platform/qt/named.h"
 #include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
@@ -24,8 +25,8 @@ FrmAdjustfileselect::FrmAdjustfileselect(MainContext& maincontext, AdjustWorkspa
 }
 
 void FrmAdjustfileselect::buildlayout() {
-    File1 = named<QListWidget>("File1");
-    List1 = named<QListWidget>("List1");
+    File1 = named<ChoiceList>("File1");
+    List1 = named<ChoiceList>("List1");
     List1->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
     setrowsinview(*List1, 16);
     lblselectedport = namedvalue("lblselectedport");

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "adjust/savelocation.h"
+#include "platform/qt/choicelist.h"
 #include "platform/qt/named.h"
 #include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
@@ -26,9 +27,9 @@ frmAdjustSave::frmAdjustSave(MainContext& maincontext, AdjustWorkspace& adjustwo
 }
 
 void frmAdjustSave::buildlayout() {
-    File1 = named<QListWidget>("File1");
+    File1 = named<ChoiceList>("File1");
     File1->setAccessibleName("Area Files");
-    List1 = named<QListWidget>("List1");
+    List1 = named<ChoiceList>("List1");
     List1->setAccessibleName("Locations");
     List1->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
     setrowsinview(*List1, 16);

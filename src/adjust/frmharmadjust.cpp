@@ -38,6 +38,7 @@ frmHarmAdjust::frmHarmAdjust(MainContext& maincontext, QWidget* over)
     centreon(*this, nullptr);
     if (over) setWindowIcon(over->windowIcon());
     showworkspace();
+    redraw();
     cmdCalc->setFocus();
 }
 
@@ -46,9 +47,7 @@ void frmHarmAdjust::connectcontrols() {
         PictureBox* const picture = columns[place].picture;
         picture->onmousemove = [this](double x, double) { Picture_MouseMove(x); };
         picture->onmousedown = [this](double, double) { Picture_MouseDown(); };
-        picture->onresized = [this, place] {
-            if (shown) drawcurve(place);
-        };
+        picture->onresized = [this, place] { drawcurve(place); };
     }
     for (std::size_t row = 0; row < boxes.size(); ++row) {
         connect(boxes[row], &QLineEdit::textEdited, this,
@@ -144,17 +143,16 @@ void frmHarmAdjust::displayheights(const std::string& path) {
 
 void frmHarmAdjust::fit_Click() {
     const HeightFit fit = fitworkspace(workspace, context);
-    found->setText(onscreen(fittext(fit, workspace.readings)));
     workspace.answer = fit.refusal.empty() ? "Fitted to the observed heights; Undo brings the values before back."
                                            : "Nothing was fitted.";
     showworkspace();
+    found->setText(onscreen(fittext(fit, workspace.readings)));
     redraw();
 }
 
 void frmHarmAdjust::undo_Click() {
     undoboxes(workspace);
     updatecalc(workspace, context);
-    found->clear();
     workspace.answer = "The values before are back.";
     showworkspace();
     redraw();
@@ -195,7 +193,6 @@ void frmHarmAdjust::redraw() {
 }
 
 void frmHarmAdjust::drawcurve(CurvePlace place) {
-    shown = true;
     DrawAdjustCurve(workspace, place, *columns[place].picture);
     columns[place].turning->setText(onscreen(TurningText(workspace.curves[place])));
 }
@@ -204,15 +201,19 @@ void frmHarmAdjust::showboxes() {
     for (std::size_t row = 0; row < boxes.size(); ++row) {
         labels1[row]->setText(onscreen(workspace.port1[row]));
         labels2[row]->setText(onscreen(workspace.port2[row]));
-        if (boxes[row]->text() != onscreen(workspace.boxes[row])) boxes[row]->setText(onscreen(workspace.boxes[row]));
+        if (boxes[row]->text() != onscreen(workspace.boxes[row])) {
+            boxes[row]->setText(onscreen(workspace.boxes[row]));
+            found->clear();  // what a fit told isn't of these constants
+        }
         steps[row]->setvalue(workspace.steps[row]);
     }
 }
 
 void frmHarmAdjust::showmarks() {
+    const bool twoports = !workspace.name1.empty() && !workspace.name2.empty();
     for (std::size_t row = 0; row < boxes.size(); ++row) {
         const ConstantRow& constant = constantrows[row];
-        const bool across = !workspace.name2.empty() && acrossnorth(constant, workspace.first, workspace.second);
+        const bool across = twoports && acrossnorth(constant, workspace.first, workspace.second);
         northmarks[row]->setVisible(across);
         if (!across) continue;
         const double one = workspace.first.*constant.field, other = workspace.second.*constant.field;

@@ -89,7 +89,6 @@ class frmHarmAdjust : public QMainWindow {
     std::array<QLabel*, constantrows.size()> labels1{}, labels2{};
     std::array<QAction*, constantrows.size()> northmarks{};
     QAction* mnuFit = nullptr;
-    bool shown = false;  ///< drawn once: a resized picture is drawn anew
 };
 
 }  // namespace tarvane

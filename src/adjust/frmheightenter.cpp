@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "platform/qt/choicelist.h"
 #include "platform/qt/named.h"
 #include "portdata/datafolder.h"
 
@@ -61,7 +62,7 @@ QLayout* frmHeightEnter::buildlists() {
     grid->addWidget(new QLabel("Metres    (X . XX)"), 1, 2, 1, 3);
     int column = 0;
     for (const ListOfNumbers& told : lists) {
-        QListWidget* const list = this->*told.list = named<QListWidget>(told.name);
+        QListWidget* const list = this->*told.list = named<ChoiceList>(told.name);
         list->setAccessibleName(told.spoken);
         for (int i = 0; i < told.count; ++i)
             list->addItem(QString::asprintf(told.pattern, i * told.step));
@@ -79,7 +80,7 @@ QLayout* frmHeightEnter::buildlists() {
 }
 
 QLayout* frmHeightEnter::buildentries() {
-    List1 = named<QListWidget>("List1");
+    List1 = named<ChoiceList>("List1");
     List1->setAccessibleName("Readings");
     List1->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
     cmdAdd = named<QPushButton>("cmdAdd", "&Add");
@@ -97,7 +98,7 @@ QLayout* frmHeightEnter::buildentries() {
 }
 
 QLayout* frmHeightEnter::buildfiles() {
-    File1 = named<QListWidget>("File1");
+    File1 = named<ChoiceList>("File1");
     File1->setAccessibleName("Height files");
     txtFileName = named<QLineEdit>("txtFileName");
     cmdOpen = named<QPushButton>("cmdOpen", "&Open");

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/qt/choicelist.h"
 #include "platform/qt/named.h"
 #include "portdata/datafolder.h"
 #include "text/singlebyte.h"
@@ -24,7 +25,7 @@ frmSelectHeightFile::frmSelectHeightFile(MainContext& maincontext, AdjustWorkspa
 }
 
 void frmSelectHeightFile::buildlayout() {
-    File1 = named<QListWidget>("File1");
+    File1 = named<ChoiceList>("File1");
     setrowsinview(*File1, 10);
     lblselectedfile = namedvalue("lblselectedfile");
     cmdOK = named<QPushButton>("cmdOK", "OK");

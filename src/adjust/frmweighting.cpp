@@ -74,7 +74,7 @@ void frmWeighting::buildlayout() {
     form->addRow("&Name of the place", txtname);
     form->addRow("L&atitude", txtlat);
     form->addRow("L&ongitude", txtlong);
-    form->addRow("&Zone, hours (0 for UT, 1 for UT+1)", txtzone);
+    form->addRow("&Zone, hours (0 for UT, -1 for UT+1)", txtzone);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     for (QPushButton* button : {cmdWeigh, cmdPlace, cmdClose})
@@ -93,7 +93,7 @@ PlaceUnderstood frmWeighting::typed() const {
 void frmWeighting::showunderstood() {
     const PlaceUnderstood now = typed();
     understood->setText(QString::fromStdString(now.words));
-    cmdWeigh->setEnabled(now.good);
+    cmdWeigh->setEnabled(now.weighable);
     cmdPlace->setEnabled(now.good);
 }
 

@@ -16,6 +16,15 @@ bool hasposition(const HarmonicRecord& port) {
     return port.PortLat != 0 || port.PortLong != 0;
 }
 
+/// Why the two ports can't be weighed; empty when they can.
+std::string portsfault(const AdjustWorkspace& workspace) {
+    if (workspace.name1.empty() || workspace.name2.empty()) return "two ports are needed to weigh between.";
+    for (const auto& [port, name] :
+         {std::pair{&workspace.first, &workspace.name1}, {&workspace.second, &workspace.name2}})
+        if (!hasposition(*port)) return *name + " has no position: nothing can be weighed by distance.";
+    return "";
+}
+
 /// A coordinate in the edit form: digits, points, and one of the two letters at the end.
 bool edited(const std::string& text, const char* letters) {
     if (text.size() < 4 || std::string_view(letters).find(text.back()) == std::string_view::npos) return false;
@@ -55,10 +64,6 @@ PlaceUnderstood understandplace(const AdjustWorkspace& workspace, const PlaceTex
         understood.words = words;
         return understood;
     };
-    if (workspace.name1.empty() || workspace.name2.empty()) return wants("Two ports are needed: load them first.");
-    for (const auto& [port, name] :
-         {std::pair{&workspace.first, &workspace.name1}, {&workspace.second, &workspace.name2}})
-        if (!hasposition(*port)) return wants(*name + " has no position: nothing can be weighed by distance.");
     if (!edited(texts.latitude, "NS")) return wants("Latitude as 50.45.00N: degrees, minutes, hundredths.");
     if (!edited(texts.longitude, "EW")) return wants("Longitude as 001.30.00W: degrees, minutes, hundredths.");
     GivenPlace& place = understood.place;
@@ -72,13 +77,15 @@ PlaceUnderstood understandplace(const AdjustWorkspace& workspace, const PlaceTex
         if (zoneof(place.zoneletter) != val(zone))
             return wants("The zone is a whole number of hours, as the tables of ports have it.");
     }
+    understood.good = true;
+    const std::string position = LatitudeText(place.latitude) + LongitudeText(place.longitude) + ": ";
+    if (const std::string fault = portsfault(workspace); !fault.empty()) return wants(position + fault);
     const double to1 = globeangle(place.latitude, place.longitude, workspace.first);
     const double to2 = globeangle(place.latitude, place.longitude, workspace.second);
     const double weight = distanceweight(to1, to2);
-    understood.good = true;
-    understood.words = LatitudeText(place.latitude) + LongitudeText(place.longitude) + ": " + kilometres(to1) +
-                       workspace.name1 + " (weight " + format(weight, "0.00") + "), " + kilometres(to2) +
-                       workspace.name2 + " (weight " + format(1 - weight, "0.00") + ").";
+    understood.weighable = true;
+    understood.words = position + kilometres(to1) + workspace.name1 + " (weight " + format(weight, "0.00") + "), " +
+                       kilometres(to2) + workspace.name2 + " (weight " + format(1 - weight, "0.00") + ").";
     if (std::min(to1, to2) > farthest) understood.words += " That is far from both.";
     return understood;
 }
@@ -100,6 +107,7 @@ void takecirclemean(AdjustWorkspace& workspace, std::size_t row) {
 }
 
 std::string takecirclemeans(AdjustWorkspace& workspace) {
+    if (workspace.name1.empty() || workspace.name2.empty()) return "Two ports are needed: load them first.";
     std::string taken;
     const ConstantTexts before = workspace.boxes;
     for (std::size_t row = 0; row < constantrows.size(); ++row) {

@@ -18,7 +18,8 @@ PlaceTexts placetexts(const AdjustWorkspace& workspace);
 
 /// How the texts are understood: " 50.45N   1.30W, 12 km from Alder Quay (weight 0.71), ...", or what is missing.
 struct PlaceUnderstood {
-    bool good = false;
+    bool good = false;       ///< a place that can be kept
+    bool weighable = false;  ///< and two ports to weigh it between
     GivenPlace place;
     std::string words;
 };

@@ -64,6 +64,13 @@ void DrawObservedHeights(const std::vector<HeightRecord>& readings, DrawSurface&
                      green);
 }
 
+/// The pictures are too narrow for a sentence in one line.
+std::string intwolines(std::string sentence) {
+    if (const std::size_t space = sentence.find(' ', sentence.size() / 2); space != std::string::npos)
+        sentence[space] = '\n';
+    return sentence;
+}
+
 double hoursof(const std::string& time) {
     const std::size_t colon = time.find(':');
     if (colon == std::string::npos) return 0;
@@ -178,7 +185,7 @@ void DrawAdjustCurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSur
     const Prediction& curve = workspace.curves[place];
     const CurveLimits limits = limitsof(curve);
     startpicture(picture, limits);
-    if (!curve.defined) drawnote(picture, limits, std::string("No prediction\n") + curve.whynot);
+    if (!curve.defined) drawnote(picture, limits, "No prediction\n" + intwolines(curve.whynot));
     if (curve.defined && hasport(workspace, place)) {
         LayerChoice all;
         all.fill(true);

@@ -53,8 +53,8 @@ HeightsSaved writeheights(const std::string& path, const std::vector<HeightRecor
     auto bytes = wholefile(path);
     if (!bytes) return {WriteOutcome{std::make_error_code(std::errc::io_error)}, 0};
     const std::size_t old = bytes->size() / heightrecordsize;
-    // kept: a shorter list leaves the old readings behind it
-    bytes->resize(std::max(bytes->size(), readings.size() * heightrecordsize));
+    // kept: a shorter list leaves the old readings behind it. Bytes of a broken one go: no file could be read with them
+    bytes->resize(std::max(old, readings.size()) * heightrecordsize);
     for (std::size_t i = 0; i < readings.size(); ++i) {
         const auto record = std::span(*bytes).subspan(i * heightrecordsize, heightrecordsize);
         std::fill(record.begin(), record.begin() + notestart, std::byte{0});

@@ -181,6 +181,9 @@ TEST_F(HeightFiles, FilesThatCannotBeUsedSayWhy) {
     writeheights(path, count(2));
     putfile(path, filetext(path) + "tail");
     EXPECT_EQ(readheights(path).fault, "The file of heights ends within a reading");
+    writeheights(path, count(1));
+    EXPECT_EQ(readheights(path).readings.size(), 2U);
+    EXPECT_EQ(readheights(path).fault, "") << "what is saved over a broken file can be read";
     for (const HeightRecord& wild : {HeightRecord{std::nanf(""), 1}, {-0.1F, 1}, {24.1F, 1}, {3, INFINITY}}) {
         std::filesystem::remove(path);
         writeheights(path, {wild});

@@ -28,6 +28,11 @@ struct FrmHarmAdjust : LoadedMain {
         scripted.windows.expect(name, [act](ModalWindow& opened) { act(dynamic_cast<Window&>(opened)); });
     }
     static QAction& entry(frmHarmAdjust& shop, const char* name) { return *shop.findChild<QAction*>(name); }
+    /// The keyboard comes to a list, which is no choice from it.
+    static void tabinto(QListWidget& list) {
+        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+        QApplication::sendEvent(&list, &focus);
+    }
     std::string answer(frmHarmAdjust& shop) { return shown(control<QLabel>(shop, "answer")); }
 };
 
@@ -35,6 +40,8 @@ TEST_F(FrmHarmAdjust, StepsTypedValuesAndReadouts) {
     frmHarmAdjust shop(context, nullptr);
     present(shop);
     expectroomfortexts(shop);
+    for (const frmHarmAdjust::Column& column : shop.columns)
+        EXPECT_NE(column.turning->text(), "") << "the curves are drawn as the window opens";
     EXPECT_EQ(shown(control<QLabel>(shop, "lblportname1")) + shown(control<QLabel>(shop, "P2M2g")), "Alder Quay160");
     auto& box = control<QLineEdit>(shop, "txtM2Hm");
     auto& step = control<StepControl>(shop, "UpDnM2Hm");
@@ -75,6 +82,8 @@ TEST_F(FrmHarmAdjust, TheCreeksStory) {
     EXPECT_FALSE(control<QPushButton>(shop, "cmdFit").isEnabled());
     // Twelve readings half a metre over the middle curve, and a slip of a finger among them.
     expectwindow<frmHeightEnter>("frmHeightEnter", [&](frmHeightEnter& form) {
+        for (auto* list : form.findChildren<QListWidget*>())
+            tabinto(*list);
         scripted.messages.expectshow("No time selected", "Tarvane");
         form.cmdAdd->click();
         for (int hour = 6; hour < 18; ++hour) {
@@ -114,6 +123,11 @@ TEST_F(FrmHarmAdjust, TheCreeksStory) {
         form.cmdSave->click();
         form.File1->setCurrentRow(0);
         form.Text1->setText("Kingfisher Creek");
+        tabinto(*form.List1);
+        form.Option1->setChecked(true);
+        scripted.messages.expectshow("Select the location to replace", "Tarvane");
+        form.cmdSave->click();
+        form.Option2->setChecked(true);
         form.cmdSave->click();
     });
     entry(shop, "MnuFileSave").trigger();

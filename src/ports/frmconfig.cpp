@@ -68,6 +68,7 @@ void frmconfig::buildlayout() {
     portlist2->setMinimumWidth(namewidth(*portlist2) + twips(600));
     portlist2->setAccessibleName("Ports");
     lblhint = named<QLabel>("lblhint", letterhint);
+    lblmissing = namedlabel("lblmissing", nullptr);
 
     auto* search = new QHBoxLayout;
     search->addWidget(txtSearch, 1);
@@ -80,6 +81,7 @@ void frmconfig::buildlayout() {
     whole->addLayout(search);
     whole->addLayout(middle, 1);
     whole->addWidget(lblhint);
+    whole->addWidget(lblmissing);
 }
 
 QLayout* frmconfig::buildside() {
@@ -147,6 +149,7 @@ void frmconfig::showlist() {
     portlist2->clear();
     for (const std::string& name : portnames(ports))
         portlist2->addItem(QString::fromStdString(name));
+    lblmissing->setText(QString::fromStdString(missingports(ports)));
 }
 
 void frmconfig::showhit(std::optional<std::size_t> index) {

@@ -31,7 +31,7 @@ class frmconfig : public ModalDialog {
     QPushButton* cmdSort = nullptr;
     QPushButton *portconfigok = nullptr, *portconfigcancel = nullptr;
     QLabel *confselectedport = nullptr, *portconfigbox = nullptr;
-    QLabel *Label1 = nullptr, *lblhint = nullptr;
+    QLabel *Label1 = nullptr, *lblhint = nullptr, *lblmissing = nullptr;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,10 +1,12 @@
 #include "ports/portlist.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "portdata/portsearch.h"
 #include "portdata/recordfiles.h"
+#include "text/numbers.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -60,6 +62,24 @@ std::vector<std::string> portnames(const PortList& list) {
     names.reserve(list.displaylist.size());
     std::transform(list.displaylist.begin(), list.displaylist.end(), std::back_inserter(names), trimmedname);
     return names;
+}
+
+std::string missingports(const PortList& list) {
+    std::multiset<std::string> shown;
+    for (const HarmonicRecord& port : list.displaylist)
+        shown.insert(trimmedname(port));
+    std::vector<std::string> missing;
+    for (const HarmonicRecord& port : list.filelist) {
+        const auto found = shown.find(trimmedname(port));
+        if (found == shown.end())
+            missing.push_back(trimmedname(port));
+        else
+            shown.erase(found);
+    }
+    if (missing.empty()) return "";
+    const std::string others =
+        missing.size() == 1 ? " is" : " and " + numbertext(static_cast<int>(missing.size()) - 1) + " more are";
+    return missing.front() + others + " not in this list: sort geographically to choose there.";
 }
 
 std::optional<std::string> pickport(PortList& list, std::string_view entry) {

@@ -29,6 +29,9 @@ void sortbyname(PortList& list);
 /// The trimmed names of `displaylist`.
 std::vector<std::string> portnames(const PortList& list);
 
+/// Which ports of the file the list on show has lost, a sentence; empty when it has them all.
+std::string missingports(const PortList& list);
+
 /// Makes the port of an entry's text the selected one and gives its name; of ports with the same name the last in the
 /// file. Nothing, the selection staying, when no port has that name.
 std::optional<std::string> pickport(PortList& list, std::string_view entry);

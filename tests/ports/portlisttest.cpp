@@ -52,6 +52,12 @@ TEST_F(PortListTest, SortingTakesTheLastEntryOffEachTime) {
         loadportlist(list, area);
         EXPECT_EQ(portnames(list), file);
     }
+    store({"Whitby", "Dover", "Ryde", "Ryde"});
+    EXPECT_EQ(missingports(list), "");
+    sorted();
+    EXPECT_EQ(missingports(list), "Ryde is not in this list: sort geographically to choose there.");
+    sorted();
+    EXPECT_EQ(missingports(list), "Whitby and 1 more are not in this list: sort geographically to choose there.");
     loadportlist(list, folder / "nowhere.hc");
     EXPECT_EQ(sorted(), Names{});
 }

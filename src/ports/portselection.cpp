@@ -44,7 +44,11 @@ bool choosesearea(MainContext& context) {
         context.services.messages.show("File name not recognised- you should click on a sea area.", "");
         return false;
     }
-    context.session.settings.areafile = trim(chosen);
+    // A shipped area that the user has changed in his own folder is meant as he changed it.
+    ConfigRecord record;
+    record.hcfilepath = trim(chosen);
+    findareafile(context.session.folders, record);
+    context.session.settings.areafile = trim(record.hcfilepath);
     return true;
 }
 

@@ -72,6 +72,15 @@ TEST_F(PortSelection, AnAreaIsStoredOnlyByOkAndNoneIsTakenThatIsCancelledOrMissi
     EXPECT_EQ(scripted.filedialogs.requests.back().filter, "Harmonics (*.HC)|*.hc");
     portconfigcancel(context);
     EXPECT_EQ(settings.areafile, second) << "the area listed isn't restored";
+
+    session.folders.ownfolder = folder / "own";
+    std::filesystem::create_directories(session.folders.ownfolder);
+    writeport(session.folders.ownfolder + "/Channel.hc", 1, fixtureport("Eider Bay", 9, "S"));
+    scripted.filedialogs.expectopen(second);
+    ASSERT_TRUE(choosesearea(context));
+    EXPECT_EQ(settings.areafile, session.folders.ownfolder + "/Channel.hc") << "as the user changed it";
+    session.folders.ownfolder.clear();
+    settings.areafile = second;
     EXPECT_EQ(filetext(session.folders.cfgpath()), before);
 
     picture.point(1, 1, black);

@@ -1,0 +1,103 @@
+// Services that answer every question with yes and show nothing, so that a command runs to its end over any file. Must
+// not touch the screen or a file.
+#pragma once
+
+#include <string>
+
+#include "platform/services.h"
+#include "tides/englishlocale.h"
+
+namespace tarvane::fuzz {
+
+struct QuietMessages : Messages {
+    void show(const std::string&, const std::string&, MessageIcon) override {}
+    bool ask(const std::string&, const std::string&, MessageIcon) override { return true; }
+    Answer askorcancel(const std::string&, const std::string&, MessageIcon) override { return Answer::yes; }
+    void beep() override {}
+};
+
+struct QuietDialogs : FileDialogs {
+    std::optional<std::string> open(const FileRequest&) override { return std::nullopt; }
+    std::optional<std::string> save(const FileRequest&) override { return std::nullopt; }
+};
+
+/// Pages that nobody sees, with plain text metrics.
+struct QuietPrinter : Printer {
+    double x = 0, y = 0;
+
+    PrintOutcome begin(const std::string&) override { return {}; }
+    double width() const override { return 11186; }
+    double height() const override { return 15120; }
+    double scalewidth() const override { return width(); }
+    double scaleheight() const override { return height(); }
+    void setorigin(double, double) override {}
+    void setfontsize(double) override {}
+    void setbold(bool) override {}
+    double currentx() const override { return x; }
+    double currenty() const override { return y; }
+    void setcurrentx(double to) override { x = to; }
+    void setcurrenty(double to) override { y = to; }
+    double textwidth(const std::string& text) const override { return 90.0 * static_cast<double>(text.size()); }
+    double textheight() const override { return 216; }
+    void print(const std::string&) override { y += textheight(); }
+    void printon(const std::string& text) override { x += textwidth(text); }
+    void setlinewidth(double) override {}
+    void line(double, double, double, double) override {}
+    void point(double, double) override {}
+    void newpage() override { x = y = 0; }
+    PrintOutcome enddocument() override { return {}; }
+    std::string destination() const override { return {}; }
+};
+
+struct QuietClipboard : Clipboard {
+    void clear() override {}
+    void settext(const std::string&) override {}
+};
+
+/// Noon of 22 November 2026, for ever.
+struct QuietClock : Clock {
+    ClockReading now() const override { return {std::chrono::year{2026} / 11 / 22, 12, 0, 0}; }
+};
+
+struct QuietFolders : Folders {
+    std::string root;
+
+    std::string program() const override { return root; }
+    std::optional<std::string> documents() const override { return root; }
+    std::string localappdata() const override { return root; }
+    bool canwrite(const std::string&) const override { return true; }
+    bool make(const std::string&) override { return true; }
+    bool remove(const std::string&) override { return true; }
+};
+
+struct QuietWindows : Windows {
+    void showmodal(ModalWindow&) override {}
+};
+
+struct QuietSurface : DrawSurface {
+    void setscale(double, double, double, double) override {}
+    void setpersistent(bool) override {}
+    void clear() override {}
+    void setbackcolour(Colour) override {}
+    void setlinewidth(int) override {}
+    void setlinestyle(LineStyle) override {}
+    void line(double, double, double, double, Colour) override {}
+    void box(double, double, double, double, Colour) override {}
+    void point(double, double, Colour) override {}
+    void text(double, double, const std::string&) override {}
+};
+
+struct QuietServices {
+    QuietMessages messages;
+    QuietDialogs filedialogs;
+    QuietPrinter printer;
+    QuietClipboard clipboard;
+    QuietClock clock;
+    EnglishLocale locale;
+    QuietFolders folders;
+    QuietWindows windows;
+
+    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+};
+
+}  // namespace tarvane::fuzz

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that this project needs and that are missing: "setup.sh run" for building and starting the
-# program, "setup.sh test" for the tests as well. Says nothing and asks for nothing when all are there.
+# program, "setup.sh package" for making a Debian package of it as well, "setup.sh test" for that and for the tests. Says
+# nothing and asks for nothing when all are there.
 set -euo pipefail
 
 run_packages=(
@@ -13,17 +14,26 @@ run_packages=(
   "nlohmann-json3-dev|writes its JSON (nlohmann-json)"
   "fonts-liberation|a clear font for a machine that has none"
 )
+package_packages=(
+  "dpkg-dev|finds the packages that a package depends on"
+  "file|tells it which files are programs"
+)
 test_packages=(
   "libgtest-dev|the test framework (GoogleTest)"
   "libbenchmark-dev|the timings (Google Benchmark)"
   "clang-format|checks the source's layout"
   "poppler-utils|reads the printed pages back as text"
+  "lintian|checks the Debian package against Debian's rules"
+  "desktop-file-utils|checks the menu entry"
+  "appstream|checks what software centres show"
+  "man-db|checks the manual pages"
 )
 
 case "${1:-run}" in
   run) wanted=("${run_packages[@]}") ;;
-  test) wanted=("${run_packages[@]}" "${test_packages[@]}") ;;
-  *) echo "setup.sh: say 'run' or 'test'" >&2; exit 2 ;;
+  package) wanted=("${run_packages[@]}" "${package_packages[@]}") ;;
+  test) wanted=("${run_packages[@]}" "${package_packages[@]}" "${test_packages[@]}") ;;
+  *) echo "setup.sh: say 'run', 'package' or 'test'" >&2; exit 2 ;;
 esac
 
 missing=()

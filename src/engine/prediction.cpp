@@ -58,8 +58,12 @@ void leaveundefined(Prediction& prediction, const char* whynot) {
 
 PredictedPort predictedport(const Settings& settings) {
     const UserDepthRecord depth = readdepth(settings.depfile, settings.currentport);
-    return {readport(settings.hcfile, settings.currentport), settings.currentport, depth.UserDepth,
-            settings.currentoutput, trim(depth.DepthPortName)};
+    return {readport(settings.hcfile, settings.currentport),
+            settings.currentport,
+            depth.UserDepth,
+            settings.currentoutput,
+            trim(depth.DepthPortName),
+            settings.hcfile};
 }
 
 std::string depthofanother(const PredictedPort& port) {

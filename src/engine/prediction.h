@@ -34,6 +34,7 @@ struct PredictedPort {
     float userdepth = 0;      ///< the user's charted depth, metres
     float currentoutput = 1;  ///< 1 leaves the depth out of the heights
     std::string depthname{};  ///< name of the port that the depth's record was made for; empty when not known
+    std::string area{};       ///< path of the sea area file that the record stands in
 };
 
 /// The name of the port that the record of the depth in the heights was made for, when it is another than this one;

@@ -19,6 +19,7 @@
 #include "portdata/areaedits.h"
 #include "portdata/configuration.h"
 #include "portdata/currentport.h"
+#include "portdata/datafolder.h"
 #include "sunmoon/lunarphases.h"
 #include "sunmoon/suntable.h"
 #include "sunmoon/suntimes.h"
@@ -90,6 +91,7 @@ struct Session {
     TideDay layersday;  ///< what `layervalues` were read off
     std::int16_t layersport = 0;
     std::string layersarea;
+    FileOrigin areaorigin;  ///< of the area that the prediction is of
 };
 
 /// The surfaces that the main window is drawn on. The window's own surface is scaled in twips; the picture's place on

@@ -34,7 +34,7 @@ ProgramFolders foldersin(const std::string& root) {
 HarmonicRecord oddport(const char* name, float level, float m2, float k1) {
     HarmonicRecord port;
     port.PortName = name;
-    port.TimeZoneLetter = "L";
+    port.TimeZoneLetter.assign(1, 'L');
     port.PortLat = 50;
     port.PortLong = -2;
     port.Z0 = level;

@@ -65,7 +65,7 @@ struct QuietFolders : Folders {
     std::string program() const override { return root; }
     std::optional<std::string> documents() const override { return root; }
     std::string localappdata() const override { return root; }
-    bool keepschanges(const std::string&) const override { return true; }
+    bool keepschanges() const override { return true; }
     bool make(const std::string&) override { return true; }
     bool remove(const std::string&) override { return true; }
 };

@@ -6,6 +6,7 @@
 #include "almanac/sunview.h"
 #include "dates/summertime.h"
 #include "mainview/copycommands.h"
+#include "mainview/exportcommands.h"
 #include "mainview/layersview.h"
 #include "mainview/monthcommand.h"
 #include "mainview/printcommands.h"
@@ -138,9 +139,9 @@ constexpr MenuEntry entries[] = {
     {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", "Ctrl+T", run<togglelayers>},
     {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", adjustharmonics, true, &MainView::adjustvisible},
     {"mnuHelpTop", "mnuHelp", "Help", "F1", help},
-    {"mnuSpecial", "mnuAnglesAndFactors", "Angles and Factors", "", nullptr},
-    {"mnuSpecial", "mnuYears", "Years", "", nullptr},
-    {"mnuSpecial", "mnuCalcOrbitalConst", "Orbital Constants", "", nullptr},
+    {"mnuSpecial", "mnuAnglesAndFactors", "Angles and Factors", "", run<exportanglesandfactors>},
+    {"mnuSpecial", "mnuYears", "Years", "", run<exportyears>},
+    {"mnuSpecial", "mnuCalcOrbitalConst", "Orbital Constants", "", run<exportorbitalconstants>},
 };
 
 /// A caption without its access mark and the blanks at its ends.

@@ -8,6 +8,7 @@
 #include "platform/locale.h"
 #include "platform/messages.h"
 #include "platform/printer.h"
+#include "platform/progress.h"
 #include "platform/windows.h"
 
 namespace tarvane {
@@ -21,6 +22,7 @@ struct Services {
     Locale& locale;
     Folders& folders;
     Windows& windows;
+    Progress& progress;
 };
 
 }  // namespace tarvane

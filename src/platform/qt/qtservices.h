@@ -8,6 +8,7 @@
 #include "platform/qt/qtlocale.h"
 #include "platform/qt/qtmessages.h"
 #include "platform/qt/qtprinter.h"
+#include "platform/qt/qtprogress.h"
 #include "platform/qt/qtwindows.h"
 #include "platform/services.h"
 
@@ -22,8 +23,11 @@ struct QtServices {
     QtLocale locale;
     QtFolders folders;
     QtWindows windows;
+    QtProgress progress;
 
-    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+    Services services() {
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress};
+    }
 };
 
 }  // namespace tarvane

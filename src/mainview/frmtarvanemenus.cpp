@@ -4,6 +4,7 @@
 #include <QMenuBar>
 
 #include "almanac/frmsunrise.h"
+#include "diamonds/frmstreams.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/frmtimdat.h"
 #include "ports/frmchartdepth.h"
@@ -46,6 +47,8 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openmodal<frmharmedit>(context, this);
         case Dialog::copyports:
             return openmodal<frmHCcopy>(context, this);
+        case Dialog::streams:
+            return openmodal<frmstreams>(context, this);
     }
 }
 

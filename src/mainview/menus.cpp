@@ -90,6 +90,10 @@ void copyports(Desk& desk) {
     desk.open(Dialog::copyports);
 }
 
+void streamsforday(Desk& desk) {
+    desk.open(Dialog::streams);
+}
+
 void help(Desk& desk) {
     desk.context.services.messages.show(helptext(), programname, MessageIcon::information);
 }
@@ -125,6 +129,7 @@ constexpr MenuEntry entries[] = {
     {"mnutides", "mnuArea", "Sea &Area", "", selectarea},
     {"mnuCalc", "mnumonth", "&Months Tide", "Ctrl+M", run<calculatemonth>, true},
     {"mnuCalc", "mnusunrise", "&Sunrise/Lunar phases", "", sunandmoon},
+    {"mnuCalc", "mnuStreams", "S&treams for a Day", "", streamsforday},
     {"mnuCopy", "mnuCopyDaysTides", "C&opy Days Tides", "Ctrl+C", run<copydaystides>},
     {"mnuCopy", "mnuCopyMonth", "Copy &Months Tides", "", run<copymonthstides>},
     {"mnuCopy", "mnuCopySunTimes", "Copy &Days Sunrise && Sunset Times", "", run<copydayssuntimes>},

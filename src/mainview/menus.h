@@ -20,6 +20,7 @@ enum class Dialog {
     sunrise,
     correctconstants,
     copyports,
+    streams,
     adjust
 };
 

@@ -195,11 +195,9 @@ std::vector<double> predictedhighs(const HarmonicRecord& port, Date date) {
     predictday({port, 1, 0, 1}, {yearof(date), monthof(date), static_cast<std::int16_t>(dayofyear(date)), 0}, day);
     findturningpoints(day);
     std::vector<double> highs;
-    for (int i = 1; i <= day.turningcount; ++i) {
-        const TimedValue& point = day.turningpoints[static_cast<std::size_t>(i)];
-        const auto row = static_cast<std::size_t>(std::lround(point.time * 6)) + 1;
-        if (point.height > day.curvesamples[row - 1].height) highs.push_back(point.time);
-    }
+    for (int i = 1; i <= day.turningcount; ++i)
+        if (ishighwater(day, i)) highs.push_back(day.turningpoints[static_cast<std::size_t>(i)].time);
+
     return highs;
 }
 

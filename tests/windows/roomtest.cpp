@@ -7,6 +7,8 @@
 #include "almanac/frmriseresults.h"
 #include "almanac/frmsunrise.h"
 #include "almanac/sunview.h"
+#include "diamonds/diamondofstreams.h"
+#include "diamonds/frmstreams.h"
 #include "fakes/mainfixture.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/frmtimdat.h"
@@ -38,6 +40,7 @@ struct Room : LoadedMain {
     Room() {
         preparesunview(session);
         calculatesun(context, portsuninput(session));
+        putdiamonds(session.folders.programfolder + "/solent.l20", {rounddiamond()});
     }
 
     template <class... Dialogs>
@@ -48,7 +51,7 @@ struct Room : LoadedMain {
     Windows everywindow() {
         Windows windows;
         add<frmconfig, frmChartdepth, frmoutoptions, frmshowconf, frmHCcopy, frmharmedit, Frmtimdat, Frmsunrise,
-            Frmriseresults>(windows);
+            Frmriseresults, frmstreams>(windows);
         windows.push_back(std::make_unique<Form1>(scripted.locale));
         windows.push_back(std::make_unique<frmConditions>(context.services, session.folders));
         return windows;

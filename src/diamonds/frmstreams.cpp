@@ -204,14 +204,19 @@ void frmstreams::filldiamonds() {
 void frmstreams::showdate() {
     DTPicker->setText(
         QString::fromStdString(typeddate(view.date, context.session.conventions, context.services.locale)));
+    showdayname();
+}
+
+void frmstreams::showdayname() {
     DTPicker->setcalendar(view.date);
     txtDayName->setText(QString::fromStdString("(" + formatdate(context.services.locale, view.date, "dddd") + ")"));
 }
 
 void frmstreams::showstreams() {
     filltable();
-    lblabout->setText(screentext(view.about));
-    lblnote->setText(screentext(view.note));
+    // Without streams the reason stands where they would be told.
+    lblabout->setText(screentext(view.about.empty() ? view.note : view.about));
+    lblnote->setText(screentext(view.about.empty() ? "" : view.note));
     lblanswer->clear();
     const bool any = !view.streams.tides.empty();
     cmdCopy->setEnabled(any);
@@ -281,11 +286,9 @@ void frmstreams::DTPicker_Change() {
     const ReadDate read = readdate(DTPicker->text().toStdString(), context.session.conventions, context.services.locale,
                                    context.services.clock.now().today);
     if (!read.date) return txtDayName->setText(screentext(read.refusal));
-    const QString typed = DTPicker->text();
     choosestreamdate(context, view, *read.date);
-    showdate();
-    // As it is typed: it isn't rewritten under the user's hands.
-    DTPicker->setText(typed);
+    // The text stays as it is typed.
+    showdayname();
     showstreams();
 }
 

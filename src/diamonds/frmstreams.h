@@ -46,6 +46,7 @@ class frmstreams : public ModalDialog {
     void filllists();
     void filldiamonds();
     void showdate();
+    void showdayname();
     void showstreams();
     void filltable();
     void showrow(int row);

@@ -33,7 +33,8 @@ bool among(int index, std::size_t count) {
 std::string howtogetdiamonds(const ProgramFolders& folders) {
     const std::string& folder = folders.ownfolder.empty() ? folders.programfolder : folders.ownfolder;
     return "There is no tidal diamond file (.l20, .l30 or .l40). One is made with Maintenance, Copy Tidal Diamonds, or "
-           "imported there from chart media; a file from elsewhere goes into " +
+           "taken from chart media with Maintenance, Import Charts; Enable Harmonic Correction Menu of the Program "
+           "Options shows that menu. A file from elsewhere goes into " +
            folder + ".";
 }
 

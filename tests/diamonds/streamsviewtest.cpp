@@ -64,10 +64,11 @@ TEST_F(Streams, FollowEachChoiceAndTheSummerOption) {
 
 TEST_F(Streams, WhatIsMissingIsToldInWords) {
     StreamsView view = openstreams(context);
-    EXPECT_EQ(view.note,
-              "There is no tidal diamond file (.l20, .l30 or .l40). One is made with Maintenance, Copy Tidal "
-              "Diamonds, or imported there from chart media; a file from elsewhere goes into " +
-                  session.folders.programfolder + ".");
+    EXPECT_TRUE(view.note.starts_with("There is no tidal diamond file (.l20, .l30 or .l40). One is made with "));
+    EXPECT_TRUE(view.note.ends_with(" A file from elsewhere goes into " + session.folders.programfolder + "."));
+    session.folders.ownfolder = folder / "own";
+    EXPECT_TRUE(openstreams(context).note.ends_with(folder / "own."));
+    session.folders.ownfolder.clear();
     view = opened();
     std::filesystem::remove(program + "solent.l20");
     choosestreamfile(context, view, 0);

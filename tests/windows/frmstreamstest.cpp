@@ -90,7 +90,7 @@ TEST_F(FrmstreamsTest, WithoutADiamondFileItSaysWhatToDo) {
     std::filesystem::remove(session.folders.programfolder + "/solent.l20");
     frmstreams form(context);
     present(form);
-    EXPECT_TRUE(form.lblnote->text().startsWith("There is no tidal diamond file"));
+    EXPECT_TRUE(form.lblabout->text().startsWith("There is no tidal diamond file"));
     EXPECT_FALSE(form.cmdCopy->isEnabled() || form.cmdSave->isEnabled());
     EXPECT_EQ(infocus(form), "cancel");
     form.Nextday->click();

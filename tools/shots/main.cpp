@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QTemporaryFile>
+#include <QThread>
 #include <cstdio>
 
 #include "adjust/frmadjustfileselect.h"
@@ -185,6 +186,16 @@ void takeworkshop(Album& album, Stage& stage) {
     stage.show(77, makedate(2026, 7, 14));
 }
 
+/// A long calculation half way through.
+void takeprogress(Album& album, Stage& stage) {
+    stage.window().activateWindow();
+    stage.context().services.progress.run("High waters of Cherbourg, 2026 and 2027", 120, [&](int i) {
+        QThread::msleep(4);
+        if (i == 60) album.take(*QApplication::activeModalWidget(), "progress");
+        return i < 60;
+    });
+}
+
 /// A diamond in a channel and one in the open, through the hours of a day's high waters; and the window without a file.
 void takestreams(Album& album, Stage& stage) {
     MainContext context = stage.context();
@@ -244,6 +255,7 @@ void takeeverything(Album& album, const std::string& area) {
     album.takedialog<frmshowconf>(stage, "frmshowconf");
     takemaintenance(album, stage);
     takestreams(album, stage);
+    takeprogress(album, stage);
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));

@@ -85,16 +85,16 @@ TEST(DayConstants, TheFirstRowIsTheDayBeforesAndTheLastIsNotWritten) {
     EXPECT_EQ(dayconstants(2017).size(), 730U);
 }
 
-std::vector<YearTideRow> runof(const HarmonicRecord& port, int year) {
+std::vector<YearTideRow> runof(const HarmonicRecord& port, int year, int days) {
     YearTides run = startyeartides(port, year);
-    for (int day = 0; day < daysofrun(run) && addday(run); ++day) {
+    while (days-- > 0 && addday(run)) {
     }
     return run.rows;
 }
 
 TEST(YearTides, WorkedDays) {
-    const auto rows = runof(roundport(), 2024);
-    ASSERT_EQ(rows.size(), 731U);
+    ASSERT_EQ(daysofrun(startyeartides(roundport(), 2024)), 731);
+    const auto rows = runof(roundport(), 2024, 731);
     const struct {
         std::size_t id;
         int day, year;
@@ -174,7 +174,7 @@ TEST(YearTides, HighWatersAreThoseOfTheDaysPredictions) {
     const std::pair<std::size_t, int> runs[] = {{77, 1992}, {30, 2023}};
     for (const auto& [number, year] : runs) {
         int compared = 0;
-        for (const YearTideRow& row : runof(ports[number - 1], year)) {
+        for (const YearTideRow& row : runof(ports[number - 1], year, 400)) {
             const Date date = makedate(row.year, 1, row.daynumber);
             const double midnight = juliandate(1, 1, row.year, 0, 0, 0) + row.daynumber - 1;
             const auto predicted = predictedhighs(ports[number - 1], date);
@@ -187,16 +187,15 @@ TEST(YearTides, HighWatersAreThoseOfTheDaysPredictions) {
                     << number << " " << row.year << " " << row.daynumber << " " << hours;
             }
         }
-        EXPECT_GT(compared, 1300);
+        EXPECT_GT(compared, 700);
     }
 }
 
 TEST(YearTides, DaysWithoutAPredictionEndTheRunAndSayWhy) {
     YearTides run = startyeartides(roundport(), 1989);
-    int days = 0;
-    while (addday(run))
-        ++days;
-    EXPECT_EQ(days, 365);
+    run.julian += 364;
+    EXPECT_TRUE(addday(run));
+    EXPECT_FALSE(addday(run));
     EXPECT_STREQ(run.whynot, noconstants);
     HarmonicRecord broken = roundport();
     broken.S2g = std::numeric_limits<float>::quiet_NaN();
@@ -206,7 +205,7 @@ TEST(YearTides, DaysWithoutAPredictionEndTheRunAndSayWhy) {
     // The seasonal values are those of each day's own month; a port without tides has rows all the same.
     HarmonicRecord flat;
     flat.MHm2[1] = 1;
-    const auto rows = runof(flat, 2026);
+    const auto rows = runof(flat, 2026, 32);
     EXPECT_EQ(rows[30].firsthw, -1);
     EXPECT_EQ(rows[30].range, -19998);
     EXPECT_GT(rows[31].firsthw, 0);

@@ -89,6 +89,14 @@ void copyports(Desk& desk) {
     desk.open(Dialog::copyports);
 }
 
+void copydiamonds(Desk& desk) {
+    desk.open(Dialog::copydiamonds);
+}
+
+void importcharts(Desk& desk) {
+    desk.open(Dialog::importcharts);
+}
+
 void help(Desk& desk) {
     desk.context.services.messages.show(helptext(), programname, MessageIcon::information);
 }
@@ -134,7 +142,8 @@ constexpr MenuEntry entries[] = {
     {"mnumaintenance", "mnumaintainfile", "&Correct Port Constants", "", correctconstants, false,
      &MainView::maintenancevisible},
     {"mnumaintenance", "mnucopyconstants", "&Copy ports", "", copyports, false, &MainView::copyportsvisible},
-    {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", nullptr, false, &MainView::diamondsvisible},
+    {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", copydiamonds, false, &MainView::diamondsvisible},
+    {"mnumaintenance", "mnuImportCharts", "&Import Charts", "", importcharts, false, &MainView::diamondsvisible},
     {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", "Ctrl+T", run<togglelayers>},
     {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", adjustharmonics, true, &MainView::adjustvisible},
     {"mnuHelpTop", "mnuHelp", "Help", "F1", help},

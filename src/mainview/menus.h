@@ -20,6 +20,8 @@ enum class Dialog {
     sunrise,
     correctconstants,
     copyports,
+    copydiamonds,
+    importcharts,
     adjust
 };
 

@@ -3,6 +3,7 @@
 
 #include "platform/clipboard.h"
 #include "platform/clock.h"
+#include "platform/drives.h"
 #include "platform/filedialogs.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
@@ -21,6 +22,7 @@ struct Services {
     Locale& locale;
     Folders& folders;
     Windows& windows;
+    Drives& drives;
 };
 
 }  // namespace tarvane

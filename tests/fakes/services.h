@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <string>
+#include <vector>
 
 #include "fakes/scriptedfolders.h"
 #include "fakes/scriptedlocale.h"
@@ -35,6 +36,13 @@ struct ScriptedClock : Clock {
     ClockReading now() const override { return reading; }
 };
 
+/// Drives that a test puts in and takes out.
+struct ScriptedDrives : Drives {
+    std::vector<Drive> mounted;
+
+    std::vector<Drive> drives() const override { return mounted; }
+};
+
 struct ScriptedServices {
     ScriptedMessages messages;
     ScriptedFileDialogs filedialogs;
@@ -44,8 +52,11 @@ struct ScriptedServices {
     ScriptedLocale locale;
     ScriptedFolders folders;
     ScriptedWindows windows;
+    ScriptedDrives drives;
 
-    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+    Services services() {
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, drives};
+    }
 };
 
 }  // namespace tarvane

@@ -27,6 +27,7 @@
 #include "ports/frmshowconf.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
+#include "shots/diamonds.h"
 #include "shots/pages.h"
 #include "shots/stage.h"
 
@@ -220,6 +221,7 @@ void takeeverything(Album& album, const std::string& area) {
     album.takedialog<frmoutoptions>(stage, "frmoutoptions");
     album.takedialog<frmshowconf>(stage, "frmshowconf");
     takemaintenance(album, stage);
+    takediamonds(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));

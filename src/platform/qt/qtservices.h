@@ -3,6 +3,7 @@
 
 #include "platform/qt/qtclipboard.h"
 #include "platform/qt/qtclock.h"
+#include "platform/qt/qtdrives.h"
 #include "platform/qt/qtfiledialogs.h"
 #include "platform/qt/qtfolders.h"
 #include "platform/qt/qtlocale.h"
@@ -22,8 +23,11 @@ struct QtServices {
     QtLocale locale;
     QtFolders folders;
     QtWindows windows;
+    QtDrives drives;
 
-    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+    Services services() {
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, drives};
+    }
 };
 
 }  // namespace tarvane

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "diamonds/diamondfile.h"
 #include "files/wholefiles.h"
 #include "portdata/datafolder.h"
 #include "session/documents.h"
@@ -90,7 +91,7 @@ WriteOutcome replacedata(MainContext& context, const std::string& name, const st
     if (!data.prepared) return data.prepared;
     errno = 0;
     const auto former = wholefile(data.path);
-    if (!former) return {std::error_code(errno ? errno : EIO, std::generic_category())};
+    if (!former) return whynotread(data.path, errno);
     const bool there = canopen(data.path);
     if (there && *former == bytes) return {};
     if (there) {
@@ -106,10 +107,9 @@ std::optional<std::string> copydata(MainContext& context, const std::string& fol
     const std::string found = nameon(medium, name);
     if (found.empty()) return "it is not in the folder";
     errno = 0;
-    const auto bytes = wholefile(joined(folder, found));
-    if (!bytes || !canopen(joined(folder, found)))
-        return "it can't be read: " +
-               WriteOutcome{std::error_code(errno ? errno : EIO, std::generic_category())}.reason();
+    const std::string source = joined(folder, found);
+    const auto bytes = wholefile(source);
+    if (!bytes || !canopen(source)) return "it can't be read: " + whynotread(source, errno).reason();
     const WriteOutcome written = replacedata(context, name, *bytes);
     if (!written) return "it can't be written: " + written.reason();
     return std::nullopt;

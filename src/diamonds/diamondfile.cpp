@@ -47,7 +47,7 @@ Bytes bytesof(const std::string& path, WriteOutcome& read) {
     }
     errno = 0;
     auto bytes = wholefile(path);
-    if (!bytes) read = refusal(errno ? errno : EIO);
+    if (!bytes) read = whynotread(path, errno);
     return bytes.value_or(Bytes{});
 }
 
@@ -93,10 +93,16 @@ DiamondRecord decodediamond(std::span<const std::byte> bytes) {
     return record;
 }
 
+WriteOutcome whynotread(const std::string& path, int number) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored)) return refusal(EISDIR);
+    return refusal(number ? number : EIO);
+}
+
 DiamondFile readdiamonds(const std::string& path) {
     DiamondFile file;
     const Bytes bytes = bytesof(path, file.read);
-    if (file.read && !canopen(path)) file.read = refusal(errno ? errno : ENOENT);
+    if (file.read && !canopen(path)) file.read = refusal(ENOENT);
     if (!file.read) return file;
     for (std::size_t i = 0; i < wholerecords(bytes); ++i)
         file.diamonds.push_back(decodediamond(std::span(bytes).subspan(i * diamondrecordsize, diamondrecordsize)));

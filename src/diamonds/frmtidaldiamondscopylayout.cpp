@@ -177,7 +177,7 @@ QLayout* frmTidalDiamondsCopy::buildbuttons() {
     cmdExit = named<QPushButton>("cmdExit", "E&xit");
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : {cmdAmend, cmdAddtoFile, cmdDelete, cmdCopy, cmdAdd, cmdImportCharts, cmdExit}) {
-        if (button == cmdCopy || button == cmdImportCharts) buttons->addStretch(1);
+        if (button == cmdAdd || button == cmdImportCharts) buttons->addStretch(1);
         buttons->addWidget(button);
         // Enter in a box writes nothing: a button wants a click, Space or its letter.
         button->setAutoDefault(false);

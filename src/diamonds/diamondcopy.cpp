@@ -98,10 +98,10 @@ WritableFile writableof(const ProgramFolders& folders, const std::string& path) 
     return datafiletowrite(folders, filename(path));
 }
 
-/// One change of the file at `path`, whose place for changes becomes the one in hand. False, told, when it failed.
+/// One change of the file at `path`, a copy of a side's own, whose place for changes becomes the one in hand. False,
+/// told, when it failed.
 template <typename Change>
-bool changefile(MainContext& context, DiamondCopy& copy, const std::string& path, const std::string& what,
-                Change change) {
+bool changefile(MainContext& context, DiamondCopy& copy, std::string path, const std::string& what, Change change) {
     const WritableFile writable = writableof(context.session.folders, path);
     const DiamondEdit made = writable.prepared ? change(writable.path) : DiamondEdit{.written = writable.prepared};
     if (!made.written) {

@@ -220,10 +220,12 @@ TEST_F(DiamondsCopied, ADiskThatIsFullLosesNothing) {
     }
     // Where the program's folder can't be written the user's own takes the changes.
     session.folders.ownfolder = folder / "own";
+    EXPECT_TRUE(pickdestfile(context, copy, "solent.l20"));
     EXPECT_TRUE(amendhighlighted(context, copy));
     EXPECT_EQ(filetext(solent), before);
     EXPECT_EQ(letters(folder / "own/solent.l20"), "AZC");
-    EXPECT_EQ(copy.source.file, folder / "own/solent.l20");
+    for (const DiamondSide* side : {&copy.source, &copy.destination})
+        EXPECT_EQ(side->file + side->entries[1], folder / "own/solent.l20" + "Z   50.45N   1.30W");
     copy.destination.texts = copy.source.texts;
     copy.txtDestFile = solent;
     EXPECT_TRUE(addtodestination(context, copy));

@@ -14,7 +14,7 @@ namespace {
 
 static_assert(diamondrecordsize == 4 + 4 + 1 + streamhours * 3 * 4);
 
-constexpr std::size_t latitudeplace = 0, longitudeplace = 4, letterplace = 8, streamsplace = 9, streamwidth = 12;
+constexpr std::size_t latitudeoffset = 0, longitudeoffset = 4, letteroffset = 8, streamsoffset = 9, streamwidth = 12;
 constexpr std::size_t numberwidth = 4;
 
 using Bytes = std::vector<std::byte>;
@@ -47,7 +47,7 @@ Bytes bytesof(const std::string& path, WriteOutcome& read) {
     }
     errno = 0;
     auto bytes = wholefile(path);
-    if (!bytes) read = refusal(errno ? errno : EIO);
+    if (!bytes) read = whynotread(path, errno);
     return bytes.value_or(Bytes{});
 }
 
@@ -64,12 +64,12 @@ WriteOutcome replacediamonds(AreaBackups& backups, const std::string& path, cons
 
 DiamondBytes encode(const DiamondRecord& record) {
     DiamondBytes bytes{};
-    putnumber(bytes, latitudeplace, record.DiamondLat);
-    putnumber(bytes, longitudeplace, record.DiamondLong);
+    putnumber(bytes, latitudeoffset, record.DiamondLat);
+    putnumber(bytes, longitudeoffset, record.DiamondLong);
     const std::string letter = tosinglebyte(record.DiamondID);
-    bytes[letterplace] = static_cast<std::byte>(letter.empty() ? ' ' : letter[0]);
+    bytes[letteroffset] = static_cast<std::byte>(letter.empty() ? ' ' : letter[0]);
     for (std::size_t i = 0; i < streamhours; ++i) {
-        const std::size_t place = streamsplace + i * streamwidth;
+        const std::size_t place = streamsoffset + i * streamwidth;
         putnumber(bytes, place, record.streams[i].StreamDir);
         putnumber(bytes, place + numberwidth, record.streams[i].SpringRate);
         putnumber(bytes, place + 2 * numberwidth, record.streams[i].NeapRate);
@@ -81,22 +81,28 @@ DiamondRecord decodediamond(std::span<const std::byte> bytes) {
     DiamondBytes whole{};
     std::copy_n(bytes.begin(), std::min(bytes.size(), whole.size()), whole.begin());
     DiamondRecord record;
-    record.DiamondLat = numberat(whole, latitudeplace);
-    record.DiamondLong = numberat(whole, longitudeplace);
-    if (const auto letter = std::to_integer<char>(whole[letterplace]))
+    record.DiamondLat = numberat(whole, latitudeoffset);
+    record.DiamondLong = numberat(whole, longitudeoffset);
+    if (const auto letter = std::to_integer<char>(whole[letteroffset]))
         record.DiamondID = fromsinglebyte(std::string(1, letter));
     for (std::size_t i = 0; i < streamhours; ++i) {
-        const std::size_t place = streamsplace + i * streamwidth;
+        const std::size_t place = streamsoffset + i * streamwidth;
         record.streams[i] = {numberat(whole, place), numberat(whole, place + numberwidth),
                              numberat(whole, place + 2 * numberwidth)};
     }
     return record;
 }
 
+WriteOutcome whynotread(const std::string& path, int number) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored)) return refusal(EISDIR);
+    return refusal(number ? number : EIO);
+}
+
 DiamondFile readdiamonds(const std::string& path) {
     DiamondFile file;
     const Bytes bytes = bytesof(path, file.read);
-    if (file.read && !canopen(path)) file.read = refusal(errno ? errno : ENOENT);
+    if (file.read && !canopen(path)) file.read = refusal(ENOENT);
     if (!file.read) return file;
     for (std::size_t i = 0; i < wholerecords(bytes); ++i)
         file.diamonds.push_back(decodediamond(std::span(bytes).subspan(i * diamondrecordsize, diamondrecordsize)));

@@ -46,6 +46,9 @@ DiamondBytes encode(const DiamondRecord& record);
 /// The record that the bytes hold. Fewer bytes than the record has read as if followed by zeros.
 DiamondRecord decodediamond(std::span<const std::byte> bytes);
 
+/// Why the file couldn't be read, `number` being what the system said of the attempt; 0 for nothing.
+WriteOutcome whynotread(const std::string& path, int number);
+
 /// What a file holds.
 struct DiamondFile {
     std::vector<DiamondRecord> diamonds;  ///< the whole records, in file order

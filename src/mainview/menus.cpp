@@ -90,6 +90,14 @@ void copyports(Desk& desk) {
     desk.open(Dialog::copyports);
 }
 
+void copydiamonds(Desk& desk) {
+    desk.open(Dialog::copydiamonds);
+}
+
+void importcharts(Desk& desk) {
+    desk.open(Dialog::importcharts);
+}
+
 void streamsforday(Desk& desk) {
     desk.open(Dialog::streams);
 }
@@ -140,7 +148,8 @@ constexpr MenuEntry entries[] = {
     {"mnumaintenance", "mnumaintainfile", "&Correct Port Constants", "", correctconstants, false,
      &MainView::maintenancevisible},
     {"mnumaintenance", "mnucopyconstants", "&Copy ports", "", copyports, false, &MainView::copyportsvisible},
-    {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", nullptr, false, &MainView::diamondsvisible},
+    {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", copydiamonds, false, &MainView::diamondsvisible},
+    {"mnumaintenance", "mnuImportCharts", "&Import Charts", "", importcharts, false, &MainView::diamondsvisible},
     {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", "Ctrl+T", run<togglelayers>},
     {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", adjustharmonics, true, &MainView::adjustvisible},
     {"mnuHelpTop", "mnuHelp", "Help", "F1", help},

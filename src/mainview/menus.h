@@ -21,6 +21,8 @@ enum class Dialog {
     correctconstants,
     copyports,
     streams,
+    copydiamonds,
+    importcharts,
     adjust
 };
 

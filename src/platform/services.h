@@ -3,6 +3,7 @@
 
 #include "platform/clipboard.h"
 #include "platform/clock.h"
+#include "platform/drives.h"
 #include "platform/filedialogs.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
@@ -23,6 +24,7 @@ struct Services {
     Folders& folders;
     Windows& windows;
     Progress& progress;
+    Drives& drives;
 };
 
 }  // namespace tarvane

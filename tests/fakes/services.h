@@ -50,6 +50,13 @@ struct ScriptedProgress : Progress {
     }
 };
 
+/// Drives that a test puts in and takes out.
+struct ScriptedDrives : Drives {
+    std::vector<Drive> mounted;
+
+    std::vector<Drive> drives() const override { return mounted; }
+};
+
 struct ScriptedServices {
     ScriptedMessages messages;
     ScriptedFileDialogs filedialogs;
@@ -60,9 +67,10 @@ struct ScriptedServices {
     ScriptedFolders folders;
     ScriptedWindows windows;
     ScriptedProgress progress;
+    ScriptedDrives drives;
 
     Services services() {
-        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress};
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
     }
 };
 

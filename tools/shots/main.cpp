@@ -29,6 +29,7 @@
 #include "ports/frmshowconf.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
+#include "shots/diamonds.h"
 #include "shots/pages.h"
 #include "shots/stage.h"
 
@@ -207,15 +208,18 @@ void takestreams(Album& album, Stage& stage) {
         channel.streams[i] = {i < 5 ? 248 + hour : 66 + hour, rates[i], rates[i] / 2};
         open.streams[i] = {20 + 27 * hour, 1.2F + 0.4F * static_cast<float>(i % 3), 0.6F};
     }
+    const std::string file = context.session.folders.programfolder + "/approaches.l20";
     AreaBackups kept;
     for (const DiamondRecord& diamond : {channel, open})
-        adddiamond(kept, context.session.folders.programfolder + "/solent.l20", diamond);
+        adddiamond(kept, file, diamond);
     frmstreams window(context, &stage.window());
     window.table->setCurrentCell(9, 1);
     album.take(window, "frmstreams");
     window.resize(1200, 800);
     window.cmbDiamond->setCurrentIndex(1);
     album.take(window, "frmstreams-stretched");
+    for (const std::string& made : {file, file + ".bak"})
+        context.services.folders.remove(made);
 }
 
 /// The editor with a port in its boxes, and the copying of three ports behind those of the same area.
@@ -256,6 +260,7 @@ void takeeverything(Album& album, const std::string& area) {
     takemaintenance(album, stage);
     takestreams(album, stage);
     takeprogress(album, stage);
+    takediamonds(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));

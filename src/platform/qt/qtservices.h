@@ -3,6 +3,7 @@
 
 #include "platform/qt/qtclipboard.h"
 #include "platform/qt/qtclock.h"
+#include "platform/qt/qtdrives.h"
 #include "platform/qt/qtfiledialogs.h"
 #include "platform/qt/qtfolders.h"
 #include "platform/qt/qtlocale.h"
@@ -24,9 +25,10 @@ struct QtServices {
     QtFolders folders;
     QtWindows windows;
     QtProgress progress;
+    QtDrives drives;
 
     Services services() {
-        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress};
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
     }
 };
 

@@ -170,4 +170,10 @@ void findturningpoints(Prediction& prediction) {
     prediction.dayrange = greatest - least;
 }
 
+bool ishighwater(const Prediction& prediction, int turningpoint) {
+    const TimedValue& point = prediction.turningpoints[static_cast<std::size_t>(turningpoint)];
+    const auto row = static_cast<std::size_t>(std::lround(point.time * 6) + 1);
+    return point.height > prediction.curvesamples[row - 1].height;
+}
+
 }  // namespace tarvane

@@ -95,4 +95,7 @@ bool haspredictions(int year, int dayofyear);
 /// 145.
 void findturningpoints(Prediction& prediction);
 
+/// True if the turning point of that index (from 1) is a high water, told by the sample before it.
+bool ishighwater(const Prediction& prediction, int turningpoint);
+
 }  // namespace tarvane

@@ -4,6 +4,9 @@
 #include <QMenuBar>
 
 #include "almanac/frmsunrise.h"
+#include "diamonds/frmimport.h"
+#include "diamonds/frmstreams.h"
+#include "diamonds/frmtidaldiamondscopy.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/frmtimdat.h"
 #include "ports/frmchartdepth.h"
@@ -46,6 +49,12 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openmodal<frmharmedit>(context, this);
         case Dialog::copyports:
             return openmodal<frmHCcopy>(context, this);
+        case Dialog::copydiamonds:
+            return openmodal<frmTidalDiamondsCopy>(context, this);
+        case Dialog::importcharts:
+            return openmodal<frmimport>(context, this);
+        case Dialog::streams:
+            return openmodal<frmstreams>(context, this);
     }
 }
 

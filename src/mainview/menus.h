@@ -20,6 +20,9 @@ enum class Dialog {
     sunrise,
     correctconstants,
     copyports,
+    streams,
+    copydiamonds,
+    importcharts,
     adjust
 };
 

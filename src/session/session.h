@@ -41,7 +41,7 @@ struct MainView {
     bool maintenancevisible = false;  ///< mnumaintenance and mnumaintainfile
     bool adjustvisible = false;       ///< mnuAdjustLoad
     bool copyportsvisible = false;    ///< mnucopyconstants
-    bool diamondsvisible = false;     ///< mnuCopyDiamonds
+    bool diamondsvisible = false;     ///< mnuCopyDiamonds and mnuImportCharts
     bool stepbuttonsvisible = true;   ///< Nextday and Previousday
     bool monthvisible = false;        ///< the list of the month's tides
 };
@@ -64,7 +64,7 @@ struct SunOf {
 struct Session {
     ProgramFolders folders;
     Settings settings;
-    AreaBackups backups;  ///< which area files this run has kept a copy of
+    AreaBackups backups;  ///< which area and diamond files this run has kept a copy of
     DateConventions conventions;
     CurrentPort port;
     DateOnShow onshow;

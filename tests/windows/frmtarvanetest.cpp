@@ -86,7 +86,8 @@ TEST_F(FrmTarvane, MenuTreeAndItsHiddenParts) {
         if (action->isVisible()) menus << action->text();
     EXPECT_EQ(menus, (QStringList{" &File", "&Date", "  &Select Port ", "&Calculate  ", "Clip&board", "C&onfigure",
                                   " &Advanced", "Help"}));
-    for (const char* name : {"mnuSpecial", "mnuAdjustLoad", "mnuCopyDiamonds", "mnucopyconstants", "mnumaintenance"})
+    for (const char* name :
+         {"mnuSpecial", "mnuAdjustLoad", "mnuCopyDiamonds", "mnuImportCharts", "mnucopyconstants", "mnumaintenance"})
         EXPECT_FALSE(window.menuentry(name)->isVisible()) << name;
     QTest::mouseDClick(window.layers.Label1, Qt::LeftButton);
     EXPECT_TRUE(window.menuentry("mnuSpecial")->isVisible());

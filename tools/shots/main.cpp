@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QTemporaryFile>
+#include <QThread>
 #include <cmath>
 #include <cstdio>
 
@@ -16,6 +17,7 @@
 #include "almanac/frmriseresults.h"
 #include "almanac/frmsunrise.h"
 #include "almanac/sunview.h"
+#include "diamonds/frmstreams.h"
 #include "mainview/frmtimdat.h"
 #include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
@@ -30,6 +32,7 @@
 #include "session/refresh.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
+#include "shots/diamonds.h"
 #include "shots/pages.h"
 #include "shots/stage.h"
 
@@ -209,6 +212,41 @@ void takeworkshop(Album& album, Stage& stage) {
     stage.show(77, makedate(2026, 7, 14));
 }
 
+/// A long calculation half way through.
+void takeprogress(Album& album, Stage& stage) {
+    stage.window().activateWindow();
+    stage.context().services.progress.run("High waters of Cherbourg, 2026 and 2027", 120, [&](int i) {
+        QThread::msleep(4);
+        if (i == 60) album.take(*QApplication::activeModalWidget(), "progress");
+        return i < 60;
+    });
+}
+
+/// A diamond in a channel and one in the open, through the hours of a day's high waters; and the window without a file.
+void takestreams(Album& album, Stage& stage) {
+    MainContext context = stage.context();
+    album.takedialog<frmstreams>(stage, "frmstreams-without-a-file");
+    DiamondRecord channel{50.7F, -1.5F, "A", {}}, open{50.5F, -1.7F, "B", {}};
+    const float rates[] = {1.9F, 2.6F, 2.4F, 1.8F, 1.1F, 0.3F, 0.8F, 1.7F, 2.2F, 2.1F, 1.5F, 0.6F, 0.9F};
+    for (std::size_t i = 0; i < streamhours; ++i) {
+        const auto hour = static_cast<float>(i);
+        channel.streams[i] = {i < 5 ? 248 + hour : 66 + hour, rates[i], rates[i] / 2};
+        open.streams[i] = {20 + 27 * hour, 1.2F + 0.4F * static_cast<float>(i % 3), 0.6F};
+    }
+    const std::string file = context.session.folders.programfolder + "/approaches.l20";
+    AreaBackups kept;
+    for (const DiamondRecord& diamond : {channel, open})
+        adddiamond(kept, file, diamond);
+    frmstreams window(context, &stage.window());
+    window.table->setCurrentCell(9, 1);
+    album.take(window, "frmstreams");
+    window.resize(1200, 800);
+    window.cmbDiamond->setCurrentIndex(1);
+    album.take(window, "frmstreams-stretched");
+    for (const std::string& made : {file, file + ".bak"})
+        context.services.folders.remove(made);
+}
+
 /// The editor with a port in its boxes, and the copying of three ports behind those of the same area.
 void takemaintenance(Album& album, Stage& stage) {
     MainContext context = stage.context();
@@ -246,6 +284,9 @@ void takeeverything(Album& album, const std::string& area) {
     album.takedialog<frmoutoptions>(stage, "frmoutoptions");
     album.takedialog<frmshowconf>(stage, "frmshowconf");
     takemaintenance(album, stage);
+    takestreams(album, stage);
+    takeprogress(album, stage);
+    takediamonds(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));

@@ -191,10 +191,9 @@ void copyacross(DiamondCopy& copy) {
     copy.source.stored = copy.source.texts;
 }
 
-void emptyhour(DiamondTexts& texts, std::size_t place) {
-    const std::size_t first = place - (place - firsthourplace) % boxesanhour;
+void emptyhour(DiamondTexts& texts, std::size_t direction) {
     for (std::size_t i = 0; i < boxesanhour; ++i)
-        texts[first + i].clear();
+        texts[direction + i].clear();
 }
 
 bool addtodestination(MainContext& context, DiamondCopy& copy) {

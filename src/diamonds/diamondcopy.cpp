@@ -275,8 +275,8 @@ bool amendorleave(MainContext& context, DiamondCopy& copy) {
     if (!unwritten(source)) return true;
     if (source.listindex < 0)
         return messages.ask("What was typed on the left side stands in no file. Let it go?", messagetitle);
-    const std::string question = "What is shown of " + entrynumbered(source.listindex) + " of " +
-                                 filename(source.file) + " was changed. Amend it?";
+    const std::string question = "Entry no. " + numbertext(source.listindex + 1) + " of " + filename(source.file) +
+                                 " was changed here, and not amended. Amend it?";
     switch (messages.askorcancel(question, messagetitle)) {
         case Answer::yes:
             return amendhighlighted(context, copy);

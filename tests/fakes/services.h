@@ -54,9 +54,7 @@ struct ScriptedServices {
     ScriptedWindows windows;
     ScriptedDrives drives;
 
-    Services services() {
-        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, drives};
-    }
+    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, drives}; }
 };
 
 }  // namespace tarvane

@@ -25,9 +25,7 @@ struct QtServices {
     QtWindows windows;
     QtDrives drives;
 
-    Services services() {
-        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, drives};
-    }
+    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, drives}; }
 };
 
 }  // namespace tarvane

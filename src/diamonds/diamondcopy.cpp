@@ -191,10 +191,9 @@ void copyacross(DiamondCopy& copy) {
     copy.source.stored = copy.source.texts;
 }
 
-void emptyhour(DiamondTexts& texts, std::size_t place) {
-    const std::size_t first = place - (place - firsthourplace) % boxesanhour;
+void emptyhour(DiamondTexts& texts, std::size_t direction) {
     for (std::size_t i = 0; i < boxesanhour; ++i)
-        texts[first + i].clear();
+        texts[direction + i].clear();
 }
 
 bool addtodestination(MainContext& context, DiamondCopy& copy) {
@@ -276,8 +275,8 @@ bool amendorleave(MainContext& context, DiamondCopy& copy) {
     if (!unwritten(source)) return true;
     if (source.listindex < 0)
         return messages.ask("What was typed on the left side stands in no file. Let it go?", messagetitle);
-    const std::string question = "What is shown of " + entrynumbered(source.listindex) + " of " +
-                                 filename(source.file) + " was changed. Amend it?";
+    const std::string question = "Entry no. " + numbertext(source.listindex + 1) + " of " + filename(source.file) +
+                                 " was changed here, and not amended. Amend it?";
     switch (messages.askorcancel(question, messagetitle)) {
         case Answer::yes:
             return amendhighlighted(context, copy);

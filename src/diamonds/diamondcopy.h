@@ -49,8 +49,8 @@ bool pickdiamond(MainContext& context, DiamondCopy& copy, int index);
 /// `cmdCopy`: all texts of the source's boxes, in the destination's.
 void copyacross(DiamondCopy& copy);
 
-/// A double click on a direction: the three boxes of that hour.
-void emptyhour(DiamondTexts& texts, std::size_t place);
+/// A double click on the direction at that place: the three boxes of its hour.
+void emptyhour(DiamondTexts& texts, std::size_t direction);
 
 /// `cmdAdd`: the destination's boxes behind the last entry of the file that is named, which is made if there is none.
 bool addtodestination(MainContext& context, DiamondCopy& copy);

@@ -21,7 +21,7 @@ QString shownname(const Drive& drive) {
     return label.isEmpty() || path.endsWith(label) ? path : path + " (" + label + ")";
 }
 
-void fill(QListWidget& list, const std::vector<std::string>& texts) {
+void listtexts(QListWidget& list, const std::vector<std::string>& texts) {
     list.clear();
     for (const std::string& text : texts)
         list.addItem(QString::fromStdString(text));
@@ -129,7 +129,7 @@ void frmimport::showfolder() {
         dirDirectories->addItem(item);
         if (row.path == import.folder) dirDirectories->setCurrentItem(item);
     }
-    fill(*filFilenames, import.areas);
+    listtexts(*filFilenames, import.areas);
 }
 
 void frmimport::drvDrives_Change(int row) {
@@ -147,7 +147,7 @@ void frmimport::dirDirectories_Change(int row) {
 void frmimport::cmdimport_Click() {
     const Hourglass hourglass(*this);
     importareas(context, import);
-    fill(*lstoutcomes, import.outcomes);
+    listtexts(*lstoutcomes, import.outcomes);
 }
 
 bool frmimport::event(QEvent* event) {

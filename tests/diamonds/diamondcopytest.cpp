@@ -233,7 +233,7 @@ TEST_F(DiamondsCopied, ADiskThatIsFullLosesNothing) {
 }
 
 TEST_F(DiamondsCopied, WhatWasTypedIsAskedForBeforeItGoes) {
-    const std::string amend = "What is shown of entry no. 2 of solent.l20 was changed. Amend it?";
+    const std::string amend = "Entry no. 2 of solent.l20 was changed here, and not amended. Amend it?";
     const std::string add = "What was typed on the right side stands in no file. Add it to the destination file?";
     pick(1);
     EXPECT_TRUE(amendorleave(context, copy) && addorleave(context, copy)) << "nothing was typed";

@@ -130,8 +130,11 @@ TEST_F(DiamondFiles, WhatCannotBeWrittenLeavesTheFileAsItWas) {
         EXPECT_EQ(amenddiamond(backups, path, index, record).written.error, std::errc::result_out_of_range);
         EXPECT_EQ(deletediamond(backups, path, scratch, index).written.error, std::errc::result_out_of_range);
     }
-    EXPECT_EQ(letters(path), "abc");
     EXPECT_FALSE(canopen(scratch) || canopen(backup));
+    std::filesystem::create_directory(backup);
+    for (const auto& edit : edits)
+        EXPECT_FALSE(edit().written) << &edit - edits << " without a copy of the file as it was";
+    EXPECT_EQ(letters(path), "abc");
 }
 
 }  // namespace

@@ -117,7 +117,7 @@ TEST_F(FrmTidalDiamondsCopy, ADoubleClickOnADirectionEmptiesItsHourAlone) {
 }
 
 TEST_F(FrmTidalDiamondsCopy, WhatWasTypedIsNotLostUnasked) {
-    const std::string question = "What is shown of entry no. 2 of solent.l20 was changed. Amend it?";
+    const std::string question = "Entry no. 2 of solent.l20 was changed here, and not amended. Amend it?";
     click(*form.fileSource, 1);
     click(*form.List1, 1);
     type("txtid", "Z");

@@ -55,8 +55,8 @@ std::span<const MenuEntry> menuentries();
 /// Why an entry without a command is there.
 extern const char* const notyettext;
 
-/// What the program is, and its keys: the help until there is a manual.
-std::string helptext();
+/// What the program is, and its keys.
+std::string keystext();
 
 /// A double click on `Label1` of the constituents view: the special menu, and the constants behind the names.
 void showspecial(Session& session);

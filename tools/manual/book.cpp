@@ -17,7 +17,7 @@ namespace tarvane::manual {
 namespace {
 
 const char* const booktitle = "Tarvane Tides Manual";
-constexpr double contentsrow = 6.2, chaptergap = 2.2, contentshead = 22;  // mm
+constexpr double contentsrow = 5, chaptergap = 2, contentshead = 18;  // mm
 
 /// A line of the contents. Pages count from 0.
 struct Entry {
@@ -159,7 +159,7 @@ void Book::paintfoot() {
 }
 
 void Book::paintentry(const Entry& entry) {
-    const QFont font = fontof(entry.chapter ? headfamily : textfamily, entry.chapter ? 10.5 : 10.5, entry.chapter);
+    const QFont font = fontof(entry.chapter ? headfamily : textfamily, entry.chapter ? 9.5 : 10, entry.chapter);
     const double left = leftmargin + (entry.chapter ? 0 : 8), right = pagewidth - rightmargin;
     const double baseline = topmargin + entry.listedat + 0.75 * contentsrow;
     const QString number = QString::number(entry.page + 1);

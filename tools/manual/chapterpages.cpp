@@ -19,6 +19,7 @@ namespace {
 /// A window at 96 dpi is printed at this size, so that the main window fills the column; larger ones are made to fit.
 constexpr double mmperpixel = columnwidth / 648;
 constexpr double highestfigure = 0.6 * textheight;  // mm
+constexpr double fewlines = 18;                     // mm
 constexpr double lineheight = 128;                  // per cent
 
 QTextCharFormat charformat(const QFont& font, QRgb colour) {
@@ -159,9 +160,25 @@ void puttitle(QTextDocument& document, const QString& title) {
 }  // namespace
 
 ChapterPages::ChapterPages(const Chapter& chapter, const FigureFolders& folders, QPagedPaintDevice& device)
-    : chaptertitle(chapter.title), document(std::make_unique<QTextDocument>()) {
+    : chaptertitle(chapter.title) {
     for (const FigureSource& source : chapter.figures)
         letters.figures.push_back(loadfigure(source, folders));
+    layout(chapter, device, textheight);
+    const int pages = count();
+    if (pages == 1 || lastheight() > fewlines) return;
+    // A few lines alone on the last page find room if all the others take a little more.
+    layout(chapter, device, textheight + fewlines / 2);
+    if (count() == pages) layout(chapter, device, textheight);
+}
+
+/// Millimetres of the last page that are taken.
+double ChapterPages::lastheight() const {
+    const double end = document->documentLayout()->blockBoundingRect(document->lastBlock()).bottom();
+    return (end - (count() - 1) * document->pageSize().height()) / dots(1);
+}
+
+void ChapterPages::layout(const Chapter& chapter, QPagedPaintDevice& device, double height) {
+    document = std::make_unique<QTextDocument>();
     document->setUndoRedoEnabled(false);
     document->setDefaultFont(fontof(textfamily, bodysize));
     document->setMarkdown(chapter.markdown, QTextDocument::MarkdownDialectGitHub);
@@ -187,7 +204,7 @@ ChapterPages::ChapterPages(const Chapter& chapter, const FigureFolders& folders,
     puttitle(*document, chapter.title);
     document->documentLayout()->setPaintDevice(&device);
     document->documentLayout()->registerHandler(FigureLetter::type, &letters);
-    document->setPageSize({dots(textwidth), dots(textheight)});
+    document->setPageSize({dots(textwidth), dots(height)});
     settlepages(*document);
 }
 

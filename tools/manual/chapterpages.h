@@ -37,6 +37,9 @@ class ChapterPages {
     const QTextDocument& text() const { return *document; }
 
   private:
+    void layout(const Chapter& chapter, QPagedPaintDevice& device, double height);
+    double lastheight() const;
+
     QString chaptertitle;
     FigureLetter letters;
     std::unique_ptr<QTextDocument> document;

@@ -22,10 +22,18 @@ Figure loaddrawing(const QString& path) {
     return figure;
 }
 
+/// What stands where a picture should be: the manual is of use without it, and says so.
+Figure missing(const QString& path) {
+    qWarning("makemanual: %s: this picture can't be read", qPrintable(path));
+    Figure figure;
+    figure.size = {360, 48};
+    return figure;
+}
+
 Figure loadshot(const QString& path, const QRect& crop) {
     Figure figure;
     figure.picture = QImage(path).convertToFormat(QImage::Format_RGB32);
-    if (figure.picture.isNull()) refuse(path, "this picture can't be read");
+    if (figure.picture.isNull()) return missing(path);
     if (!crop.isNull()) {
         const QRect part(crop.topLeft() * shotscale, crop.size() * shotscale);
         if (part.isEmpty() || !figure.picture.rect().contains(part)) refuse(path, "the part lies outside the picture");
@@ -62,7 +70,13 @@ int FigureLetter::indexof(const QTextFormat& format) {
 void FigureLetter::drawObject(QPainter* painter, const QRectF& place, QTextDocument*, int, const QTextFormat& format) {
     const Figure& figure = figures.at(static_cast<std::size_t>(indexof(format)));
     if (figure.drawing) return figure.drawing->render(painter, place);
-    painter->drawImage(place, figure.picture);
+    if (figure.picture.isNull()) {
+        painter->setFont(fontof(headfamily, bodysize));
+        painter->setPen(QColor(grey));
+        painter->drawText(place, Qt::AlignCenter, missingpicture);
+    } else {
+        painter->drawImage(place, figure.picture);
+    }
     const double line = dots(0.15);
     painter->setPen(QPen(QColor(hairline), line));
     painter->setBrush(Qt::NoBrush);

@@ -28,7 +28,10 @@ struct Figure {
     QSizeF size;                            ///< pixels at 96 dpi
 };
 
-/// Throws SourceError for a figure that isn't there, can't be read, or hasn't the part that is asked for.
+/// Stands in the place of a window's picture that can't be had.
+inline constexpr const char* missingpicture = "(There is no picture of this window)";
+
+/// Throws SourceError for a drawing that can't be read, and for a part that lies outside its picture.
 Figure loadfigure(const FigureSource& source, const FigureFolders& folders);
 
 /// A figure as one letter of a text.

@@ -111,28 +111,42 @@ bool shrink(const QTextBlock& figure) {
     return true;
 }
 
-/// A table's rows stay whole: a short table goes over with what heads it, a row of a long one alone.
-bool mendrow(const QTextBlock& block) {
-    const Lines lines = linesof(block);
-    if (lines.firstpage == lines.lastpage) return false;
-    QTextTable* const table = QTextCursor(block).currentTable();
-    const double pageheight = block.document()->pageSize().height();
-    const QTextBlock first = table->firstCursorPosition().block(), last = table->lastCursorPosition().block();
-    const bool shorttable = linesof(last).bottom - linesof(first).top < longtable * pageheight;
-    const bool broken = table->format().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore;
-    if (shorttable && !broken && !breaksbefore(withheadings(first))) {
-        if (const QTextBlock heading = withheadings(first); heading != first) {
-            breakbefore(heading);
-        } else {
-            QTextTableFormat format = table->format();
-            format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-            table->setFormat(format);
-        }
+QTextBlock firstof(const QTextTable& table, int row) {
+    return table.cellAt(row, 0).firstCursorPosition().block();
+}
+
+/// Takes a whole table to the next page, with what heads it. False if it was taken there before.
+bool pushtable(QTextTable& table) {
+    const QTextBlock first = firstof(table, 0), top = withheadings(first);
+    if (table.format().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore || breaksbefore(top)) return false;
+    if (top != first) {
+        breakbefore(top);
         return true;
     }
-    const int row = table->cellAt(block.position()).row();
-    for (int column = 0; column < table->columns(); ++column) {
-        QTextTableCell cell = table->cellAt(row, column);
+    QTextTableFormat format = table.format();
+    format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    table.setFormat(format);
+    return true;
+}
+
+/// A short table is not parted; a long one begins with two rows at least below its head.
+bool mendtable(QTextTable& table) {
+    const double pageheight = table.document()->pageSize().height();
+    const Lines first = linesof(firstof(table, 0)), last = linesof(table.lastCursorPosition().block());
+    const bool isshort = last.bottom - first.top < longtable * pageheight;
+    const Lines kept = isshort ? last : linesof(firstof(table, std::min(2, table.rows() - 1)));
+    return first.firstpage != kept.lastpage && pushtable(table);
+}
+
+/// A row that would be parted goes over whole: room above its cells pushes it there.
+bool mendrow(const QTextBlock& block, QTextTable& table) {
+    if (block == firstof(table, 0) && mendtable(table)) return true;
+    const Lines lines = linesof(block);
+    if (lines.firstpage == lines.lastpage) return false;
+    const double pageheight = table.document()->pageSize().height();
+    const int row = table.cellAt(block.position()).row();
+    for (int column = 0; column < table.columns(); ++column) {
+        QTextTableCell cell = table.cellAt(row, column);
         QTextTableCellFormat format = cell.format().toTableCellFormat();
         if (format.hasProperty(pushedproperty)) return false;
         format.setProperty(pushedproperty, true);
@@ -147,7 +161,7 @@ bool mend(const QTextBlock& block) {
     const QTextBlock next = block.next();
     if (!next.isValid()) return false;
     const Lines lines = linesof(block), below = linesof(next);
-    if (QTextCursor(block).currentTable()) return mendrow(block);
+    if (QTextTable* const table = QTextCursor(block).currentTable()) return mendrow(block, *table);
     if (isfigure(block)) {
         if (shrink(block)) return true;
         if (lines.lastpage == below.lastpage || breaksbefore(withheadings(block))) return false;

@@ -1,7 +1,7 @@
 # Takes the pictures of every window for the manual and lists them with their checksums in FOLDER/pictures.txt, which changes
-# only when a picture does.
+# only when a picture does. Whose machine it is makes no difference.
 execute_process(
-  COMMAND ${CMAKE_COMMAND} -E env --unset=LC_ALL LANG=C.UTF-8 ${SHOTS} --out ${FOLDER} --scale 2 --area ${AREA}
+  COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 --unset=QT_FONT_DPI --unset=QT_QPA_PLATFORMTHEME ${SHOTS} --out ${FOLDER} --scale 2 --area ${AREA}
   OUTPUT_VARIABLE told
   ERROR_VARIABLE told
   RESULT_VARIABLE failed)

@@ -1,5 +1,6 @@
 #include "reader/frmhelpkey.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include "reader/windowchapters.h"
@@ -29,6 +30,8 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
     const auto* const press = static_cast<QKeyEvent*>(event);
     if (press->key() != Qt::Key_F1 || press->modifiers() != Qt::NoModifier) return false;
+    // An open menu or list holds the mouse: nothing could be done with the manual.
+    if (QApplication::activePopupWidget()) return false;
     // A message box or a file dialog stands for the window that it belongs to.
     const QWidget* window = static_cast<QWidget*>(watched)->window();
     while (window->parentWidget() && !chapterof(window->objectName().toStdString()))

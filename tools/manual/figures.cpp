@@ -10,14 +10,14 @@ namespace {
 constexpr int indexproperty = QTextFormat::UserProperty + 1;
 constexpr int sizeproperty = QTextFormat::UserProperty + 2;
 
-[[noreturn]] void refuse(const QString& path, const char* why) {
+[[noreturn]] void unusable(const QString& path, const char* why) {
     throw SourceError((path + ": " + why).toStdString());
 }
 
 Figure loaddrawing(const QString& path) {
     Figure figure;
     figure.drawing = std::make_shared<QSvgRenderer>(path);
-    if (!figure.drawing->isValid()) refuse(path, "this drawing can't be read");
+    if (!figure.drawing->isValid()) unusable(path, "this drawing can't be read");
     figure.size = figure.drawing->defaultSize();
     return figure;
 }
@@ -36,7 +36,8 @@ Figure loadshot(const QString& path, const QRect& crop) {
     if (figure.picture.isNull()) return missing(path);
     if (!crop.isNull()) {
         const QRect part(crop.topLeft() * shotscale, crop.size() * shotscale);
-        if (part.isEmpty() || !figure.picture.rect().contains(part)) refuse(path, "the part lies outside the picture");
+        if (part.isEmpty() || !figure.picture.rect().contains(part))
+            unusable(path, "the part lies outside the picture");
         figure.picture = figure.picture.copy(part);
     }
     figure.picture.setDevicePixelRatio(1);

@@ -42,6 +42,15 @@ std::pair<int, int> pagesof(const QTextBlock& block) {
     return {page(0), page(layout.lineCount() - 1)};
 }
 
+/// What of the page before is left empty where a block begins a page; 0 where it doesn't.
+double voidabove(const QTextBlock& block) {
+    const QTextBlock before = block.previous();
+    const double height = block.document()->pageSize().height();
+    if (pagesof(before).second == pagesof(block).first) return 0;
+    const double bottom = block.document()->documentLayout()->blockBoundingRect(before).bottom();
+    return (pagesof(before).second + 1) * height - bottom;
+}
+
 QString words(int count) {
     QString text;
     for (int i = 0; i < count; ++i)
@@ -54,7 +63,7 @@ TEST_F(ChapterLayout, NothingIsPartedThatBelongsTogether) {
     int figures = 0, headings = 0, rows = 0;
     for (int above = 0; above < 24; ++above) {
         QString text = words(100 + 40 * above) + "## A section\n\n### Below it\n\n" + words(40);
-        text += "## With a figure\n\n![A window](shot:window)\n\n" + words(30) +
+        text += "## With a figure\n\nA line.\n\n![A window](shot:window)\n\n" + words(30) +
                 "## With a table\n\n| a | b |\n|---|---|\n";
         for (int row = 0; row < (above % 2 ? 4 : 24); ++row)
             text += "| " + QString::number(row) + " | " + words(25).trimmed() + " |\n";
@@ -68,6 +77,7 @@ TEST_F(ChapterLayout, NothingIsPartedThatBelongsTogether) {
             } else if (block.text() == QString(QChar::ObjectReplacementCharacter)) {
                 EXPECT_EQ(first, pagesof(block.next()).second) << "caption, above " << above;
                 EXPECT_EQ(block.next().text(), "A window");
+                EXPECT_LT(voidabove(block), 0.72 * dots(columnwidth) * 900 / 1296 + dots(14)) << "above " << above;
                 ++figures;
             } else if (QTextCursor(block).currentTable()) {
                 EXPECT_EQ(first, last) << "row " << block.text().toStdString() << ", above " << above;

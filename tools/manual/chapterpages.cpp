@@ -218,7 +218,8 @@ std::vector<Heading> ChapterPages::sections() const {
         if (block.blockFormat().headingLevel() != 2) continue;
         // Asked for its place, the block is laid out.
         const double blocktop = document->documentLayout()->blockBoundingRect(block).top();
-        const double top = blocktop + block.layout()->lineAt(0).y();
+        // What begins a page can stand a fraction of a dot above it.
+        const double top = blocktop + block.layout()->lineAt(0).y() + 1;
         const int page = static_cast<int>(top / document->pageSize().height());
         sections.push_back({block.text(), page, top - page * document->pageSize().height()});
     }
@@ -229,7 +230,8 @@ void ChapterPages::paint(QPainter& painter, int page) const {
     const QSizeF size = document->pageSize();
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, QColor(ink));
-    context.clip = QRectF(0, page * size.height(), size.width(), size.height());
+    // What begins on the next page must not show as a hairline at this one's foot.
+    context.clip = QRectF(0, page * size.height(), size.width(), size.height() - dots(0.1));
     painter.save();
     painter.translate(0, -page * size.height());
     painter.setClipRect(context.clip);

@@ -16,6 +16,8 @@ namespace {
 
 /// No figure is made smaller than this part of its size to fill a page.
 constexpr double smallestpart = 0.62;
+constexpr double figuremargins =
+    9;  // mm: above it, below it, and what its caption's lines take more than their letters
 constexpr int shrunkproperty = QTextFormat::UserProperty + 3;
 constexpr int pushedproperty = QTextFormat::UserProperty + 4;
 
@@ -85,19 +87,18 @@ QTextBlock withheadings(const QTextBlock& block) {
     return above.isValid() && isheading(above) ? firstheading(above) : block;
 }
 
-/// Makes a figure that went over to the next page fit in what it left behind, if that takes little.
+/// Makes a figure that with its caption goes over to the next page fit in what it leaves behind, if that takes little.
 bool shrink(const QTextBlock& figure) {
     const QTextBlock caption = figure.next(), above = figure.previous();
     const bool shrunk = figure.blockFormat().boolProperty(shrunkproperty);
     if (shrunk || !above.isValid() || isheading(above) || breaksbefore(figure)) return false;
+    const Lines captionlines = linesof(caption), before = linesof(above);
+    if (captionlines.lastpage == before.lastpage) return false;
     const double pageheight = figure.document()->pageSize().height();
-    const Lines here = linesof(figure), captionlines = linesof(caption), before = linesof(above);
-    if (here.lastpage != before.lastpage + 1 || here.top - here.firstpage * pageheight > 1) return false;
     const QTextFormat format = figure.begin().fragment().charFormat();
     const QSizeF size = FigureLetter::figuresize(format);
-    const double margins = pageheight / 25;
-    const double room =
-        (before.lastpage + 1) * pageheight - before.bottom - margins - (captionlines.bottom - here.bottom);
+    const double captionheight = caption.layout()->boundingRect().height();
+    const double room = (before.lastpage + 1) * pageheight - before.bottom - captionheight - dots(figuremargins);
     const double part = room / size.height();
     if (part < smallestpart || part >= 1) return false;
     QTextCharFormat smaller = format.toCharFormat();

@@ -3,6 +3,8 @@
 #include <QPdfBookmarkModel>
 #include <QPdfDocument>
 #include <QPdfSelection>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
 
 #include "fakes/temporaryfolder.h"
 
@@ -20,6 +22,21 @@ std::vector<Chapter> somechapters() {
 
 QString textof(QPdfDocument& document, int page) {
     return document.getAllText(page).text().simplified();
+}
+
+/// The pages, from 0, that the links of the two pages of contents lead to, in their order.
+std::vector<int> linkedpages(const std::string& book) {
+    QPDF document;
+    document.processMemoryFile("book", book.data(), book.size());
+    std::vector<int> pages;
+    for (const std::size_t contents : {1u, 2u}) {
+        QPDFObjectHandle page = document.getAllPages().at(contents);
+        for (QPDFObjectHandle link : page.getKey("/Annots").aitems()) {
+            QPDFObjectHandle to = link.getKey("/Dest").getArrayItem(0);
+            pages.push_back(document.findPage(to));
+        }
+    }
+    return pages;
 }
 
 /// The number of the page that the contents promise an entry on; 0 for one that isn't listed.
@@ -41,7 +58,8 @@ TEST(Book, OutlineAndContentsLeadToTheirPages) {
     ASSERT_EQ(bookmarks.rowCount(), 3);
     // Without the pages' own numbers at their feet.
     const QString contents = textof(document, 1).chopped(1) + " " + textof(document, 2).chopped(1);
-    int entries = 0, lastpage = 0;
+    std::vector<int> pages;
+    int lastpage = 0;
     const auto check = [&](const QModelIndex& entry) {
         const QString title = entry.data(int(QPdfBookmarkModel::Role::Title)).toString();
         const int page = entry.data(int(QPdfBookmarkModel::Role::Page)).toInt();
@@ -53,7 +71,11 @@ TEST(Book, OutlineAndContentsLeadToTheirPages) {
         EXPECT_TRUE(textof(document, page).endsWith(QString::number(page + 1)) ||
                     textof(document, page).contains(" " + QString::number(page + 1) + " "))
             << "the page's number " << page + 1;
-        ++entries;
+        const int start = static_cast<int>(document.getAllText(page).text().indexOf(title));
+        const QPdfSelection heading = document.getSelectionAtIndex(page, start, static_cast<int>(title.size()));
+        const double place = entry.data(int(QPdfBookmarkModel::Role::Location)).toPointF().y();
+        EXPECT_NEAR(place, heading.boundingRectangle().top(), 20) << title.toStdString();
+        pages.push_back(page);
     };
     for (int row = 0; row < bookmarks.rowCount(); ++row) {
         const QModelIndex chapter = bookmarks.index(row, 0);
@@ -61,7 +83,8 @@ TEST(Book, OutlineAndContentsLeadToTheirPages) {
         for (int section = 0; section < bookmarks.rowCount(chapter); ++section)
             check(bookmarks.index(section, 0, chapter));
     }
-    EXPECT_EQ(entries, 72);
+    EXPECT_EQ(pages.size(), 72u);
+    EXPECT_EQ(linkedpages(book), pages);
     EXPECT_EQ(lastpage, document.pageCount() - 1);
 }
 

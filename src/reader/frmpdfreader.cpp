@@ -96,6 +96,18 @@ void frmPDFReader::gotoentry(const QModelIndex& entry) {
     contents->setCurrentIndex(entry);
 }
 
+/// Marks the chapter that is being read in the contents; a section of it that was chosen stays chosen.
+void frmPDFReader::followpage() {
+    QModelIndex chapter;
+    for (int row = 0; row < bookmarks.rowCount(); ++row) {
+        const QModelIndex entry = bookmarks.index(row, 0);
+        if (pageof(entry) <= pages->currentpage()) chapter = entry;
+    }
+    const QModelIndex current = contents->currentIndex();
+    const bool within = chapter.isValid() && current.parent() == chapter;
+    if (current != chapter && !within) contents->setCurrentIndex(chapter);
+}
+
 void frmPDFReader::refreshpage() {
     const int count = document.pageCount();
     const int page = pages->currentpage() + 1;
@@ -110,6 +122,7 @@ void frmPDFReader::refreshpage() {
         key(name)->setEnabled(open && page < count);
     for (QAction* action : {key("ZOOMIN"), key("ZOOMOUT"), fitwidth, fitpage, mnuPrint})
         action->setEnabled(open);
+    followpage();
     fitwidth->setChecked(pages->fit() == PageView::Fit::width);
     fitpage->setChecked(pages->fit() == PageView::Fit::page);
 }

@@ -74,6 +74,7 @@ class frmPDFReader : public QMainWindow {
     void mnuSelectPrinter_Click();
     void gotoentry(const QModelIndex& entry);
     void refreshpage();
+    void followpage();
     void search();
     void showfound();
     void noprinter(const std::string& instead, const std::string& path);

@@ -150,6 +150,12 @@ TEST_F(Reader, TheContentsLeadToChaptersAndSections) {
     emit form.contents->clicked(form.contents->model()->index(0, 0, chapter));
     EXPECT_EQ(shown(*form.lblPage), "Page 4 of 5");
     EXPECT_GT(form.pages->verticalScrollBar()->value(), top + 50);
+    const auto current = [&] { return form.contents->currentIndex().data().toString().toStdString(); };
+    EXPECT_EQ(current(), "Its red line");
+    press("LAST");
+    EXPECT_EQ(current(), "Choosing a port and a date");
+    press("FIRST");
+    EXPECT_EQ(current(), "");
 }
 
 TEST_F(Reader, PrintingAsksForPagesAndAPrinter) {

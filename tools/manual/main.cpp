@@ -1,6 +1,7 @@
 // Lays the manual out: "makemanual CHAPTERS SHOTS FILE.pdf", of the chapters in one folder (drawings in its "figures")
 // and the pictures of the program's windows in another.
 #include <QGuiApplication>
+#include <QHashFunctions>
 #include <cstdio>
 
 #include "files/wholefiles.h"
@@ -8,7 +9,8 @@
 
 int main(int argc, char** argv) {
     using namespace tarvane;
-    // The page is the same on every screen.
+    // The same source makes the same bytes, on every screen.
+    QHashSeed::setDeterministicGlobalSeed();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("QT_SCALE_FACTOR");
     qunsetenv("QT_FONT_DPI");

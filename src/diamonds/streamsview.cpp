@@ -75,7 +75,8 @@ void reckon(const MainContext& context, StreamsView& view) {
     findturningpoints(prediction);
     const auto diamond = static_cast<std::size_t>(view.diamond);
     view.streams = daystreams(view.records[diamond], prediction);
-    view.about = "Diamond " + view.diamonds[diamond] + ". " + statusline(prediction, context.services.locale);
+    view.about = "Diamond " + view.diamonds[diamond] + ". " +
+                 statusline(prediction, context.session.areaorigin, context.services.locale);
     view.note = view.streams.whynot.empty() ? rangenote(view.streams) + " " + caution : view.streams.whynot;
 }
 

@@ -87,8 +87,6 @@ void frmtarvane::buildmenus() {
     for (const MenuEntry& entry : menuentries()) {
         QAction* action = findChild<QMenu*>(entry.menu)->addAction(entry.caption);
         action->setObjectName(entry.name);
-        action->setEnabled(entry.command != nullptr);
-        if (!entry.command) action->setToolTip(notyettext);
         if (*entry.shortcut) action->setShortcut(QKeySequence(entry.shortcut));
         connect(action, &QAction::triggered, this, [this, &entry] { choose(entry); });
         switched.push_back({action, entry.visible, nullptr});
@@ -98,7 +96,6 @@ void frmtarvane::buildmenus() {
 }
 
 void frmtarvane::choose(const MenuEntry& entry) {
-    if (!entry.command) return;
     Desk desk{context, [this](Dialog dialog) { opendialog(dialog); }, [this] { close(); }};
     session.view.answer.clear();
     statusbar->show(session.view);

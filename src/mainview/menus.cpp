@@ -103,7 +103,11 @@ void streamsforday(Desk& desk) {
 }
 
 void help(Desk& desk) {
-    desk.context.services.messages.show(helptext(), programname, MessageIcon::information);
+    desk.context.services.windows.showmanual("frmtarvane");
+}
+
+void keys(Desk& desk) {
+    desk.context.services.messages.show(keystext(), programname, MessageIcon::information);
 }
 
 constexpr MenuPlace places[] = {
@@ -153,6 +157,7 @@ constexpr MenuEntry entries[] = {
     {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", "Ctrl+T", run<togglelayers>},
     {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", adjustharmonics, true, &MainView::adjustvisible},
     {"mnuHelpTop", "mnuHelp", "Help", "F1", help},
+    {"mnuHelpTop", "mnuKeys", "&Keys", "", keys},
     {"mnuSpecial", "mnuAnglesAndFactors", "Angles and Factors", "", run<exportanglesandfactors>},
     {"mnuSpecial", "mnuYears", "Years", "", run<exportyears>},
     {"mnuSpecial", "mnuCalcOrbitalConst", "Orbital Constants", "", run<exportorbitalconstants>},
@@ -170,8 +175,6 @@ std::string plaincaption(std::string_view caption) {
 
 }  // namespace
 
-const char* const notyettext = "Not in this version yet";
-
 std::span<const MenuPlace> menuplaces() {
     return places;
 }
@@ -180,13 +183,12 @@ std::span<const MenuEntry> menuentries() {
     return entries;
 }
 
-std::string helptext() {
+std::string keystext() {
     std::string text = programcaption() +
                        "\n\nTide prediction for yachtsmen. All results are approximate, and not for navigation.\n\n"
                        "Page Down, Page Up: next and previous day\n";
     for (const MenuEntry& entry : entries)
-        if (*entry.shortcut && entry.command != &help)
-            text += std::string(entry.shortcut) + ": " + plaincaption(entry.caption) + "\n";
+        if (*entry.shortcut) text += std::string(entry.shortcut) + ": " + plaincaption(entry.caption) + "\n";
     return text + "A click on the curve freezes the readout, another frees it.";
 }
 

@@ -1,6 +1,7 @@
 // Pictures of every window there is, offscreen: "shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH]" with
 // a standing clock, "shots --mainwindow FILE.png" of the main window as this user would see it now, and "shots --pages
-// FOLDER [--area FILE.hc]" of every printout as a PDF. The screen is given in its own pixels.
+// FOLDER [--area FILE.hc]" of every printout as a PDF, "shots --manual FOLDER" of the window that shows the built
+// manual. The screen is given in its own pixels.
 #include <QApplication>
 #include <QDir>
 #include <QKeyEvent>
@@ -34,6 +35,7 @@
 #include "shell/frmconditions.h"
 #include "shots/diamonds.h"
 #include "shots/pages.h"
+#include "shots/reader.h"
 #include "shots/stage.h"
 
 namespace tarvane::shots {
@@ -44,6 +46,7 @@ struct Options {
     QString area;
     QString mainwindow;
     QString pages;
+    QString manual;
 };
 
 /// False for a call that can't be taken.
@@ -59,6 +62,8 @@ bool readoptions(const QStringList& arguments, Options& options) {
             options.mainwindow = value;
         else if (arguments[i] == "--pages")
             options.pages = value;
+        else if (arguments[i] == "--manual")
+            options.manual = value;
         else if (arguments[i] != "--scale" && arguments[i] != "--screen")
             return false;
     }
@@ -323,6 +328,7 @@ void setscreen(const QByteArray& size, QTemporaryFile& description) {
 int run(const Options& options) {
     const QString area = options.area.isEmpty() ? QApplication::applicationDirPath() + "/UK.hc" : QString(options.area);
     if (!options.pages.isEmpty()) return takepages(options.pages.toStdString(), area.toStdString()) ? 0 : 1;
+    if (!options.manual.isEmpty()) return takereader(options.manual.toStdString()) ? 0 : 1;
     Album album{QDir(options.out)};
     if (!options.mainwindow.isEmpty()) {
         const QFileInfo file(options.mainwindow);
@@ -354,7 +360,7 @@ int main(int argc, char** argv) {
     if (!tarvane::shots::readoptions(QApplication::arguments(), options)) {
         std::fprintf(stderr,
                      "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH] | "
-                     "shots --mainwindow FILE.png | shots --pages FOLDER [--area FILE.hc]\n");
+                     "shots --mainwindow FILE.png | shots --pages FOLDER [--area FILE.hc] | shots --manual FOLDER\n");
         return 2;
     }
     return tarvane::shots::run(options);

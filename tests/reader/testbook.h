@@ -1,0 +1,23 @@
+// A small manual of known contents, for what is tested of its reader.
+#pragma once
+
+#include "fakes/temporaryfolder.h"
+#include "manual/book.h"
+#include "reader/windowchapters.h"
+
+namespace tarvane::tests {
+
+/// Title, contents, and the chapters "First", "The curve and what its parts mean" and "Choosing a port and a date", a
+/// page each. The word "harbour" stands on pages 3, 3, 4 and 5.
+inline void puttestbook(const fakes::TemporaryFolder& programfolder) {
+    using manual::readchapter;
+    const std::vector<manual::Chapter> chapters{
+        readchapter("# First\n\nA harbour, and a second Harbour.\n", "1"),
+        readchapter("# The curve and what its parts mean\n\nThe harbour's curve.\n\n## Its red line\n\nNow.\n", "2"),
+        readchapter("# Choosing a port and a date\n\nA harbour by name.\n", "3"),
+    };
+    std::filesystem::create_directory(programfolder / "PDF");
+    putfile(programfolder / "PDF/" + manualfile, manual::makebook(chapters, {}));
+}
+
+}  // namespace tarvane::tests

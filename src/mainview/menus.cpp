@@ -84,10 +84,12 @@ void adjustharmonics(Desk& desk) {
 
 void correctconstants(Desk& desk) {
     desk.open(Dialog::correctconstants);
+    drawcurve(desk);
 }
 
 void copyports(Desk& desk) {
     desk.open(Dialog::copyports);
+    drawcurve(desk);
 }
 
 void copydiamonds(Desk& desk) {

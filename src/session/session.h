@@ -86,6 +86,8 @@ struct Session {
     int mousefrozen = 0;    ///< 0 the readout follows the mouse, 1 it stands still
     int layersmode = 0;     ///< 0 tide curve, 1 constituents view
     bool showconstants = false;
+    /// Of the last prediction with `showconstants` on, by their places in `constituents`.
+    std::array<std::string, constituents.size()> layerconstants;
     LayerChoice layers{};
     LayerReadout layervalues;
     TideDay layersday;  ///< what `layervalues` were read off

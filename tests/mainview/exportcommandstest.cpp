@@ -62,6 +62,10 @@ TEST_F(ExportCommands, TheYearsFileAndTheBlankCurveBehindIt) {
     const std::string height = session.view.hiteval;
     picturemousemove(session, picture, 9);
     EXPECT_EQ(session.view.hiteval, height);
+    // What was drawn before the run still is the day's curve, and can be saved.
+    scripted.filedialogs.expectsave(folder / "day.txt", "Save hourly details");
+    choose("mnusaveday");
+    EXPECT_NE(filetext(folder / "day.txt").find("\t04:40\t5.54\r\n"), std::string::npos);
     nextport(context);
     EXPECT_TRUE(line().starts_with("Tides of Birch Sound (2), Monday 30 December 2024, ")) << line();
     nextday(context);

@@ -41,7 +41,8 @@ TEST_F(Menus, SomeEntriesDoMoreThanOpenAWindow) {
 }
 
 TEST_F(Menus, WindowsThatChangeTheDayAreFollowedByTheCurve) {
-    for (const char* entry : {"mnutidedate", "mnuPortList", "mnusunrise", "Mnushowconfig"}) {
+    for (const char* entry :
+         {"mnutidedate", "mnuPortList", "mnusunrise", "Mnushowconfig", "mnumaintainfile", "mnucopyconstants"}) {
         session.view.topmenusenabled = false;
         const int before = picture.persistentclears;
         choose(entry);

@@ -143,10 +143,10 @@ void takelayers(Album& album, Stage& stage) {
     frmtarvane& window = stage.window();
     for (const LayersPanel::Row& row : window.layers.rows)
         row.box->click();
+    session.showconstants = true;
     window.menuentry("mnuLayersShow")->trigger();
     stage.settle();
     picturemousemove(session, *window.Picture1, 9.4);
-    session.showconstants = true;
     window.showview();
     album.take(window, "frmtarvane-constituents");
     window.menuentry("mnuLayersShow")->trigger();

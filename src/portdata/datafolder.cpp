@@ -94,6 +94,11 @@ std::string filenamefault(std::string_view name) {
     return control ? "A file name can't hold control characters" : "";
 }
 
+std::string areanamefault(const std::string& name) {
+    if (lower(name) == "scratch") return "scratch.hc is the program's own work file, which is emptied again";
+    return filenamefault(name);
+}
+
 std::string namebeforepoint(std::string_view name) {
     return std::string(name.substr(0, name.find('.')));
 }

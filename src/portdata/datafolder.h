@@ -47,6 +47,9 @@ WritableFile workfile(const ProgramFolders& folders);
 /// Why a typed text can't be the name of a file in the folder, a sentence; empty when it can.
 std::string filenamefault(std::string_view name);
 
+/// The same for an area file's name without its ending; the work file's is none.
+std::string areanamefault(const std::string& name);
+
 /// "UK" of "UK.hc": a file's name up to its first point.
 std::string namebeforepoint(std::string_view name);
 

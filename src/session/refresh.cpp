@@ -79,6 +79,13 @@ void takecurrentport(Session& session, bool trimname) {
     session.port.zonehours = zonehoursof(record);
 }
 
+void followarea(Session& session) {
+    ConfigRecord record;
+    record.hcfilepath = session.settings.hcfile;
+    findareafile(session.folders, record);
+    session.settings.hcfile = record.hcfilepath;
+}
+
 std::string portboxof(const std::string& name) {
     return "Port    : " + name;
 }

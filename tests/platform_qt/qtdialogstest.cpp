@@ -3,12 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include "platform/qt/qtfiledialogs.h"
 #include "platform/qt/qtprogress.h"
@@ -45,6 +49,27 @@ TEST(QtFileDialogs, FiltersAreConverted) {
                                                         {"", {}}};
     for (const auto& [filter, expected] : rows)
         EXPECT_EQ(namefilters(filter), expected) << filter;
+}
+
+TEST(QtFileDialogs, PlacesOfferedOnceAreNoBookmarksOfTheUser) {
+    QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    const auto beside = [](const std::vector<std::string>& places) {
+        QList<QUrl> urls;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            urls = dialog->sidebarUrls();
+            dialog->reject();
+        });
+        FileRequest request;
+        request.places = places;
+        EXPECT_EQ(QtFileDialogs().open(request), std::nullopt);
+        return urls;
+    };
+    const QUrl area = QUrl::fromLocalFile(settings.path());
+    const QList<QUrl> before = beside({});
+    EXPECT_TRUE(beside({settings.path().toStdString()}).contains(area));
+    EXPECT_EQ(beside({}), before);
 }
 
 TEST(QtProgress, RunsItsStepsInOrderUntilCancelOrAFailure) {

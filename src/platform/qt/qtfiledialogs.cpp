@@ -50,6 +50,7 @@ std::optional<std::string> run(const FileRequest& request, bool saving) {
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askoverwrite);
     dialog.setDirectory(request.folder.empty() ? QDir::homePath() : QString::fromStdString(request.folder));
+    const QList<QUrl> bookmarks = dialog.sidebarUrls();
     offerplaces(dialog, request.places);
     const QStringList filters = namefilters(request.filter);
     if (!filters.isEmpty()) {
@@ -64,7 +65,10 @@ std::optional<std::string> run(const FileRequest& request, bool saving) {
     // The dialog's own size can be larger than a small screen.
     const QRect room = dialog.screen()->availableGeometry();
     dialog.resize(dialog.sizeHint().boundedTo(room.size() - QSize(16, 48)));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    // What stands beside the files as the dialog goes is kept for every program of the toolkit.
+    if (!request.places.empty()) dialog.setSidebarUrls(bookmarks);
+    if (!accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().first().toStdString();
 }
 

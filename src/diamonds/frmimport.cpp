@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPixmap>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -25,6 +26,13 @@ void listtexts(QListWidget& list, const std::vector<std::string>& texts) {
     list.clear();
     for (const std::string& text : texts)
         list.addItem(QString::fromStdString(text));
+}
+
+/// Room in front of a row.
+QPixmap indentof(int width) {
+    QPixmap room(width, 1);
+    room.fill(Qt::transparent);
+    return room;
 }
 
 /// The hourglass over a window, as long as this lives.
@@ -122,7 +130,9 @@ void frmimport::showdrives() {
 void frmimport::showfolder() {
     dirDirectories->clear();
     for (const FolderRow& row : import.folders) {
-        auto* item = new QListWidgetItem(QString(3 * row.depth, ' ') + QString::fromStdString(row.name));
+        auto* item = new QListWidgetItem(QString::fromStdString(row.name));
+        // Not blanks in the text: the keyboard looks for what a row begins with.
+        if (row.depth > 0) item->setData(Qt::DecorationRole, indentof(row.depth * fontMetrics().averageCharWidth()));
         QFont font = item->font();
         font.setBold(row.open);
         item->setFont(font);

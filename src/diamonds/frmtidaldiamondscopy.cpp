@@ -17,11 +17,11 @@ int highlighted(const QListWidget& list) {
     return selected.isEmpty() ? -1 : list.row(selected.first());
 }
 
-/// Highlights a row, or none, without its being a click.
+/// Highlights a row, or none, without its being a click. With none the keys go on from where they were.
 void highlight(QListWidget& list, int row) {
     const QSignalBlocker quiet(&list);
     if (row < 0)
-        list.setCurrentRow(-1);
+        list.clearSelection();
     else
         list.setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
 }

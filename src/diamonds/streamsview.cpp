@@ -1,6 +1,7 @@
 #include "diamonds/streamsview.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "dates/isomoments.h"
 #include "dates/summertime.h"
@@ -52,6 +53,14 @@ std::string rangenote(const DayStreams& day) {
            metres(day.means.spring) + ".";
 }
 
+/// What has to be said of a diamond whose file is broken; empty for any other.
+std::string brokennote(const DayStreams& day) {
+    for (const StreamRow& row : day.tides.front().rows)
+        if (!std::isfinite(row.direction) || !std::isfinite(row.rate))
+            return " The file has directions or rates that are no numbers.";
+    return {};
+}
+
 /// Why no streams can be had with what is in hand; empty when they can.
 std::string missing(const MainContext& context, const StreamsView& view) {
     if (view.files.empty()) return howtogetdiamonds(context.session.folders);
@@ -77,7 +86,8 @@ void reckon(const MainContext& context, StreamsView& view) {
     view.streams = daystreams(view.records[diamond], prediction);
     view.about = "Diamond " + view.diamonds[diamond] + ". " +
                  statusline(prediction, context.session.areaorigin, context.services.locale);
-    view.note = view.streams.whynot.empty() ? rangenote(view.streams) + " " + caution : view.streams.whynot;
+    view.note = view.streams.whynot;
+    if (view.note.empty()) view.note = rangenote(view.streams) + " " + caution + brokennote(view.streams);
 }
 
 std::string timeof(const ClockMoment& moment) {

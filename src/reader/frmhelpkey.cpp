@@ -23,7 +23,11 @@ void HelpKey::open(const std::string& windowname) {
     shown->activateWindow();
     if (fresh) shown->openmanual(manualfile);
     // The user can have closed it while he was told that there is no manual.
-    if (shown) shown->gotochapter(chapterof(windowname).value_or(""));
+    if (!shown) return;
+    // That message stood before another window, which is in front behind it.
+    if (fresh) shown->raise();
+    if (fresh) shown->activateWindow();
+    shown->gotochapter(chapterof(windowname).value_or(""));
 }
 
 bool HelpKey::eventFilter(QObject* watched, QEvent* event) {

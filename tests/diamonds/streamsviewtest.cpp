@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <limits>
 
 #include "diamonds/diamondofstreams.h"
 #include "fakes/mainfixture.h"
@@ -75,6 +76,11 @@ TEST_F(Streams, WhatIsMissingIsToldInWords) {
     EXPECT_EQ(view.note, "The file " + program + "solent.l20 can't be read: No such file or directory");
     choosestreamport(context, view, 0);
     EXPECT_EQ(view.diamonds.size(), 0U);
+    DiamondRecord broken = rounddiamond();
+    broken.streams[0].SpringRate = std::numeric_limits<float>::quiet_NaN();
+    putdiamonds(program + "solent.l20", {broken});
+    choosestreamfile(context, view, 0);
+    EXPECT_TRUE(view.note.ends_with("approximate. The file has directions or rates that are no numbers."));
     putfile(program + "solent.l20", "short");
     choosestreamfile(context, view, 0);
     EXPECT_EQ(view.note, "The file holds no diamond.");

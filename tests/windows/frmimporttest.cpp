@@ -46,6 +46,9 @@ TEST_F(FrmImport, FoldersOpenAndTheirAreasAreImported) {
     EXPECT_EQ(filetext(session.folders.programfolder + "/SOLENT.cht"), "chart");
     EXPECT_EQ(form.cursor().shape(), Qt::ArrowCursor) << "the hourglass has gone";
     form.dirDirectories->setCurrentRow(0);
+    QTest::keyClicks(form.dirDirectories, "atl");
+    EXPECT_EQ(form.dirDirectories->currentRow(), 1) << "typing finds a folder below another";
+    form.dirDirectories->setCurrentRow(0);
     QTest::keyClick(form.dirDirectories, Qt::Key_Return);
     EXPECT_EQ(form.filFilenames->count(), 0);
     form.Cmdfinished->click();

@@ -21,7 +21,8 @@ class FrmTidalDiamondsCopy : public testing::Test, protected MainFixture {
             record.streams[highwaterplace] = {90, 2, 1};
             adddiamond(before, solent(), record);
         }
-        putfile(session.folders.programfolder + "/mine.l20", "");
+        for (const char* empty : {"/mine.l20", "/zone.l20"})
+            putfile(session.folders.programfolder + empty, "");
     }
     std::string solent() const { return session.folders.programfolder + "/solent.l20"; }
     static void click(QListWidget& list, int row) {
@@ -89,7 +90,7 @@ TEST_F(FrmTidalDiamondsCopy, AnEntryIsShownTypedIntoCopiedAndWritten) {
     box("txtDestFile").setText("creek");
     form.cmdAdd->click();
     EXPECT_EQ(form.List2->count(), 1);
-    EXPECT_EQ(form.fileSource->count(), 3);
+    EXPECT_EQ(form.fileSource->count(), 4);
     EXPECT_EQ(readdiamonds(session.folders.programfolder + "/creek.l20").diamonds[0].DiamondLat, -51.5F);
     click(*form.List1, 0);
     form.cmdDelete->setFocus();
@@ -114,6 +115,20 @@ TEST_F(FrmTidalDiamondsCopy, ADoubleClickOnADirectionEmptiesItsHourAlone) {
     QTest::mouseDClick(&box("txtDestspratehw"), Qt::LeftButton);
     EXPECT_EQ(text("txtDestdirp6") + text("txtDestspratep6") + text("txtDestnpratep6"), "");
     EXPECT_EQ(text("txtDestnpratep5") + text("txtDestdirhw"), "0.0090");
+}
+
+TEST_F(FrmTidalDiamondsCopy, TheKeysPassAFileThatCantBeRead) {
+    ASSERT_EQ(form.fileSource->item(1)->text(), "solent.l20");
+    click(*form.fileSource, 0);
+    std::filesystem::remove(solent());
+    std::filesystem::create_directory(solent());
+    scripted.messages.expectshow("The diamond file can't be read: " + solent() + ": Is a directory");
+    QTest::keyClick(form.fileSource, Qt::Key_Down);
+    QApplication::processEvents();
+    EXPECT_TRUE(form.fileSource->selectedItems().isEmpty());
+    QTest::keyClick(form.fileSource, Qt::Key_Down);
+    EXPECT_EQ(form.fileSource->selectedItems().value(0), form.fileSource->item(2));
+    EXPECT_TRUE(shown(*form.lblSourceFile).ends_with("/zone.l20"));
 }
 
 TEST_F(FrmTidalDiamondsCopy, WhatWasTypedIsNotLostUnasked) {

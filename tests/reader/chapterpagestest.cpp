@@ -22,9 +22,9 @@ struct ChapterLayout : testing::Test {
         picture.save(QString::fromStdString(folder / "window.png"));
     }
 
-    ChapterPages laidout(const QString& markdown) {
+    ChapterPages laidout(const QString& markdown, double start = 0) {
         const QString path = QString::fromStdString(folder / "");
-        return {readchapter("# Title\n" + markdown, "x.md"), {path, path}, writer};
+        return {readchapter("# Title\n" + markdown, "x.md"), {path, path}, writer, start};
     }
 
     fakes::TemporaryFolder folder;
@@ -51,6 +51,17 @@ double voidabove(const QTextBlock& block) {
     return (pagesof(before).second + 1) * height - bottom;
 }
 
+int lastrowpage(QTextTable& table) {
+    return pagesof(table.lastCursorPosition().block()).second;
+}
+
+/// The page on which a table's frame ends: its head stands on every page up to that one.
+int endpageof(QTextTable& table) {
+    const QTextDocument& document = *table.document();
+    const QRectF frame = document.documentLayout()->frameBoundingRect(&table);
+    return static_cast<int>((frame.bottom() - 1) / document.pageSize().height());
+}
+
 QString words(int count) {
     QString text;
     for (int i = 0; i < count; ++i)
@@ -60,11 +71,12 @@ QString words(int count) {
 
 /// Whatever amount of text stands above, which moves everything down the page line by line.
 TEST_F(ChapterLayout, NothingIsPartedThatBelongsTogether) {
-    int figures = 0, headings = 0, rows = 0;
+    int figures = 0, headings = 0, rows = 0, listed = 0;
     for (int above = 0; above < 24; ++above) {
         QString text = words(100 + 40 * above) + "## A section\n\n### Below it\n\n" + words(40);
-        text += "## With a figure\n\n" + QString(above % 2 ? "A line.\n\n" : "") + "![A window](shot:window)\n\n" +
-                words(30) + "## With a table\n\n| a | b |\n|---|---|\n";
+        text += "Listed:\n\n```\none\n\ntwo\nthree\n```\n\n## With a figure\n\n" +
+                QString(above % 2 ? "A line.\n\n" : "") + "![A window](shot:window)\n\n" + words(30) +
+                "## With a table\n\n| a | b |\n|---|---|\n";
         for (int row = 0; row < (above % 2 ? 4 : 24); ++row)
             text += "| " + QString::number(row) + " | " + words(25).trimmed() + " |\n";
         const ChapterPages pages = laidout(text);
@@ -77,10 +89,16 @@ TEST_F(ChapterLayout, NothingIsPartedThatBelongsTogether) {
             } else if (block.text() == QString(QChar::ObjectReplacementCharacter)) {
                 EXPECT_EQ(first, pagesof(block.next()).second) << "caption, above " << above;
                 EXPECT_EQ(block.next().text(), "A window");
-                EXPECT_LT(voidabove(block), 0.72 * dots(columnwidth) * 900 / 1296 + dots(14)) << "above " << above;
+                EXPECT_LT(voidabove(block), 0.75 * dots(columnwidth) * 900 / 1296 + dots(14)) << "above " << above;
                 ++figures;
+            } else if (block.text() == "Listed:" || block.text() == "one" || block.text() == "two") {
+                EXPECT_EQ(last, pagesof(block.next()).first) << block.text().toStdString() << ", above " << above;
+                ++listed;
             } else if (QTextCursor(block).currentTable()) {
                 EXPECT_EQ(first, last) << "row " << block.text().toStdString() << ", above " << above;
+                EXPECT_EQ(endpageof(*QTextCursor(block).currentTable()),
+                          lastrowpage(*QTextCursor(block).currentTable()))
+                    << "a table's head is repeated above nothing, above " << above;
                 ++rows;
             }
         }
@@ -88,21 +106,60 @@ TEST_F(ChapterLayout, NothingIsPartedThatBelongsTogether) {
     EXPECT_EQ(figures, 24);
     EXPECT_EQ(headings, 24 * 5);
     EXPECT_GT(rows, 24 * 24);
+    EXPECT_EQ(listed, 24 * 3);
 }
 
 TEST_F(ChapterLayout, AFigureFitsTheColumnAndKeepsItsShape) {
-    const ChapterPages pages = laidout("![Whole](shot:window)\n\n![Part](shot:window?crop=10,20,100,50)\n");
+    QImage wide(2000, 1000, QImage::Format_RGB32);
+    wide.fill(Qt::gray);
+    wide.save(QString::fromStdString(folder / "wide.png"));
+    const ChapterPages pages =
+        laidout("![Whole](shot:window)\n\n![Part](shot:window?crop=10,20,100,50)\n\n![Wide](shot:wide)\n");
     std::vector<QSizeF> sizes;
     for (QTextBlock block = pages.text().begin(); block.isValid(); block = block.next())
         if (block.text() == QString(QChar::ObjectReplacementCharacter))
             sizes.push_back(FigureLetter::figuresize(block.begin().fragment().charFormat()));
-    ASSERT_EQ(sizes.size(), 2u);
-    EXPECT_NEAR(sizes[0].width(), dots(columnwidth), 1);
-    EXPECT_NEAR(sizes[0].height(), dots(columnwidth) * 900 / 1296, 1);
-    EXPECT_NEAR(sizes[1].width(), dots(columnwidth) * 100 / 648, 1);
+    ASSERT_EQ(sizes.size(), 3u);
+    EXPECT_NEAR(sizes[2].width(), dots(textwidth), 1);
+    EXPECT_LT(sizes[0].width(), dots(columnwidth));
+    EXPECT_NEAR(sizes[0].height(), sizes[0].width() * 900 / 1296, 1);
+    EXPECT_NEAR(sizes[1].width(), sizes[0].width() * 100 / 648, 1);
     EXPECT_NEAR(sizes[1].height(), sizes[1].width() / 2, 1);
     EXPECT_THROW(laidout("![Part](shot:window?crop=600,0,100,50)\n"), SourceError);
     EXPECT_THROW(laidout("![Drawing](figure:none.svg)\n"), SourceError);
+}
+
+/// What follows a figure goes up into the space that it leaves, unless it belongs below it.
+TEST_F(ChapterLayout, TextFillsTheSpaceAboveAFigure) {
+    struct {
+        QString follows;
+        bool goesup;
+    } const cases[] = {{"First.\n\nSecond.\n\n", true},
+                       {"- First.\n- Second.\n\n", true},
+                       {"As told:\n\nFirst.\n\n", false},
+                       {"| a | b |\n|---|---|\n| 1 | 2 |\n\n", false},
+                       {"## First\n\nSecond.\n\n", false}};
+    for (const auto& [follows, goesup] : cases) {
+        const ChapterPages pages = laidout(words(430) + "![A window](shot:window)\n\n" + follows);
+        const QTextBlock caption = pages.text().find("A window").block();
+        EXPECT_EQ(pagesof(caption).first, 1);
+        const bool up =
+            pages.text().find("First").isNull() || pages.text().find("First").position() < caption.position();
+        EXPECT_EQ(up && !follows.startsWith('|'), goesup) << follows.toStdString();
+    }
+}
+
+TEST_F(ChapterLayout, AChapterBeginsBelowAnothersEndWhereItHasRoom) {
+    const QString text = words(60) + "## Section\n\n" + words(700);
+    const ChapterPages own = laidout(text), below = laidout(text, 90),
+                       late = laidout("![A window](shot:window)\n", 200);
+    EXPECT_EQ(own.start(), 0);
+    EXPECT_EQ(below.start(), 90);
+    EXPECT_EQ(late.start(), 0) << "the figure takes the title along";
+    EXPECT_EQ(late.count(), 1);
+    ASSERT_EQ(below.sections().at(0).page, 0);
+    EXPECT_NEAR(below.sections().at(0).top - own.sections().at(0).top, dots(90), dots(3));
+    EXPECT_GT(below.end() + (below.count() - own.count()) * textheight, own.end() + 80);
 }
 
 TEST_F(ChapterLayout, SectionsAreListedWhereTheyStand) {

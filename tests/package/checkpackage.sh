@@ -89,7 +89,7 @@ tides fit --near dov>Dover|
 tides --port 'le\ h'>Le\ Havre|
 tides \"le\ h>Le Havre|
 tides --area m>mine.hc|
-tides streams --diamond r>race.l20|
+tides streams --diamond ra>race.l20|
 tides --area nowhere.hc --port do>|
 END
 

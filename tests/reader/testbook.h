@@ -13,7 +13,7 @@ inline QString almostapage() {
 }
 
 /// Title, contents, and the chapters "First", "The curve and what its parts mean" and "Choosing a port and a date", a
-/// page each. The word "harbour" stands on pages 3, 3, 4 and 5.
+/// page each, with "Last" below the third. The word "harbour" stands on pages 3, 3, 4 and 5.
 inline void puttestbook(const fakes::TemporaryFolder& programfolder) {
     using manual::readchapter;
     const std::vector<manual::Chapter> chapters{
@@ -22,6 +22,7 @@ inline void puttestbook(const fakes::TemporaryFolder& programfolder) {
                         almostapage(),
                     "2"),
         readchapter("# Choosing a port and a date\n\nA harbour by name.\n", "3"),
+        readchapter("# Last\n\nOf all.\n", "4"),
     };
     std::filesystem::create_directory(programfolder / "PDF");
     putfile(programfolder / "PDF/" + manualfile, manual::makebook(chapters, {}));

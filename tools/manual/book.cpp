@@ -17,7 +17,7 @@ namespace tarvane::manual {
 namespace {
 
 const char* const booktitle = "Tarvane Tides Manual";
-constexpr double contentsrow = 5.2, chaptergap = 2.6, contentshead = 18;  // mm
+constexpr double contentsrow = 5.8, chaptergap = 3.4, contentshead = 18;  // mm
 constexpr int contentscolumns = 2;
 constexpr double contentsspace = 10;  // mm between the columns
 constexpr double chapterspace = 14;   // mm above a chapter that begins below another's end

@@ -21,9 +21,14 @@ namespace {
 
 constexpr double zoomstep = 1.25;
 constexpr double printdots = 200;  // to the inch
+constexpr double pagetop = 100;    // points within which what heads a page stands
 
 int pageof(const QModelIndex& entry) {
     return entry.data(static_cast<int>(QPdfBookmarkModel::Role::Page)).toInt();
+}
+
+double topof(const QModelIndex& entry) {
+    return entry.data(static_cast<int>(QPdfBookmarkModel::Role::Location)).toPointF().y();
 }
 
 std::string titleof(const QModelIndex& entry) {
@@ -90,22 +95,25 @@ void frmPDFReader::gotochapter(const std::string& title) {
 
 void frmPDFReader::gotoentry(const QModelIndex& entry) {
     if (!entry.isValid()) return;
-    const QPointF place = entry.data(static_cast<int>(QPdfBookmarkModel::Role::Location)).toPointF();
-    // A chapter is shown from its page's top, a section from its heading.
-    pages->gotopage(pageof(entry), entry.parent().isValid() ? place.y() : 0);
+    // A chapter that begins a page is shown from the page's top, anything else from its heading.
+    const bool top = !entry.parent().isValid() && topof(entry) < pagetop;
+    pages->gotopage(pageof(entry), top ? 0 : topof(entry));
     contents->setCurrentIndex(entry);
 }
 
-/// Marks the chapter that is being read in the contents; a section of it that was chosen stays chosen.
+/// Marks the chapter that the page in view begins with in the contents; a section of it that was chosen stays chosen,
+/// and what was chosen on the page.
 void frmPDFReader::followpage() {
     QModelIndex chapter;
     for (int row = 0; row < bookmarks.rowCount(); ++row) {
         const QModelIndex entry = bookmarks.index(row, 0);
-        if (pageof(entry) <= pages->currentpage()) chapter = entry;
+        const int past = pages->currentpage() - pageof(entry);
+        if (past > 0 || (past == 0 && topof(entry) < pagetop)) chapter = entry;
     }
     const QModelIndex current = contents->currentIndex();
     const bool within = chapter.isValid() && current.parent() == chapter;
-    if (current != chapter && !within) contents->setCurrentIndex(chapter);
+    const bool here = current.isValid() && pageof(current) == pages->currentpage();
+    if (current != chapter && !within && !here) contents->setCurrentIndex(chapter);
 }
 
 void frmPDFReader::refreshpage() {

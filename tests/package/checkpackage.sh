@@ -47,13 +47,28 @@ for page in root/usr/share/man/man1/*; do
   [ -z "$warnings" ] || fault "$page: $warnings"
 done
 
-# Every option that the help names stands in the page and in the completion.
 completion=root/usr/share/bash-completion/completions/tides
+# offeredfor WORDS...: what the completion offers for the last word, "|" behind each.
+offeredfor() {
+  PATH=$work/root/usr/bin:$PATH bash -c 'source "$0"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _tides
+    printf "%s|" "${COMPREPLY[@]}"' "$completion" "$@" 2>&1
+}
+
+# Every option that the help lists stands in its section of the page, and the completion offers these and no others.
 zcat root/usr/share/man/man1/tides.1.gz | sed 's/\\-/-/g' >tides.txt
-for option in $({ root/usr/bin/tides --help; root/usr/bin/tides fit --help; } | grep -o -- '--[a-z]\+' | sort -u); do
-  grep -q -e "$option\b" tides.txt || fault "tides.1 doesn't tell of $option."
-  grep -q -e "$option\b" $completion || fault "The completion doesn't know $option."
-done
+while IFS='>' read -r subcommand section; do
+  root/usr/bin/tides $subcommand --help | sed -n 's/^  \(-h,\)\?\(--[a-z]\+\).*/\2/p' | sort >options.txt
+  offeredfor tides $subcommand -- | tr '|' '\n' | sort | diff options.txt - ||
+    fault "The completion doesn't offer the options of 'tides $subcommand' (< missing, > unforeseen)."
+  awk -v head=".SH $section" '/^\.SH/ { on = $0 == head } on' tides.txt >section.txt
+  while read -r option; do
+    grep -q -e "$option\b" section.txt || fault "$section in tides.1 doesn't tell of $option."
+  done <options.txt
+done <<'END'
+>OPTIONS
+fit>FITTING CONSTANTS
+streams>TIDAL STREAMS
+END
 
 # The program from where it would lie: the areas come out of the shared folder, and nothing is written.
 before=$(find root home | sort)
@@ -61,12 +76,7 @@ root/usr/bin/tides --list >list.txt || fault "tides doesn't work from the packag
 [ "$(wc -l <list.txt)" -gt 80 ] || fault "tides doesn't list the ports of the package."
 [ "$(find root home | sort)" = "$before" ] || fault "tides made files."
 
-# offeredfor WORDS...: what the completion offers for the last word, "|" behind each.
-offeredfor() {
-  PATH=$work/root/usr/bin:$PATH bash -c 'source "$0"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _tides
-    printf "%s|" "${COMPREPLY[@]}"' "$completion" "$@" 2>&1
-}
-touch mine.hc notes.txt
+touch mine.hc race.l20 notes.txt
 while IFS='>' read -r words wanted; do
   eval "offered=\$(offeredfor $words)"
   [ "$offered" = "$wanted" ] || fault "Completing '$words' offers '$offered', not '$wanted'."
@@ -79,6 +89,7 @@ tides fit --near dov>Dover|
 tides --port 'le\ h'>Le\ Havre|
 tides \"le\ h>Le Havre|
 tides --area m>mine.hc|
+tides streams --diamond ra>race.l20|
 tides --area nowhere.hc --port do>|
 END
 

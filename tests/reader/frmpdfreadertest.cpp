@@ -137,7 +137,7 @@ TEST_F(Reader, WordsAreFoundFromThePageReadOnAndMarked) {
 TEST_F(Reader, TheContentsLeadToChaptersAndSections) {
     open();
     EXPECT_EQ(form.chapters(), (std::vector<std::string>{"Contents", "First", "The curve and what its parts mean",
-                                                         "Choosing a port and a date"}));
+                                                         "Choosing a port and a date", "Last"}));
     form.gotochapter("Choosing a port and a date");
     EXPECT_EQ(shown(*form.lblPage), "Page 5 of 5");
     form.gotochapter("No such chapter");
@@ -154,6 +154,14 @@ TEST_F(Reader, TheContentsLeadToChaptersAndSections) {
     EXPECT_EQ(current(), "Its red line");
     press("LAST");
     EXPECT_EQ(current(), "Choosing a port and a date");
+    // The last page goes up as far as the window is lower than it.
+    form.resize(form.width(), 300);
+    form.gotochapter("Choosing a port and a date");
+    const int third = form.pages->verticalScrollBar()->value();
+    form.gotochapter("Last");
+    EXPECT_EQ(shown(*form.lblPage), "Page 5 of 5");
+    EXPECT_EQ(current(), "Last");
+    EXPECT_GT(form.pages->verticalScrollBar()->value(), third + 20);
     press("FIRST");
     EXPECT_EQ(current(), "");
 }

@@ -17,7 +17,12 @@ namespace tarvane::manual {
 namespace {
 
 const char* const booktitle = "Tarvane Tides Manual";
-constexpr double contentsrow = 5, chaptergap = 2, contentshead = 18;  // mm
+constexpr double contentsrow = 5.8, chaptergap = 3.4, contentshead = 18;  // mm
+constexpr int contentscolumns = 2;
+constexpr double contentsspace = 10;  // mm between the columns
+constexpr double chapterspace = 14;   // mm above a chapter that begins below another's end
+constexpr double lateststart = 0.72 * textheight;
+constexpr double contentswidth = (textwidth - contentsspace) / contentscolumns;
 
 /// A line of the contents. Pages count from 0.
 struct Entry {
@@ -25,15 +30,19 @@ struct Entry {
     bool chapter = true;
     int page = 0;
     double top = 0;       ///< mm from the page's top edge
-    int listedon = 0;     ///< the contents page, from 0
-    double listedat = 0;  ///< mm from the top of that page's text
+    int column = 0;       ///< of all the columns of the contents, from 0
+    double listedat = 0;  ///< mm from the top of its page's text
+
+    int listedon() const { return column / contentscolumns; }
+    double left() const { return leftmargin + column % contentscolumns * (contentswidth + contentsspace); }
 };
 
 std::vector<Entry> contentsof(const std::vector<std::unique_ptr<ChapterPages>>& chapters) {
     std::vector<Entry> entries;
     int first = 0;
     for (const auto& chapter : chapters) {
-        entries.push_back({chapter->title(), true, first, topmargin});
+        if (chapter->start() > 0) --first;
+        entries.push_back({chapter->title(), true, first, topmargin + chapter->start()});
         for (const Heading& section : chapter->sections())
             entries.push_back({section.title, false, first + section.page, topmargin + section.top / dots(1)});
         first += chapter->count();
@@ -41,23 +50,41 @@ std::vector<Entry> contentsof(const std::vector<std::unique_ptr<ChapterPages>>& 
     return entries;
 }
 
-/// Finds each entry its place in the contents; how many pages they take. A chapter's line is followed by one at least.
-int placeentries(std::vector<Entry>& entries) {
-    int page = 0;
+/// Millimetres that a chapter takes in the contents with its sections.
+double listedheight(const std::vector<Entry>& entries, std::size_t chapter) {
+    std::size_t end = chapter + 1;
+    while (end < entries.size() && !entries[end].chapter)
+        ++end;
+    return static_cast<double>(end - chapter) * contentsrow;
+}
+
+/// Finds each entry its place in columns of a height, a chapter in one of them where it can be; how many columns they
+/// take.
+int fillcolumns(std::vector<Entry>& entries, double height) {
+    int column = 0;
     double at = contentshead;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         Entry& entry = entries[i];
-        if (entry.chapter) at += chaptergap;
-        const bool company = entry.chapter && i + 1 < entries.size() && !entries[i + 1].chapter;
-        if (at + contentsrow * (company ? 2 : 1) > textheight) {
-            ++page;
-            at = 0;
-        }
-        entry.listedon = page;
+        const double top = column < contentscolumns ? contentshead : 0;
+        if (entry.chapter && at > top) at += chaptergap;
+        const double whole = entry.chapter ? listedheight(entries, i) : contentsrow;
+        const double least = whole > height ? 2 * contentsrow : whole;
+        if (at > top && at + least > top + height) at = ++column < contentscolumns ? contentshead : 0;
+        entry.column = column;
         entry.listedat = at;
         at += contentsrow;
     }
-    return page + 1;
+    return column + 1;
+}
+
+/// Finds each entry its place in columns as even as can be; how many pages they take.
+int placeentries(std::vector<Entry>& entries) {
+    constexpr double highest = textheight - contentshead;
+    const int pages = (fillcolumns(entries, highest) + contentscolumns - 1) / contentscolumns;
+    for (double height = 10 * contentsrow; height < highest; height += contentsrow)
+        if (fillcolumns(entries, height) <= pages * contentscolumns) return pages;
+    fillcolumns(entries, highest);
+    return pages;
 }
 
 class Book {
@@ -93,8 +120,12 @@ Book::Book(const std::vector<Chapter>& sources, const FigureFolders& folders) {
     writer.setResolution(dotsperinch);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins({0, 0, 0, 0});
-    for (const Chapter& source : sources)
-        chapters.push_back(std::make_unique<ChapterPages>(source, folders, writer));
+    double free = 0;
+    for (const Chapter& source : sources) {
+        chapters.push_back(std::make_unique<ChapterPages>(source, folders, writer, free));
+        const double next = chapters.back()->end() + chapterspace;
+        free = next < lateststart ? next : 0;
+    }
     entries = contentsof(chapters);
     contentspages = placeentries(entries);
     for (Entry& entry : entries)
@@ -154,13 +185,13 @@ void Book::painttitle() {
 }
 
 void Book::paintfoot() {
-    text(pagewidth - rightmargin, pageheight - 12, fontof(headfamily, 9), grey, QString::number(page + 1),
+    text(pagewidth - rightmargin, pageheight - 11, fontof(headfamily, 9), grey, QString::number(page + 1),
          Qt::AlignRight);
 }
 
 void Book::paintentry(const Entry& entry) {
     const QFont font = fontof(entry.chapter ? headfamily : textfamily, entry.chapter ? 9.5 : 10, entry.chapter);
-    const double left = leftmargin + (entry.chapter ? 0 : 8), right = pagewidth - rightmargin;
+    const double left = entry.left() + (entry.chapter ? 0 : 5), right = entry.left() + contentswidth;
     const double baseline = topmargin + entry.listedat + 0.75 * contentsrow;
     const QString number = QString::number(entry.page + 1);
     text(left, baseline, font, entry.chapter ? deepblue : ink, entry.title);
@@ -173,18 +204,19 @@ void Book::paintentry(const Entry& entry) {
 void Book::paintcontents(int contentspage) {
     if (contentspage == 0) text(leftmargin, topmargin + 8, fontof(headfamily, 22, true), deepblue, "Contents");
     for (const Entry& entry : entries)
-        if (entry.listedon == contentspage) paintentry(entry);
+        if (entry.listedon() == contentspage) paintentry(entry);
     paintfoot();
 }
 
 void Book::paintchapter(const ChapterPages& chapter) {
     for (int i = 0; i < chapter.count(); ++i) {
-        turn();
+        const bool own = i > 0 || chapter.start() == 0;
+        if (own) turn();
         painter.save();
         painter.translate(dots(leftmargin), dots(topmargin));
         chapter.paint(painter, i);
         painter.restore();
-        paintfoot();
+        if (own) paintfoot();
         if (i == 0) continue;
         text(leftmargin, 15.5, fontof(headfamily, 8.5), grey, programname);
         text(pagewidth - rightmargin, 15.5, fontof(headfamily, 8.5), grey, chapter.title(), Qt::AlignRight);
@@ -209,8 +241,8 @@ std::string Book::bytes() {
     for (const Entry& entry : entries) {
         const Place place{entry.page, points(entry.top - 3)};
         bookmarks.push_back({entry.title.toStdString(), entry.chapter ? 1 : 2, place});
-        links.push_back({1 + entry.listedon, points(leftmargin), points(topmargin + entry.listedat), points(textwidth),
-                         points(contentsrow), place});
+        links.push_back({1 + entry.listedon(), points(entry.left()), points(topmargin + entry.listedat),
+                         points(contentswidth), points(contentsrow), place});
     }
     return withoutline(buffer.data().toStdString(), bookmarks, links);
 }

@@ -16,11 +16,14 @@
 namespace tarvane::manual {
 namespace {
 
-/// A window at 96 dpi is printed at this size, so that the main window fills the column; larger ones are made to fit.
-constexpr double mmperpixel = columnwidth / 648;
+/// A window at 96 dpi is printed at this size, so that the main window fills most of the column; larger ones are made
+/// to fit, those that the column has no room for into the width of the headings.
+constexpr double mmperpixel = 0.9 * columnwidth / 648;
+constexpr double widefigure = columnwidth;
 constexpr double highestfigure = 0.6 * textheight;  // mm
 constexpr double fewlines = 18;                     // mm
-constexpr double lineheight = 128;                  // per cent
+constexpr double emptyspace = 25;                   // mm that may stay empty above a figure
+constexpr double lineheight = 123;                  // per cent
 
 QTextCharFormat charformat(const QFont& font, QRgb colour) {
     QTextCharFormat format;
@@ -67,7 +70,7 @@ void setblock(const QTextBlock& block, double left, double above, double below, 
 
 void styleheading(const QTextBlock& block) {
     const bool section = block.blockFormat().headingLevel() <= 2;
-    setblock(block, section ? 0 : inset, section ? 7 : 4.5, section ? 2.2 : 1.4, 110);
+    setblock(block, section ? 0 : inset, section ? 6 : 4.5, section ? 1.8 : 1.4, 110);
     const QTextCharFormat format = charformat(fontof(headfamily, section ? 14 : 11.5, true), section ? deepblue : ink);
     restyle(block, format);
 }
@@ -85,7 +88,7 @@ void styleparagraph(const QTextBlock& block, bool cell) {
         setblock(block, 0, 0, 0, 112);
     } else if (iscode(block)) {
         const bool lastline = !block.next().isValid() || !iscode(block.next());
-        setblock(block, inset + 4, 0, lastline ? 3.5 : 0, 115);
+        setblock(block, inset + 2, 0, lastline ? 3.5 : 0, 115);
         return restyle(block, charformat(fontof(codefamily, bodysize * 0.9), ink));
     } else if (block.textList()) {
         const bool lastitem = !block.next().isValid() || !block.next().textList();
@@ -113,8 +116,9 @@ void styletable(QTextTable& table) {
     QTextTableFormat format = table.format();
     format.setLeftMargin(pixels(inset));
     format.setTopMargin(pixels(1));
-    format.setBottomMargin(pixels(4));
-    format.setCellPadding(pixels(1.3));
+    // What stands below keeps its distance itself: a margin here that goes over to the next page takes the head along.
+    format.setBottomMargin(0);
+    format.setCellPadding(pixels(1.05));
     format.setCellSpacing(0);
     format.setBorder(0);
     format.setBorderCollapse(true);
@@ -126,9 +130,14 @@ void styletable(QTextTable& table) {
             stylecell(table.cellAt(row, column), row == 0);
 }
 
+bool iswide(const Figure& figure) {
+    return figure.size.width() * mmperpixel > widefigure;
+}
+
 QSizeF printedsize(const Figure& figure) {
-    QSizeF size = figure.size * mmperpixel;
-    const double fit = std::min({1.0, columnwidth / size.width(), highestfigure / size.height()});
+    const QSizeF size = figure.size * mmperpixel;
+    const double width = iswide(figure) ? textwidth : columnwidth;
+    const double fit = std::min({1.0, width / size.width(), highestfigure / size.height()});
     return {dots(size.width() * fit), dots(size.height() * fit)};
 }
 
@@ -138,15 +147,16 @@ void putfigure(const QTextBlock& block, int index, const FigureSource& source, c
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
     cursor.insertText(QString(QChar::ObjectReplacementCharacter), FigureLetter::format(index, printedsize(figure)));
-    setblock(block, inset, 2, 0, 100);
+    const double left = iswide(figure) ? 0 : inset;
+    setblock(block, left, 2, 0, 100);
     cursor.insertBlock();
     QFont font = fontof(headfamily, bodysize - 1.5);
     cursor.insertText(source.caption, charformat(font, grey));
-    setblock(cursor.block(), inset, 1.2, 5, 115);
+    setblock(cursor.block(), left, 1.2, 5, 115);
 }
 
-/// The chapter's own heading at the top of its first page.
-void puttitle(QTextDocument& document, const QString& title) {
+/// The chapter's own heading where it begins on its first page.
+void puttitle(QTextDocument& document, const QString& title, double start) {
     QTextCursor cursor(&document);
     cursor.insertBlock();
     cursor.movePosition(QTextCursor::Start);
@@ -155,24 +165,51 @@ void puttitle(QTextDocument& document, const QString& title) {
     plain.setBottomMargin(pixels(7));
     cursor.setBlockFormat(plain);
     cursor.insertText(title, charformat(fontof(headfamily, 22, true), deepblue));
+    if (start <= 0) return;
+    // The first block of a text can't keep off its page's top: another one above it lets it.
+    plain.setTopMargin(pixels(start));
+    cursor.movePosition(QTextCursor::Start);
+    cursor.insertBlock(plain);
+    cursor.movePosition(QTextCursor::Start);
+    cursor.setBlockFormat(QTextBlockFormat());
+    cursor.setBlockCharFormat(charformat(fontof(headfamily, 1), ink));
+}
+
+/// True if the chapter's heading had to go over to another page.
+bool titlegoesover(const QTextDocument& document) {
+    const QTextBlock first = document.begin();
+    const QTextBlock title = first.text().isEmpty() ? first.next() : first;
+    return title.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore;
 }
 
 }  // namespace
 
-ChapterPages::ChapterPages(const Chapter& chapter, const FigureFolders& folders, QPagedPaintDevice& device)
-    : chaptertitle(chapter.title) {
+ChapterPages::ChapterPages(const Chapter& chapter, const FigureFolders& folders, QPagedPaintDevice& device,
+                           double start)
+    : chaptertitle(chapter.title), startsat(start) {
     for (const FigureSource& source : chapter.figures)
         letters.figures.push_back(loadfigure(source, folders));
-    layout(chapter, device, textheight);
+    settle(chapter, device, textheight);
+    if (titlegoesover(*document)) {
+        startsat = 0;
+        settle(chapter, device, textheight);
+    }
     const int pages = count();
-    if (pages == 1 || lastheight() > fewlines) return;
+    if (pages == 1 || end() > fewlines) return;
     // A few lines alone on the last page find room if all the others take a little more.
-    layout(chapter, device, textheight + fewlines / 2);
-    if (count() == pages) layout(chapter, device, textheight);
+    settle(chapter, device, textheight + fewlines / 3);
+    if (count() == pages) settle(chapter, device, textheight);
 }
 
-/// Millimetres of the last page that are taken.
-double ChapterPages::lastheight() const {
+/// Lays the chapter out; text below a figure that leaves space on the page before goes up into that.
+void ChapterPages::settle(Chapter chapter, QPagedPaintDevice& device, double height) {
+    layout(chapter, device, height);
+    for (std::size_t i = 0; i < chapter.figures.size(); ++i)
+        while (spacebefore(*document, static_cast<int>(i)) > dots(emptyspace) && movefigure(chapter, i))
+            layout(chapter, device, height);
+}
+
+double ChapterPages::end() const {
     const double end = document->documentLayout()->blockBoundingRect(document->lastBlock()).bottom();
     return (end - (count() - 1) * document->pageSize().height()) / dots(1);
 }
@@ -201,7 +238,7 @@ void ChapterPages::layout(const Chapter& chapter, QPagedPaintDevice& device, dou
     }
     for (QTextTable* table : tables)
         styletable(*table);
-    puttitle(*document, chapter.title);
+    puttitle(*document, chapter.title, startsat);
     document->documentLayout()->setPaintDevice(&device);
     document->documentLayout()->registerHandler(FigureLetter::type, &letters);
     document->setPageSize({dots(textwidth), dots(height)});

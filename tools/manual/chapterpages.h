@@ -23,11 +23,20 @@ struct Heading {
 
 class ChapterPages {
   public:
-    /// Throws SourceError for a figure that can't be had.
-    ChapterPages(const Chapter& chapter, const FigureFolders& folders, QPagedPaintDevice& device);
+    /// The first page is free from `start` on, millimetres from the top of its text; 0 for a page of its own. Throws
+    /// SourceError for a figure that can't be had.
+    ChapterPages(const Chapter& chapter, const FigureFolders& folders, QPagedPaintDevice& device, double start = 0);
 
     const QString& title() const { return chaptertitle; }
     int count() const;
+
+    /// Where the chapter begins, millimetres from the top of its first page's text: `start`, or 0 where what stays with
+    /// its title has no room below that.
+    double start() const { return startsat; }
+
+    /// Millimetres of the last page that are taken.
+    double end() const;
+
     std::vector<Heading> sections() const;
 
     /// Paints a page's text with the origin at its top left.
@@ -37,10 +46,11 @@ class ChapterPages {
     const QTextDocument& text() const { return *document; }
 
   private:
+    void settle(Chapter chapter, QPagedPaintDevice& device, double height);
     void layout(const Chapter& chapter, QPagedPaintDevice& device, double height);
-    double lastheight() const;
 
     QString chaptertitle;
+    double startsat;
     FigureLetter letters;
     std::unique_ptr<QTextDocument> document;
 };

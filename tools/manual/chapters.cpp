@@ -40,6 +40,22 @@ int figureof(const QString& paragraph) {
     return isnumber ? index : -1;
 }
 
+bool movefigure(Chapter& chapter, std::size_t index) {
+    static const QRegularExpression blanklines("\\n\\s*\\n");
+    QStringList parts = chapter.markdown.split(blanklines, Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i + 1 < parts.size(); ++i) {
+        if (parts[i].trimmed() != figuremark(index)) continue;
+        const QString next = parts[i + 1].trimmed();
+        const bool stays =
+            next.startsWith('#') || next.startsWith('|') || next.startsWith("```") || figureof(next) >= 0;
+        if (stays || next.endsWith(':')) return false;
+        parts.swapItemsAt(i, i + 1);
+        chapter.markdown = parts.join("\n\n");
+        return true;
+    }
+    return false;
+}
+
 Chapter readchapter(const QString& text, const QString& name) {
     static const QRegularExpression figureline(
         "^(?<indent>\\s*)!\\[(?<caption>.*)\\]\\((?<kind>shot|figure):(?<name>[^)]+)\\)\\s*$");

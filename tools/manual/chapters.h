@@ -34,6 +34,10 @@ QString figuremark(std::size_t index);
 /// The figure that a paragraph stands for; -1 for any other paragraph.
 int figureof(const QString& paragraph);
 
+/// Takes a figure below the paragraph or the list that follows it. False, nothing being changed, when what follows
+/// can't stand above it: a heading, a table, another figure, or words that lead on to what comes next.
+bool movefigure(Chapter& chapter, std::size_t index);
+
 /// Takes a file's text apart; `name` is the file's, for what is said of it. Throws SourceError.
 Chapter readchapter(const QString& text, const QString& name);
 

@@ -15,7 +15,7 @@ namespace tarvane::manual {
 namespace {
 
 /// No figure is made smaller than this part of its size to fill a page.
-constexpr double smallestpart = 0.62;
+constexpr double smallestpart = 0.75;
 constexpr double figuremargins =
     9;  // mm: above it, below it, and what its caption's lines take more than their letters
 constexpr int shrunkproperty = QTextFormat::UserProperty + 3;
@@ -81,9 +81,19 @@ QTextBlock firstheading(QTextBlock heading) {
     return heading;
 }
 
-/// What has to go along when a block goes over: the headings above it.
+bool iscode(const QTextBlock& block) {
+    return block.isValid() && block.blockFormat().nonBreakableLines();
+}
+
+/// True for a paragraph whose words lead on to what comes next.
+bool leadson(const QTextBlock& block) {
+    return block.isValid() && !isheading(block) && block.text().endsWith(':') && !QTextCursor(block).currentTable();
+}
+
+/// What has to go along when a block goes over: the headings above it, and the words that lead on to it.
 QTextBlock withheadings(const QTextBlock& block) {
     const QTextBlock above = block.previous();
+    if (leadson(above)) return withheadings(above);
     return above.isValid() && isheading(above) ? firstheading(above) : block;
 }
 
@@ -130,22 +140,31 @@ bool pushtable(QTextTable& table) {
     return true;
 }
 
+/// The page on which a table ends with its last row's hairline.
+int endpage(QTextTable& table) {
+    const QTextDocument& document = *table.document();
+    const QRectF place = document.documentLayout()->frameBoundingRect(&table);
+    return static_cast<int>((place.bottom() - 1) / document.pageSize().height());
+}
+
 /// A short table is not parted; a long one begins with two rows at least below its head.
 bool mendtable(QTextTable& table) {
     const double pageheight = table.document()->pageSize().height();
     const Lines first = linesof(firstof(table, 0)), last = linesof(table.lastCursorPosition().block());
     const bool isshort = last.bottom - first.top < longtable * pageheight;
     const Lines kept = isshort ? last : linesof(firstof(table, std::min(2, table.rows() - 1)));
-    return first.firstpage != kept.lastpage && pushtable(table);
+    const int end = isshort ? endpage(table) : kept.lastpage;
+    return first.firstpage != end && pushtable(table);
 }
 
 /// A row that would be parted goes over whole: room above its cells pushes it there.
 bool mendrow(const QTextBlock& block, QTextTable& table) {
     if (block == firstof(table, 0) && mendtable(table)) return true;
     const Lines lines = linesof(block);
-    if (lines.firstpage == lines.lastpage) return false;
-    const double pageheight = table.document()->pageSize().height();
     const int row = table.cellAt(block.position()).row();
+    const int end = row == table.rows() - 1 ? endpage(table) : lines.lastpage;
+    if (lines.firstpage == end) return false;
+    const double pageheight = table.document()->pageSize().height();
     for (int column = 0; column < table.columns(); ++column) {
         QTextTableCell cell = table.cellAt(row, column);
         QTextTableCellFormat format = cell.format().toTableCellFormat();
@@ -157,6 +176,24 @@ bool mendrow(const QTextBlock& block, QTextTable& table) {
     return true;
 }
 
+bool goover(const QTextBlock& block) {
+    const QTextBlock first = withheadings(block);
+    if (breaksbefore(first)) return false;
+    breakbefore(first);
+    return true;
+}
+
+/// A listing is not parted, unless it is a long one.
+bool mendcode(const QTextBlock& block) {
+    if (iscode(block.previous())) return false;
+    QTextBlock last = block;
+    while (iscode(last.next()))
+        last = last.next();
+    const Lines first = linesof(block), end = linesof(last);
+    const bool isshort = end.bottom - first.top < longtable * block.document()->pageSize().height();
+    return isshort && first.firstpage != end.lastpage && goover(block);
+}
+
 /// Mends the first thing that is wrong with this block; false when there is nothing.
 bool mend(const QTextBlock& block) {
     const QTextBlock next = block.next();
@@ -165,10 +202,9 @@ bool mend(const QTextBlock& block) {
     if (QTextTable* const table = QTextCursor(block).currentTable()) return mendrow(block, *table);
     if (isfigure(block)) {
         if (shrink(block)) return true;
-        if (lines.lastpage == below.lastpage || breaksbefore(withheadings(block))) return false;
-        breakbefore(withheadings(block));
-        return true;
+        return lines.lastpage != below.lastpage && goover(block);
     }
+    if (iscode(block)) return mendcode(block);
     if (isheading(block)) {
         const QTextBlock first = firstheading(block);
         if (lines.lastpage == below.firstpage || breaksbefore(first)) return false;
@@ -177,9 +213,14 @@ bool mend(const QTextBlock& block) {
     }
     const bool parted = lines.firstpage != lines.lastpage;
     const bool alone = lines.onfirst == 1 || (lines.onlast == 1 && lines.count <= 4);
-    if (!parted || !alone || breaksbefore(withheadings(block))) return false;
-    breakbefore(withheadings(block));
-    return true;
+    const bool leftalone = leadson(block) && lines.lastpage != below.firstpage;
+    return ((parted && alone) || leftalone) && goover(block);
+}
+
+QTextBlock figureblock(const QTextDocument& document, int figure) {
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        if (isfigure(block) && FigureLetter::indexof(block.begin().fragment().charFormat()) == figure) return block;
+    return {};
 }
 
 }  // namespace
@@ -195,6 +236,16 @@ void settlepages(QTextDocument& document) {
         document.markContentsDirty(0, document.characterCount());
         block = document.findBlockByNumber(std::max(0, number - 3));
     }
+}
+
+double spacebefore(const QTextDocument& document, int figure) {
+    const QTextBlock block = figureblock(document, figure);
+    if (!block.isValid()) return 0;
+    const QTextBlock first = withheadings(block), before = first.previous();
+    if (!before.isValid()) return 0;
+    const Lines above = linesof(before);
+    if (above.lastpage == linesof(first).firstpage) return 0;
+    return (above.lastpage + 1) * document.pageSize().height() - above.bottom;
 }
 
 }  // namespace tarvane::manual

@@ -9,7 +9,7 @@ namespace tarvane::manual {
 inline constexpr int dotsperinch = 1200;
 inline constexpr double pagewidth = 210, pageheight = 297;                   // mm: A4
 inline constexpr double leftmargin = 22, rightmargin = 22;                   // mm
-inline constexpr double topmargin = 25, bottommargin = 24;                   // mm
+inline constexpr double topmargin = 24, bottommargin = 23;                   // mm
 inline constexpr double textwidth = pagewidth - leftmargin - rightmargin;    // mm
 inline constexpr double textheight = pageheight - topmargin - bottommargin;  // mm
 inline constexpr double inset = 20;                                          // mm that headings hang out to the left

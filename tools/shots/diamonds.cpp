@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <cmath>
+#include <utility>
 
 #include "diamonds/frmimport.h"
 #include "diamonds/frmtidaldiamondscopy.h"
@@ -36,6 +38,11 @@ DiamondRecord turningdiamond(int number) {
     return record;
 }
 
+ProgramFolders withprogram(ProgramFolders folders, const std::string& program) {
+    folders.programfolder = program;
+    return folders;
+}
+
 void putmedium(const QDir& medium) {
     medium.mkpath("Tidal Stream Atlas");
     medium.mkpath("Charts");
@@ -50,7 +57,12 @@ void putmedium(const QDir& medium) {
 
 void takediamonds(Stage& stage, const std::function<void(QWidget&, const QString&)>& take) {
     MainContext onstage = stage.context();
-    const std::string program = onstage.session.folders.programfolder;
+    // These windows tell paths, which are to be the same every time: those from within the folder are.
+    const std::string program = "program";
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(QFileInfo(QString::fromStdString(onstage.session.folders.programfolder)).path());
+    const ProgramFolders folders =
+        std::exchange(onstage.session.folders, withprogram(onstage.session.folders, program));
     for (int i = 0; i < 14; ++i)
         adddiamond(onstage.session.backups, program + "/solent.l20", turningdiamond(i));
     adddiamond(onstage.session.backups, program + "/mine.l20", turningdiamond(20));
@@ -63,11 +75,11 @@ void takediamonds(Stage& stage, const std::function<void(QWidget&, const QString
     window.cmdAdd->click();
     take(window, "frmTidalDiamondsCopy");
 
-    const QTemporaryDir folder;
-    putmedium(QDir(folder.path()));
+    QDir().mkdir("medium");
+    putmedium(QDir("medium"));
     UnreadMessages messages;
     OneMedium medium;
-    medium.path = folder.path().toStdString();
+    medium.path = "medium";
     const Services& real = onstage.services;
     MainContext context{onstage.session,
                         {messages, real.filedialogs, real.printer, real.clipboard, real.clock, real.locale,
@@ -77,6 +89,8 @@ void takediamonds(Stage& stage, const std::function<void(QWidget&, const QString
     emit import.dirDirectories->itemDoubleClicked(import.dirDirectories->item(2));
     import.cmdimport->click();
     take(import, "frmimport");
+    onstage.session.folders = folders;
+    QDir::setCurrent(before);
 }
 
 }  // namespace tarvane::shots

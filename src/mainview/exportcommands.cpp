@@ -3,6 +3,7 @@
 #include "files/filenames.h"
 #include "files/wholefiles.h"
 #include "output/dayconstants.h"
+#include "output/juliandate.h"
 #include "output/yeartides.h"
 #include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
@@ -74,7 +75,8 @@ void exportyears(MainContext& context) {
     YearTides run = startyeartides(readport(session.settings.hcfile, session.settings.currentport), year);
     const std::string text = "High waters of " + name + ", " + numbertext(year) + " and " + numbertext(year + 1);
     if (!context.services.progress.run(text, daysofrun(run), [&](int) { return addday(run); })) {
-        const Date date = makedate(run.next.year, 1, run.next.daynumber);
+        const JulianMoment day = juliantodate(run.julian);
+        const Date date = makedate(day.year, day.month, day.day);
         if (*run.whynot)
             return tellfailure(context, failed,
                                formatdate(context.services.locale, date, "d mmmm yyyy") + ": " + run.whynot);

@@ -101,10 +101,13 @@ bool addday(YearTides& run) {
     if (!highs.empty()) row.firsthw = run.julian + highs[0].time / 24;
     if (highs.size() > 1) row.secondhw = run.julian + highs[1].time / 24;
     run.rows.push_back(row);
+    // kept: the number rises behind a day's row, but not behind the first, so that the first year's lag by one from
+    // there
+    if (run.rows.size() > 1) ++run.next.daynumber;
     run.julian += 1;
     const JulianMoment next = juliantodate(run.julian);
     run.next.year = next.year;
-    run.next.daynumber = next.month == 1 && next.day == 1 ? 1 : run.next.daynumber + 1;
+    if (next.month == 1 && next.day == 1) run.next.daynumber = 1;
     return true;
 }
 

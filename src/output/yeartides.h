@@ -11,7 +11,7 @@
 namespace tarvane {
 
 struct YearTideRow {
-    int daynumber = 0;  ///< of its year, from 1
+    int daynumber = 0;  ///< of its year; in the first, one less from 2 January on
     int year = 0;
     double range = 0;     ///< metres, as `hightimes` has it
     double firsthw = -1;  ///< Julian date of that moment; -1 when there is none

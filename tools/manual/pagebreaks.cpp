@@ -81,7 +81,7 @@ QTextBlock firstheading(QTextBlock heading) {
     return heading;
 }
 
-bool iscode(const QTextBlock& block) {
+bool iscodeline(const QTextBlock& block) {
     return block.isValid() && block.blockFormat().nonBreakableLines();
 }
 
@@ -185,9 +185,9 @@ bool goover(const QTextBlock& block) {
 
 /// A listing is not parted, unless it is a long one.
 bool mendcode(const QTextBlock& block) {
-    if (iscode(block.previous())) return false;
+    if (iscodeline(block.previous())) return false;
     QTextBlock last = block;
-    while (iscode(last.next()))
+    while (iscodeline(last.next()))
         last = last.next();
     const Lines first = linesof(block), end = linesof(last);
     const bool isshort = end.bottom - first.top < longtable * block.document()->pageSize().height();
@@ -204,7 +204,7 @@ bool mend(const QTextBlock& block) {
         if (shrink(block)) return true;
         return lines.lastpage != below.lastpage && goover(block);
     }
-    if (iscode(block)) return mendcode(block);
+    if (iscodeline(block)) return mendcode(block);
     if (isheading(block)) {
         const QTextBlock first = firstheading(block);
         if (lines.lastpage == below.firstpage || breaksbefore(first)) return false;

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QTemporaryFile>
+#include <cmath>
 #include <cstdio>
 
 #include "adjust/frmadjustfileselect.h"
@@ -19,12 +20,14 @@
 #include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
 #include "platform/qt/appearance.h"
+#include "portdata/recordfiles.h"
 #include "ports/frmchartdepth.h"
 #include "ports/frmconfig.h"
 #include "ports/frmharmedit.h"
 #include "ports/frmhccopy.h"
 #include "ports/frmoutoptions.h"
 #include "ports/frmshowconf.h"
+#include "session/refresh.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
 #include "shots/pages.h"
@@ -105,8 +108,26 @@ void takeday(Album& album, Stage& stage) {
     calculatemonth(context);
     window.showview();
     album.take(window, "frmtarvane-undefined-month");
-    session.view.monthvisible = false;
+    clearmonthlist(session);
     stage.show(77, makedate(2026, 7, 14));
+}
+
+/// A bar that dries 2 m in the port's depth, and a boat of 1.5 m that wants half a metre under her keel.
+void takedepth(Album& album, Stage& stage) {
+    Settings& settings = stage.sessiononstage().settings;
+    const Settings before = settings;
+    const UserDepthRecord charted = readdepth(settings.depfile, settings.currentport);
+    UserDepthRecord bar = charted;
+    bar.UserDepth = -2;
+    writedepth(settings.depfile, settings.currentport, bar);
+    settings.currentdraught = 1.5F;
+    stage.show(settings.currentport, makedate(2026, 7, 14));
+    picturemousemove(stage.sessiononstage(), *stage.window().Picture1, 6.0);
+    stage.window().showview();
+    album.take(stage.window(), "frmtarvane-depth");
+    writedepth(settings.depfile, settings.currentport, charted);
+    settings = before;
+    stage.show(settings.currentport, makedate(2026, 7, 14));
 }
 
 void takelayers(Album& album, Stage& stage) {
@@ -151,7 +172,10 @@ void takeworkshop(Album& album, Stage& stage) {
     for (int i = 0; i < 20; ++i) {
         const TimedValue& sample =
             workspace.curves[intermediatecurve].curvesamples[static_cast<std::size_t>(30 + 4 * i)];
-        readings.push_back({static_cast<float>(sample.time + 0.4), static_cast<float>(sample.height * 0.9 + 0.3)});
+        // A post in small waves, read to the centimetre.
+        const double height = sample.height * 0.9 + 0.3 + 0.03 * std::sin(7 * i);
+        readings.push_back(
+            {static_cast<float>(sample.time + 25.0 / 60), static_cast<float>(std::round(height * 100) / 100)});
     }
     const std::string heights = stage.sessiononstage().folders.programfolder + "/creek.ht";
     writeheights(heights, readings);
@@ -170,16 +194,17 @@ void takeworkshop(Album& album, Stage& stage) {
     album.take(select, "frmSelectHeightFile");
     FrmAdjustfileselect load(context, workspace, &window);
     load.File1->setCurrentRow(0);
-    load.List1->setCurrentRow(8);
+    load.List1->setCurrentRow(76);
     load.cmdPort1->click();
     album.take(load, "FrmAdjustfileselect");
     frmAdjustSave save(context, workspace, &window);
     save.File1->setCurrentRow(0);
+    save.Text1->setText("Kingfisher Creek");
     album.take(save, "frmAdjustSave");
     frmWeighting weighting(context, workspace, &window);
     weighting.txtname->setText("Kingfisher Creek");
-    weighting.txtlat->setText("50.20.00N");
-    weighting.txtlong->setText("003.50.00W");
+    weighting.txtlat->setText("49.43.00N");
+    weighting.txtlong->setText("001.56.00W");
     album.take(weighting, "frmWeighting");
     stage.show(77, makedate(2026, 7, 14));
 }
@@ -206,6 +231,7 @@ void takeeverything(Album& album, const std::string& area) {
     const ClockReading at{makedate(2026, 7, 14), 14, 32, 0};
     Stage stage(area, at);
     takeday(album, stage);
+    takedepth(album, stage);
     takelayers(album, stage);
     takestatus(album, stage);
     MainContext context = stage.context();

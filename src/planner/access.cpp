@@ -23,10 +23,7 @@ Stretches passable(const TideSpan& span, double floor, double ceiling) {
     for (const TideRun& run : span.runs()) {
         const std::optional<Stretch> part = within(span, run, floor, ceiling);
         if (!part) continue;
-        if (!open.empty() && part->from - open.back().to < touching)
-            open.back().to = part->to;
-        else
-            open.push_back(*part);
+        addstretch(open, part->from, part->to);
     }
     return open;
 }
@@ -87,12 +84,10 @@ std::vector<Window> windowsof(const TideSpan& span, double floor, double ceiling
     return windows;
 }
 
-bool wished(const TideSpan& span, const Window& window, const WindowWishes& wishes) {
+bool wished(const Window& window, const WindowWishes& wishes) {
     if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
     if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
-    if (wishes.daylight == Daylight::whole && window.daylightminutes < window.minutes()) return false;
-    const Date opening = span.firstday() + std::chrono::days(window.opens / (24 * 60));
-    return wishes.weekdays[static_cast<std::size_t>(weekdayof(opening))];
+    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
 }
 
 }  // namespace
@@ -100,13 +95,6 @@ bool wished(const TideSpan& span, const Window& window, const WindowWishes& wish
 std::optional<double> Passage::ceiling() const {
     if (!bridge) return std::nullopt;
     return bridgelevel + *bridge - airdraught;
-}
-
-double sharedhours(const Stretches& stretches, double from, double to) {
-    double hours = 0;
-    for (const Stretch& each : stretches)
-        hours += std::max(0.0, std::min(to, each.to) - std::max(from, each.from));
-    return hours;
 }
 
 Access accessof(const TideSpan& span, const Passage& passage, const Stretches& daylight, const WindowWishes& wishes) {
@@ -118,7 +106,7 @@ Access accessof(const TideSpan& span, const Passage& passage, const Stretches& d
     for (Window window : windows) {
         const double from = static_cast<double>(window.opens) / 60, to = static_cast<double>(window.closes) / 60;
         window.daylightminutes = std::lround(60 * sharedhours(daylight, from, to));
-        if (!wished(span, window, wishes)) continue;
+        if (!wished(window, wishes)) continue;
         const Heights heights = heightswithin(span, from, to);
         window.greatestheight = heights.greatest;
         window.leastmargin = std::min(heights.least - floor, ceiling - heights.greatest);

@@ -2,11 +2,10 @@
 // to the minute on the safe side. Heights are metres above chart datum. Must not know clocks or how a window is told.
 #pragma once
 
-#include <array>
 #include <optional>
-#include <string>
 #include <vector>
 
+#include "planner/stretches.h"
 #include "planner/tidespan.h"
 
 namespace tarvane {
@@ -24,19 +23,12 @@ struct Passage {
     std::optional<double> ceiling() const;  ///< the tide above which the mast touches
 };
 
-/// Stretches of time in order, not touching: hours of zone time as those of the span.
-struct Stretch {
-    double from = 0, to = 0;
-};
-using Stretches = std::vector<Stretch>;
-
 enum class Daylight { none, part, whole };
 
 /// What windows are wanted beyond the tide.
 struct WindowWishes {
     Daylight daylight = Daylight::none;  ///< none asks for none
     int leastminutes = 0;
-    std::array<bool, 7> weekdays{true, true, true, true, true, true, true};  ///< of its opening, from Sunday
 };
 
 struct Window {
@@ -57,8 +49,5 @@ struct Access {
 
 /// The windows of a span. `daylight` are its stretches of light; a window lies wholly in it when all its minutes do.
 Access accessof(const TideSpan& span, const Passage& passage, const Stretches& daylight, const WindowWishes& wishes);
-
-/// How much of `from` to `to` lies within the stretches, hours.
-double sharedhours(const Stretches& stretches, double from, double to);
 
 }  // namespace tarvane

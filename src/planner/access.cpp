@@ -18,12 +18,12 @@ std::optional<Stretch> within(const TideSpan& span, const TideRun& run, double f
 }
 
 /// Midnight steps that lie within the water that is wanted close no window.
-Stretches passable(const TideSpan& span, double floor, double ceiling) {
+Stretches passable(const TideSpan& span, Stretch between, double floor, double ceiling) {
     Stretches open;
     for (const TideRun& run : span.runs()) {
         const std::optional<Stretch> part = within(span, run, floor, ceiling);
         if (!part) continue;
-        addstretch(open, part->from, part->to);
+        addstretch(open, std::max(part->from, between.from), std::min(part->to, between.to));
     }
     return open;
 }
@@ -50,7 +50,7 @@ Heights heightswithin(const TideSpan& span, double from, double to) {
 }
 
 /// Cut to minutes at which the tide itself suffices; opening later and closing earlier, never the other way round.
-Window cuttominutes(const TideSpan& span, const Stretch& open, double floor, double ceiling) {
+Window cuttominutes(const TideSpan& span, Stretch between, const Stretch& open, double floor, double ceiling) {
     constexpr double aside = 0.01;  // minutes, more than a passing is out
     const auto suffices = [&](long minute) {
         const auto height = span.height(static_cast<double>(minute) / 60);
@@ -63,16 +63,16 @@ Window cuttominutes(const TideSpan& span, const Stretch& open, double floor, dou
         ++window.opens;
     while (window.closes >= window.opens && !suffices(window.closes))
         --window.closes;
-    window.cutatstart = open.from < touching;
-    window.cutatend = open.to > span.hours() - touching;
+    window.cutatstart = open.from < between.from + touching;
+    window.cutatend = open.to > between.to - touching;
     return window;
 }
 
 /// A window that a step at midnight parts for less than a minute is one.
-std::vector<Window> windowsof(const TideSpan& span, double floor, double ceiling) {
+std::vector<Window> windowsof(const TideSpan& span, Stretch between, double floor, double ceiling) {
     std::vector<Window> windows;
-    for (const Stretch& open : passable(span, floor, ceiling)) {
-        const Window window = cuttominutes(span, open, floor, ceiling);
+    for (const Stretch& open : passable(span, between, floor, ceiling)) {
+        const Window window = cuttominutes(span, between, open, floor, ceiling);
         if (window.closes < window.opens) continue;
         if (!windows.empty() && window.opens - windows.back().closes <= 1) {
             windows.back().closes = window.closes;
@@ -97,10 +97,11 @@ std::optional<double> Passage::ceiling() const {
     return bridgelevel + *bridge - airdraught;
 }
 
-Access accessof(const TideSpan& span, const Passage& passage, const Stretches& daylight, const WindowWishes& wishes) {
+Access accessof(const TideSpan& span, Stretch between, const Passage& passage, const Stretches& daylight,
+                const WindowWishes& wishes) {
     const double floor = passage.needed(), ceiling = passage.ceiling().value_or(HUGE_VAL);
     Access access;
-    const std::vector<Window> windows = windowsof(span, floor, ceiling);
+    const std::vector<Window> windows = windowsof(span, between, floor, ceiling);
     access.never = windows.empty();
     access.always = windows.size() == 1 && windows[0].cutatstart && windows[0].cutatend;
     for (Window window : windows) {

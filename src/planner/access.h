@@ -36,18 +36,20 @@ struct Window {
     double greatestheight = 0;   ///< of the tide within
     double leastmargin = 0;      ///< over the height needed, and under the ceiling, whichever is less
     long daylightminutes = 0;
-    bool cutatstart = false, cutatend = false;  ///< the span ends there, not the water
+    bool cutatstart = false, cutatend = false;  ///< the time looked at ends there, not the water
 
     long minutes() const { return closes - opens; }
 };
 
 struct Access {
     std::vector<Window> windows;  ///< of one minute at least
-    bool always = false;          ///< all the span through
-    bool never = false;           ///< at no moment of it, whatever the wishes
+    bool always = false;          ///< all the time looked at
+    bool never = false;           ///< at no minute of it, whatever the wishes
 };
 
-/// The windows of a span. `daylight` are its stretches of light; a window lies wholly in it when all its minutes do.
-Access accessof(const TideSpan& span, const Passage& passage, const Stretches& daylight, const WindowWishes& wishes);
+/// The windows of a span between two of its moments. `daylight` are its stretches of light; a window lies wholly in it
+/// when all its minutes do.
+Access accessof(const TideSpan& span, Stretch between, const Passage& passage, const Stretches& daylight,
+                const WindowWishes& wishes);
 
 }  // namespace tarvane

@@ -156,6 +156,22 @@ void LunarPhases(int month, int year, LunarTexts& texts) {
     }
 }
 
+std::vector<MoonPhase> phasesbetween(std::chrono::sys_seconds from, std::chrono::sys_seconds until) {
+    using std::chrono::seconds;
+    constexpr double lunationsofyear = 12.3685, unixday = 2440587.5, secondsofday = 86400;
+    std::vector<MoonPhase> phases;
+    const int year = yearof(std::chrono::floor<std::chrono::days>(from));
+    // Two lunations ahead of the year's start by the mean count.
+    const int first = 4 * (static_cast<int>(std::floor((year - 1900) * lunationsofyear)) - 2);
+    for (int quarter = first;; ++quarter) {
+        const int phase = ((quarter % 4) + 4) % 4;
+        const double J = phasedate(quarter / 4.0, phase);
+        const std::chrono::sys_seconds moment{seconds(std::llround((J - unixday) * secondsofday))};
+        if (moment >= until) return phases;
+        if (moment >= from) phases.push_back({moment, phase});
+    }
+}
+
 void SwapText(std::string& first, std::string& second) {
     std::swap(first, second);
 }

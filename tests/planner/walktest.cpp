@@ -17,10 +17,10 @@ using tests::MinuteWalk;
 
 constexpr Date newyear = std::chrono::year{2027} / 12 / 1;
 #ifdef __SANITIZE_ADDRESS__
-constexpr int days = 40;
+constexpr int walkeddays = 40;
 constexpr std::size_t everyport = 12;
 #else
-constexpr int days = 366;
+constexpr int walkeddays = 366;
 constexpr std::size_t everyport = 1;
 #endif
 constexpr long day = 24 * 60;
@@ -79,18 +79,18 @@ TEST(Waters, AreThoseOfAWalkByMinutesAtEveryPort) {
     const auto ports = tests::shippedports();
     for (std::size_t i = 0; i < ports.size(); i += everyport) {
         const HarmonicRecord& port = ports[i];
-        const MinuteWalk walk(port, newyear, days);
+        const MinuteWalk walk(port, newyear, walkeddays);
         const std::string name = trim(port.PortName);
-        comparewaters(name, watersof(port, newyear, days), walk);
-        const TideSpan span(port, newyear, days);
+        comparewaters(name, watersof(port, newyear, walkeddays), walk);
+        const TideSpan span(port, newyear, walkeddays);
         for (const double share : {0.1, 0.5, 0.9}) {
             const double floor = port.Z0 + (share - 0.5) * meanspringrange(port);
             Passage passage;
             passage.bottom = -floor;
-            comparewindows(name, accessof(span, passage, {}, {}), walk, floor, HUGE_VAL);
+            comparewindows(name, accessof(span, {0, span.hours()}, passage, {}, {}), walk, floor, HUGE_VAL);
             passage.bridge = 20;
             passage.airdraught = 20 - floor - 0.4;
-            comparewindows(name, accessof(span, passage, {}, {}), walk, floor, floor + 0.4);
+            comparewindows(name, accessof(span, {0, span.hours()}, passage, {}, {}), walk, floor, floor + 0.4);
         }
     }
 }

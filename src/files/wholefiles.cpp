@@ -123,6 +123,11 @@ std::vector<std::byte> readwhole(const std::string& path) {
     return wholefile(path).value_or(std::vector<std::byte>{});
 }
 
+std::string wholetext(const std::string& path) {
+    const std::vector<std::byte> bytes = readwhole(path);
+    return std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+}
+
 std::size_t readpart(const std::string& path, std::uint64_t offset, std::span<std::byte> bytes) {
     const File file(path, forreading);
     if (!file.isopen()) return 0;

@@ -25,6 +25,9 @@ std::optional<std::vector<std::byte>> wholefile(const std::string& path);
 /// The whole file's bytes; none if it can't be read.
 std::vector<std::byte> readwhole(const std::string& path);
 
+/// The whole file as a text; none if it can't be read.
+std::string wholetext(const std::string& path);
+
 /// Fills `bytes` from `offset` on; how many there were, 0 for a file that can't be read.
 std::size_t readpart(const std::string& path, std::uint64_t offset, std::span<std::byte> bytes);
 

@@ -56,7 +56,7 @@ class Writer {
     using Records = std::vector<std::string>;
 
     std::string path(const char* name) const { return folder + "/" + name; }
-    std::string textin(const char* name) const { return textof(readwhole(path(name))); }
+    std::string textin(const char* name) const { return wholetext(path(name)); }
 
     std::size_t below(std::size_t end) { return std::uniform_int_distribution<std::size_t>(0, end - 1)(generator); }
     std::int16_t anynumber(std::size_t count) { return static_cast<std::int16_t>(1 + below(count)); }

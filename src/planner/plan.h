@@ -63,7 +63,7 @@ class Plan {
     Moment ends() const { return ends_; }      ///< of the day behind its last
 
     /// Why there are no tides on some day of it; empty when there are on all.
-    std::string whynot() const { return tides_.whynot(); }
+    const char* whynot() const { return tides_.whynot(); }
 
     std::optional<double> height(Moment moment) const { return tides_.height(spanhours(moment)); }
     std::optional<double> rate(Moment moment) const { return tides_.rate(spanhours(moment)); }

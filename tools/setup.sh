@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that this project needs and that are missing: "setup.sh run" for building and starting the
-# program, "setup.sh test" for the tests as well. Says nothing and asks for nothing when all are there.
+# program, "setup.sh package" for making a Debian package of it as well, "setup.sh test" for that and for the tests. Says
+# nothing and asks for nothing when all are there.
 set -euo pipefail
 
 run_packages=(
@@ -8,6 +9,9 @@ run_packages=(
   "cmake|the build description"
   "ninja-build|runs the build"
   "qt6-base-dev|the windows, printing and pictures (Qt 6)"
+  "qt6-pdf-dev|shows the manual (Qt 6)"
+  "qt6-svg-dev|the manual's drawings (Qt 6)"
+  "libqpdf-dev|the manual's outline and links (qpdf)"
   "libeigen3-dev|the algebra of fitting readings to a tide (Eigen)"
   "libcli11-dev|reads the command line of the terminal companion, tides (CLI11)"
   "nlohmann-json3-dev|writes its JSON (nlohmann-json)"
@@ -15,17 +19,26 @@ run_packages=(
   "tzdata|the rules of those clocks"
   "fonts-liberation|a clear font for a machine that has none"
 )
+package_packages=(
+  "dpkg-dev|finds the packages that a package depends on"
+  "file|tells it which files are programs"
+)
 test_packages=(
   "libgtest-dev|the test framework (GoogleTest)"
   "libbenchmark-dev|the timings (Google Benchmark)"
   "clang-format|checks the source's layout"
   "poppler-utils|reads the printed pages back as text"
+  "lintian|checks the Debian package against Debian's rules"
+  "desktop-file-utils|checks the menu entry"
+  "appstream|checks what software centres show"
+  "man-db|checks the manual pages"
 )
 
 case "${1:-run}" in
   run) wanted=("${run_packages[@]}") ;;
-  test) wanted=("${run_packages[@]}" "${test_packages[@]}") ;;
-  *) echo "setup.sh: say 'run' or 'test'" >&2; exit 2 ;;
+  package) wanted=("${run_packages[@]}" "${package_packages[@]}") ;;
+  test) wanted=("${run_packages[@]}" "${package_packages[@]}" "${test_packages[@]}") ;;
+  *) echo "setup.sh: say 'run', 'package' or 'test'" >&2; exit 2 ;;
 esac
 
 missing=()

@@ -19,8 +19,12 @@ frmAdjustSave::frmAdjustSave(MainContext& maincontext, AdjustWorkspace& adjustwo
     for (const std::string& name : datafiles(context.session.folders, ".hc"))
         File1->addItem(QString::fromStdString(name));
     if (workspace.place) Text1->setText(QString::fromStdString(workspace.place->name));
-    connect(File1, &QListWidget::currentRowChanged, this, &frmAdjustSave::File1_Click);
-    connect(List1, &QListWidget::currentRowChanged, this, &frmAdjustSave::List1_Click);
+    // A click on the row that is current already brings its name back over a typed one.
+    for (const auto& [list, click] :
+         {std::pair{File1, &frmAdjustSave::File1_Click}, {List1, &frmAdjustSave::List1_Click}}) {
+        connect(list, &QListWidget::currentRowChanged, this, click);
+        connect(list, &QListWidget::itemClicked, this, click);
+    }
     connect(cmdSave, &QPushButton::clicked, this, &frmAdjustSave::cmdSave_Click);
     connect(cmdExit, &QPushButton::clicked, this, &frmAdjustSave::reject);
     settle(cmdSave, File1);

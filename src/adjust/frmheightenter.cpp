@@ -121,13 +121,16 @@ QLayout* frmHeightEnter::buildfiles() {
 }
 
 void frmHeightEnter::connectcontrols() {
-    for (QListWidget* list : {lstHours, lstMins})
-        connect(list, &QListWidget::currentRowChanged, this,
-                [this] { lblTime->setText(QString::fromStdString(clickedtime(clicks()))); });
-    for (QListWidget* list : {lstMetres, lstCms, lstMMs})
-        connect(list, &QListWidget::currentRowChanged, this,
-                [this] { lblHeight->setText(QString::fromStdString(clickedheight(clicks()))); });
-    connect(File1, &QListWidget::currentRowChanged, this, &frmHeightEnter::File1_Click);
+    // A click on the row that is current already is one too: what stands below may be finer, or typed.
+    const auto onclick = [this](const QListWidget* list, void (frmHeightEnter::*click)()) {
+        connect(list, &QListWidget::currentRowChanged, this, click);
+        connect(list, &QListWidget::itemClicked, this, click);
+    };
+    for (const QListWidget* list : {lstHours, lstMins})
+        onclick(list, &frmHeightEnter::time_Click);
+    for (const QListWidget* list : {lstMetres, lstCms, lstMMs})
+        onclick(list, &frmHeightEnter::height_Click);
+    onclick(File1, &frmHeightEnter::File1_Click);
     connect(List1, &QListWidget::itemActivated, this, &frmHeightEnter::List1_DblClick);
     connect(cmdOpen, &QPushButton::clicked, this, &frmHeightEnter::cmdOpen_Click);
     connect(cmdAdd, &QPushButton::clicked, this, &frmHeightEnter::cmdAdd_Click);
@@ -135,6 +138,7 @@ void frmHeightEnter::connectcontrols() {
     connect(Command2, &QPushButton::clicked, this, &frmHeightEnter::Command2_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmHeightEnter::cmdCancel_Click);
     List1->installEventFilter(this);
+    txtFileName->installEventFilter(this);
 }
 
 HeightClicks frmHeightEnter::clicks() const {
@@ -160,6 +164,14 @@ void frmHeightEnter::showrows(int current) {
     for (const std::string& row : entries.rows)
         List1->addItem(QString::fromStdString(row));
     List1->setCurrentRow(std::min(current, List1->count() - 1));
+}
+
+void frmHeightEnter::time_Click() {
+    lblTime->setText(QString::fromStdString(clickedtime(clicks())));
+}
+
+void frmHeightEnter::height_Click() {
+    lblHeight->setText(QString::fromStdString(clickedheight(clicks())));
 }
 
 void frmHeightEnter::File1_Click() {
@@ -239,10 +251,20 @@ void frmHeightEnter::reject() {
     if (offertosave()) ModalDialog::reject();
 }
 
+/// Enter in the name's box must not add a reading once more: it opens while nothing is listed that would be joined.
+void frmHeightEnter::enterinname() {
+    if (entries.rows.empty()) return cmdOpen_Click();
+    context.services.messages.beep();
+}
+
 bool frmHeightEnter::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == List1 && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent&>(*event).key() == Qt::Key_Delete) {
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent&>(*event).key() : 0;
+    if (watched == List1 && key == Qt::Key_Delete) {
         deleteentry();
+        return true;
+    }
+    if (watched == txtFileName && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        enterinname();
         return true;
     }
     return ModalDialog::eventFilter(watched, event);

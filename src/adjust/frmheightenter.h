@@ -33,6 +33,8 @@ class frmHeightEnter : public ModalDialog {
     QLayout* buildentries();
     void connectcontrols();
     HeightClicks clicks() const;
+    void time_Click();
+    void height_Click();
     void File1_Click();
     void cmdOpen_Click();
     void cmdAdd_Click();
@@ -41,6 +43,7 @@ class frmHeightEnter : public ModalDialog {
     bool Command2_Click();
     void cmdCancel_Click();
     void deleteentry();
+    void enterinname();
     void listfiles();
     void showrows(int current);
     void tell(const std::string& message);

@@ -6,6 +6,7 @@
 #include "portdata/areaedits.h"
 #include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
+#include "session/refresh.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
@@ -26,7 +27,8 @@ HarmonicBytes bytesof(HarmonicRecord record, const std::optional<GivenPlace>& pl
 
 std::string whynot(const AdjustWorkspace& workspace, const SaveChoice& choice, const std::string& name) {
     if (name.empty()) return "Area must have a name";
-    if (const std::string fault = filenamefault(name); !fault.empty()) return fault;
+    for (const std::string& fault : {filenamefault(name), areanamefault(namebeforepoint(name))})
+        if (!fault.empty()) return fault;
     const HarmonicRecord record = recordof(workspace.boxes);
     for (const ConstantRow& row : constantrows)
         if (!std::isfinite(record.*row.field))
@@ -60,6 +62,7 @@ LocationSaved savelocation(AdjustWorkspace& workspace, Session& session, const S
         saved.message = "The location can't be saved: " + target.path + "\n" + edit.written.reason();
         return saved;
     }
+    followarea(session);
     workspace.saved = workspace.boxes;
     saved.answer = file + ": " + std::to_string(edit.ports) + (edit.ports == 1 ? " port; " : " ports; ") +
                    (choice.replace ? "port " + std::to_string(edit.newport) + " is now " + record.PortName

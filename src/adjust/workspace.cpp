@@ -185,7 +185,6 @@ void DrawAdjustCurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSur
     const Prediction& curve = workspace.curves[place];
     const CurveLimits limits = limitsof(curve);
     startpicture(picture, limits);
-    if (!curve.defined) drawnote(picture, limits, "No prediction\n" + intwolines(curve.whynot));
     if (curve.defined && hasport(workspace, place)) {
         LayerChoice all;
         all.fill(true);
@@ -196,6 +195,7 @@ void DrawAdjustCurve(const AdjustWorkspace& workspace, CurvePlace place, DrawSur
         if (place == intermediatecurve) DrawObservedHeights(workspace.readings, picture);
     }
     drawgrid(picture, limits, " Metres");
+    if (!curve.defined) drawnote(picture, limits, "No prediction\n" + intwolines(curve.whynot));
     picture.setpersistent(false);
 }
 

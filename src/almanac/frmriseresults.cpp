@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 #include <array>
 
+#include "almanac/phasenotes.h"
 #include "almanac/sunoutput.h"
 #include "almanac/sunview.h"
 #include "platform/qt/named.h"
@@ -50,6 +51,7 @@ Frmriseresults::Frmriseresults(MainContext& maincontext, QWidget* parent)
     longitude->setText(QString::fromStdString(titles[2]));
     latitude->setText(QString::fromStdString(titles[3]));
     Label2->setText(screentext(context.session.lunar.lunartext));
+    shownotes();
     setscroll();
     connect(VScroll1, &QScrollBar::valueChanged, this, &Frmriseresults::VScroll1_Change);
     connect(cmdsunprint, &QPushButton::clicked, this, &Frmriseresults::cmdsunprint_Click);
@@ -152,7 +154,19 @@ QLayout* Frmriseresults::buildlunar() {
     column->setSpacing(twips(120));
     column->addWidget(heading("LUNAR PHASES"));
     column->addWidget(Label2, 1);
+    lblphasenotes = plain("lblphasenotes");
+    column->addWidget(lblphasenotes);
     return column;
+}
+
+void Frmriseresults::shownotes() {
+    const DateOnShow& onshow = context.session.onshow;
+    QStringList lines;
+    for (const std::string& note : phasenotes(context.session.lunar, static_cast<int>(onshow.tidemonth),
+                                              static_cast<int>(onshow.tideyear), context.services.locale))
+        lines << screentext(note);
+    lblphasenotes->setText(lines.join('\n'));
+    lblphasenotes->setVisible(!lines.isEmpty());
 }
 
 void Frmriseresults::setscroll() {

@@ -27,7 +27,8 @@ class Frmriseresults : public ModalDialog {
     QLabel *nautdawn = nullptr, *nautdusk = nullptr;
     QLabel *Label1 = nullptr, *daylighthours = nullptr;
     QLabel *twilighthours = nullptr, *Label4 = nullptr;
-    QLabel* Label2 = nullptr;  ///< the lunar phases
+    QLabel* Label2 = nullptr;         ///< the lunar phases
+    QLabel* lblphasenotes = nullptr;  ///< what could be misread of them
     QPushButton *cmdsunprint = nullptr, *Command1 = nullptr, *cancel = nullptr;
 
   protected:
@@ -38,6 +39,7 @@ class Frmriseresults : public ModalDialog {
     void buildlayout();
     QGridLayout* buildday();
     QLayout* buildlunar();
+    void shownotes();
     void setscroll();
     void VScroll1_Change();
     void cmdsunprint_Click();

@@ -55,8 +55,10 @@ void savesuncsv(MainContext& context) {
     Session& session = context.session;
     Messages& messages = context.services.messages;
     FileRequest request;
-    // kept: this file alone goes into the program's folder where the user doesn't choose another
-    request.folder = session.folders.programfolder;
+    // kept: this file alone goes into the program's folder, while that keeps changes, where the user doesn't choose
+    // another
+    request.folder =
+        session.folders.ownfolder.empty() ? session.folders.programfolder : session.folders.textoutputfolder;
     request.filter = "CSV file | *csv";
     const std::optional<std::string> chosen = context.services.filedialogs.save(request);
     if (!chosen || chosen->empty()) return;

@@ -43,6 +43,10 @@ bool isleapyear(int year) {
     return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
 }
 
+int daysinyear(int year) {
+    return isleapyear(year) ? 366 : 365;
+}
+
 int DaysInMonth(int year, int month) {
     return dayof(makedate(year, month + 1, 1) - days{1});
 }

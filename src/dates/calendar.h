@@ -33,6 +33,9 @@ const char* englishmonth(int month);
 /// Divisible by 4 and not by 100, or divisible by 400.
 bool isleapyear(int year);
 
+/// 365, or 366 of a leap year.
+int daysinyear(int year);
+
 /// Days of a month: the day number of the date one day before the first of the next.
 int DaysInMonth(int year, int month);
 

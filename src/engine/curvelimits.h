@@ -22,6 +22,7 @@ struct CurveOnShow {
     double curvetop = 1;
     double curvebottom = 0;
     std::string curvenote;
+    std::string whynot;     ///< why nothing was drawn; empty where the samples are a curve
     double springslag = 0;  ///< hours from the S2 to the M2 maximum; the last value stands when no pair is found
 };
 

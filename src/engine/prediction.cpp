@@ -58,8 +58,12 @@ void leaveundefined(Prediction& prediction, const char* whynot) {
 
 PredictedPort predictedport(const Settings& settings) {
     const UserDepthRecord depth = readdepth(settings.depfile, settings.currentport);
-    return {readport(settings.hcfile, settings.currentport), settings.currentport, depth.UserDepth,
-            settings.currentoutput, trim(depth.DepthPortName)};
+    return {readport(settings.hcfile, settings.currentport),
+            settings.currentport,
+            depth.UserDepth,
+            settings.currentoutput,
+            trim(depth.DepthPortName),
+            settings.hcfile};
 }
 
 std::string depthofanother(const PredictedPort& port) {
@@ -164,6 +168,12 @@ void findturningpoints(Prediction& prediction) {
         least = std::min(least, samples[i].height);
     }
     prediction.dayrange = greatest - least;
+}
+
+bool ishighwater(const Prediction& prediction, int turningpoint) {
+    const TimedValue& point = prediction.turningpoints[static_cast<std::size_t>(turningpoint)];
+    const auto row = static_cast<std::size_t>(std::lround(point.time * 6) + 1);
+    return point.height > prediction.curvesamples[row - 1].height;
 }
 
 }  // namespace tarvane

@@ -34,6 +34,7 @@ struct PredictedPort {
     float userdepth = 0;      ///< the user's charted depth, metres
     float currentoutput = 1;  ///< 1 leaves the depth out of the heights
     std::string depthname{};  ///< name of the port that the depth's record was made for; empty when not known
+    std::string area{};       ///< path of the sea area file that the record stands in
 };
 
 /// The name of the port that the record of the depth in the heights was made for, when it is another than this one;
@@ -93,5 +94,8 @@ bool haspredictions(int year, int dayofyear);
 /// Picks the high and low waters out of rows 2 to 145 by strict comparison, 15 at most, and the range over rows 1 to
 /// 145.
 void findturningpoints(Prediction& prediction);
+
+/// True if the turning point of that index (from 1) is a high water, told by the sample before it.
+bool ishighwater(const Prediction& prediction, int turningpoint);
 
 }  // namespace tarvane

@@ -113,9 +113,7 @@ void LayersPanel::showlevelcontrols() {
 
 void LayersPanel::show(const Session& session) {
     for (std::size_t place = 0; place < rows.size(); ++place) {
-        if (session.showconstants)
-            rows[place].constant->setText(
-                QString::fromStdString(constituents[place].constant(session.prediction.port.record)));
+        rows[place].constant->setText(QString::fromStdString(session.layerconstants[place]));
         rows[place].value->setText(QString::fromStdString(session.layervalues.parts[place]));
     }
     lblSumHt->setText(QString::fromStdString(session.layervalues.sum));

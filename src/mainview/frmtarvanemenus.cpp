@@ -4,6 +4,9 @@
 #include <QMenuBar>
 
 #include "almanac/frmsunrise.h"
+#include "diamonds/frmimport.h"
+#include "diamonds/frmstreams.h"
+#include "diamonds/frmtidaldiamondscopy.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/frmtimdat.h"
 #include "ports/frmchartdepth.h"
@@ -46,6 +49,12 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openmodal<frmharmedit>(context, this);
         case Dialog::copyports:
             return openmodal<frmHCcopy>(context, this);
+        case Dialog::copydiamonds:
+            return openmodal<frmTidalDiamondsCopy>(context, this);
+        case Dialog::importcharts:
+            return openmodal<frmimport>(context, this);
+        case Dialog::streams:
+            return openmodal<frmstreams>(context, this);
     }
 }
 
@@ -78,8 +87,6 @@ void frmtarvane::buildmenus() {
     for (const MenuEntry& entry : menuentries()) {
         QAction* action = findChild<QMenu*>(entry.menu)->addAction(entry.caption);
         action->setObjectName(entry.name);
-        action->setEnabled(entry.command != nullptr);
-        if (!entry.command) action->setToolTip(notyettext);
         if (*entry.shortcut) action->setShortcut(QKeySequence(entry.shortcut));
         connect(action, &QAction::triggered, this, [this, &entry] { choose(entry); });
         switched.push_back({action, entry.visible, nullptr});
@@ -89,7 +96,6 @@ void frmtarvane::buildmenus() {
 }
 
 void frmtarvane::choose(const MenuEntry& entry) {
-    if (!entry.command) return;
     Desk desk{context, [this](Dialog dialog) { opendialog(dialog); }, [this] { close(); }};
     session.view.answer.clear();
     statusbar->show(session.view);

@@ -6,6 +6,7 @@
 #include "almanac/sunview.h"
 #include "dates/summertime.h"
 #include "mainview/copycommands.h"
+#include "mainview/exportcommands.h"
 #include "mainview/layersview.h"
 #include "mainview/monthcommand.h"
 #include "mainview/printcommands.h"
@@ -83,14 +84,32 @@ void adjustharmonics(Desk& desk) {
 
 void correctconstants(Desk& desk) {
     desk.open(Dialog::correctconstants);
+    drawcurve(desk);
 }
 
 void copyports(Desk& desk) {
     desk.open(Dialog::copyports);
+    drawcurve(desk);
+}
+
+void copydiamonds(Desk& desk) {
+    desk.open(Dialog::copydiamonds);
+}
+
+void importcharts(Desk& desk) {
+    desk.open(Dialog::importcharts);
+}
+
+void streamsforday(Desk& desk) {
+    desk.open(Dialog::streams);
 }
 
 void help(Desk& desk) {
-    desk.context.services.messages.show(helptext(), programname, MessageIcon::information);
+    desk.context.services.windows.showmanual("frmtarvane");
+}
+
+void keys(Desk& desk) {
+    desk.context.services.messages.show(keystext(), programname, MessageIcon::information);
 }
 
 constexpr MenuPlace places[] = {
@@ -124,6 +143,7 @@ constexpr MenuEntry entries[] = {
     {"mnutides", "mnuArea", "Sea &Area", "", selectarea},
     {"mnuCalc", "mnumonth", "&Months Tide", "Ctrl+M", run<calculatemonth>, true},
     {"mnuCalc", "mnusunrise", "&Sunrise/Lunar phases", "", sunandmoon},
+    {"mnuCalc", "mnuStreams", "S&treams for a Day", "", streamsforday},
     {"mnuCopy", "mnuCopyDaysTides", "C&opy Days Tides", "Ctrl+C", run<copydaystides>},
     {"mnuCopy", "mnuCopyMonth", "Copy &Months Tides", "", run<copymonthstides>},
     {"mnuCopy", "mnuCopySunTimes", "Copy &Days Sunrise && Sunset Times", "", run<copydayssuntimes>},
@@ -134,13 +154,15 @@ constexpr MenuEntry entries[] = {
     {"mnumaintenance", "mnumaintainfile", "&Correct Port Constants", "", correctconstants, false,
      &MainView::maintenancevisible},
     {"mnumaintenance", "mnucopyconstants", "&Copy ports", "", copyports, false, &MainView::copyportsvisible},
-    {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", nullptr, false, &MainView::diamondsvisible},
+    {"mnumaintenance", "mnuCopyDiamonds", "Copy &Tidal Diamonds", "", copydiamonds, false, &MainView::diamondsvisible},
+    {"mnumaintenance", "mnuImportCharts", "&Import Charts", "", importcharts, false, &MainView::diamondsvisible},
     {"mnuAdvanced", "mnuLayersShow", "&Show Tides Constituents", "Ctrl+T", run<togglelayers>},
     {"mnuAdvanced", "mnuAdjustLoad", "&Interpolate Between Ports", "", adjustharmonics, true, &MainView::adjustvisible},
     {"mnuHelpTop", "mnuHelp", "Help", "F1", help},
-    {"mnuSpecial", "mnuAnglesAndFactors", "Angles and Factors", "", nullptr},
-    {"mnuSpecial", "mnuYears", "Years", "", nullptr},
-    {"mnuSpecial", "mnuCalcOrbitalConst", "Orbital Constants", "", nullptr},
+    {"mnuHelpTop", "mnuKeys", "&Keys", "", keys},
+    {"mnuSpecial", "mnuAnglesAndFactors", "Angles and Factors", "", run<exportanglesandfactors>},
+    {"mnuSpecial", "mnuYears", "Years", "", run<exportyears>},
+    {"mnuSpecial", "mnuCalcOrbitalConst", "Orbital Constants", "", run<exportorbitalconstants>},
 };
 
 /// A caption without its access mark and the blanks at its ends.
@@ -155,8 +177,6 @@ std::string plaincaption(std::string_view caption) {
 
 }  // namespace
 
-const char* const notyettext = "Not in this version yet";
-
 std::span<const MenuPlace> menuplaces() {
     return places;
 }
@@ -165,13 +185,12 @@ std::span<const MenuEntry> menuentries() {
     return entries;
 }
 
-std::string helptext() {
+std::string keystext() {
     std::string text = programcaption() +
                        "\n\nTide prediction for yachtsmen. All results are approximate, and not for navigation.\n\n"
                        "Page Down, Page Up: next and previous day\n";
     for (const MenuEntry& entry : entries)
-        if (*entry.shortcut && entry.command != &help)
-            text += std::string(entry.shortcut) + ": " + plaincaption(entry.caption) + "\n";
+        if (*entry.shortcut) text += std::string(entry.shortcut) + ": " + plaincaption(entry.caption) + "\n";
     return text + "A click on the curve freezes the readout, another frees it.";
 }
 

@@ -20,6 +20,9 @@ enum class Dialog {
     sunrise,
     correctconstants,
     copyports,
+    streams,
+    copydiamonds,
+    importcharts,
     adjust
 };
 
@@ -43,20 +46,17 @@ struct MenuEntry {
     const char* menu;  ///< the menu that it stands in
     const char* name;
     const char* caption;
-    const char* shortcut;    ///< empty for none
-    void (*command)(Desk&);  ///< null: not to be had, and shown disabled
-    bool slow = false;       ///< runs under the hourglass
+    const char* shortcut;  ///< empty for none
+    void (*command)(Desk&);
+    bool slow = false;  ///< runs under the hourglass
     bool MainView::*visible = nullptr;
 };
 
 std::span<const MenuPlace> menuplaces();
 std::span<const MenuEntry> menuentries();
 
-/// Why an entry without a command is there.
-extern const char* const notyettext;
-
-/// What the program is, and its keys: the help until there is a manual.
-std::string helptext();
+/// What the program is, and its keys.
+std::string keystext();
 
 /// A double click on `Label1` of the constituents view: the special menu, and the constants behind the names.
 void showspecial(Session& session);

@@ -14,7 +14,7 @@ constexpr std::size_t leastmonthrows = 11;
 
 DayPage daypage(const Session& session) {
     return {session.view.portbox, session.view.tidedatebox,       session.daytable.daystide1,
-            session.curve,        session.prediction.samplecount, session.prediction.whynot,
+            session.curve,        session.prediction.samplecount, session.curve.whynot,
             session.settings,     closingfacts(session)};
 }
 

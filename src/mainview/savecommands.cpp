@@ -23,9 +23,9 @@ void saveday(MainContext& context) {
     if (!path) return;
     const MainView& view = session.view;
     writedocument(context, *path,
-                  session.prediction.defined
+                  session.curve.whynot.empty()
                       ? dayfile(session.curve, view.portbox, view.tidedatebox)
-                      : undefineddayfile(session.prediction.whynot, view.portbox, view.tidedatebox));
+                      : undefineddayfile(session.curve.whynot, view.portbox, view.tidedatebox));
 }
 
 }  // namespace tarvane

@@ -3,15 +3,17 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarvane {
 
 struct FileRequest {
     std::string title;
-    std::string folder;         ///< the folder shown first
-    std::string filename;       ///< the name proposed, may be empty
-    std::string filter;         ///< as "Tables (*.txt)|*.txt", description and pattern in pairs
-    bool askoverwrite = false;  ///< save only: ask before a file that stands is chosen
+    std::string folder;                 ///< the folder shown first
+    std::string filename;               ///< the name proposed, may be empty
+    std::string filter;                 ///< as "Tables (*.txt)|*.txt", description and pattern in pairs
+    bool askoverwrite = false;          ///< save only: ask before a file that stands is chosen
+    std::vector<std::string> places{};  ///< folders that are one click away, at the top of those always offered
 };
 
 class FileDialogs {

@@ -1,6 +1,8 @@
 // The default printer, or the PDF that stands in for it: pages of text and lines in the printer's own coordinates.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tarvane {
@@ -12,9 +14,29 @@ struct PrintOutcome {
     operator bool() const { return whynot.empty(); }
 };
 
+/// Pages of a document, from 1, the last one included.
+struct PageRange {
+    int first = 1;
+    int last = 1;
+};
+
+/// A picture, row by row from its top left, 0xAARRGGBB a pixel. Holds no pixels of its own.
+struct PagePicture {
+    int width = 0;
+    int height = 0;
+    const std::uint32_t* pixels = nullptr;
+};
+
 class Printer {
   public:
     virtual ~Printer() = default;
+
+    /// Whether there is a printer, and not a PDF in its place.
+    virtual bool available() const = 0;
+
+    /// Lets the user choose the printer of all that is printed from now on, and the pages of a document that has more
+    /// than 0 of them. Nothing when he cancels.
+    virtual std::optional<PageRange> choose(int pages) = 0;
 
     /// Opens a document. Coordinates start as twips (1440 to the inch) from the top left of the printable page; font
     /// size 9, not bold, lines 8 twips thick, the current position at the origin.
@@ -51,6 +73,9 @@ class Printer {
     virtual void setlinewidth(double twips) = 0;
     virtual void line(double x1, double y1, double x2, double y2) = 0;
     virtual void point(double x, double y) = 0;
+
+    /// Prints a picture into a rectangle.
+    virtual void image(double x, double y, double width, double height, const PagePicture& picture) = 0;
 
     virtual void newpage() = 0;
 

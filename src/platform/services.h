@@ -3,11 +3,13 @@
 
 #include "platform/clipboard.h"
 #include "platform/clock.h"
+#include "platform/drives.h"
 #include "platform/filedialogs.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
 #include "platform/messages.h"
 #include "platform/printer.h"
+#include "platform/progress.h"
 #include "platform/windows.h"
 
 namespace tarvane {
@@ -21,6 +23,8 @@ struct Services {
     Locale& locale;
     Folders& folders;
     Windows& windows;
+    Progress& progress;
+    Drives& drives;
 };
 
 }  // namespace tarvane

@@ -1,4 +1,4 @@
-// The one door through which modal windows open.
+// The one door through which modal windows open, and the manual beside them.
 #pragma once
 
 #include <string>
@@ -17,6 +17,9 @@ class Windows {
   public:
     virtual ~Windows() = default;
     virtual void showmodal(ModalWindow& window) = 0;
+
+    /// Opens the manual at the chapter of the window of this name, in a window of its own, and comes back at once.
+    virtual void showmanual(const std::string& windowname) = 0;
 };
 
 }  // namespace tarvane

@@ -11,11 +11,11 @@ namespace tarvane {
 
 /// The folders that the program works in, without a trailing separator.
 struct ProgramFolders {
-    std::string programfolder;     ///< where the executable, the area files and Sample.way lie
+    std::string programfolder;     ///< where the area files, Sample.way and the manual lie as the program brings them
     std::string docsfolder;        ///< the user's documents
     std::string appdatafolder;     ///< the user's local application data
     std::string textoutputfolder;  ///< where saved texts go by default
-    std::string ownfolder{};       ///< takes the program folder's place for changes; empty when that can be written
+    std::string ownfolder{};       ///< takes the program folder's place for changes; empty when that keeps them
 
     std::string cfgpath() const;       ///< appdatafolder/TarvaneTides/TarTidesv9.cfg
     std::string configfolder() const;  ///< appdatafolder/TarvaneTides

@@ -26,25 +26,30 @@ std::vector<std::string> namesin(const std::string& folder) {
     return names;
 }
 
-std::vector<std::string> foldersof(const ProgramFolders& folders) {
-    if (folders.ownfolder.empty()) return {folders.programfolder};
-    return {folders.ownfolder, folders.programfolder};
+/// The copy of what a file in the user's own folder was made of.
+std::string shippedcopy(const std::string& own) {
+    return own + ".shipped";
 }
 
 }  // namespace
 
+std::vector<std::string> datafolders(const ProgramFolders& folders) {
+    if (folders.ownfolder.empty()) return {folders.programfolder};
+    return {folders.ownfolder, folders.programfolder};
+}
+
 std::vector<std::string> datafiles(const ProgramFolders& folders, std::string_view ending) {
     std::set<std::string> names;
-    for (const std::string& folder : foldersof(folders))
+    for (const std::string& folder : datafolders(folders))
         for (const std::string& name : namesin(folder))
             if (lower(name).ends_with(lower(ending))) names.insert(name);
     return {names.begin(), names.end()};
 }
 
 std::string datafile(const ProgramFolders& folders, const std::string& name) {
-    for (const std::string& folder : foldersof(folders))
+    for (const std::string& folder : datafolders(folders))
         if (canopen(folder + "/" + name)) return folder + "/" + name;
-    for (const std::string& folder : foldersof(folders)) {
+    for (const std::string& folder : datafolders(folders)) {
         std::vector<std::string> names = namesin(folder);
         std::sort(names.begin(), names.end());
         for (const std::string& other : names)
@@ -61,8 +66,18 @@ WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& n
     const std::string own = folders.ownfolder + standing.substr(standing.rfind('/'));
     const auto shipped = wholefile(standing);
     if (!shipped) prepared.error = std::make_error_code(std::errc::permission_denied);
+    if (prepared && canopen(standing)) prepared = replacefile(shippedcopy(own), *shipped);
     if (prepared && canopen(standing)) prepared = replacefile(own, *shipped);
     return {own, prepared};
+}
+
+FileOrigin originof(const ProgramFolders& folders, const std::string& path) {
+    FileOrigin origin{path};
+    origin.own = !folders.ownfolder.empty() && path.starts_with(folders.ownfolder + "/");
+    const std::string shipped = folders.programfolder + "/" + path.substr(path.find_last_of('/') + 1);
+    if (origin.own && canopen(shippedcopy(path)) && canopen(shipped))
+        origin.shippedanother = readwhole(shippedcopy(path)) != readwhole(shipped);
+    return origin;
 }
 
 WritableFile workfile(const ProgramFolders& folders) {
@@ -77,6 +92,11 @@ std::string filenamefault(std::string_view name) {
         return "A file name can't hold \"/\" or \"\\\", nor begin with a point: files lie in the program's folder";
     const bool control = std::any_of(name.begin(), name.end(), [](unsigned char c) { return c < ' ' || c == 0x7f; });
     return control ? "A file name can't hold control characters" : "";
+}
+
+std::string areanamefault(const std::string& name) {
+    if (lower(name) == "scratch") return "scratch.hc is the program's own work file, which is emptied again";
+    return filenamefault(name);
 }
 
 std::string namebeforepoint(std::string_view name) {

@@ -1,5 +1,6 @@
 // Where the files lie that the user may change: area files, heights read on the spot and the work file. It is the
-// program's folder, or where that can't be written a folder of the user's own, which comes first. One place knows it.
+// program's folder, or where that keeps no changes (it is installed, or can't be written) a folder of the user's own,
+// which comes first. One place knows it.
 #pragma once
 
 #include <string>
@@ -10,6 +11,9 @@
 #include "portdata/configuration.h"
 
 namespace tarvane {
+
+/// The folders that files are looked for in, the user's own first; they needn't be there.
+std::vector<std::string> datafolders(const ProgramFolders& folders);
 
 /// Names of the files that end so (".hc", whatever the case), each once, sorted; without their folder.
 std::vector<std::string> datafiles(const ProgramFolders& folders, std::string_view ending);
@@ -24,14 +28,27 @@ struct WritableFile {
 };
 
 /// Where to write it. In the user's own folder, which is made, the file as shipped is put first if it isn't there yet,
-/// so that a change to a part of it leaves the rest.
+/// so that a change to a part of it leaves the rest; it stands there once more as "UK.hc.shipped".
 WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& name);
+
+/// Whose a file in use is.
+struct FileOrigin {
+    std::string path;
+    bool own = false;             ///< it lies in the user's own folder
+    bool shippedanother = false;  ///< what it was made of isn't what the program brings now under its name
+};
+
+/// Looks at the files.
+FileOrigin originof(const ProgramFolders& folders, const std::string& path);
 
 /// Where the work file "scratch.hc" lies: in the folder that changes are written to, which is made.
 WritableFile workfile(const ProgramFolders& folders);
 
 /// Why a typed text can't be the name of a file in the folder, a sentence; empty when it can.
 std::string filenamefault(std::string_view name);
+
+/// The same for an area file's name without its ending; the work file's is none.
+std::string areanamefault(const std::string& name);
 
 /// "UK" of "UK.hc": a file's name up to its first point.
 std::string namebeforepoint(std::string_view name);

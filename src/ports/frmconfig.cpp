@@ -4,7 +4,6 @@
 #include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <functional>
 
@@ -121,7 +120,7 @@ void frmconfig::connectcontrols() {
     txtSearch->installEventFilter(this);
 }
 
-/// The list as the configuration has it sorted, the current port highlighted where it is one of this area.
+/// The list as the configuration has it sorted, the current port in view where it is one of this area.
 void frmconfig::openlist() {
     const Settings& settings = context.session.settings;
     loadlist();
@@ -133,9 +132,9 @@ void frmconfig::openlist() {
     }
     setrowsinview(*portlist2, 22);
     if (trim(settings.areafile) != trim(settings.hcfile)) return;
-    // Silently: a click goes by the name, which two ports may have.
-    const QSignalBlocker quiet(portlist2);
-    showhit(selectrecord(ports, settings.currentport));
+    // kept: nothing is highlighted at first, so that OK asks for a port; the current one is where the keys start.
+    if (const auto place = placeofrecord(ports, settings.currentport))
+        portlist2->setCurrentRow(static_cast<int>(*place), QItemSelectionModel::NoUpdate);
 }
 
 void frmconfig::loadlist() {

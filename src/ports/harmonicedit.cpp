@@ -244,13 +244,6 @@ void closeeditor(MainContext& context, const HarmonicEdit& edit) {
         answer(context, "The port on show is " + portnumbered(settings.currentport) + " of " + area + " now");
 }
 
-void followarea(Session& session) {
-    ConfigRecord record;
-    record.hcfilepath = session.settings.hcfile;
-    findareafile(session.folders, record);
-    session.settings.hcfile = record.hcfilepath;
-}
-
 std::string holds(const std::string& filename, std::int16_t ports) {
     return filename + ": " + numbertext(int{ports}) + (ports == 1 ? " port" : " ports");
 }

@@ -60,9 +60,6 @@ bool acceptorleave(MainContext& context, HarmonicEdit& edit);
 /// The window has closed: the main view is read anew when its area was changed or its port is another.
 void closeeditor(MainContext& context, const HarmonicEdit& edit);
 
-/// After a change the area on show may lie in the user's own folder: the session goes by that one from now on.
-void followarea(Session& session);
-
 /// "UK.hc: 84 ports"
 std::string holds(const std::string& filename, std::int16_t ports);
 

@@ -95,7 +95,7 @@ std::optional<std::string> pickport(PortList& list, std::string_view entry) {
     return picked;
 }
 
-std::optional<std::size_t> selectrecord(PortList& list, std::int16_t number) {
+std::optional<std::size_t> placeofrecord(const PortList& list, std::int16_t number) {
     if (number < 1 || number > static_cast<int>(list.filelist.size())) return std::nullopt;
     const std::size_t record = static_cast<std::size_t>(number - 1);
     const std::string name = trimmedname(list.filelist[record]);
@@ -103,9 +103,7 @@ std::optional<std::size_t> selectrecord(PortList& list, std::int16_t number) {
     // Ports with one name stand in the order of the file in either list.
     auto before = std::count_if(list.filelist.begin(), list.filelist.begin() + (number - 1), named);
     for (std::size_t i = 0; i < list.displaylist.size(); ++i) {
-        if (!named(list.displaylist[i]) || before-- > 0) continue;
-        list.selectedport = number;
-        return i;
+        if (named(list.displaylist[i]) && before-- == 0) return i;
     }
     return std::nullopt;
 }

@@ -36,9 +36,8 @@ std::string missingports(const PortList& list);
 /// file. Nothing, the selection staying, when no port has that name.
 std::optional<std::string> pickport(PortList& list, std::string_view entry);
 
-/// Makes the port of a record number the selected one and gives its place in `displaylist`. Nothing, the selection
-/// staying, when that list doesn't hold it.
-std::optional<std::size_t> selectrecord(PortList& list, std::int16_t number);
+/// Place in `displaylist` of the port of a record number. Nothing when that list doesn't hold it.
+std::optional<std::size_t> placeofrecord(const PortList& list, std::int16_t number);
 
 /// Place of the port to which quickly typed letters jump from the entry `from` (-1 for none), going round at the end:
 /// one letter, pressed once or again and again, steps through the ports that begin with it; different letters find the

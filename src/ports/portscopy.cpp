@@ -5,6 +5,7 @@
 #include "portdata/recordfiles.h"
 #include "ports/harmonicedit.h"
 #include "session/documents.h"
+#include "session/refresh.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
@@ -17,12 +18,6 @@ bool readnames(MainContext& context, const std::string& path, std::vector<std::s
     for (const HarmonicRecord& port : readports(path))
         names.push_back(trimmedname(port));
     return canopen(path) || refuse(context, "The area file can't be read: " + path);
-}
-
-/// Why what was typed names no file to save to; empty when it does.
-std::string namefault(const std::string& name) {
-    if (lowercase(name) == "scratch") return "scratch.hc is the program's own work file, which is emptied again";
-    return filenamefault(name);
 }
 
 }  // namespace
@@ -68,7 +63,7 @@ bool saveports(MainContext& context, const PortsCopy& copy) {
     if (trim(copy.name).empty()) return refuse(context, "No file name");
     const ProgramFolders& folders = context.session.folders;
     const std::string name = trim(copy.name);
-    if (const std::string fault = namefault(name); !fault.empty()) return refuse(context, fault + ".");
+    if (const std::string fault = areanamefault(name); !fault.empty()) return refuse(context, fault + ".");
     const std::string work = workfile(folders).path;
     if (portcount(work) != copy.gathered)
         return refuse(context, "The work file no longer holds the ports that were gathered: " + work +

@@ -1,6 +1,9 @@
 #include "ports/portselection.h"
 
+#include <filesystem>
+
 #include "files/wholefiles.h"
+#include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
 #include "ports/usernotes.h"
 #include "session/refresh.h"
@@ -23,6 +26,16 @@ void storechoice(MainContext& context, bool sortedbyname) {
                                    MessageIcon::exclamation);
 }
 
+/// Areas lie in two folders where the program's keeps no changes: it opens on the one in use, the other beside it.
+void offerfolders(const Session& session, FileRequest& request) {
+    if (session.folders.ownfolder.empty()) return;
+    for (const std::string& folder : datafolders(session.folders)) {
+        if (std::error_code odd; !std::filesystem::is_directory(folder, odd)) continue;
+        request.places.push_back(folder);
+        if (std::filesystem::path(session.settings.hcfile).parent_path() == folder) request.folder = folder;
+    }
+}
+
 }  // namespace
 
 void reloadforportlist(MainContext& context) {
@@ -38,6 +51,7 @@ bool choosesearea(MainContext& context) {
     request.title = "Select Sea Area";
     request.folder = context.session.folders.programfolder;
     request.filter = "Harmonics (*.HC)|*.hc";
+    offerfolders(context.session, request);
     const std::string chosen = context.services.filedialogs.open(request).value_or("");
     if (chosen.empty()) return false;
     if (!canopen(chosen)) {

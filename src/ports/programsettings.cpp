@@ -73,6 +73,7 @@ void offermaintenance(Session& session) {
     session.view.maintenancevisible = true;
     session.view.adjustvisible = true;
     session.view.copyportsvisible = true;
+    session.view.diamondsvisible = true;
 }
 
 void confirmoptions(MainContext& context, const ProgramOptions& options) {

@@ -47,6 +47,10 @@ std::int16_t predictdayonshow(Session& session) {
         leaveundefined(session.prediction, nosuchport);
     if (!session.prediction.defined) session.layervalues = {};
     session.settings.userdepth = session.prediction.port.userdepth;
+    // kept: the switch shows nothing by itself, the next prediction does
+    if (session.showconstants)
+        for (std::size_t place = 0; place < constituents.size(); ++place)
+            session.layerconstants[place] = constituents[place].constant(session.prediction.port.record);
     findturningpoints(session.prediction);
     buildpredictiontext(session.daytable, session.prediction, session.prediction.turningcount, session.port.portname,
                         onshow);
@@ -73,6 +77,13 @@ void takecurrentport(Session& session, bool trimname) {
     session.port.portlat = record.PortLat;
     session.port.portlong = record.PortLong;
     session.port.zonehours = zonehoursof(record);
+}
+
+void followarea(Session& session) {
+    ConfigRecord record;
+    record.hcfilepath = session.settings.hcfile;
+    findareafile(session.folders, record);
+    session.settings.hcfile = record.hcfilepath;
 }
 
 std::string portboxof(const std::string& name) {

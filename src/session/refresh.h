@@ -30,6 +30,9 @@ void refreshsun(Session& session, std::int16_t shift);
 /// Makes the port of `settings.currentport` current: its name, place and zone. The name is trimmed or left as read.
 void takecurrentport(Session& session, bool trimname);
 
+/// After a change the area on show may lie in the user's own folder: the session goes by that one from now on.
+void followarea(Session& session);
+
 /// The port line for a name, "Port    : " and the name.
 std::string portboxof(const std::string& name);
 

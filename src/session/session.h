@@ -19,6 +19,7 @@
 #include "portdata/areaedits.h"
 #include "portdata/configuration.h"
 #include "portdata/currentport.h"
+#include "portdata/datafolder.h"
 #include "sunmoon/lunarphases.h"
 #include "sunmoon/suntable.h"
 #include "sunmoon/suntimes.h"
@@ -40,7 +41,7 @@ struct MainView {
     bool maintenancevisible = false;  ///< mnumaintenance and mnumaintainfile
     bool adjustvisible = false;       ///< mnuAdjustLoad
     bool copyportsvisible = false;    ///< mnucopyconstants
-    bool diamondsvisible = false;     ///< mnuCopyDiamonds
+    bool diamondsvisible = false;     ///< mnuCopyDiamonds and mnuImportCharts
     bool stepbuttonsvisible = true;   ///< Nextday and Previousday
     bool monthvisible = false;        ///< the list of the month's tides
 };
@@ -63,7 +64,7 @@ struct SunOf {
 struct Session {
     ProgramFolders folders;
     Settings settings;
-    AreaBackups backups;  ///< which area files this run has kept a copy of
+    AreaBackups backups;  ///< which area and diamond files this run has kept a copy of
     DateConventions conventions;
     CurrentPort port;
     DateOnShow onshow;
@@ -85,11 +86,14 @@ struct Session {
     int mousefrozen = 0;    ///< 0 the readout follows the mouse, 1 it stands still
     int layersmode = 0;     ///< 0 tide curve, 1 constituents view
     bool showconstants = false;
+    /// Of the last prediction with `showconstants` on, by their places in `constituents`.
+    std::array<std::string, constituents.size()> layerconstants;
     LayerChoice layers{};
     LayerReadout layervalues;
     TideDay layersday;  ///< what `layervalues` were read off
     std::int16_t layersport = 0;
     std::string layersarea;
+    FileOrigin areaorigin;  ///< of the area that the prediction is of
 };
 
 /// The surfaces that the main window is drawn on. The window's own surface is scaled in twips; the picture's place on

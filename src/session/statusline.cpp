@@ -39,6 +39,10 @@ std::string heightsof(const PredictedPort& port) {
     return "heights over your depth of " + format(port.userdepth, "0.0#") + " m";
 }
 
+std::string nameof(const FileOrigin& area) {
+    return area.path.substr(area.path.find_last_of('/') + 1);
+}
+
 void noteport(const Session& session, std::vector<std::string>& notes) {
     const std::string name = trimmedname(session.prediction.port.record);
     if (trim(session.view.portbox) != trim(portboxof(name)))
@@ -123,11 +127,12 @@ void notetime(const Session& session, std::vector<std::string>& notes) {
 
 }  // namespace
 
-std::string statusline(const Prediction& prediction, const Locale& locale) {
+std::string statusline(const Prediction& prediction, const FileOrigin& area, const Locale& locale) {
     const std::string what =
         portof(prediction.port) + ", " + formatdate(locale, dateof(prediction.day), "dddd d mmmm yyyy");
     if (!prediction.defined) return "No tides of " + what + ": " + prediction.whynot;
-    return "Tides of " + what + ", " + zoneof(prediction) + ", " + heightsof(prediction.port);
+    return "Tides of " + what + ", " + zoneof(prediction) + ", " + heightsof(prediction.port) +
+           (area.own ? ", your own " + nameof(area) : "");
 }
 
 std::vector<std::string> statusnotes(const Session& session, const Locale& locale) {
@@ -141,13 +146,18 @@ std::vector<std::string> statusnotes(const Session& session, const Locale& local
     notetime(session, notes);
     notelayers(session, notes);
     notesun(session, date, notes);
+    if (session.areaorigin.shippedanother)
+        notes.push_back("your " + nameof(session.areaorigin) + " was made of an older one than the program's now");
     return notes;
 }
 
 void refreshstatus(MainContext& context) {
-    MainView& view = context.session.view;
-    view.statusline = statusline(context.session.prediction, context.services.locale);
-    view.notes = statusnotes(context.session, context.services.locale);
+    Session& session = context.session;
+    // Asked at every move of the mouse: the disk is looked at for another area alone.
+    const std::string& area = session.prediction.port.area;
+    if (session.areaorigin.path != area) session.areaorigin = originof(session.folders, area);
+    session.view.statusline = statusline(session.prediction, session.areaorigin, context.services.locale);
+    session.view.notes = statusnotes(session, context.services.locale);
 }
 
 }  // namespace tarvane

@@ -22,6 +22,7 @@ CurveLimits limitsof(const CurveOnShow& curve) {
 void startday(Session& session, DrawSurface& picture, const CurveSeries& series) {
     const Prediction& prediction = session.prediction;
     session.curve.curvesamplescopy = prediction.curvesamples;
+    session.curve.whynot = prediction.defined ? "" : prediction.whynot;
     const CurveLimits limits = curvelimits(series, prediction.curvesamples, prediction.samplecount);
     session.curve.curvetop = limits.curvetop;
     session.curve.curvebottom = limits.curvebottom;

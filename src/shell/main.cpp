@@ -4,11 +4,10 @@
 #include <memory>
 
 #include "mainview/frmtarvane.h"
-#include "mainview/menus.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/qtservices.h"
+#include "reader/frmhelpkey.h"
 #include "shell/frmconditions.h"
-#include "text/programcaption.h"
 
 int main(int argc, char** argv) {
     using namespace tarvane;
@@ -18,6 +17,9 @@ int main(int argc, char** argv) {
     const std::optional<Started> started = startup(services.services());
     if (!started) return 1;
     services.printer.setpdffolder(started->folders.textoutputfolder);
+    HelpKey manual(services.services(), {started->folders.programfolder, started->folders.textoutputfolder});
+    services.windows.onmanual = [&](const std::string& windowname) { manual.open(windowname); };
+    application.installEventFilter(&manual);
     Session session;
     session.folders = started->folders;
     session.conventions = started->conventions;
@@ -29,7 +31,7 @@ int main(int argc, char** argv) {
         window->show();
         conditions.hide();
     };
-    conditions.onhelp = [&] { services.messages.show(helptext(), programname, MessageIcon::information); };
+    conditions.onhelp = [&] { manual.open("frmConditions"); };
     conditions.ondeclined = [] { QApplication::exit(0); };
     conditions.show();
     return QApplication::exec();

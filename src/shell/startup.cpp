@@ -10,7 +10,7 @@ ProgramFolders findfolders(const Folders& system) {
     folders.docsfolder = system.documents().value_or("/");
     folders.appdatafolder = system.localappdata();
     folders.textoutputfolder = folders.userfolder() + "/TextOutput";
-    if (!system.canwrite(folders.programfolder)) folders.ownfolder = folders.configfolder() + "/Areas";
+    if (!system.keepschanges()) folders.ownfolder = folders.configfolder() + "/Areas";
     return folders;
 }
 

@@ -144,9 +144,10 @@ void LunarPhases(int month, int year, LunarTexts& texts) {
         const double k = lunation + 0.25 * phase;
         const auto& names = k < 0 ? earlyphasenames : phasenames;
         const auto place = static_cast<std::size_t>(phase);
+        texts.phasejulians[place] = phasedate(k, phase);
         ++texts.lunarcount;
         texts.lunarlist[static_cast<std::size_t>(texts.lunarcount)] =
-            phaseline(dayofmonth(phasedate(k, phase)), month, year, names[place]);
+            phaseline(dayofmonth(texts.phasejulians[place]), month, year, names[place]);
     }
     sortlines(texts);
 

@@ -13,6 +13,7 @@ struct LunarTexts {
     std::array<std::string, 11> lunarlist;  ///< one line a phase, from index 2; index 1 stays empty
     int lunarcount = 1;                     ///< highest index filled
     std::string lunartext;                  ///< all lines, a carriage return behind each
+    std::array<double, 4> phasejulians{};   ///< Julian dates of the four, from the new moon on
 };
 
 /// Fills `texts` for the month (1 to 12) and year. A phase that falls just outside the month is listed under it with

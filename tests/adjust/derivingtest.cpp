@@ -103,6 +103,8 @@ TEST_F(Deriving, TheLocationIsSavedBehindOrInPlaceOfAnother) {
     EXPECT_EQ(said({"UK", "Creek", true, -1, "UK.hc"}), "Select the location to replace");
     EXPECT_EQ(said({"West", "Creek", true, 0, "UK.hc"}), "The highlighted location is one of UK.hc, not of West.hc");
     EXPECT_NE(said({"a/b", "Creek", false, -1, ""}), "");
+    EXPECT_EQ(said({"Scratch.hc", "Creek", false, -1, ""}),
+              "scratch.hc is the program's own work file, which is emptied again");
     EXPECT_EQ(savelocation(workspace, session, {"Mine.x", " Creek", false, -1, ""}).answer,
               "Mine.hc: 1 port; the new port stands last. Give it its position and zone in Correct Port Constants.");
     const std::string mine = folders().programfolder + "/Mine.hc";
@@ -123,6 +125,16 @@ TEST_F(Deriving, TheLocationIsSavedBehindOrInPlaceOfAnother) {
     EXPECT_EQ(workspace.saved, workspace.boxes);
     workspace.boxes[0] = "1e60";
     EXPECT_EQ(said({"Mine", "Mill", false, -1, ""}), "Z0 is too large a number: nothing was saved");
+}
+
+TEST_F(Deriving, AnAreaSavedInTheUsersOwnFolderIsTheOneOnShowFromThenOn) {
+    session.folders.ownfolder = folder / "own";
+    const auto shipped = readwhole(area());
+    AdjustWorkspace workspace = openworkspace(context);
+    EXPECT_EQ(savelocation(workspace, session, {"UK", "Creek", true, 0, "UK.hc"}).message, "");
+    EXPECT_EQ(readwhole(area()), shipped);
+    EXPECT_EQ(session.settings.hcfile, folder / "own/UK.hc");
+    EXPECT_EQ(trimmedname(readport(session.settings.hcfile, 1)), "Creek");
 }
 
 }  // namespace

@@ -100,6 +100,10 @@ TEST_F(SunView, SavesATypedPlaceUnderThePortsHeadingAndReplacesOnYesOnly) {
         savesuncsv(context);
         EXPECT_EQ(filetext(file("sun.csv")), answer ? written : "old");
     }
+    session.folders.ownfolder = file("own");
+    scripted.filedialogs.expectsave(std::nullopt);
+    savesuncsv(context);
+    EXPECT_EQ(scripted.filedialogs.requests.back().folder, session.folders.textoutputfolder);
 }
 
 TEST_F(SunView, NothingIsSavedWithoutANameAndAFailureIsTold) {

@@ -26,7 +26,7 @@ class ScriptedFolders : public Folders {
     std::optional<std::string> documents() const override { return documentsfolder; }
     std::string localappdata() const override { return appdatafolder; }
 
-    bool canwrite(const std::string& path) const override { return !refused.contains(path); }
+    bool keepschanges() const override { return !refused.contains(programfolder); }
     bool make(const std::string& path) override {
         return !refused.contains(path) && (std::filesystem::create_directories(path) || std::filesystem::exists(path));
     }

@@ -24,7 +24,7 @@ std::vector<std::string> lines(const std::string& text) {
 }  // namespace
 
 std::string ScriptedPrinter::log() const {
-    constexpr const char* names[] = {"text", "line", "point"};
+    constexpr const char* names[] = {"text", "line", "point", "image"};
     std::ostringstream all;
     for (const Printed& entry : printed) {
         const auto whole = [](double twips) { return static_cast<long>(std::nearbyint(twips)); };

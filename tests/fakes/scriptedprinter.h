@@ -3,6 +3,8 @@
 // apart.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -13,7 +15,7 @@ namespace tarvane {
 
 class ScriptedPrinter : public Printer {
   public:
-    enum class Kind { text, line, point };
+    enum class Kind { text, line, point, image };
 
     /// One piece of text (without line ends), a line from (x, y) to (x2, y2), or a point. Page numbers count from 1.
     struct Printed {
@@ -28,9 +30,12 @@ class ScriptedPrinter : public Printer {
 
     double pagewidth = 11186;
     double pageheight = 15120;
-    std::string refuse;  ///< why `begin` fails; empty: it doesn't
-    std::string fail;    ///< why `enddocument` fails
-    std::string place;   ///< what `destination` tells
+    bool standsthere = true;          ///< whether there is a printer
+    std::optional<PageRange> choice;  ///< what the user chooses; nothing: he cancels
+    std::vector<int> choices;         ///< the pages that each choice was among
+    std::string refuse;               ///< why `begin` fails; empty: it doesn't
+    std::string fail;                 ///< why `enddocument` fails
+    std::string place;                ///< what `destination` tells
 
     std::vector<Printed> printed;
     std::string title;
@@ -43,6 +48,12 @@ class ScriptedPrinter : public Printer {
 
     /// The texts alone, in the order printed.
     std::vector<std::string> texts() const;
+
+    bool available() const override { return standsthere; }
+    std::optional<PageRange> choose(int among) override {
+        choices.push_back(among);
+        return choice;
+    }
 
     PrintOutcome begin(const std::string& name) override;
 
@@ -78,6 +89,11 @@ class ScriptedPrinter : public Printer {
         printed.push_back({Kind::line, pages, x1, y1, x2, y2, linewidth, false, {}});
     }
     void point(double px, double py) override { printed.push_back({Kind::point, pages, px, py, 0, 0, size, bold, {}}); }
+
+    void image(double px, double py, double wide, double high, const PagePicture& picture) override {
+        EXPECT_NE(picture.pixels, nullptr);
+        printed.push_back({Kind::image, pages, px, py, px + wide, py + high, double(picture.width), false, {}});
+    }
 
     void newpage() override {
         ++pages;

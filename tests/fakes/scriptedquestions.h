@@ -129,6 +129,10 @@ class ScriptedWindows : public Windows {
         script.expect({std::move(name), std::move(act)});
     }
 
+    std::vector<std::string> manuals;  ///< the windows whose chapter was opened
+
+    void showmanual(const std::string& windowname) override { manuals.push_back(windowname); }
+
     void showmodal(ModalWindow& window) override {
         const Expected expected = script.take(window.windowname());
         if (window.windowname() == expected.name && expected.act) expected.act(window);

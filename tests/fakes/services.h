@@ -2,7 +2,9 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "fakes/scriptedfolders.h"
 #include "fakes/scriptedlocale.h"
@@ -35,6 +37,26 @@ struct ScriptedClock : Clock {
     ClockReading now() const override { return reading; }
 };
 
+/// A progress that nobody sees; the user cancels when `cancelafter` steps were done.
+struct ScriptedProgress : Progress {
+    int cancelafter = -1;  ///< negative for never
+    std::vector<std::string> texts;
+
+    bool run(const std::string& text, int steps, const std::function<bool(int)>& step) override {
+        texts.push_back(text);
+        for (int i = 0; i < steps; ++i)
+            if (i == cancelafter || !step(i)) return false;
+        return true;
+    }
+};
+
+/// Drives that a test puts in and takes out.
+struct ScriptedDrives : Drives {
+    std::vector<Drive> mounted;
+
+    std::vector<Drive> drives() const override { return mounted; }
+};
+
 struct ScriptedServices {
     ScriptedMessages messages;
     ScriptedFileDialogs filedialogs;
@@ -44,8 +66,12 @@ struct ScriptedServices {
     ScriptedLocale locale;
     ScriptedFolders folders;
     ScriptedWindows windows;
+    ScriptedProgress progress;
+    ScriptedDrives drives;
 
-    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+    Services services() {
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
+    }
 };
 
 }  // namespace tarvane

@@ -32,14 +32,17 @@ TEST_F(Menus, SomeEntriesDoMoreThanOpenAWindow) {
     scripted.filedialogs.expectopen(area(), "Select Sea Area");
     choose("mnuArea");
     EXPECT_EQ(opened, Dialog::selectport);
-    scripted.messages.expectshow(helptext());
+    scripted.messages.expectshow(keystext());
+    choose("mnuKeys");
     choose("mnuHelp");
+    EXPECT_EQ(scripted.windows.manuals, std::vector<std::string>{"frmtarvane"});
     choose("mnuExit");
     EXPECT_TRUE(left);
 }
 
 TEST_F(Menus, WindowsThatChangeTheDayAreFollowedByTheCurve) {
-    for (const char* entry : {"mnutidedate", "mnuPortList", "mnusunrise", "Mnushowconfig"}) {
+    for (const char* entry :
+         {"mnutidedate", "mnuPortList", "mnusunrise", "Mnushowconfig", "mnumaintainfile", "mnucopyconstants"}) {
         session.view.topmenusenabled = false;
         const int before = picture.persistentclears;
         choose(entry);
@@ -56,10 +59,11 @@ TEST_F(Menus, WindowsThatChangeTheDayAreFollowedByTheCurve) {
     EXPECT_GT(session.sun.sunrise, april + 1);
 }
 
-TEST_F(Menus, TheHelpNamesEveryKey) {
-    const std::string text = helptext();
+TEST_F(Menus, TheKeysAreNamed) {
+    const std::string text = keystext();
     EXPECT_TRUE(text.starts_with("Tarvane Tides   (v9.5.0)"));
-    for (const char* line : {"\nCtrl+F: Port by Name\n", "\nCtrl+C: Copy Days Tides\n", "\nPage Down, Page Up: "})
+    for (const char* line :
+         {"\nCtrl+F: Port by Name\n", "\nF1: Help\n", "\nCtrl+C: Copy Days Tides\n", "\nPage Down, Page Up: "})
         EXPECT_NE(text.find(line), std::string::npos) << line;
 }
 

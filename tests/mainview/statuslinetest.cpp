@@ -19,7 +19,10 @@ namespace {
 struct StatusLine : LoadedMain {
     StatusLine() { storedepth(2, -2); }  // port 2, zone M, is the one that the traps lead to
 
-    std::string line() const { return statusline(session.prediction, scripted.locale); }
+    std::string line() {
+        refreshstatus(context);
+        return session.view.statusline;
+    }
 
     std::string notes() {
         std::string all;
@@ -53,6 +56,25 @@ TEST_F(StatusLine, ADayWithoutTidesSaysWhy) {
     EXPECT_EQ(line(),
               "No tides of port 1 (not in the sea area), Tuesday 2 January 1990: The sea area's file can't be found");
     EXPECT_NE(ScriptedSurface::log(picture.persistentlayer).find("Sea Area, or put it back"), std::string::npos);
+}
+
+TEST_F(StatusLine, TellsAnAreaOfTheUsersOwn) {
+    session.folders.ownfolder = folder / "own";
+    const std::string shipped = line();
+    const WritableFile own = datafiletowrite(session.folders, "UK.hc");
+    EXPECT_EQ(line(), shipped) << "the prediction is still of the other";
+    session.settings.hcfile = own.path;
+    refreshday(context);
+    EXPECT_EQ(line(), shipped + ", your own UK.hc");
+    EXPECT_EQ(notes(), "");
+    putfile(area(), "an upgrade's");
+    session.settings.hcfile = area();
+    refreshday(context);
+    EXPECT_EQ(line().find("own UK.hc"), std::string::npos);
+    session.settings.hcfile = own.path;
+    refreshday(context);
+    EXPECT_EQ(line(), shipped + ", your own UK.hc");
+    EXPECT_EQ(notes(), "your UK.hc was made of an older one than the program's now|");
 }
 
 TEST_F(StatusLine, NotesADepthThatWasEnteredForAnother) {

@@ -44,6 +44,16 @@ TEST_F(qtprinter, APdfStandsInAndNeverOverwrites) {
     EXPECT_EQ(printer.destination(), made + "/Quay_ a_b curve.pdf");
 }
 
+TEST_F(qtprinter, PicturesArePrinted) {
+    EXPECT_FALSE(printer.available());
+    const std::vector<std::uint32_t> pixels(40 * 30, 0xFF2040A0);
+    EXPECT_EQ(printer.begin("Picture").whynot, "");
+    printer.image(100, 100, 4000, 3000, {40, 30, pixels.data()});
+    EXPECT_EQ(printer.enddocument().whynot, "");
+    const std::string pdf = filetext(printer.destination());
+    EXPECT_NE(pdf.find("/Subtype /Image\n/Width 40\n/Height 30"), std::string::npos);
+}
+
 TEST_F(qtprinter, AFullDiskLeavesNothingAndIsTold) {
     printpages("Title", 1);
     const std::string whole = filetext(made + "/Title.pdf");

@@ -50,6 +50,28 @@ TEST_F(datafolder, oftheuserscomesfirst) {
     EXPECT_EQ(trim(readconfig(folders).hcfilepath), file.path);
 }
 
+TEST_F(datafolder, anupgradetouchesnothingandistold) {
+    folders.ownfolder = root / "own/Areas";
+    const std::string shipped = folders.programfolder + "/UK.hc";
+    EXPECT_FALSE(originof(folders, shipped).own);
+    const std::string own = datafiletowrite(folders, "UK.hc").path;
+    ASSERT_TRUE(replacefile(own, std::string("mine")));
+    for (const auto& [brought, told] : {std::pair{"shipped", false}, {"a newer one", true}, {"shipped", false}}) {
+        ASSERT_TRUE(replacefile(shipped, std::string(brought)));
+        const FileOrigin origin = originof(folders, datafile(folders, "UK.hc"));
+        EXPECT_TRUE(origin.own);
+        EXPECT_EQ(origin.shippedanother, told) << brought;
+        EXPECT_EQ(readwhole(own).size(), 4U);
+    }
+    std::filesystem::remove(shipped);
+    EXPECT_FALSE(originof(folders, own).shippedanother) << "the program doesn't bring it any more";
+    const std::string made = datafiletowrite(folders, "creek2.hc").path;
+    ASSERT_TRUE(replacefile(made, std::string("mine")));
+    ASSERT_TRUE(replacefile(folders.programfolder + "/creek2.hc", std::string("brought later")));
+    EXPECT_FALSE(originof(folders, made).shippedanother) << "made of nothing that the program brought";
+    EXPECT_EQ(datafiles(folders, ".hc"), (std::vector<std::string>{"UK.hc", "creek.HC", "creek2.hc"}));
+}
+
 TEST_F(datafolder, namesstayinside) {
     for (const char* bad : {"../UK", "a/b", "a\\b", ".hidden", "a\nb"})
         EXPECT_NE(filenamefault(bad), "") << bad;

@@ -79,6 +79,16 @@ TEST_F(PortSelection, AnAreaIsStoredOnlyByOkAndNoneIsTakenThatIsCancelledOrMissi
     scripted.filedialogs.expectopen(second);
     ASSERT_TRUE(choosesearea(context));
     EXPECT_EQ(settings.areafile, session.folders.ownfolder + "/Channel.hc") << "as the user changed it";
+    const std::string programfolder = session.folders.programfolder;
+    const std::vector<FileRequest>& asked = scripted.filedialogs.requests;
+    EXPECT_EQ(asked.back().places, (std::vector<std::string>{session.folders.ownfolder, programfolder}));
+    EXPECT_EQ(asked.back().folder, programfolder) << "where the area in use lies";
+    EXPECT_EQ(asked[asked.size() - 2].places, std::vector<std::string>{}) << "one folder needs no choice";
+    settings.hcfile = settings.areafile;
+    scripted.filedialogs.expectopen(std::nullopt);
+    EXPECT_FALSE(choosesearea(context));
+    EXPECT_EQ(asked.back().folder, session.folders.ownfolder);
+    settings.hcfile = area();
     session.folders.ownfolder.clear();
     settings.areafile = second;
     EXPECT_EQ(filetext(session.folders.cfgpath()), before);

@@ -48,6 +48,22 @@ TEST_F(Files, WithoutConfigurationTheFirstStartsValuesAndNothingMade) {
     EXPECT_EQ(everything(), before);
 }
 
+TEST_F(Files, InstalledTheSharedAreaIsReadAndTheUsersOwnComesFirst) {
+    const std::string shared = folder / "share/tarvane-tides/", own = foldersof(environment).configfolder() + "/Areas/";
+    std::filesystem::create_directories(shared);
+    writeport(shared + "UK.hc", 1, portnamed("As shipped"));
+    EXPECT_TRUE(has(csv("--list"), "1,As shipped,"));
+    const ProgramFolders folders = foldersof(environment);
+    EXPECT_EQ(folders.programfolder + "/", shared);
+    EXPECT_EQ(folders.ownfolder + "/", own) << "though the shared one can be written";
+    configure(1);
+    std::filesystem::create_directories(own);
+    writeport(own + "UK.hc", 1, portnamed("Mine"));
+    EXPECT_TRUE(has(csv("--list"), "1,Mine,"));
+    std::filesystem::remove_all(own);
+    EXPECT_TRUE(has(csv("--list"), "1,As shipped,"));
+}
+
 TEST_F(Files, StoredPortSummerAndArea) {
     store({portnamed("First"), portnamed("Second")});
     configure(2, 1, -1);

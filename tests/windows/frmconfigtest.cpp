@@ -44,20 +44,23 @@ TEST_F(FrmConfig, ASailorTypesPartOfANameSearchesOnStepsBackAndPressesEnter) {
     EXPECT_EQ(session.view.portbox, "Port    : Saint-Malo");
 }
 
-TEST_F(FrmConfig, TheCurrentPortIsHighlightedInViewAndEnterKeepsIt) {
-    // Of two ports with one name a click takes the later; the current one stays what it is.
+TEST_F(FrmConfig, TheCurrentPortIsInViewYetNoneIsHighlightedAtFirst) {
     session.settings.currentport = 20;
-    HarmonicRecord twin = readport(area(), 20);
-    writeport(area(), static_cast<std::int16_t>(ports), twin);
-    writeport(area(), static_cast<std::int16_t>(ports + 1), readport(area(), 1));
     frmconfig form(context);
     present(form);
-    EXPECT_EQ(highlighted(form).toStdString(), trimmedname(twin));
+    const std::string current = trimmedname(readport(area(), 20));
+    EXPECT_EQ(highlighted(form), "");
+    EXPECT_EQ(form.portconfigbox->text().toStdString(), current);
+    ASSERT_EQ(form.portlist2->currentItem()->text().toStdString(), current);
     EXPECT_TRUE(
         form.portlist2->viewport()->rect().contains(form.portlist2->visualItemRect(form.portlist2->currentItem())));
+    scripted.messages.expectshow("Select a port", "Tarvane");
     QTest::keyClick(form.txtSearch, Qt::Key_Return);
-    EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(stored().portnumber, 20);
+    EXPECT_TRUE(form.isVisible());
+    QTest::keyClick(form.txtSearch, Qt::Key_Down);
+    const int row = form.portlist2->currentRow();
+    EXPECT_EQ(form.portlist2->item(row - 1)->text().toStdString(), current);
+    EXPECT_EQ(highlighted(form), form.portlist2->item(row)->text());
 }
 
 TEST_F(FrmConfig, NeitherFocusNorATextThatNoPortHasTakesAPort) {

@@ -108,6 +108,9 @@ TEST_F(FrmHarmAdjust, TheCreeksStory) {
         form.txtFileName->setText("creek");
         form.Command2->click();
         EXPECT_EQ(shown(*form.answer), "creek.ht: 12 readings saved");
+        QTest::keyClick(form.txtFileName, Qt::Key_Return);
+        EXPECT_EQ(form.List1->count(), 12) << "Enter in the name adds no reading";
+        EXPECT_EQ(scripted.messages.beeps, 1);
         form.close();
     });
     entry(shop, "mnuObsEnterData").trigger();
@@ -134,6 +137,46 @@ TEST_F(FrmHarmAdjust, TheCreeksStory) {
     EXPECT_EQ(answer(shop).substr(0, 43), "UK.hc: 5 ports; the new port stands last. G");
     EXPECT_EQ(trimmedname(readport(area(), 5)), "Kingfisher Creek");
     EXPECT_TRUE(shop.mayclose()) << "saved";
+}
+
+TEST_F(FrmHarmAdjust, AClickOnTheRowThatIsCurrentAlreadyIsAClick) {
+    ASSERT_TRUE(writeheights(session.folders.programfolder + "/fine.ht", {{9.05F, 1.234F}}).written);
+    const auto clickcurrent = [](QListWidget& list) {
+        list.scrollToItem(list.currentItem());
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.currentItem()).center());
+    };
+    frmHarmAdjust shop(context, nullptr);
+    present(shop);
+    expectwindow<frmHeightEnter>("frmHeightEnter", [&](frmHeightEnter& form) {
+        form.show();
+        form.txtFileName->setText("fine");
+        QTest::keyClick(form.txtFileName, Qt::Key_Return);
+        form.List1->setCurrentRow(0);
+        emit form.List1->itemActivated(form.List1->currentItem());
+        EXPECT_EQ(form.lblTime->text() + " " + form.lblHeight->text(), "09:03 1.234");
+        clickcurrent(*form.lstMins);
+        clickcurrent(*form.lstMMs);
+        EXPECT_EQ(form.lblTime->text() + " " + form.lblHeight->text(), "09:05 1.23");
+        form.File1->setCurrentRow(0);
+        form.txtFileName->setText("typed");
+        clickcurrent(*form.File1);
+        EXPECT_EQ(form.txtFileName->text(), "fine");
+        form.close();
+    });
+    entry(shop, "mnuObsEnterData").trigger();
+    expectwindow<frmAdjustSave>("frmAdjustSave", [&](frmAdjustSave& form) {
+        form.show();
+        form.File1->setCurrentRow(0);
+        form.List1->setCurrentRow(1);
+        form.txtAreaName->setText("typed");
+        form.Text1->setText("typed");
+        clickcurrent(*form.List1);
+        EXPECT_EQ(form.Text1->text(), "Birch Sound");
+        clickcurrent(*form.File1);
+        EXPECT_EQ(form.txtAreaName->text(), "UK");
+        form.close();
+    });
+    entry(shop, "MnuFileSave").trigger();
 }
 
 TEST_F(FrmHarmAdjust, PortsAreLoadedAndHeightFilesChosen) {

@@ -66,9 +66,9 @@ TEST_F(FrmoutoptionsTest, AnOptionThatStandsCanBeClickedAndTheTickOffersMaintena
     form.Option1->click();
     EXPECT_EQ(session.settings.currentoutput, 1);
     for (int clicks = 0; clicks < 2; ++clicks) {
-        session.view.maintenancevisible = session.view.copyportsvisible = false;
+        session.view.maintenancevisible = session.view.copyportsvisible = session.view.diamondsvisible = false;
         form.Check1->click();
-        EXPECT_TRUE(session.view.maintenancevisible && session.view.copyportsvisible);
+        EXPECT_TRUE(session.view.maintenancevisible && session.view.copyportsvisible && session.view.diamondsvisible);
     }
 }
 

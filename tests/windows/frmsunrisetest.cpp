@@ -35,6 +35,7 @@ TEST_F(FrmriseresultsTest, ComesUpOnTheDayOnShow) {
     for (std::size_t i = 0; i < 6; ++i)
         EXPECT_EQ(shown(control<QLabel>(form, names[i])), row[i + 2]) << names[i];
     EXPECT_TRUE(form.Label2->text().contains("\n   08 Apr 2024       NEW MOON     \n"));
+    EXPECT_EQ(shown(*form.lblphasenotes), "Last quarter falls on 1 May 2024\nNot listed: last quarter on 2 April 2024");
     EXPECT_TRUE(session.view.stepbuttonsvisible);
     EXPECT_EQ(infocus(form), "VScroll1");
     EXPECT_EQ(defaultbutton(form), "cancel");

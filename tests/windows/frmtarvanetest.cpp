@@ -86,11 +86,15 @@ TEST_F(FrmTarvane, MenuTreeAndItsHiddenParts) {
         if (action->isVisible()) menus << action->text();
     EXPECT_EQ(menus, (QStringList{" &File", "&Date", "  &Select Port ", "&Calculate  ", "Clip&board", "C&onfigure",
                                   " &Advanced", "Help"}));
-    for (const char* name : {"mnuSpecial", "mnuAdjustLoad", "mnuCopyDiamonds", "mnucopyconstants", "mnumaintenance"})
+    for (const char* name :
+         {"mnuSpecial", "mnuAdjustLoad", "mnuCopyDiamonds", "mnuImportCharts", "mnucopyconstants", "mnumaintenance"})
         EXPECT_FALSE(window.menuentry(name)->isVisible()) << name;
     QTest::mouseDClick(window.layers.Label1, Qt::LeftButton);
     EXPECT_TRUE(window.menuentry("mnuSpecial")->isVisible());
-    EXPECT_EQ(control<QLabel>(window, "lblm2Harm").text(), " (g 120 : Hm 1.50)");
+    const auto& constants = control<QLabel>(window, "lblm2Harm");
+    EXPECT_EQ(constants.text(), "");
+    QTest::mouseClick(window.Nextday, Qt::LeftButton);
+    EXPECT_EQ(constants.text(), " (g 120 : Hm 1.50)") << "written by the next prediction";
 }
 
 TEST_F(FrmTarvane, KeysAndButtonsStepDaysAndPorts) {

@@ -13,6 +13,7 @@
 #include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
 #include "mainview/stepping.h"
+#include "output/yeartides.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/imagesurface.h"
 #include "platform/qt/qtservices.h"
@@ -74,6 +75,18 @@ void days(benchmark::State& state) {
         }
 }
 BENCHMARK(days)->Arg(31)->Arg(365)->Unit(benchmark::kMillisecond);
+
+/// The run through a port's two years by minutes, and its file's text.
+void yearrun(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state) {
+        YearTides run = startyeartides(bench.session.prediction.port.record, 2026);
+        for (int day = 0; day < daysofrun(run); ++day)
+            addday(run);
+        benchmark::DoNotOptimize(yeartidesfile(run.rows));
+    }
+}
+BENCHMARK(yearrun)->Unit(benchmark::kMillisecond);
 
 void monthtable(benchmark::State& state) {
     Bench bench;

@@ -25,6 +25,9 @@ struct QuietDialogs : FileDialogs {
 struct QuietPrinter : Printer {
     double x = 0, y = 0;
 
+    bool available() const override { return true; }
+    std::optional<PageRange> choose(int) override { return std::nullopt; }
+    void image(double, double, double, double, const PagePicture&) override {}
     PrintOutcome begin(const std::string&) override { return {}; }
     double width() const override { return 11186; }
     double height() const override { return 15120; }
@@ -65,13 +68,22 @@ struct QuietFolders : Folders {
     std::string program() const override { return root; }
     std::optional<std::string> documents() const override { return root; }
     std::string localappdata() const override { return root; }
-    bool canwrite(const std::string&) const override { return true; }
+    bool keepschanges() const override { return true; }
     bool make(const std::string&) override { return true; }
     bool remove(const std::string&) override { return true; }
 };
 
 struct QuietWindows : Windows {
     void showmodal(ModalWindow&) override {}
+    void showmanual(const std::string&) override {}
+};
+
+struct QuietProgress : Progress {
+    bool run(const std::string&, int, const std::function<bool(int)>&) override { return false; }
+};
+
+struct QuietDrives : Drives {
+    std::vector<Drive> drives() const override { return {}; }
 };
 
 struct QuietSurface : DrawSurface {
@@ -96,8 +108,12 @@ struct QuietServices {
     EnglishLocale locale;
     QuietFolders folders;
     QuietWindows windows;
+    QuietProgress progress;
+    QuietDrives drives;
 
-    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+    Services services() {
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
+    }
 };
 
 }  // namespace tarvane::fuzz

@@ -7,6 +7,8 @@
 #include "adjust/workspace.h"
 #include "almanac/sunoutput.h"
 #include "almanac/sunview.h"
+#include "diamonds/diamondcopy.h"
+#include "diamonds/streamsview.h"
 #include "files/wholefiles.h"
 #include "fuzz/quiet.h"
 #include "mainview/copycommands.h"
@@ -139,6 +141,20 @@ void readheightsfile(const std::string& folder, Random&) {
     fittext(fitworkspace(workspace, program.context), heights.readings);
 }
 
+void readdiamondfile(const std::string& folder, Random& random) {
+    Program program(folder);
+    MainContext& context = program.context;
+    StreamsView view = openstreams(context);
+    if (!view.diamonds.empty()) choosediamond(context, view, static_cast<int>(below(random, view.diamonds.size())));
+    streamtable(context, view);
+    copystreams(context, view);
+    DiamondCopy copy = opendiamonds(program.session);
+    if (!picksourcefile(context, copy, "channel.l20") || copy.source.entries.empty()) return;
+    if (!pickdiamond(context, copy, static_cast<int>(below(random, copy.source.entries.size())))) return;
+    static constexpr bool (*changes[])(MainContext&, DiamondCopy&) = {amendhighlighted, addtosource, deletehighlighted};
+    changes[below(random, std::size(changes))](context, copy);
+}
+
 void readtable(const std::string& folder, Random&) {
     const PortsTable table = readportscsv(wholetext(folder + "/ports.csv"));
     if (!table.fault) portscsvof(table.area);
@@ -184,6 +200,21 @@ std::string heightssample(const std::string&) {
     return sample;
 }
 
+std::string diamondssample(const std::string&) {
+    std::string sample;
+    for (int i = 0; i < 5; ++i) {
+        DiamondRecord diamond;
+        diamond.DiamondLat = 50 + static_cast<float>(i) / 7;
+        diamond.DiamondLong = -1 - static_cast<float>(i) / 3;
+        diamond.DiamondID = std::string(1, static_cast<char>('A' + i));
+        for (std::size_t hour = 0; hour < streamhours; ++hour)
+            diamond.streams[hour] = {static_cast<float>(hour * 27), static_cast<float>(hour) / 4,
+                                     static_cast<float>(hour) / 8};
+        sample += textof(encode(diamond));
+    }
+    return sample;
+}
+
 std::string tablesample(const std::string& area) {
     return portscsvof(bytesof(areasample(area)));
 }
@@ -201,6 +232,7 @@ constexpr Kind allkinds[] = {
     {"depths", "TarvaneTides/UserDepths/UK.DEP", depthssample, mutatedbytes, readdepths},
     {"configuration", "TarvaneTides/TarTidesv9.cfg", configurationsample, mutatedbytes, readconfiguration},
     {"heights", "creek.ht", heightssample, mutatedbytes, readheightsfile},
+    {"diamonds", "channel.l20", diamondssample, mutatedbytes, readdiamondfile},
     {"ports table", "ports.csv", tablesample, mutatedtext, readtable},
     {"readings", "readings.csv", readingssample, mutatedtext, readreadings},
 };

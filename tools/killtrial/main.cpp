@@ -1,7 +1,8 @@
 // Kills a program that edits a sea area, and looks at what it leaves: killtrial [KILLS [AREA.hc]]
-// A writer of this program's own edits a copy of the area, its depths and a file of heights in a loop and is killed at
-// a random moment; every file must then be whole, as it was before the edit in hand or as it is after it, and the copy
-// beside the area the area as the writer found it. Its status is 1 when one isn't.
+// A writer of this program's own edits a copy of the area, its depths, a file of heights, diamonds and the settings,
+// exports and prints in a loop and is killed at a random moment; every file must then be whole, as it was before the
+// edit in hand or as it is after it, and the copy beside the area the area as the writer found it. Its status is 1 when
+// one isn't.
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -15,6 +16,7 @@
 #include <random>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "killtrial/states.h"
 #include "killtrial/writer.h"
@@ -38,7 +40,8 @@ class Trial {
     void killone() {
         fs::remove(folder / logname);
         std::map<std::string, State> before;
-        for (const char* name : {areaname, areabackup, scratchname, depthsname, depthsbackup, heightsname})
+        for (const char* name : {areaname, areabackup, scratchname, depthsname, depthsbackup, heightsname, configname,
+                                 diamondsname, diamondsbackup, exportname})
             before[name] = stateoffile(folder / name);
         const int wait = std::uniform_int_distribution<int>(0, longestwait)(generator);
         if (!startandkill(wait)) return fault("the writer ended before it was killed");
@@ -86,6 +89,7 @@ class Trial {
         bool earlier = true;  // the files of an edit change one behind another
         bool any = false;
         for (const Change& change : log.inhand) {
+            wanted.try_emplace(change.file, missingstate);
             const State now = stateoffile(folder / change.file);
             if (change.before != wanted[change.file]) fault(change.file + " was foretold from another state");
             if (now == change.after && now != change.before && !earlier) fault(change.file + " was written too early");
@@ -96,25 +100,37 @@ class Trial {
         if (any) ++tally.taken;
         for (const auto& [file, state] : wanted)
             if (stateoffile(folder / file) != state) fault(file + " is neither what it was nor what it should be");
-        // The copy of a run is made before its first change, of the area as it then was.
-        const bool edited = wanted[areaname] != before.at(areaname) || log.states.contains(areaname);
-        const State backup = stateoffile(folder / areabackup);
-        if (backup != before.at(areaname) && (edited || backup != before.at(areabackup)))
-            fault("UK.hc.bak is not the area as it was before the run");
+        lookatbackup(areaname, areabackup, before, wanted, log);
+        lookatbackup(diamondsname, diamondsbackup, before, wanted, log);
         sweep(wanted);
     }
 
-    /// Nothing else may lie there but a new file that was not finished, which is taken away.
+    /// The copy of a run is made before its first change, of the file as it then was; one that wasn't there has none.
+    void lookatbackup(const char* file, const char* copy, const std::map<std::string, State>& before,
+                      std::map<std::string, State>& wanted, const Log& log) {
+        if (before.at(file) == missingstate) return;
+        const bool edited = wanted[file] != before.at(file) || log.states.contains(file);
+        const State backup = stateoffile(folder / copy);
+        if (backup != before.at(file) && (edited || backup != before.at(copy)))
+            fault(std::string(copy) + " is not the file as it was before the run");
+    }
+
+    /// Nothing else may lie there but a new file that was not finished and the scratch file of diamonds. They are taken
+    /// away, and so are the pages.
     void sweep(const std::map<std::string, State>& known) {
-        for (const auto& entry : fs::directory_iterator(folder)) {
-            const std::string name = entry.path().filename();
-            if (known.contains(name) || name == logname) continue;
-            if (name.starts_with(".tarvane-") && name.ends_with(".new"))
+        std::vector<fs::path> goes;
+        for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+            const std::string name = fs::relative(entry.path(), folder), bare = entry.path().filename();
+            const bool page = name.ends_with(".pdf") && known.contains(name);
+            if (entry.is_directory() || (known.contains(name) && !page) || name == logname) continue;
+            goes.push_back(entry.path());
+            if (bare.starts_with(".tarvane-") && bare.ends_with(".new"))
                 ++tally.halfwritten;
-            else
+            else if (!page && bare != diamondscratch)
                 fault(name + " was left behind");
-            fs::remove(entry.path());
         }
+        for (const fs::path& path : goes)
+            fs::remove(path);
     }
 
     fs::path folder;
@@ -130,6 +146,7 @@ int run(int kills, const fs::path& area) {
     }
     const fs::path folder = made;
     std::error_code error;
+    fs::create_directory(folder / "TarvaneTides");
     fs::copy_file(area, folder / areaname, error);
     if (error) {
         std::fprintf(stderr, "killtrial: %s can't be copied\n", area.c_str());

@@ -18,9 +18,11 @@ State stateof(const std::string& bytes) {
 }
 
 State stateoffile(const std::string& path) {
-    if (!std::filesystem::exists(path)) return "-";
+    if (!std::filesystem::exists(path)) return missingstate;
     std::ifstream file(path, std::ios::binary);
-    return stateof({std::istreambuf_iterator<char>(file), {}});
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    const bool whole = bytes.starts_with("%PDF-") && bytes.ends_with("%%EOF\n");
+    return path.ends_with(".pdf") && whole ? wholepdf : stateof(bytes);
 }
 
 std::string beginline(const std::vector<Change>& changes) {

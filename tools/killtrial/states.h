@@ -14,10 +14,17 @@ inline constexpr const char* scratchname = "scratch.hc";
 inline constexpr const char* depthsname = "UK.DEP";
 inline constexpr const char* depthsbackup = "UK.DEP.bak";
 inline constexpr const char* heightsname = "creek.ht";
+inline constexpr const char* configname = "TarvaneTides/TarTidesv9.cfg";
+inline constexpr const char* diamondsname = "channel.l20";
+inline constexpr const char* diamondsbackup = "channel.l20.bak";
+inline constexpr const char* diamondscratch = "~scratch.~20";
+inline constexpr const char* exportname = "2016Factors.csv";
 inline constexpr const char* logname = "log";
 
-/// A file's size and hash, "-" for one that isn't there.
+/// A file's size and hash; of a PDF, which tells the moment of its making, only that it is whole.
 using State = std::string;
+inline constexpr const char* missingstate = "-";
+inline constexpr const char* wholepdf = "pdf";
 State stateof(const std::string& bytes);
 State stateoffile(const std::string& path);
 

@@ -1,17 +1,14 @@
 #include "killtrial/writer.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
+#include <QGuiApplication>
 #include <chrono>
 #include <cstdio>
-#include <cstring>
-#include <random>
-#include <span>
+#include <cstdlib>
 #include <vector>
 
 #include "files/wholefiles.h"
-#include "killtrial/states.h"
+#include "killtrial/foretelling.h"
+#include "killtrial/otheredits.h"
 #include "portdata/areaedits.h"
 #include "portdata/depthmatch.h"
 #include "portdata/heightfiles.h"
@@ -22,19 +19,13 @@ namespace {
 
 constexpr std::size_t fewestports = 60, mostports = 120;
 
-std::string textof(std::span<const std::byte> bytes) {
-    return std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-}
-
 class Writer {
   public:
-    Writer(const std::string& in, unsigned seed)
-        : folder(in), generator(seed), log(::open((in + "/" + logname).c_str(), O_WRONLY | O_APPEND | O_CREAT, 0666)) {}
-    ~Writer() { ::close(log); }
+    Writer(const std::string& in, unsigned seed) : trial(in, seed) {}
 
     /// One edit; false when it didn't come out as foretold.
     bool edit() {
-        switch (below(7)) {
+        switch (trial.below(11)) {
             case 0:
                 return deleteone();
             case 1:
@@ -47,19 +38,26 @@ class Writer {
                 return enterdepth();
             case 5:
                 return match();
-            default:
+            case 6:
                 return saveheights();
+            case 7:
+                return changesettings(trial);
+            case 8:
+                return changediamonds(trial, backups);
+            case 9:
+                return exporttable(trial);
+            default:
+                return printpage(trial);
         }
     }
 
   private:
     using Records = std::vector<std::string>;
 
-    std::string path(const char* name) const { return folder + "/" + name; }
+    std::string path(const char* name) const { return trial.path(name); }
     std::string textin(const char* name) const { return wholetext(path(name)); }
 
-    std::size_t below(std::size_t end) { return std::uniform_int_distribution<std::size_t>(0, end - 1)(generator); }
-    std::int16_t anynumber(std::size_t count) { return static_cast<std::int16_t>(1 + below(count)); }
+    std::int16_t anynumber(std::size_t count) { return static_cast<std::int16_t>(1 + trial.below(count)); }
 
     Records area() const {
         const std::string text = textin(areaname);
@@ -71,27 +69,9 @@ class Writer {
 
     HarmonicBytes newport() {
         HarmonicRecord port = readport(path(areaname), 1);
-        port.PortName = "Port " + std::to_string(below(1000000));
-        port.Z0 = static_cast<float>(below(900)) / 100;
+        port.PortName = "Port " + std::to_string(trial.below(1000000));
+        port.Z0 = static_cast<float>(trial.below(900)) / 100;
         return encode(port);
-    }
-
-    bool say(const std::string& line) const {
-        return ::write(log, line.data(), line.size()) == static_cast<ssize_t>(line.size());
-    }
-
-    /// Foretells the changes, makes them by `act` and looks at what came of them.
-    template <class Act>
-    bool perform(const std::vector<Change>& changes, Act act) {
-        if (!say(beginline(changes))) return false;
-        if (!act()) return false;
-        for (const Change& change : changes)
-            if (stateoffile(folder + "/" + change.file) != change.after) return false;
-        return say(endline);
-    }
-
-    Change changed(const char* name, const std::string& after) const {
-        return {name, stateoffile(path(name)), stateof(after)};
     }
 
     /// An edit of the area file to `after`, by way of the scratch file or not.
@@ -101,10 +81,10 @@ class Writer {
         for (const std::string& record : after)
             text += record;
         std::vector<Change> changes;
-        if (byscratch) changes.push_back(changed(scratchname, text));
-        if (backups.kept.empty()) changes.push_back(changed(areabackup, textin(areaname)));
-        changes.push_back(changed(areaname, text));
-        return perform(changes, [&] { return static_cast<bool>(act().written); });
+        if (byscratch) changes.push_back(trial.changed(scratchname, text));
+        if (!backups.kept.contains(path(areaname))) changes.push_back(trial.changed(areabackup, textin(areaname)));
+        changes.push_back(trial.changed(areaname, text));
+        return trial.perform(changes, [&] { return static_cast<bool>(act().written); });
     }
 
     bool deleteone() {
@@ -121,7 +101,7 @@ class Writer {
         Records records = area();
         if (records.size() > mostports) return deleteone();
         const std::int16_t number =
-            below(3) == 0 ? static_cast<std::int16_t>(records.size()) : anynumber(records.size());
+            trial.below(3) == 0 ? static_cast<std::int16_t>(records.size()) : anynumber(records.size());
         const HarmonicBytes port = newport();
         const bool last = static_cast<std::size_t>(number) == records.size();
         records.insert(records.begin() + number, records[static_cast<std::size_t>(number) - 1]);
@@ -151,44 +131,50 @@ class Writer {
         const std::size_t offset = static_cast<std::size_t>(number - 1) * userdepthrecordsize;
         UserDepthRecord record = readdepth(path(depthsname), number);
         if (record.DepthPortName.empty()) record.DepthPortName = readport(path(areaname), number).PortName;
-        record.UserDepth = static_cast<float>(below(100)) / 10;
-        record.Notes = "Entered " + std::to_string(below(1000));
+        record.UserDepth = static_cast<float>(trial.below(100)) / 10;
+        record.Notes = "Entered " + std::to_string(trial.below(1000));
         if (text.size() < offset + userdepthrecordsize) text.resize(offset + userdepthrecordsize);
         text.replace(offset, userdepthrecordsize, textof(encode(record)));
-        return perform({changed(depthsname, text)}, [&] { return writedepth(path(depthsname), number, record); });
+        return trial.perform({trial.changed(depthsname, text)},
+                             [&] { return writedepth(path(depthsname), number, record); });
     }
 
     bool match() {
         const DepthMatch found = matchdepths(path(areaname), path(depthsname));
         if (found.matched.empty() || stateoffile(path(depthsname)) == "-") return enterdepth();
-        return perform({changed(depthsbackup, textin(depthsname)), changed(depthsname, textof(found.matched))},
-                       [&] { return static_cast<bool>(writematched(path(depthsname), found)); });
+        return trial.perform(
+            {trial.changed(depthsbackup, textin(depthsname)), trial.changed(depthsname, textof(found.matched))},
+            [&] { return static_cast<bool>(writematched(path(depthsname), found)); });
     }
 
     bool saveheights() {
-        std::vector<HeightRecord> readings(10 + below(30));
+        std::vector<HeightRecord> readings(10 + trial.below(30));
         std::string text;
         for (HeightRecord& each : readings) {
-            each = {static_cast<float>(below(240)) / 10, static_cast<float>(below(800)) / 100};
+            each = {static_cast<float>(trial.below(240)) / 10, static_cast<float>(trial.below(800)) / 100};
             text.append(reinterpret_cast<const char*>(&each.obstime), 4);
             text.append(reinterpret_cast<const char*>(&each.obsheight), 4);
             text += std::string(12, '\0') + std::string(35, ' ');
         }
         const std::string old = textin(heightsname);
         if (old.size() > text.size()) text += old.substr(text.size());
-        return perform({changed(heightsname, text)},
-                       [&] { return static_cast<bool>(writeheights(path(heightsname), readings).written); });
+        return trial.perform({trial.changed(heightsname, text)},
+                             [&] { return static_cast<bool>(writeheights(path(heightsname), readings).written); });
     }
 
-    std::string folder;
-    std::mt19937 generator;
+    Foretelling trial;
     AreaBackups backups;
-    int log;
 };
 
 }  // namespace
 
 int runwriter(const std::string& folder, unsigned seed) {
+    int arguments = 1;
+    char name[] = "killtrial";
+    char* argument[] = {name, nullptr};
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    ::setenv("XDG_RUNTIME_DIR", folder.c_str(), 0);
+    const QGuiApplication application(arguments, argument);
     Writer writer(folder, seed);
     const auto start = std::chrono::steady_clock::now();
     while (std::chrono::steady_clock::now() - start < std::chrono::minutes(1)) {

@@ -1,10 +1,12 @@
 // Pictures of every window there is, offscreen: "shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH]" with
 // a standing clock, "shots --mainwindow FILE.png" of the main window as this user would see it now, and "shots --pages
-// FOLDER [--area FILE.hc]" of every printout as a PDF. The screen is given in its own pixels.
+// FOLDER [--area FILE.hc]" of every printout as a PDF, "shots --manual FOLDER" of the window that shows the built
+// manual. The screen is given in its own pixels.
 #include <QApplication>
 #include <QDir>
 #include <QKeyEvent>
 #include <QTemporaryFile>
+#include <QThread>
 #include <cmath>
 #include <cstdio>
 
@@ -16,6 +18,7 @@
 #include "almanac/frmriseresults.h"
 #include "almanac/frmsunrise.h"
 #include "almanac/sunview.h"
+#include "diamonds/frmstreams.h"
 #include "mainview/frmtimdat.h"
 #include "mainview/monthcommand.h"
 #include "mainview/readouts.h"
@@ -30,7 +33,9 @@
 #include "session/refresh.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
+#include "shots/diamonds.h"
 #include "shots/pages.h"
+#include "shots/reader.h"
 #include "shots/stage.h"
 
 namespace tarvane::shots {
@@ -41,6 +46,7 @@ struct Options {
     QString area;
     QString mainwindow;
     QString pages;
+    QString manual;
 };
 
 /// False for a call that can't be taken.
@@ -56,6 +62,8 @@ bool readoptions(const QStringList& arguments, Options& options) {
             options.mainwindow = value;
         else if (arguments[i] == "--pages")
             options.pages = value;
+        else if (arguments[i] == "--manual")
+            options.manual = value;
         else if (arguments[i] != "--scale" && arguments[i] != "--screen")
             return false;
     }
@@ -135,10 +143,10 @@ void takelayers(Album& album, Stage& stage) {
     frmtarvane& window = stage.window();
     for (const LayersPanel::Row& row : window.layers.rows)
         row.box->click();
+    session.showconstants = true;
     window.menuentry("mnuLayersShow")->trigger();
     stage.settle();
     picturemousemove(session, *window.Picture1, 9.4);
-    session.showconstants = true;
     window.showview();
     album.take(window, "frmtarvane-constituents");
     window.menuentry("mnuLayersShow")->trigger();
@@ -209,6 +217,41 @@ void takeworkshop(Album& album, Stage& stage) {
     stage.show(77, makedate(2026, 7, 14));
 }
 
+/// A long calculation half way through.
+void takeprogress(Album& album, Stage& stage) {
+    stage.window().activateWindow();
+    stage.context().services.progress.run("High waters of Cherbourg, 2026 and 2027", 120, [&](int i) {
+        QThread::msleep(4);
+        if (i == 60) album.take(*QApplication::activeModalWidget(), "progress");
+        return i < 60;
+    });
+}
+
+/// A diamond in a channel and one in the open, through the hours of a day's high waters; and the window without a file.
+void takestreams(Album& album, Stage& stage) {
+    MainContext context = stage.context();
+    album.takedialog<frmstreams>(stage, "frmstreams-without-a-file");
+    DiamondRecord channel{50.7F, -1.5F, "A", {}}, open{50.5F, -1.7F, "B", {}};
+    const float rates[] = {1.9F, 2.6F, 2.4F, 1.8F, 1.1F, 0.3F, 0.8F, 1.7F, 2.2F, 2.1F, 1.5F, 0.6F, 0.9F};
+    for (std::size_t i = 0; i < streamhours; ++i) {
+        const auto hour = static_cast<float>(i);
+        channel.streams[i] = {i < 5 ? 248 + hour : 66 + hour, rates[i], rates[i] / 2};
+        open.streams[i] = {20 + 27 * hour, 1.2F + 0.4F * static_cast<float>(i % 3), 0.6F};
+    }
+    const std::string file = context.session.folders.programfolder + "/approaches.l20";
+    AreaBackups kept;
+    for (const DiamondRecord& diamond : {channel, open})
+        adddiamond(kept, file, diamond);
+    frmstreams window(context, &stage.window());
+    window.table->setCurrentCell(9, 1);
+    album.take(window, "frmstreams");
+    window.resize(1200, 800);
+    window.cmbDiamond->setCurrentIndex(1);
+    album.take(window, "frmstreams-stretched");
+    for (const std::string& made : {file, file + ".bak"})
+        context.services.folders.remove(made);
+}
+
 /// The editor with a port in its boxes, and the copying of three ports behind those of the same area.
 void takemaintenance(Album& album, Stage& stage) {
     MainContext context = stage.context();
@@ -246,6 +289,9 @@ void takeeverything(Album& album, const std::string& area) {
     album.takedialog<frmoutoptions>(stage, "frmoutoptions");
     album.takedialog<frmshowconf>(stage, "frmshowconf");
     takemaintenance(album, stage);
+    takestreams(album, stage);
+    takeprogress(album, stage);
+    takediamonds(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));
@@ -282,6 +328,7 @@ void setscreen(const QByteArray& size, QTemporaryFile& description) {
 int run(const Options& options) {
     const QString area = options.area.isEmpty() ? QApplication::applicationDirPath() + "/UK.hc" : QString(options.area);
     if (!options.pages.isEmpty()) return takepages(options.pages.toStdString(), area.toStdString()) ? 0 : 1;
+    if (!options.manual.isEmpty()) return takereader(options.manual.toStdString()) ? 0 : 1;
     Album album{QDir(options.out)};
     if (!options.mainwindow.isEmpty()) {
         const QFileInfo file(options.mainwindow);
@@ -313,7 +360,7 @@ int main(int argc, char** argv) {
     if (!tarvane::shots::readoptions(QApplication::arguments(), options)) {
         std::fprintf(stderr,
                      "usage: shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH] | "
-                     "shots --mainwindow FILE.png | shots --pages FOLDER [--area FILE.hc]\n");
+                     "shots --mainwindow FILE.png | shots --pages FOLDER [--area FILE.hc] | shots --manual FOLDER\n");
         return 2;
     }
     return tarvane::shots::run(options);

@@ -34,7 +34,7 @@ ProgramFolders foldersin(const std::string& root) {
 HarmonicRecord oddport(const char* name, float level, float m2, float k1) {
     HarmonicRecord port;
     port.PortName = name;
-    port.TimeZoneLetter = "L";
+    port.TimeZoneLetter.assign(1, 'L');
     port.PortLat = 50;
     port.PortLong = -2;
     port.Z0 = level;
@@ -74,8 +74,8 @@ Stage::Stage() : clock(std::make_unique<QtClock>()) {
 void Stage::open() {
     ProbedDate today;
     session.conventions = CheckDateFormat(real.locale, clock->now().today, today);
-    const Services services{real.messages, real.filedialogs, real.printer, real.clipboard,
-                            *clock,        real.locale,      real.folders, real.windows};
+    const Services services{real.messages, real.filedialogs, real.printer, real.clipboard, *clock,
+                            real.locale,   real.folders,     real.windows, real.progress,  real.drives};
     mainwindow = std::make_unique<frmtarvane>(session, services);
     mainwindow->Form_Load();
     mainwindow->show();

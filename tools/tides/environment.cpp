@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "files/programplace.h"
 #include "files/wholefiles.h"
 #include "portdata/recordfiles.h"
 #include "text/singlebyte.h"
@@ -57,10 +58,11 @@ std::string documentsof(const TidesEnvironment& environment) {
 
 ProgramFolders foldersof(const TidesEnvironment& environment) {
     ProgramFolders folders;
-    folders.programfolder = environment.programfolder;
+    const ProgramPlace place = programplace(environment.programfolder);
+    folders.programfolder = place.folder;
     folders.docsfolder = documentsof(environment);
     folders.appdatafolder = folderor(environment.datahome, environment.home + "/.local/share");
-    if (!canwritein(folders.programfolder)) folders.ownfolder = folders.configfolder() + "/Areas";
+    if (!place.keepschanges()) folders.ownfolder = folders.configfolder() + "/Areas";
     return folders;
 }
 

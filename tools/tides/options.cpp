@@ -84,6 +84,7 @@ constexpr const char* notes =
     "height includes, 0 with heights above chart datum. Days without a prediction are left out there and named on\n"
     "standard error, in a line for each port and reason.\n"
     "\"tides fit\" fits constants to heights read on the spot; tides fit --help tells how.\n"
+    "\"tides streams\" shows the streams at a tidal diamond; tides streams --help tells how.\n"
     "Exit status: 0; or 2 with one line on standard error and nothing on standard output, and when CSV or JSON would\n"
     "hold nothing because every day is without a prediction.";
 

@@ -11,6 +11,7 @@
 #include "tides/fitcommand.h"
 #include "tides/options.h"
 #include "tides/portchoice.h"
+#include "tides/streamscommand.h"
 #include "tides/textforms.h"
 #include "tides/views.h"
 
@@ -99,6 +100,8 @@ int runtides(const std::vector<std::string>& arguments, const TidesEnvironment& 
              std::ostream& err) {
     if (!arguments.empty() && arguments.front() == "fit")
         return runfit({arguments.begin() + 1, arguments.end()}, environment, out, err);
+    if (!arguments.empty() && arguments.front() == "streams")
+        return runstreams({arguments.begin() + 1, arguments.end()}, environment, out, err);
     Options options;
     ViewContext context;
     std::string fault = parseoptions(arguments, options);

@@ -1,8 +1,6 @@
 #include "tides/views.h"
 
 #include <array>
-#include <cmath>
-#include <cstdlib>
 
 #include "dates/summertime.h"
 #include "text/numbers.h"
@@ -12,14 +10,6 @@ namespace tarvane {
 namespace {
 
 constexpr std::array<const View*, 6> allviews{&watersview, &samplesview, &monthview, &sunview, &orbitalview, &listview};
-
-/// A number from 0 on with leading zeros; plain digits, as there are two dates and a zone in every row.
-std::string digits(int number, std::size_t atleast) {
-    std::string text;
-    for (; number > 0 || text.size() < atleast; number /= 10)
-        text.insert(text.begin(), static_cast<char>('0' + number % 10));
-    return text;
-}
 
 }  // namespace
 
@@ -46,12 +36,6 @@ SunHours sunofport(const ViewContext& context, const PortInHand& port, Date date
                     summershift(date, context.settings.summerflag2), zonehoursof(record));
 }
 
-bool ishighwater(const Prediction& prediction, int turningpoint) {
-    const TimedValue& point = prediction.turningpoints[static_cast<std::size_t>(turningpoint)];
-    const auto row = static_cast<std::size_t>(std::lround(point.time * 6) + 1);
-    return point.height > prediction.curvesamples[row - 1].height;
-}
-
 int hoursahead(const PortInHand& port, std::int16_t shift) {
     return -zonehoursof(port.port.record) - shift;
 }
@@ -60,16 +44,8 @@ float includeddepth(const PortInHand& port) {
     return port.port.currentoutput == 1 ? 0 : port.port.userdepth;
 }
 
-std::string isodate(Date date) {
-    return digits(yearof(date), 4) + "-" + digits(monthof(date), 2) + "-" + digits(dayof(date), 2);
-}
-
 Date dateofhour(Date day, double hour) {
     return hour < 24 ? day : day + std::chrono::days(1);
-}
-
-std::string momenttext(Date date, const std::string& clock, int hoursahead) {
-    return isodate(date) + "T" + clock + (hoursahead < 0 ? "-" : "+") + digits(std::abs(hoursahead), 2) + ":00";
 }
 
 }  // namespace tarvane

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "dates/calendar.h"
+#include "dates/isomoments.h"
 #include "engine/prediction.h"
 #include "portdata/configuration.h"
 #include "sunmoon/suntimes.h"
@@ -58,23 +59,14 @@ void noteabsence(Absences& absences, const PortInHand& port, const Prediction& p
 /// The sun of a day at a port under the context's summer choice.
 SunHours sunofport(const ViewContext& context, const PortInHand& port, Date date);
 
-/// True if the turning point of that index (from 1) is a high water, told by the sample before it.
-bool ishighwater(const Prediction& prediction, int turningpoint);
-
 /// Hours that clock times of a day at a port are ahead of universal time; `shift` is the day's, -1 or 0.
 int hoursahead(const PortInHand& port, std::int16_t shift);
 
 /// The charted depth that the port's heights include, metres.
 float includeddepth(const PortInHand& port);
 
-/// yyyy-mm-dd.
-std::string isodate(Date date);
-
 /// The date of an hour of a day's prediction: 24:00 is the next day's.
 Date dateofhour(Date day, double hour);
-
-/// A date and clock time with what they are ahead of universal time: "2026-07-14T05:40+01:00".
-std::string momenttext(Date date, const std::string& clock, int hoursahead);
 
 /// Calls `act` for every day in turn.
 template <typename Act>

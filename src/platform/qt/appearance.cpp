@@ -2,13 +2,14 @@
 
 #include <QFontDatabase>
 #include <QIcon>
-#include <QPainter>
-#include <QPainterPath>
 #include <QPalette>
 #include <QStyleFactory>
 #include <clocale>
-#include <cmath>
-#include <numbers>
+
+/// The pictures that are linked in. Outside the namespace, as the macro asks.
+static void loadicons() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace tarvane {
 namespace {
@@ -36,31 +37,6 @@ QFont programfont() {
     return QFont(QApplication::font().family(), 9);
 }
 
-QPixmap iconpicture(int size) {
-    QPixmap picture(size, size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 64.0, size / 64.0);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0xE8, 0xF2, 0xFA));
-    painter.drawRoundedRect(QRectF(2, 2, 60, 60), 12, 12);
-    painter.setBrush(QColor(0xF2, 0xB1, 0x34));
-    painter.drawEllipse(QPointF(45, 19), 8, 8);
-    QPainterPath water;
-    water.moveTo(2, 38);
-    for (double x = 2; x <= 62; ++x)
-        water.lineTo(x, 38 - 11 * std::sin((x - 2) / 60 * 2 * std::numbers::pi));
-    water.lineTo(62, 50);
-    water.quadTo(62, 62, 50, 62);
-    water.lineTo(14, 62);
-    water.quadTo(2, 62, 2, 50);
-    water.closeSubpath();
-    painter.setBrush(QColor(0x1F, 0x5F, 0x9E));
-    painter.drawPath(water);
-    return picture;
-}
-
 }  // namespace
 
 void setappearance(QApplication& application) {
@@ -70,13 +46,16 @@ void setappearance(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(lightpalette());
     QApplication::setFont(programfont());
+    loadicons();
     application.setWindowIcon(programicon());
+    // A desktop finds the program's entry, and so its name and icon, by this.
+    QApplication::setDesktopFileName("local.tarvane.tides");
 }
 
 QIcon programicon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addPixmap(iconpicture(size));
+        icon.addFile(QString(":/icons/tarvane-tides-%1.png").arg(size));
     return icon;
 }
 

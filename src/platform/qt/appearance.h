@@ -9,7 +9,7 @@ namespace tarvane {
 /// changed.
 void setappearance(QApplication& application);
 
-/// The program's icon, drawn: a tide's curve under the sun.
+/// The program's icon: a tide's curve over the marks of a staff.
 QIcon programicon();
 
 }  // namespace tarvane

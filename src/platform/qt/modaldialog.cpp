@@ -136,7 +136,7 @@ ModalDialog::ModalDialog(const char* name, const char* title, QWidget* parent) :
 }
 
 void ModalDialog::settle(QPushButton* enter, QWidget* focus) {
-    enter->setDefault(true);
+    if (enter) enter->setDefault(true);
     focus->setFocus();
     resize(sizeHint());
     fitscreen(*this);

@@ -19,8 +19,9 @@ class ModalDialog : public QDialog, public ModalWindow {
   protected:
     ModalDialog(const char* name, const char* title, QWidget* parent);
 
-    /// What a window's constructor ends with, its controls being laid out and filled: the button that Enter presses and
-    /// the control in focus; then its size and its place over its parent. Tab goes in the order of the layouts.
+    /// What a window's constructor ends with, its controls being laid out and filled: the button that Enter presses,
+    /// null for none, and the control in focus; then its size and its place over its parent. Tab goes in the order of
+    /// the layouts.
     void settle(QPushButton* enter, QWidget* focus);
 
     /// The control in focus and every list's current entry come up in view.

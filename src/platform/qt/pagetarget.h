@@ -29,8 +29,8 @@ class PageTarget {
 /// Whether the system has a printer.
 bool anyprinter();
 
-/// The system's default printer, or its first.
-std::unique_ptr<PageTarget> printertarget(const std::string& title);
+/// The printer of this name; without one the system's default printer, or its first.
+std::unique_ptr<PageTarget> printertarget(const std::string& title, const std::string& name);
 
 /// A new file "title.pdf" in the folder, which is made if need be; a file that stands is never overwritten. The pages
 /// are made in memory, and the file is there whole or not at all.

@@ -8,10 +8,12 @@ namespace {
 
 class PrinterTarget : public PageTarget {
   public:
-    explicit PrinterTarget(const std::string& title) {
+    PrinterTarget(const std::string& title, const std::string& name) {
         printer.setCreator(QStringLiteral("Tarvane Tides"));
         printer.setDocName(QString::fromStdString(title));
-        if (QPrinterInfo::defaultPrinter().isNull()) {
+        if (!name.empty())
+            printer.setPrinterName(QString::fromStdString(name));
+        else if (QPrinterInfo::defaultPrinter().isNull()) {
             const QStringList names = QPrinterInfo::availablePrinterNames();
             if (!names.isEmpty()) printer.setPrinterName(names.first());
         }
@@ -44,8 +46,8 @@ bool anyprinter() {
     return !QPrinterInfo::availablePrinterNames().isEmpty();
 }
 
-std::unique_ptr<PageTarget> printertarget(const std::string& title) {
-    return std::make_unique<PrinterTarget>(title);
+std::unique_ptr<PageTarget> printertarget(const std::string& title, const std::string& name) {
+    return std::make_unique<PrinterTarget>(title, name);
 }
 
 }  // namespace tarvane

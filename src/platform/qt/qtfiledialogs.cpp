@@ -5,6 +5,8 @@
 #include <QFileDialog>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QSplitter>
+#include <QUrl>
 
 namespace tarvane {
 
@@ -27,6 +29,20 @@ QString extension(const QString& namefilter) {
     return plain.match(patterns).captured(1);
 }
 
+/// Home and the computer stay below them. Not every desktop's own dialog would show them.
+void offerplaces(QFileDialog& dialog, const std::vector<std::string>& places) {
+    if (places.empty()) return;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    QList<QUrl> urls;
+    for (const std::string& place : places)
+        urls << QUrl::fromLocalFile(QString::fromStdString(place));
+    urls << QUrl::fromLocalFile(QDir::homePath()) << QUrl("file:");
+    dialog.setSidebarUrls(urls);
+    // Of its own the dialog gives them less room than their names need.
+    constexpr int placeswidth = 130, fileswidth = 470;
+    if (auto* columns = dialog.findChild<QSplitter*>()) columns->setSizes({placeswidth, fileswidth});
+}
+
 std::optional<std::string> run(const FileRequest& request, bool saving) {
     QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
     dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -34,6 +50,8 @@ std::optional<std::string> run(const FileRequest& request, bool saving) {
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askoverwrite);
     dialog.setDirectory(request.folder.empty() ? QDir::homePath() : QString::fromStdString(request.folder));
+    const QList<QUrl> bookmarks = dialog.sidebarUrls();
+    offerplaces(dialog, request.places);
     const QStringList filters = namefilters(request.filter);
     if (!filters.isEmpty()) {
         dialog.setNameFilters(filters);
@@ -47,7 +65,10 @@ std::optional<std::string> run(const FileRequest& request, bool saving) {
     // The dialog's own size can be larger than a small screen.
     const QRect room = dialog.screen()->availableGeometry();
     dialog.resize(dialog.sizeHint().boundedTo(room.size() - QSize(16, 48)));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    // What stands beside the files as the dialog goes is kept for every program of the toolkit.
+    if (!request.places.empty()) dialog.setSidebarUrls(bookmarks);
+    if (!accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().first().toStdString();
 }
 

@@ -5,12 +5,23 @@
 #include <QFile>
 #include <QStandardPaths>
 
-#include "files/wholefiles.h"
+#include "files/programplace.h"
 
 namespace tarvane {
+namespace {
+
+ProgramPlace ownplace() {
+    return programplace(QCoreApplication::applicationDirPath().toStdString());
+}
+
+}  // namespace
 
 std::string QtFolders::program() const {
-    return QCoreApplication::applicationDirPath().toStdString();
+    return ownplace().folder;
+}
+
+bool QtFolders::keepschanges() const {
+    return ownplace().keepschanges();
 }
 
 std::optional<std::string> QtFolders::documents() const {
@@ -21,10 +32,6 @@ std::optional<std::string> QtFolders::documents() const {
 
 std::string QtFolders::localappdata() const {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
-}
-
-bool QtFolders::canwrite(const std::string& path) const {
-    return canwritein(path);
 }
 
 bool QtFolders::make(const std::string& path) {

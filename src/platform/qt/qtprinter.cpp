@@ -1,6 +1,9 @@
 #include "platform/qt/qtprinter.h"
 
+#include <QApplication>
 #include <QFontMetricsF>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <algorithm>
 #include <cmath>
 
@@ -39,9 +42,21 @@ bool finite(std::initializer_list<double> values) {
 
 }  // namespace
 
+std::optional<PageRange> QtPrinter::choose(int pages) {
+    QPrinter wanted;
+    if (!chosen.empty()) wanted.setPrinterName(QString::fromStdString(chosen));
+    QPrintDialog dialog(&wanted, QApplication::activeWindow());
+    dialog.setOptions(pages > 0 ? QAbstractPrintDialog::PrintPageRange : QAbstractPrintDialog::PrintDialogOptions());
+    if (pages > 0) dialog.setMinMax(1, pages);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    chosen = wanted.printerName().toStdString();
+    if (wanted.printRange() != QPrinter::PageRange) return PageRange{1, std::max(pages, 1)};
+    return PageRange{std::clamp(wanted.fromPage(), 1, pages), std::clamp(wanted.toPage(), 1, pages)};
+}
+
 PrintOutcome QtPrinter::begin(const std::string& title) {
     painter.reset();
-    target = pdfonly || !anyprinter() ? pdftarget(pdffolder, title) : printertarget(title);
+    target = available() ? printertarget(title, chosen) : pdftarget(pdffolder, title);
     place.clear();
     PrintOutcome ready = target->ready();
     painter = std::make_unique<QPainter>();
@@ -137,6 +152,13 @@ void QtPrinter::point(double x, double y) {
     painter->setBrush(Qt::black);
     painter->drawEllipse(QPointF(x, y) - origin, dotsize / 2, dotsize / 2);
     painter->setPen(Qt::black);
+}
+
+void QtPrinter::image(double x, double y, double width, double height, const PagePicture& picture) {
+    if (!painter || !finite({x, y, width, height})) return;
+    const QImage pixels(reinterpret_cast<const uchar*>(picture.pixels), picture.width, picture.height,
+                        QImage::Format_ARGB32);
+    painter->drawImage(QRectF(QPointF(x, y) - origin, QSizeF(width, height)), pixels);
 }
 
 void QtPrinter::newpage() {

@@ -1,5 +1,6 @@
 // Pages of text and lines, drawn for the default printer or, where the system has none, for a PDF. The page's
-// coordinates are twips at any resolution. Must not ask the user anything.
+// coordinates are twips at any resolution. Must not ask the user anything but which
+// printer he wants, and that only when told to.
 #pragma once
 
 #include <QFont>
@@ -19,6 +20,8 @@ class QtPrinter : public Printer {
     /// Prints to PDF even where the system has printers.
     void setpdfonly(bool on) { pdfonly = on; }
 
+    bool available() const override { return !pdfonly && anyprinter(); }
+    std::optional<PageRange> choose(int pages) override;
     PrintOutcome begin(const std::string& title) override;
     double width() const override { return pagesize.width(); }
     double height() const override { return pagesize.height(); }
@@ -40,6 +43,7 @@ class QtPrinter : public Printer {
     void setlinewidth(double twips) override { linewidth = twips; }
     void line(double x1, double y1, double x2, double y2) override;
     void point(double x, double y) override;
+    void image(double x, double y, double width, double height, const PagePicture& picture) override;
     void newpage() override;
     PrintOutcome enddocument() override;
     std::string destination() const override { return place; }
@@ -50,6 +54,7 @@ class QtPrinter : public Printer {
 
     std::string pdffolder;
     bool pdfonly = false;
+    std::string chosen;  ///< the printer's name; empty for the system's own choice
     std::string place;
     std::unique_ptr<PageTarget> target;  ///< before the painter, which must go first
     std::unique_ptr<QPainter> painter;

@@ -3,11 +3,13 @@
 
 #include "platform/qt/qtclipboard.h"
 #include "platform/qt/qtclock.h"
+#include "platform/qt/qtdrives.h"
 #include "platform/qt/qtfiledialogs.h"
 #include "platform/qt/qtfolders.h"
 #include "platform/qt/qtlocale.h"
 #include "platform/qt/qtmessages.h"
 #include "platform/qt/qtprinter.h"
+#include "platform/qt/qtprogress.h"
 #include "platform/qt/qtwindows.h"
 #include "platform/services.h"
 
@@ -22,8 +24,12 @@ struct QtServices {
     QtLocale locale;
     QtFolders folders;
     QtWindows windows;
+    QtProgress progress;
+    QtDrives drives;
 
-    Services services() { return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows}; }
+    Services services() {
+        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
+    }
 };
 
 }  // namespace tarvane

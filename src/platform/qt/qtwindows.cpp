@@ -6,4 +6,8 @@ void QtWindows::showmodal(ModalWindow& window) {
     window.runmodal();
 }
 
+void QtWindows::showmanual(const std::string& windowname) {
+    if (onmanual) onmanual(windowname);
+}
+
 }  // namespace tarvane

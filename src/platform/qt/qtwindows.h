@@ -1,5 +1,7 @@
-// The real door: a modal window is shown and waited for.
+// The real door: a modal window is shown and waited for, the manual's is its owner's to open.
 #pragma once
+
+#include <functional>
 
 #include "platform/windows.h"
 
@@ -8,6 +10,9 @@ namespace tarvane {
 class QtWindows : public Windows {
   public:
     void showmodal(ModalWindow& window) override;
+    void showmanual(const std::string& windowname) override;
+
+    std::function<void(const std::string& windowname)> onmanual;
 };
 
 }  // namespace tarvane

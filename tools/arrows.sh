@@ -13,7 +13,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
   function iswindow(path) { sub(/.*\//, "", path); return path ~ /^(frm|form1)/ }
   function targetof(path,   folder) {  # of a path below src
     folder = folderof(path)
-    if (folder == "platform/qt") return "platform_qt"
+    gsub(/\//, "_", folder)  # "platform/qt"
     return iswindow(path) ? folder "_windows" : folder
   }
   function reach(from, to,   next_, list, n, i) {

@@ -15,6 +15,8 @@ run_packages=(
   "libeigen3-dev|the algebra of fitting readings to a tide (Eigen)"
   "libcli11-dev|reads the command line of the terminal companion, tides (CLI11)"
   "nlohmann-json3-dev|writes its JSON (nlohmann-json)"
+  "libhowardhinnant-date-dev|the clocks of the world's time zones (Hinnant's date)"
+  "tzdata|the rules of those clocks"
   "fonts-liberation|a clear font for a machine that has none"
 )
 package_packages=(

@@ -152,10 +152,7 @@ class Watch {
 
 std::string areathatships() {
     const fs::path beside = fs::read_symlink("/proc/self/exe").parent_path() / "UK.hc";
-    std::string area;
-    for (const std::byte byte : tarvane::readwhole(beside))
-        area += static_cast<char>(byte);
-    return area;
+    return tarvane::wholetext(beside);
 }
 
 std::uint64_t numberof(const char* text) {

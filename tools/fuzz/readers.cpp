@@ -156,12 +156,12 @@ void readdiamondfile(const std::string& folder, Random& random) {
 }
 
 void readtable(const std::string& folder, Random&) {
-    const PortsTable table = readportscsv(textof(readwhole(folder + "/ports.csv")));
+    const PortsTable table = readportscsv(wholetext(folder + "/ports.csv"));
     if (!table.fault) portscsvof(table.area);
 }
 
 void readreadings(const std::string& folder, Random&) {
-    readingsof(textof(readwhole(folder + "/readings.csv")));
+    readingsof(wholetext(folder + "/readings.csv"));
 }
 
 std::string areasample(const std::string& area) {

@@ -31,10 +31,7 @@ int build(const std::string& input, const std::string& output) {
         std::cerr << input << ": can't be read\n";
         return failed;
     }
-    std::string text;
-    for (const std::byte byte : readwhole(input))
-        text += static_cast<char>(byte);
-    const PortsTable table = readportscsv(text);
+    const PortsTable table = readportscsv(wholetext(input));
     if (table.fault) {
         showfault(input, *table.fault);
         return refused;

@@ -51,12 +51,8 @@ std::string takeports(const FitOptions& options, const AreaInHand& area, FittedP
 }
 
 std::string takereadings(const std::string& path, DayOfReadings& day) {
-    const auto bytes = wholefile(path);
-    if (!canopen(path) || !bytes) return "the readings " + path + " can't be read";
-    std::string text;
-    for (const std::byte byte : *bytes)
-        text += static_cast<char>(byte);
-    day = readingsof(text);
+    if (!canopen(path) || !wholefile(path)) return "the readings " + path + " can't be read";
+    day = readingsof(wholetext(path));
     return day.fault.empty() ? "" : "the readings " + path + ", " + day.fault;
 }
 

@@ -1,0 +1,119 @@
+#include "planner/access.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarvane {
+namespace {
+
+constexpr double touching = 1e-6;  // hours: runs on end, whose ends are reckoned apart
+
+/// The part of a run between the two heights; empty when it has none.
+std::optional<Stretch> within(const TideSpan& span, const TideRun& run, double floor, double ceiling) {
+    const double low = std::min(run.first, run.last), high = std::max(run.first, run.last);
+    if (high < floor || low > ceiling) return std::nullopt;
+    const double atfloor = low >= floor ? (run.first < run.last ? run.from : run.to) : span.passing(run, floor);
+    const double atceiling = high <= ceiling ? (run.first < run.last ? run.to : run.from) : span.passing(run, ceiling);
+    return Stretch{std::min(atfloor, atceiling), std::max(atfloor, atceiling)};
+}
+
+/// Midnight steps that lie within the water that is wanted close no window.
+Stretches passable(const TideSpan& span, Stretch between, double floor, double ceiling) {
+    Stretches open;
+    for (const TideRun& run : span.runs()) {
+        const std::optional<Stretch> part = within(span, run, floor, ceiling);
+        if (!part) continue;
+        addstretch(open, std::max(part->from, between.from), std::min(part->to, between.to));
+    }
+    return open;
+}
+
+/// The least and the greatest height from `from` to `to` hours.
+struct Heights {
+    double least, greatest;
+};
+Heights heightswithin(const TideSpan& span, double from, double to) {
+    Heights heights{HUGE_VAL, -HUGE_VAL};
+    const auto take = [&](double height) {
+        heights.least = std::min(heights.least, height);
+        heights.greatest = std::max(heights.greatest, height);
+    };
+    auto run = std::lower_bound(span.runs().begin(), span.runs().end(), from,
+                                [](const TideRun& each, double at) { return each.to < at; });
+    for (; run != span.runs().end() && run->from <= to; ++run) {
+        if (run->from >= from) take(run->first);
+        if (run->to <= to) take(run->last);
+    }
+    for (const double end : {from, to})
+        if (const auto height = span.height(end)) take(*height);
+    return heights;
+}
+
+/// Cut to minutes at which the tide itself suffices; opening later and closing earlier, never the other way round.
+Window cuttominutes(const TideSpan& span, Stretch between, const Stretch& open, double floor, double ceiling) {
+    constexpr double aside = 0.01;  // minutes, more than a passing is out
+    const auto suffices = [&](long minute) {
+        const auto height = span.height(static_cast<double>(minute) / 60);
+        return height && *height >= floor && *height <= ceiling;
+    };
+    Window window;
+    window.opens = std::lround(std::ceil(open.from * 60 - aside));
+    window.closes = std::lround(std::floor(open.to * 60 + aside));
+    while (window.opens <= window.closes && !suffices(window.opens))
+        ++window.opens;
+    while (window.closes >= window.opens && !suffices(window.closes))
+        --window.closes;
+    window.cutatstart = open.from < between.from + touching;
+    window.cutatend = open.to > between.to - touching;
+    return window;
+}
+
+/// A window that a step at midnight parts for less than a minute is one.
+std::vector<Window> windowsof(const TideSpan& span, Stretch between, double floor, double ceiling) {
+    std::vector<Window> windows;
+    for (const Stretch& open : passable(span, between, floor, ceiling)) {
+        const Window window = cuttominutes(span, between, open, floor, ceiling);
+        if (window.closes < window.opens) continue;
+        if (!windows.empty() && window.opens - windows.back().closes <= 1) {
+            windows.back().closes = window.closes;
+            windows.back().cutatend = window.cutatend;
+        } else {
+            windows.push_back(window);
+        }
+    }
+    return windows;
+}
+
+bool wished(const Window& window, const WindowWishes& wishes) {
+    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
+    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
+    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
+}
+
+}  // namespace
+
+std::optional<double> Passage::ceiling() const {
+    if (!bridge) return std::nullopt;
+    return bridgelevel + *bridge - airdraught;
+}
+
+Access accessof(const TideSpan& span, Stretch between, const Passage& passage, const Stretches& daylight,
+                const WindowWishes& wishes) {
+    const double floor = passage.needed(), ceiling = passage.ceiling().value_or(HUGE_VAL);
+    Access access;
+    const std::vector<Window> windows = windowsof(span, between, floor, ceiling);
+    access.never = windows.empty();
+    access.always = windows.size() == 1 && windows[0].cutatstart && windows[0].cutatend;
+    for (Window window : windows) {
+        const double from = static_cast<double>(window.opens) / 60, to = static_cast<double>(window.closes) / 60;
+        window.daylightminutes = std::lround(60 * sharedhours(daylight, from, to));
+        if (!wished(window, wishes)) continue;
+        const Heights heights = heightswithin(span, from, to);
+        window.greatestheight = heights.greatest;
+        window.leastmargin = std::min(heights.least - floor, ceiling - heights.greatest);
+        access.windows.push_back(window);
+    }
+    return access;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,54 @@
+#include "planner/daylight.h"
+
+#include <cmath>
+#include <numbers>
+
+#include "sunmoon/suntimes.h"
+
+namespace tarvane {
+namespace {
+
+/// The hour nearest to `centre` among those that differ from `hours` by whole days.
+double unwrapped(double hours, double centre) {
+    return hours + 24 * std::round((centre - hours) / 24);
+}
+
+/// Whether the sun stands above `altitude` degrees at noon: to 1 degree, for days without a rising and a setting.
+bool upatnoon(double latitude, Date date, double altitude) {
+    const double turn = 2 * std::numbers::pi * (dayofyear(date) + 10) / 365.25;
+    const double declination = -23.44 * std::cos(turn);
+    return 90 - std::abs(latitude - declination) > altitude;
+}
+
+struct Events {
+    double rise, set;  ///< hours of universal time of the date; 0 for none
+    double altitude;   ///< of the sun then, degrees
+};
+
+/// One date's light, about the noon of the place. A day of which only one event is told begins or ends an unbroken
+/// light: its other end is the midnight beside it.
+void addlight(Stretches& stretches, const Events& events, double latitude, double noon, Date date) {
+    const bool rises = events.rise != 0, sets = events.set != 0;
+    if (!rises && !sets && !upatnoon(latitude, date, events.altitude)) return;
+    const double from = rises ? unwrapped(events.rise, noon - 6) : noon - 12;
+    const double to = sets ? unwrapped(events.set, noon + 6) : noon + 12;
+    addstretch(stretches, from, to);
+}
+
+}  // namespace
+
+Light lightof(double latitude, double longitude, Date first, int days) {
+    Light light;
+    for (int i = -1; i <= days; ++i) {
+        const Date date = first + std::chrono::days(i);
+        const SunHours sun = SunTimes(latitude, longitude, dayof(date), monthof(date), yearof(date), 0, 0);
+        const double noon = 24 * i + 12 - longitude / 15;
+        const double start = 24.0 * i;
+        const auto hours = [&](double event) { return event == 0 ? 0 : start + event; };
+        addlight(light.day, {hours(sun.sunrise), hours(sun.sunset), -0.83}, latitude, noon, date);
+        addlight(light.civil, {hours(sun.civildawn), hours(sun.civildusk), -6}, latitude, noon, date);
+    }
+    return light;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,125 @@
+#include "planner/plan.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarvane {
+namespace {
+
+using std::chrono::days;
+using std::chrono::floor;
+using std::chrono::hours;
+using std::chrono::minutes;
+using std::chrono::seconds;
+
+/// So many days are looked at ahead of a plan and behind it: ranges and springs are told by what lies around.
+constexpr int margin = 9;
+
+Date spanstart(Moment begins, std::int16_t zonehours) {
+    return floor<days>(begins - hours(zonehours)) - days(margin);
+}
+
+int spandays(Moment begins, Moment ends) {
+    return static_cast<int>(std::chrono::ceil<days>(ends - begins).count()) + 2 * margin + 1;
+}
+
+void shift(Stretches& stretches, double by) {
+    for (Stretch& each : stretches) {
+        each.from += by;
+        each.to += by;
+    }
+}
+
+/// The mean share of the waters about each: of three high waters and the lows between.
+std::vector<double> smoothedshares(const std::vector<PlannedWater>& waters) {
+    constexpr std::size_t aside = 3;
+    std::vector<double> smoothed(waters.size(), 0);
+    for (std::size_t i = aside; i + aside < waters.size(); ++i) {
+        for (std::size_t j = i - aside; j <= i + aside; ++j)
+            smoothed[i] += waters[j].water.springshare;
+        smoothed[i] /= 2 * aside + 1;
+    }
+    return smoothed;
+}
+
+}  // namespace
+
+Plan::Plan(const PlanOf& of, const Zones& zones)
+    : of_(of),
+      clock_(of.clock, zonehoursof(of.port), of.iana, zones),
+      begins_(clock_.startof(of.first)),
+      ends_(clock_.startof(of.first + days(of.days))),
+      origin_(Moment(spanstart(begins_, zonehoursof(of.port))) + hours(zonehoursof(of.port))),
+      tides_(of.port, spanstart(begins_, zonehoursof(of.port)), spandays(begins_, ends_)) {
+    const Date first = floor<days>(origin_);
+    light_ = lightof(of.port.PortLat, of.port.PortLong, first, tides_.days() + 1);
+    const double offset = static_cast<double>((Moment(first) - origin_).count()) / 3600;
+    shift(light_.day, offset);
+    shift(light_.civil, offset);
+    for (const Water& water : watersof(tides_, meanspringrange(of.port))) {
+        around_.push_back({momentof(water.hours), water});
+        if (around_.back().moment >= begins_ && around_.back().moment < ends_) waters_.push_back(around_.back());
+    }
+}
+
+double Plan::spanhours(Moment moment) const {
+    return static_cast<double>((moment - origin_).count()) / 3600;
+}
+
+/// To the nearest minute.
+Moment Plan::momentof(double spanhours) const {
+    return origin_ + minutes(std::lround(spanhours * 60));
+}
+
+PlannedAccess Plan::access(const Passage& passage, const WindowWishes& wishes, bool twilight) const {
+    const Access found =
+        accessof(tides_, {spanhours(begins_), spanhours(ends_)}, passage, twilight ? light_.civil : light_.day, wishes);
+    PlannedAccess access{{}, found.always, found.never};
+    for (const Window& window : found.windows)
+        access.windows.push_back({origin_ + minutes(window.opens), origin_ + minutes(window.closes), window});
+    return access;
+}
+
+std::vector<std::pair<Moment, Moment>> Plan::light(bool twilight) const {
+    std::vector<std::pair<Moment, Moment>> within;
+    for (const Stretch& each : twilight ? light_.civil : light_.day) {
+        const Moment from = std::max(momentof(each.from), begins_), to = std::min(momentof(each.to), ends_);
+        if (from < to) within.emplace_back(from, to);
+    }
+    return within;
+}
+
+std::vector<SpringTide> Plan::springsandneaps() const {
+    constexpr auto aside = days(5);
+    const std::vector<double> shares = smoothedshares(around_);
+    std::vector<SpringTide> found;
+    for (std::size_t i = 0; i < around_.size(); ++i) {
+        const PlannedWater& each = around_[i];
+        if (!each.water.high || each.moment < begins_ || each.moment >= ends_ || shares[i] <= 0) continue;
+        bool greatest = true, least = true;
+        for (std::size_t j = 0; j < around_.size(); ++j) {
+            if (j == i || !around_[j].water.high || shares[j] <= 0 ||
+                std::chrono::abs(around_[j].moment - each.moment) > aside)
+                continue;
+            // Of equal ones the first counts.
+            greatest = greatest && (j < i ? shares[j] < shares[i] : shares[j] <= shares[i]);
+            least = least && (j < i ? shares[j] > shares[i] : shares[j] >= shares[i]);
+        }
+        if (greatest || least) found.push_back({each.moment, greatest, shares[i]});
+    }
+    return found;
+}
+
+std::optional<TideNow> Plan::now(Moment moment) const {
+    const auto at = height(moment);
+    if (!at) return std::nullopt;
+    TideNow now{*at, rate(moment).value_or(0), {}, {}};
+    for (const PlannedWater& each : around_) {
+        if (each.moment <= moment) continue;
+        std::optional<PlannedWater>& next = each.water.high ? now.nexthigh : now.nextlow;
+        if (!next) next = each;
+    }
+    return now;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,99 @@
+// A port's tides over some days of a clock: waters, heights at any moment, windows of passage, light and moon. What the
+// planner's window, its pages and files and the terminal show is read off this. Must not show anything.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "planner/access.h"
+#include "planner/daylight.h"
+#include "planner/portclock.h"
+#include "planner/waters.h"
+
+namespace tarvane {
+
+/// A water at its minute.
+struct PlannedWater {
+    Moment moment;
+    Water water;
+};
+
+/// A window between two minutes.
+struct PlannedWindow {
+    Moment opens, closes;
+    Window window;
+};
+
+struct PlannedAccess {
+    std::vector<PlannedWindow> windows;
+    bool always = false, never = false;
+};
+
+/// Springs or neaps by the port's own ranges.
+struct SpringTide {
+    Moment moment;  ///< of the high water of the greatest or the least range about it
+    bool springs = false;
+    double springshare = 0;  ///< mean share of that day's waters
+};
+
+/// What is planned.
+struct PlanOf {
+    HarmonicRecord port;
+    std::string iana;  ///< the zone that the port's clocks keep; empty when it isn't known
+    Date first{};      ///< on the clock
+    int days = 7;      ///< 1 to 366
+    ClockChoice clock = ClockChoice::port;
+};
+
+/// Height, tendency and rate at a moment, and what comes next.
+struct TideNow {
+    double height = 0;  ///< metres above chart datum
+    double rate = 0;    ///< metres an hour
+    std::optional<PlannedWater> nexthigh, nextlow;
+};
+
+class Plan {
+  public:
+    Plan(const PlanOf& of, const Zones& zones);
+
+    const PlanOf& planof() const { return of_; }
+    const PortClock& clock() const { return clock_; }
+    Moment begins() const { return begins_; }  ///< of its first day on the clock
+    Moment ends() const { return ends_; }      ///< of the day behind its last
+
+    /// Why there are no tides on some day of it; empty when there are on all.
+    const char* whynot() const { return tides_.whynot(); }
+
+    std::optional<double> height(Moment moment) const { return tides_.height(spanhours(moment)); }
+    std::optional<double> rate(Moment moment) const { return tides_.rate(spanhours(moment)); }
+
+    /// In order of time, each within the plan.
+    const std::vector<PlannedWater>& waters() const { return waters_; }
+
+    /// Windows by daylight from sunrise to sunset, or with civil twilight.
+    PlannedAccess access(const Passage& passage, const WindowWishes& wishes, bool twilight) const;
+
+    /// Light within the plan, as moments.
+    std::vector<std::pair<Moment, Moment>> light(bool twilight) const;
+
+    std::vector<SpringTide> springsandneaps() const;
+
+    /// Nothing outside the plan or on a day without a prediction.
+    std::optional<TideNow> now(Moment moment) const;
+
+  private:
+    double spanhours(Moment moment) const;
+    Moment momentof(double spanhours) const;
+
+    PlanOf of_;
+    PortClock clock_;
+    Moment begins_, ends_;
+    Moment origin_;  ///< of the span's hours
+    TideSpan tides_;
+    Light light_;                       ///< in the span's hours
+    std::vector<PlannedWater> around_;  ///< of the plan and some days on both sides
+    std::vector<PlannedWater> waters_;
+};
+
+}  // namespace tarvane

@@ -1,0 +1,35 @@
+// The colours of the planner, by day, in the dark and at the chart table by night. Must not paint.
+#pragma once
+
+#include <cstdint>
+
+namespace tarvane {
+
+/// 0xRRGGBB.
+using Rgb = std::uint32_t;
+
+struct PlanLook {
+    Rgb paper;     ///< behind the curve by day
+    Rgb twilight;  ///< behind it in civil twilight
+    Rgb night;
+    Rgb band;  ///< behind the heads of the days
+    Rgb grid;
+    Rgb text;
+    Rgb faint;  ///< of lesser texts
+    Rgb curve;
+    Rgb passable;  ///< windows of passage: what fills and what hatches them
+    Rgb hatch;
+    Rgb needed;  ///< the level needed, its name and the windows' times
+    Rgb seabed;
+    Rgb now;
+    Rgb cursor;
+};
+
+enum class PlanLight { day, dark, night };
+
+const PlanLook& planlook(PlanLight light);
+
+/// The contrast of two colours, 1 to 21, as the web's accessibility guidelines reckon it.
+double contrast(Rgb first, Rgb second);
+
+}  // namespace tarvane

@@ -1,0 +1,54 @@
+// A plan in words: times and heights, the rows of its tables, what a moment holds and the answer to "When can I go?".
+// Whatever is written is on the plan's clock. Must not reckon tides.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "planner/plan.h"
+#include "platform/locale.h"
+
+namespace tarvane {
+
+/// "05:40"
+std::string clocktext(const ClockTime& time);
+
+/// "Sat 18 Jul", names the system's.
+std::string daytext(const Locale& locale, Date date);
+
+/// "4.4 m"; a height that rounds to zero has no sign.
+std::string metres(double height, int decimals = 1);
+
+/// "1 h 05 min", "40 min", "3 days"
+std::string durationtext(std::chrono::minutes duration);
+
+/// One table: its headings and rows, and the moment to which a row leads.
+struct PlanTable {
+    std::vector<std::string> headings;
+    struct Row {
+        Moment moment;
+        std::vector<std::string> cells;
+        std::vector<double> keys;  ///< by which the columns are sorted
+    };
+    std::vector<Row> rows;
+};
+
+/// Every row carries its offset from universal time where the plan's clock is changed within the plan.
+PlanTable tidestable(const Plan& plan, const Locale& locale);
+PlanTable accesstable(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale);
+PlanTable suntable(const Plan& plan, const Locale& locale);
+
+/// A table as tab-separated text.
+std::string tabbedtext(const PlanTable& table);
+
+/// "Sat 18 Jul 05:40: 4.42 m, rising 0.8 m/h, 6.4 m over the bottom"
+std::string momenttext(const Plan& plan, Moment moment, const std::optional<Passage>& passage, const Locale& locale);
+
+/// The answer: its first windows, or that there are none, or that it is always deep enough, or why nothing is known.
+std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale);
+
+/// "Now 14:32: 3.4 m, rising 0.6 m/h. High water 5.1 m at 17:02, in 2 h 30 min. Low water 0.9 m at 23:20, in 8 h 48
+/// min."
+std::string nowtext(const Plan& plan, Moment moment);
+
+}  // namespace tarvane

@@ -1,0 +1,101 @@
+#include "planner/waters.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarvane {
+namespace {
+
+constexpr double standhours = 2;
+constexpr double standmetres = 0.1;
+constexpr double nearmidnight = 1;  // hours
+
+bool rising(const TideRun& run) {
+    return run.first < run.last;
+}
+
+bool flat(const TideRun& run) {
+    return run.first == run.last;
+}
+
+/// Whether the heights of either day turn so within an hour of the midnight between them, beyond their own day's end.
+bool turnsnear(const TideSpan& span, const TideRun& before, const TideRun& after, bool high) {
+    return span.turnsbeyond(before.day, after.from, after.from + nearmidnight, high) ||
+           span.turnsbeyond(after.day, after.from - nearmidnight, after.from, high);
+}
+
+/// Adds a water, or puts it in place of the last when that is of its kind and the lesser one: both are one water then,
+/// seen from the two sides of a midnight.
+void add(std::vector<Water>& waters, const Water& water) {
+    if (waters.empty() || waters.back().high != water.high) return waters.push_back(water);
+    const bool greater = water.high ? water.height > waters.back().height : water.height < waters.back().height;
+    if (greater) waters.back() = water;
+}
+
+/// The turns between runs on end. At a midnight where the day before rises to its end and the day behind falls from its
+/// start both have the turn on the other's side: it is told as of midnight. Where a turn is near and neither day has
+/// one of the other kind, the step alone makes that.
+void findwaters(const TideSpan& span, std::vector<Water>& waters) {
+    const std::vector<TideRun>& runs = span.runs();
+    for (std::size_t i = 0; i + 1 < runs.size(); ++i) {
+        const TideRun &before = runs[i], &after = runs[i + 1];
+        if (before.to != after.from || flat(before) || flat(after) || rising(before) == rising(after)) continue;
+        const bool high = rising(before);
+        const bool nearit = std::min(before.to - before.from, after.to - after.from) < nearmidnight;
+        if (before.day != after.day && nearit && !turnsnear(span, before, after, high)) continue;
+        add(waters, {after.from, after.first, high});
+    }
+}
+
+/// Two of a kind with little water between them are one tide that stands or doubles, and the turn between is of it.
+void markstands(std::vector<Water>& waters) {
+    for (std::size_t i = 0; i + 2 < waters.size(); ++i) {
+        Water &first = waters[i], &second = waters[i + 2];
+        if (second.hours - first.hours >= standhours || std::abs(second.height - first.height) >= standmetres) continue;
+        first.stand = waters[i + 1].stand = second.stand = true;
+    }
+}
+
+void setshares(std::vector<Water>& waters, double springrange) {
+    if (springrange <= 0) return;
+    for (std::size_t i = 0; i < waters.size(); ++i) {
+        double sum = 0;
+        int ranges = 0;
+        for (const std::size_t beside : {i - 1, i + 1}) {
+            if (beside >= waters.size()) continue;
+            sum += std::abs(waters[i].height - waters[beside].height);
+            ++ranges;
+        }
+        if (ranges > 0) waters[i].springshare = sum / ranges / springrange;
+    }
+}
+
+}  // namespace
+
+double meanspringrange(const HarmonicRecord& port) {
+    return 2 * (double{port.M2Hm} + double{port.S2Hm});
+}
+
+double meanneaprange(const HarmonicRecord& port) {
+    return 2 * (double{port.M2Hm} - double{port.S2Hm});
+}
+
+std::vector<Water> watersof(const TideSpan& span, double springrange) {
+    std::vector<Water> waters;
+    waters.reserve(span.runs().size());
+    findwaters(span, waters);
+    markstands(waters);
+    setshares(waters, springrange);
+    return waters;
+}
+
+std::vector<Water> watersof(const HarmonicRecord& port, Date first, int days) {
+    const TideSpan span(port, first - std::chrono::days(1), days + 2);
+    std::vector<Water> waters = watersof(span, meanspringrange(port));
+    std::erase_if(waters, [&](const Water& water) { return water.hours < 24 || water.hours >= 24 * (days + 1); });
+    for (Water& water : waters)
+        water.hours -= 24;
+    return waters;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,199 @@
+// Clocks, light, springs and windows of a plan, by facts from elsewhere: zone rules, almanacs, and a tide of M2 alone.
+#include "planner/plan.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+#include "fakes/testport.h"
+#include "platform/systemzones/systemzones.h"
+#include "sunmoon/lunarphases.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::days;
+using std::chrono::hours;
+using std::chrono::minutes;
+
+const SystemZones zones;
+
+Date date(int year, unsigned month, unsigned day) {
+    return std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(day);
+}
+
+HarmonicRecord shipped(const std::string& name) {
+    for (const HarmonicRecord& port : tests::shippedports())
+        if (trim(port.PortName) == name) return port;
+    ADD_FAILURE() << name;
+    return {};
+}
+
+TEST(PortClock, DaysHaveTheHoursThatTheZoneGivesThem) {
+    const struct {
+        const char* zone;
+        Date day;
+        int minutes;
+        const char* morning;  ///< six hours after the day's start
+    } rows[] = {{"Europe/London", date(2027, 3, 28), 23 * 60, "2027-03-28T07:00+01:00"},
+                {"Europe/London", date(2027, 10, 31), 25 * 60, "2027-10-31T05:00+00:00"},
+                {"America/New_York", date(2027, 11, 7), 25 * 60, "2027-11-07T05:00-05:00"},
+                {"Australia/Lord_Howe", date(2027, 4, 4), 24 * 60 + 30, "2027-04-04T05:30+10:30"},
+                {"America/Sao_Paulo", date(2018, 11, 4), 23 * 60, "2018-11-04T07:00-02:00"},
+                {"Asia/Kolkata", date(2027, 6, 1), 24 * 60, "2027-06-01T06:00+05:30"}};
+    for (const auto& row : rows) {
+        const PortClock clock(ClockChoice::port, 0, row.zone, zones);
+        const Moment start = clock.startof(row.day);
+        EXPECT_EQ(clock.startof(row.day + days(1)) - start, minutes(row.minutes)) << row.zone;
+        EXPECT_EQ(isomoment(clock.at(start + hours(6))), row.morning);
+        EXPECT_EQ(clock.at(start - 1s).date, row.day - days(1));
+        EXPECT_EQ(clock.at(start).date, row.day);
+    }
+}
+
+TEST(PortClock, TellsWhatItGoesBy) {
+    EXPECT_EQ(PortClock(ClockChoice::port, -1, "Europe/Paris", zones).description(), "port's clock (Europe/Paris)");
+    EXPECT_EQ(PortClock(ClockChoice::zone, 4, "", zones).description(), "zone time (UT-4)");
+    EXPECT_EQ(PortClock(ClockChoice::ut, 4, "", zones).description(), "universal time");
+    const PortClock rule(ClockChoice::port, -1, "Europe/Nowhere", zones);
+    EXPECT_TRUE(rule.byrule());
+    EXPECT_EQ(rule.description(), "port's clock by its zone (UT+1) and European summer time");
+    // The program's own rule keeps whole days: summer time from the last Sunday of March to the last of October.
+    EXPECT_EQ(isomoment(rule.at(Moment(date(2027, 3, 27)) + 22h + 59min)), "2027-03-27T23:59+01:00");
+    EXPECT_EQ(isomoment(rule.at(Moment(date(2027, 3, 27)) + 23h)), "2027-03-28T01:00+02:00");
+    EXPECT_EQ(isomoment(rule.at(Moment(date(2027, 10, 30)) + 21h + 59min)), "2027-10-30T23:59+02:00");
+    EXPECT_EQ(isomoment(rule.at(Moment(date(2027, 10, 30)) + 22h)), "2027-10-30T23:00+01:00");
+    EXPECT_EQ(utname(-(3h + 30min)), "UT-3:30");
+}
+
+/// A port of M2 alone, with its mean level.
+HarmonicRecord m2port(float level, float amplitude) {
+    HarmonicRecord port;
+    port.TimeZoneLetter = "L";
+    port.Z0 = level;
+    port.M2Hm = amplitude;
+    port.MHm2.fill(amplitude);
+    return port;
+}
+
+Plan planof(const HarmonicRecord& port, const char* iana, Date first, int count,
+            ClockChoice clock = ClockChoice::port) {
+    return Plan({port, iana, first, count, clock}, zones);
+}
+
+TEST(Plan, WindowsOfASimpleTideAreThoseOfItsCosine) {
+    const Plan plan = planof(m2port(4, 2), "Europe/London", date(2026, 7, 14), 3);
+    Passage passage;
+    passage.draught = 1.9;
+    passage.clearance = 0.1;
+    passage.bottom = -2.5;  // needs 4.5 m
+    const PlannedAccess access = plan.access(passage, {}, false);
+    ASSERT_EQ(access.windows.size(), 6U);
+    for (const PlannedWindow& each : access.windows) {
+        // A tide of amplitude A about its mean stands above m + d for arccos(d/A)/180 of its 12.42 hours.
+        const double amplitude = each.window.greatestheight - 4;
+        const double wanted = std::acos(0.5 / amplitude) / std::numbers::pi * 12.4206 * 60;
+        if (!each.window.cutatstart && !each.window.cutatend) {
+            EXPECT_NEAR(static_cast<double>(each.window.minutes()), wanted, 8);
+        }
+        EXPECT_GE(*plan.height(each.opens), 4.5);
+        EXPECT_LT(*plan.height(each.opens - 60s), each.window.cutatstart ? 99 : 4.5);
+    }
+    passage.bottom = 3;
+    EXPECT_TRUE(plan.access(passage, {}, false).always);
+    passage.bottom = -9;
+    EXPECT_TRUE(plan.access(passage, {}, false).never);
+    // Under a bridge 10 m above 5 m a mast of 11 m has to wait for the tide to fall to 4 m.
+    passage.bottom = 9;
+    passage.bridge = 10;
+    passage.bridgelevel = 5;
+    passage.airdraught = 11;
+    for (const PlannedWindow& each : plan.access(passage, {}, false).windows)
+        EXPECT_LE(each.window.greatestheight, 4);
+}
+
+TEST(Plan, WishesLeaveOutWhatIsDarkOrShort) {
+    const Plan plan = planof(shipped("Newlyn"), "Europe/London", date(2026, 12, 21), 7);
+    Passage passage;
+    passage.bottom = -4.2;
+    const auto all = plan.access(passage, {}, false).windows;
+    std::size_t part = 0, whole = 0, longer = 0;
+    for (const PlannedWindow& each : all) {
+        part += each.window.daylightminutes > 0;
+        whole += each.window.daylightminutes == each.window.minutes();
+        longer += each.window.minutes() >= 225;
+    }
+    EXPECT_TRUE(0 < whole && whole < part && part < all.size() && 0 < longer && longer < all.size());
+    EXPECT_EQ(plan.access(passage, {Daylight::part, 0}, false).windows.size(), part);
+    EXPECT_EQ(plan.access(passage, {Daylight::whole, 0}, false).windows.size(), whole);
+    EXPECT_EQ(plan.access(passage, {Daylight::none, 225}, false).windows.size(), longer);
+}
+
+TEST(Plan, IsTheSameTideOnEveryClock) {
+    const HarmonicRecord port = shipped("Cherbourg");
+    const Plan clock = planof(port, "Europe/Paris", date(2026, 10, 24), 3);
+    const Plan ut = planof(port, "", date(2026, 10, 23), 5, ClockChoice::ut);
+    EXPECT_EQ(clock.ends() - clock.begins(), hours(73));
+    std::size_t found = 0;
+    for (const PlannedWater& each : clock.waters())
+        for (const PlannedWater& other : ut.waters())
+            found += each.moment == other.moment && each.water.height == other.water.height;
+    EXPECT_EQ(found, clock.waters().size());
+    EXPECT_GE(found, 11U);
+}
+
+TEST(Plan, SpringsFollowTheMoon) {
+    const Plan plan = planof(shipped("Brest"), "Europe/Paris", date(2026, 1, 1), 365);
+    const auto moons = phasesbetween(plan.begins() - 96h, plan.ends());
+    int springs = 0;
+    for (const SpringTide& each : plan.springsandneaps()) {
+        springs += each.springs;
+        bool near = false;
+        for (const MoonPhase& moon : moons) {
+            const auto lag = each.moment - moon.moment;
+            near = near || (lag > -12h && lag < 96h && (moon.phase % 2 == 0) == each.springs);
+        }
+        EXPECT_TRUE(near) << isomoment(plan.clock().at(each.moment)) << each.springs;
+    }
+    EXPECT_NEAR(springs, 25, 1);
+}
+
+TEST(Moon, PhasesStandAtTheirMoments) {
+    // Universal times of an almanac, to the minute.
+    const struct {
+        Date day;
+        int minute, phase;
+    } rows[] = {{date(2024, 4, 8), 18 * 60 + 21, 0},
+                {date(2026, 12, 1), 6 * 60 + 9, 3},
+                {date(2026, 8, 28), 4 * 60 + 18, 2},
+                {date(2025, 3, 6), 16 * 60 + 32, 1}};
+    for (const auto& row : rows) {
+        const auto phases = phasesbetween(Moment(row.day), Moment(row.day) + 24h);
+        ASSERT_EQ(phases.size(), 1U) << dayof(row.day);
+        EXPECT_EQ(phases[0].phase, row.phase);
+        EXPECT_NEAR(static_cast<double>((phases[0].moment - Moment(row.day)).count()) / 60, row.minute, 5);
+    }
+}
+
+TEST(Daylight, IsThatOfThePlace) {
+    const struct {
+        double latitude, longitude;
+        Date day;
+        double hours;  ///< of light in three days
+    } rows[] = {{51.5, 0, date(2026, 6, 21), 3 * 16.63},       {51.5, 0, date(2026, 12, 21), 3 * 7.83},
+                {-36.8, 174.8, date(2026, 12, 21), 3 * 14.65}, {21.3, -157.9, date(2026, 3, 20), 3 * 12.1},
+                {69.6, 18.9, date(2026, 6, 21), 72},           {69.6, 18.9, date(2026, 12, 21), 0}};
+    for (const auto& row : rows) {
+        const Light light = lightof(row.latitude, row.longitude, row.day, 3);
+        EXPECT_NEAR(sharedhours(light.day, 0, 72), row.hours, 0.4) << row.latitude;
+        EXPECT_GE(sharedhours(light.civil, 0, 72), sharedhours(light.day, 0, 72));
+    }
+    const Light auckland = lightof(-36.8, 174.8, date(2026, 12, 21), 1);
+    EXPECT_NEAR(auckland.day[1].from, 5.97 - 13, 0.1);  // 05:58 of New Zealand's summer time, 13 hours ahead
+}
+
+}  // namespace
+}  // namespace tarvane

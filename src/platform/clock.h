@@ -1,4 +1,4 @@
-// The wall clock in the machine's local time. Nothing else reads the time.
+// The machine's clock, in its local time and as a moment. Nothing else reads the time.
 #pragma once
 
 #include <chrono>
@@ -16,6 +16,7 @@ class Clock {
   public:
     virtual ~Clock() = default;
     virtual ClockReading now() const = 0;
+    virtual std::chrono::sys_seconds moment() const = 0;  ///< universal time
 };
 
 }  // namespace tarvane

@@ -12,6 +12,12 @@ struct ClockReading {
     int second = 0;               ///< 0 to 59
 };
 
+/// The moment at which a clock of universal time reads so.
+inline std::chrono::sys_seconds readas(const ClockReading& reading) {
+    return reading.today + std::chrono::hours(reading.hour) + std::chrono::minutes(reading.minute) +
+           std::chrono::seconds(reading.second);
+}
+
 class Clock {
   public:
     virtual ~Clock() = default;

@@ -38,10 +38,7 @@ struct ScriptedClock : Clock {
     ClockReading now() const override { return reading; }
 
     /// The same reading, taken for universal time.
-    std::chrono::sys_seconds moment() const override {
-        return reading.today + std::chrono::hours(reading.hour) + std::chrono::minutes(reading.minute) +
-               std::chrono::seconds(reading.second);
-    }
+    std::chrono::sys_seconds moment() const override { return readas(reading); }
 };
 
 /// A progress that nobody sees; the user cancels when `cancelafter` steps were done.

@@ -25,10 +25,15 @@ struct Passage {
 
 enum class Daylight { none, part, whole };
 
+/// A set of days of the week: bit 0 is Sunday.
+using Weekdays = unsigned;
+inline constexpr Weekdays everyweekday = 0x7F;
+
 /// What windows are wanted beyond the tide.
 struct WindowWishes {
     Daylight daylight = Daylight::none;  ///< none asks for none
     int leastminutes = 0;
+    Weekdays weekdays = everyweekday;  ///< on one of which some of it lies; applied by a plan, which knows the clock
 };
 
 struct Window {
@@ -36,15 +41,16 @@ struct Window {
     double greatestheight = 0;   ///< of the tide within
     double leastmargin = 0;      ///< over the height needed, and under the ceiling, whichever is less
     long daylightminutes = 0;
-    bool cutatstart = false, cutatend = false;  ///< the time looked at ends there, not the water
+    bool cutatstart = false, cutatend = false;  ///< the time looked at or its prediction ends there, not the water
 
     long minutes() const { return closes - opens; }
 };
 
 struct Access {
-    std::vector<Window> windows;  ///< of one minute at least
-    bool always = false;          ///< all the time looked at
-    bool never = false;           ///< at no minute of it, whatever the wishes
+    std::vector<Window> windows;                        ///< of one minute at least
+    bool always = false;                                ///< all the time looked at
+    bool never = false;                                 ///< at no minute of it, whatever the wishes
+    std::optional<double> greatestheight, leastheight;  ///< of the tide in all that time; nothing without a prediction
 };
 
 /// The windows of a span between two of its moments. `daylight` are its stretches of light; a window lies wholly in it

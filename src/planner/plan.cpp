@@ -30,6 +30,14 @@ void shift(Stretches& stretches, double by) {
     }
 }
 
+/// Whether some minute of a window lies on one of the days of the week.
+bool onweekdays(const PortClock& clock, const PlannedWindow& window, Weekdays weekdays) {
+    const Date last = clock.at(window.closes - minutes(1)).date;
+    for (Date date = clock.at(window.opens).date; date <= last; date += days(1))
+        if (weekdays >> std::chrono::weekday(date).c_encoding() & 1U) return true;
+    return false;
+}
+
 /// The mean share of the waters about each: of three high waters and the lows between.
 std::vector<double> smoothedshares(const std::vector<PlannedWater>& waters) {
     constexpr std::size_t aside = 3;
@@ -51,6 +59,7 @@ Plan::Plan(const PlanOf& of, const Zones& zones)
       ends_(clock_.startof(of.first + days(of.days))),
       origin_(Moment(spanstart(begins_, zonehoursof(of.port))) + hours(zonehoursof(of.port))),
       tides_(of.port, spanstart(begins_, zonehoursof(of.port)), spandays(begins_, ends_)) {
+    if (lacksdays()) whynot_ = tides_.whynot();
     const Date first = floor<days>(origin_);
     light_ = lightof(of.port.PortLat, of.port.PortLong, first, tides_.days() + 1);
     const double offset = static_cast<double>((Moment(first) - origin_).count()) / 3600;
@@ -60,6 +69,13 @@ Plan::Plan(const PlanOf& of, const Zones& zones)
         around_.push_back({momentof(water.hours), water});
         if (around_.back().moment >= begins_ && around_.back().moment < ends_) waters_.push_back(around_.back());
     }
+}
+
+/// Whether a day of the span that lies within the plan has no prediction: those around may.
+bool Plan::lacksdays() const {
+    for (Moment moment = begins_; moment < ends_; moment += days(1))
+        if (!height(moment)) return true;
+    return !height(ends_ - minutes(1));
 }
 
 double Plan::spanhours(Moment moment) const {
@@ -74,9 +90,11 @@ Moment Plan::momentof(double spanhours) const {
 PlannedAccess Plan::access(const Passage& passage, const WindowWishes& wishes, bool twilight) const {
     const Access found =
         accessof(tides_, {spanhours(begins_), spanhours(ends_)}, passage, twilight ? light_.civil : light_.day, wishes);
-    PlannedAccess access{{}, found.always, found.never};
-    for (const Window& window : found.windows)
-        access.windows.push_back({origin_ + minutes(window.opens), origin_ + minutes(window.closes), window});
+    PlannedAccess access{{}, found.always, found.never, found.greatestheight, found.leastheight};
+    for (const Window& window : found.windows) {
+        const PlannedWindow planned{origin_ + minutes(window.opens), origin_ + minutes(window.closes), window};
+        if (onweekdays(clock_, planned, wishes.weekdays)) access.windows.push_back(planned);
+    }
     return access;
 }
 

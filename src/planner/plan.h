@@ -28,6 +28,7 @@ struct PlannedWindow {
 struct PlannedAccess {
     std::vector<PlannedWindow> windows;
     bool always = false, never = false;
+    std::optional<double> greatestheight, leastheight;  ///< of the tide in the plan
 };
 
 /// Springs or neaps by the port's own ranges.
@@ -63,7 +64,7 @@ class Plan {
     Moment ends() const { return ends_; }      ///< of the day behind its last
 
     /// Why there are no tides on some day of it; empty when there are on all.
-    const char* whynot() const { return tides_.whynot(); }
+    const char* whynot() const { return whynot_; }
 
     std::optional<double> height(Moment moment) const { return tides_.height(spanhours(moment)); }
     std::optional<double> rate(Moment moment) const { return tides_.rate(spanhours(moment)); }
@@ -83,6 +84,7 @@ class Plan {
     std::optional<TideNow> now(Moment moment) const;
 
   private:
+    bool lacksdays() const;
     double spanhours(Moment moment) const;
     Moment momentof(double spanhours) const;
 
@@ -91,6 +93,7 @@ class Plan {
     Moment begins_, ends_;
     Moment origin_;  ///< of the span's hours
     TideSpan tides_;
+    const char* whynot_ = "";
     Light light_;                       ///< in the span's hours
     std::vector<PlannedWater> around_;  ///< of the plan and some days on both sides
     std::vector<PlannedWater> waters_;

@@ -19,7 +19,7 @@ constexpr PlanLook daylook{.paper = 0xFFFFFF,
                            .hatch = 0x2E7D46,
                            .needed = 0x1E5B33,
                            .seabed = 0xC9B38C,
-                           .now = 0xC62828,
+                           .now = 0xAF1B1B,
                            .cursor = 0x5B2A86};
 
 constexpr PlanLook darklook{.paper = 0x20262E,
@@ -34,7 +34,7 @@ constexpr PlanLook darklook{.paper = 0x20262E,
                             .hatch = 0x5FC27E,
                             .needed = 0x8FE0A8,
                             .seabed = 0x6B5B3E,
-                            .now = 0xFF7A70,
+                            .now = 0xFF9088,
                             .cursor = 0xD3A6FF};
 
 // Red alone, which leaves the eye its sight in the dark.
@@ -43,15 +43,15 @@ constexpr PlanLook nightlook{.paper = 0x140000,
                              .night = 0x080000,
                              .band = 0x1C0000,
                              .grid = 0x4A0000,
-                             .text = 0xFF4A3A,
-                             .faint = 0xE03A2C,
+                             .text = 0xFF6250,
+                             .faint = 0xEE4434,
                              .curve = 0xFF5A48,
                              .passable = 0x330000,
                              .hatch = 0xA02018,
                              .needed = 0xFF6A58,
                              .seabed = 0x3C1008,
                              .now = 0xFF8070,
-                             .cursor = 0xFF9080};
+                             .cursor = 0xFF8C78};
 
 double luminance(Rgb colour) {
     const std::array<double, 3> weights{0.2126, 0.7152, 0.0722};

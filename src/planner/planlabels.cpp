@@ -1,6 +1,7 @@
 #include "planner/planlabels.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tarvane {
 namespace {
@@ -14,11 +15,11 @@ bool overlap(const Area& one, const Area& other) {
 
 }  // namespace
 
-Area LabelPlaces::areaof(const PlanLabel& label) const {
+Area areaof(const Canvas& canvas, const PlanLabel& label) {
     double width = 0;
     for (const std::string& line : label.lines)
-        width = std::max(width, canvas_.textwidth(line, label.look));
-    const double height = canvas_.textheight(label.look) * linegap * static_cast<double>(label.lines.size());
+        width = std::max(width, canvas.textwidth(line, label.look));
+    const double height = canvas.textheight(label.look) * linegap * static_cast<double>(label.lines.size());
     return {label.middle.x - width / 2 - apart, label.middle.y, label.middle.x + width / 2 + apart,
             label.middle.y + height};
 }
@@ -33,7 +34,7 @@ std::vector<PlanLabel> LabelPlaces::place(std::vector<PlanLabel> labels) {
                      [](const PlanLabel& one, const PlanLabel& other) { return one.importance > other.importance; });
     std::vector<PlanLabel> placed;
     for (PlanLabel& label : labels) {
-        Area area = areaof(label);
+        Area area = areaof(canvas_, label);
         const double inside = std::max(within_.left - area.left, 0.0) + std::min(within_.right - area.right, 0.0);
         label.middle.x += inside;
         area.left += inside;
@@ -49,6 +50,12 @@ void paintlabel(Canvas& canvas, const PlanLabel& label) {
     TextLook look = label.look;
     look.anchor = Anchor::middle;
     Place place = label.middle;
+    if (label.behind) {
+        const Area area = areaof(canvas, label);
+        const std::array corners{Place{area.left, area.top}, Place{area.right, area.top},
+                                 Place{area.right, area.bottom}, Place{area.left, area.bottom}};
+        canvas.fill(corners, *label.behind, 0.8);
+    }
     for (const std::string& line : label.lines) {
         canvas.text(place, line, look);
         place.y += canvas.textheight(look) * linegap;

@@ -2,6 +2,7 @@
 // one that finds none is left out. Must not paint.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,9 +14,13 @@ namespace tarvane {
 struct PlanLabel {
     std::vector<std::string> lines;
     TextLook look;
-    Place middle;           ///< of its upper edge
-    double importance = 0;  ///< the greater first
+    Place middle;                    ///< of its upper edge
+    double importance = 0;           ///< the greater first
+    std::optional<Rgb> behind = {};  ///< fills its place
 };
+
+/// What a label covers.
+Area areaof(const Canvas& canvas, const PlanLabel& label);
 
 class LabelPlaces {
   public:
@@ -28,7 +33,6 @@ class LabelPlaces {
     std::vector<PlanLabel> place(std::vector<PlanLabel> labels);
 
   private:
-    Area areaof(const PlanLabel& label) const;
     bool isfree(const Area& area) const;
 
     const Canvas& canvas_;

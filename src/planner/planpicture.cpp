@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "dates/dateformats.h"
 #include "planner/planlabels.h"
 #include "planner/plantexts.h"
 #include "sunmoon/lunarphases.h"
@@ -16,10 +17,10 @@ using std::chrono::days;
 using std::chrono::hours;
 using std::chrono::minutes;
 
-constexpr double gap = 4;
+constexpr double inset = 4;
 constexpr double hatchstep = 7;
 
-double linewidth(const PlanPicture& picture) {
+double strokeof(const PlanPicture& picture) {
     return picture.textsize / 12;
 }
 
@@ -42,8 +43,7 @@ void paintlight(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
 /// The least step of a ladder that keeps marks so far apart.
 template <std::size_t count>
 double stepof(const std::array<double, count>& ladder, double perunit, double apart) {
-    const auto step =
-        std::find_if(ladder.begin(), ladder.end(), [&](double each) { return each * perunit >= apart; });
+    const auto step = std::find_if(ladder.begin(), ladder.end(), [&](double each) { return each * perunit >= apart; });
     return step == ladder.end() ? ladder.back() : *step;
 }
 
@@ -54,14 +54,14 @@ void paintheights(Canvas& canvas, const PlanPicture& picture, const PlanScale& s
     const double step = stepof(ladder, scale.plot.height() / (scale.greatest - scale.least), 2 * tall);
     for (double count = std::ceil(scale.least / step); count * step <= scale.greatest; ++count) {
         const double y = scale.y(count * step);
-        if (y - tall / 2 < scale.plot.top || y + tall / 2 > scale.plot.bottom) continue;
+        if (y - tall / 2 < scale.plot.top + tall || y + tall / 2 > scale.plot.bottom) continue;
         const std::array places{Place{scale.plot.left, y}, Place{scale.plot.right, y}};
         canvas.line(places, {picture.look.grid, 0.5});
         std::string text = metres(count * step, step < 1 ? 1 : 0);
         text.resize(text.size() - 2);  // the unit stands at the top
-        canvas.text({scale.plot.left - gap, y - tall / 2}, text, look);
+        canvas.text({scale.plot.left - inset, y - tall / 2}, text, look);
     }
-    canvas.text({scale.plot.left - gap, scale.plot.top}, "m", look);
+    canvas.text({scale.plot.left - inset, scale.plot.top}, "m", look);
 }
 
 /// Calls `act` with each full hour of the clock within the part shown.
@@ -78,8 +78,7 @@ void eachhour(const PlanPicture& picture, const PlanScale& scale, Act act) {
 void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     constexpr std::array ladder{1.0, 2.0, 3.0, 6.0, 12.0, 24.0};
     const TextLook look = textlook(picture, picture.look.faint, Anchor::middle);
-    const double perhour =
-        scale.plot.width() / (static_cast<double>((scale.to - scale.from).count()) / 3600);
+    const double perhour = scale.plot.width() / (static_cast<double>((scale.to - scale.from).count()) / 3600);
     const int step = static_cast<int>(stepof(ladder, perhour, canvas.textwidth("00", look) * 1.8));
     eachhour(picture, scale, [&](Moment at, int hour) {
         const double x = scale.x(at);
@@ -87,17 +86,24 @@ void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         if (hour == 0) return canvas.line(places, {picture.look.faint, 1});
         if (hour % step != 0) return;
         canvas.line(places, {picture.look.grid, 0.5});
-        if (step <= 12) canvas.text({x, scale.plot.bottom + gap / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
+        if (step <= 12)
+            canvas.text({x, scale.plot.bottom + inset / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
     });
 }
 
-/// The longest of its names that has room in a day's head.
-std::string dayname(const Canvas& canvas, const PlanPicture& picture, Date date, double room, const TextLook& look) {
-    for (const char* form : {"dddd d mmmm yyyy", "dddd d mmmm", "ddd d mmm", "ddd d", "d"}) {
-        const std::string name = formatdate(picture.locale, date, form);
-        if (canvas.textwidth(name, look) <= room) return name;
-    }
-    return "";
+/// The longest form of their names that has room in the heads of all days, each `room` wide.
+const char* dayform(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    constexpr std::array forms{"dddd d mmmm yyyy", "dddd d mmmm", "ddd d mmm", "ddd d"};
+    const TextLook look = textlook(picture, 0, Anchor::middle, true);
+    const double room = scale.x(scale.from + hours(23)) - scale.plot.left - inset;
+    const Date first = picture.plan.clock().at(scale.from).date;
+    const auto fits = [&](const char* form) {
+        for (Date date = first; date < first + days(7); date += days(1))
+            if (canvas.textwidth(formatdate(picture.locale, date, form), look) > room) return false;
+        return true;
+    };
+    const auto form = std::find_if(forms.begin(), forms.end(), fits);
+    return form == forms.end() ? "d" : *form;
 }
 
 /// What a day is within the springs and neaps and the phases of the moon.
@@ -127,18 +133,24 @@ std::vector<DayHead> dayheads(const PlanPicture& picture, const PlanScale& scale
 
 void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const double line = canvas.textheight(textlook(picture, 0)), radius = picture.textsize * 0.42;
-    const double top = scale.plot.top - 2 * line - gap;
+    const double top = scale.plot.top - 2 * line - inset;
     canvas.fill(Area{scale.plot.left, top, scale.plot.right, scale.plot.top}, picture.look.band);
-    for (const DayHead& head : dayheads(picture, scale)) {
+    const std::string form = dayform(canvas, picture, scale);
+    bool first = true;
+    for (DayHead& head : dayheads(picture, scale)) {
         const auto weekday = std::chrono::weekday(head.date);
         const bool weekend = weekday == std::chrono::Saturday || weekday == std::chrono::Sunday;
         const TextLook look = textlook(picture, picture.look.text, Anchor::middle, weekend);
-        const double room = head.right - head.left - gap, middle = (head.left + head.right) / 2;
-        canvas.text({middle, top + gap / 2}, dayname(canvas, picture, head.date, room, look), look);
+        const double room = head.right - head.left - inset, middle = (head.left + head.right) / 2;
+        const std::string name = formatdate(picture.locale, head.date, form);
+        if (canvas.textwidth(name, look) <= room) canvas.text({middle, top + inset / 2}, name, look);
         const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
+        // Numbers alone need their month somewhere.
+        if (form == "d" && (first || dayof(head.date) == 1)) head.tide = formatdate(picture.locale, head.date, "mmm");
+        first = false;
         const bool told = !head.tide.empty() && canvas.textwidth(head.tide, small) <= room;
-        const double beside = told && head.phase >= 0 ? canvas.textwidth(head.tide, small) / 2 + radius + gap : 0;
-        const double lower = top + gap / 2 + line;
+        const double beside = told && head.phase >= 0 ? canvas.textwidth(head.tide, small) / 2 + radius + inset : 0;
+        const double lower = top + inset / 2 + line;
         if (told) canvas.text({middle, lower}, head.tide, small);
         if (head.phase >= 0 && room > 2 * radius && middle + beside + radius < head.right)
             paintmoon(canvas, {middle + beside, lower + line / 2}, radius, head.phase, picture.look);
@@ -184,7 +196,7 @@ void paintwindows(Canvas& canvas, const PlanPicture& picture, const PlanScale& s
             shape.push_back({last, foot});
             shape.push_back({first, foot});
             canvas.fill(shape, picture.look.passable);
-            hatch(canvas, shape, {picture.look.hatch, 0.7 * linewidth(picture)});
+            hatch(canvas, shape, {picture.look.hatch, 0.7 * strokeof(picture)});
         }
 }
 
@@ -198,7 +210,7 @@ void paintseabed(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
 void paintcurve(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const auto pieces = curvepieces(picture, scale, scale.from, scale.to);
     for (const std::vector<Place>& piece : pieces)
-        canvas.line(piece, {picture.look.curve, 2 * linewidth(picture)});
+        canvas.line(piece, {picture.look.curve, 2 * strokeof(picture)});
     if (!pieces.empty()) return;
     const TextLook look = textlook(picture, picture.look.text, Anchor::middle);
     canvas.text({(scale.plot.left + scale.plot.right) / 2, (scale.plot.top + scale.plot.bottom) / 2},
@@ -213,11 +225,11 @@ void paintlevel(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     const bool above = y < scale.plot.top, inside = !above && y <= scale.plot.bottom;
     if (inside) {
         const std::array line{Place{scale.plot.left, y}, Place{scale.plot.right, y}};
-        canvas.line(line, {picture.look.needed, 1.5 * linewidth(picture), LineStyle::dashed});
+        canvas.line(line, {picture.look.needed, 1.5 * strokeof(picture), LineStyle::dashed});
     }
     const double top = inside ? std::max(y - tall, scale.plot.top) : above ? scale.plot.top : scale.plot.bottom - tall;
     const std::string text = name + (inside ? "" : above ? ", above the picture" : ", below the picture");
-    const Area area{scale.plot.left + gap, top, scale.plot.left + gap + canvas.textwidth(text, look), top + tall};
+    const Area area{scale.plot.left + inset, top, scale.plot.left + inset + canvas.textwidth(text, look), top + tall};
     canvas.fill(area, picture.look.paper);
     canvas.text({area.left, area.top}, text, look);
     places.take(area);
@@ -239,7 +251,7 @@ std::vector<PlanLabel> waterlabels(const Canvas& canvas, const PlanPicture& pict
         const double y = scale.y(each.water.height);
         PlanLabel label{{clocktext(picture.plan.clock().at(each.moment)), metres(each.water.height)},
                         textlook(picture, picture.look.text, Anchor::middle, each.water.high),
-                        {scale.x(each.moment), each.water.high ? y - 2 * tall : y + gap},
+                        {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
                         each.water.springshare + (each.water.high ? 10 : 0) - (each.water.stand ? 5 : 0)};
         labels.push_back(label);
     }
@@ -251,16 +263,16 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
     if (!picture.passage || !picture.access) return labels;
     const TextLook look = textlook(picture, picture.look.needed, Anchor::middle, true);
     const double tall = canvas.textheight(look), foot = floorof(picture, scale);
-    const double top = foot + gap + 2 * tall > scale.plot.bottom ? foot - 2 * tall - gap : foot + gap / 2;
+    const double top = foot + inset + 2 * tall > scale.plot.bottom ? foot - 2 * tall - inset : foot + inset / 2;
     for (const PlannedWindow& each : picture.access->windows) {
         const Moment opens = std::max(each.opens, scale.from), closes = std::min(each.closes, scale.to);
         if (opens >= closes) continue;
         const std::string from = clocktext(picture.plan.clock().at(each.opens));
         const std::string until = clocktext(picture.plan.clock().at(each.closes));
         const double middle = (scale.x(opens) + scale.x(closes)) / 2;
-        labels.push_back({{from + "-" + until}, look, {middle, top}, 30});
+        labels.push_back({{from + "-" + until}, look, {middle, top}, 30, picture.look.paper});
         // In two lines where one is too wide for its neighbours.
-        labels.push_back({{from + "-", until}, look, {middle, top}, 20});
+        labels.push_back({{from + "-", until}, look, {middle, top}, 20, picture.look.paper});
     }
     return labels;
 }
@@ -280,7 +292,7 @@ std::vector<PlanLabel> oneform(const Canvas& canvas, std::vector<PlanLabel> labe
 }
 
 void paintlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
-    std::vector<PlanLabel> labels = oneform(canvas, windowlabels(canvas, picture, scale), gap);
+    std::vector<PlanLabel> labels = oneform(canvas, windowlabels(canvas, picture, scale), inset);
     for (const PlanLabel& each : waterlabels(canvas, picture, scale))
         labels.push_back(each);
     for (const PlanLabel& each : places.place(labels))
@@ -293,7 +305,7 @@ void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scal
     canvas.fill(picture.area, picture.look.paper);
     if (!picture.title.empty()) {
         const TextLook look{picture.look.text, picture.textsize * 1.25, true, Anchor::left};
-        canvas.text({scale.plot.left, picture.area.top + gap}, picture.title, look);
+        canvas.text({scale.plot.left, picture.area.top + inset}, picture.title, look);
     }
     LabelPlaces places(canvas, scale.plot);
     paintlight(canvas, picture, scale);
@@ -311,7 +323,7 @@ void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale
     if (now < scale.from || now > scale.to) return;
     const double x = scale.x(now);
     const std::array places{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
-    canvas.line(places, {picture.look.now, 1.5 * linewidth(picture)});
+    canvas.line(places, {picture.look.now, 1.5 * strokeof(picture)});
 }
 
 void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment at,
@@ -319,7 +331,7 @@ void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
     if (at < scale.from || at > scale.to) return;
     const double x = scale.x(at), radius = picture.textsize / 3;
     const std::array line{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
-    canvas.line(line, {picture.look.cursor, linewidth(picture)});
+    canvas.line(line, {picture.look.cursor, strokeof(picture)});
     std::vector<Place> dot;
     if (const auto height = picture.plan.height(at))
         for (int i = 0; i < 24; ++i) {
@@ -331,18 +343,18 @@ void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
     double width = 0;
     for (const std::string& each : words)
         width = std::max(width, canvas.textwidth(each, look));
-    const double tall = canvas.textheight(look), left = x + 3 * gap;
-    const bool onleft = left + width + 3 * gap > scale.plot.right;
-    Area bubble{left, scale.plot.top + gap, left + width + 2 * gap,
-                scale.plot.top + 3 * gap + tall * static_cast<double>(words.size())};
-    if (onleft) bubble = {x - 3 * gap - width - 2 * gap, bubble.top, x - 3 * gap, bubble.bottom};
+    const double tall = canvas.textheight(look), left = x + 3 * inset;
+    const bool onleft = left + width + 3 * inset > scale.plot.right;
+    Area bubble{left, scale.plot.top + inset, left + width + 2 * inset,
+                scale.plot.top + 3 * inset + tall * static_cast<double>(words.size())};
+    if (onleft) bubble = {x - 3 * inset - width - 2 * inset, bubble.top, x - 3 * inset, bubble.bottom};
     canvas.fill(bubble, picture.look.band);
     const std::array frame{Place{bubble.left, bubble.top}, Place{bubble.right, bubble.top},
                            Place{bubble.right, bubble.bottom}, Place{bubble.left, bubble.bottom},
                            Place{bubble.left, bubble.top}};
     canvas.line(frame, {picture.look.cursor, 1});
     for (std::size_t i = 0; i < words.size(); ++i)
-        canvas.text({bubble.left + gap, bubble.top + gap + tall * static_cast<double>(i)}, words[i], look);
+        canvas.text({bubble.left + inset, bubble.top + inset + tall * static_cast<double>(i)}, words[i], look);
 }
 
 void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const PlanLook& look) {

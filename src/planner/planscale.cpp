@@ -7,15 +7,15 @@
 namespace tarvane {
 namespace {
 
-constexpr double gap = 4;
-constexpr double touching = 1e-9;
+constexpr double scalegap = 4;
+constexpr double leasthop = 1e-9;
 
-struct Heights {
+struct HeightRange {
     double least = 0, greatest = 1;
 };
 
 /// Of the whole plan, so that the scale stands while the picture is moved.
-Heights heightsof(const Plan& plan) {
+HeightRange heightsof(const Plan& plan) {
     double least = HUGE_VAL, greatest = -HUGE_VAL;
     const auto take = [&](std::optional<double> height) {
         if (!height) return;
@@ -32,10 +32,10 @@ Heights heightsof(const Plan& plan) {
 }
 
 /// With what the passage asks for, where that is not out of all reach.
-Heights withpassage(Heights heights, const std::optional<Passage>& passage) {
+HeightRange withpassage(HeightRange heights, const std::optional<Passage>& passage) {
     if (!passage) return heights;
     const double reach = heights.greatest - heights.least;
-    const Heights tides = heights;
+    const HeightRange tides = heights;
     const auto take = [&](double height) {
         if (height < tides.least - reach || height > tides.greatest + reach) return;
         heights.least = std::min(heights.least, height);
@@ -69,20 +69,22 @@ PlanScale scaleof(const PlanPicture& picture, const Canvas& canvas) {
     PlanScale scale;
     scale.from = picture.from;
     scale.to = picture.to;
-    const double title = picture.title.empty() ? 0 : canvas.textheight({.size = picture.textsize * 1.25}) + 2 * gap;
-    scale.plot = {picture.area.left + canvas.textwidth("-10.5", look) + 2 * gap,
-                  picture.area.top + title + 2 * line + 2 * gap, picture.area.right - 2 * gap,
-                  picture.area.bottom - line - 2 * gap};
-    const Heights heights = withpassage(heightsof(picture.plan), picture.passage);
+    const double title =
+        picture.title.empty() ? 0 : canvas.textheight({.size = picture.textsize * 1.25}) + 2 * scalegap;
+    scale.plot = {picture.area.left + canvas.textwidth("-10.5", look) + 2 * scalegap,
+                  picture.area.top + title + 2 * line + 2 * scalegap, picture.area.right - 2 * scalegap,
+                  picture.area.bottom - line - 2 * scalegap};
+    const HeightRange heights = withpassage(heightsof(picture.plan), picture.passage);
     // Labels of two lines find room over the highest water and under the lowest.
-    const double room = 2 * line + 2 * gap, inner = scale.plot.height() - 2 * room;
+    const double room = 2 * line + 2 * scalegap, inner = scale.plot.height() - 2 * room;
     const double metres = (heights.greatest - heights.least) / std::max(inner, line);
     scale.least = heights.least - room * metres;
     scale.greatest = heights.greatest + room * metres;
     return scale;
 }
 
-std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to) {
+std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from,
+                                            Moment to) {
     std::vector<std::vector<Place>> pieces;
     bool apart = true;
     const auto take = [&](Moment at) {
@@ -94,7 +96,7 @@ std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const Pl
     from = std::max(from, scale.from);
     to = std::min(to, scale.to);
     const double first = scale.x(from), last = scale.x(to);
-    for (double x = first; x < last - touching; x += 1)
+    for (double x = first; x < last - leasthop; x += 1)
         take(scale.moment(x));
     if (from < to) take(to);
     return pieces;

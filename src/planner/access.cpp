@@ -90,17 +90,17 @@ bool spans(const Window& window, Stretch between) {
            static_cast<double>(window.closes) > between.to * 60 - 1;
 }
 
-bool wished(const Window& window, const WindowWishes& wishes) {
-    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
-    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
-    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
-}
-
 }  // namespace
 
 std::optional<double> Passage::ceiling() const {
     if (!bridge) return std::nullopt;
     return bridgelevel + *bridge - airdraught;
+}
+
+bool wished(const Window& window, const WindowWishes& wishes) {
+    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
+    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
+    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
 }
 
 Access accessof(const TideSpan& span, Stretch between, const Passage& passage, const Stretches& daylight,

@@ -46,6 +46,9 @@ struct Window {
     long minutes() const { return closes - opens; }
 };
 
+/// Whether a window is long enough and light enough, and of one minute at least.
+bool wished(const Window& window, const WindowWishes& wishes);
+
 struct Access {
     std::vector<Window> windows;                        ///< of one minute at least
     bool always = false;                                ///< all the time looked at

@@ -118,7 +118,8 @@ Access accessof(const TideSpan& span, Stretch between, const Passage& passage, c
     }
     for (Window window : windows) {
         const double from = static_cast<double>(window.opens) / 60, to = static_cast<double>(window.closes) / 60;
-        window.daylightminutes = std::lround(60 * sharedhours(daylight, from, to));
+        window.daylight = sharedhours(daylight, from, to);
+        window.daylightminutes = std::lround(60 * window.daylight);
         if (!wished(window, wishes)) continue;
         const Heights heights = heightswithin(span, from, to);
         window.greatestheight = heights.greatest;

@@ -1,6 +1,7 @@
 #include "planner/planrun.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarvane {
 namespace {
@@ -15,7 +16,8 @@ PlannedWindow joined(const PlannedWindow& first, const PlannedWindow& second) {
     window.closes = window.opens + (second.closes - first.opens) / minutes(1);
     window.greatestheight = std::max(window.greatestheight, second.window.greatestheight);
     window.leastmargin = std::min(window.leastmargin, second.window.leastmargin);
-    window.daylightminutes += second.window.daylightminutes;
+    window.daylight += second.window.daylight;
+    window.daylightminutes = std::lround(60 * window.daylight);
     window.cutatend = second.window.cutatend;
     return both;
 }

@@ -2,6 +2,7 @@
 // identifier and no two share one, and it makes no difference where plans on end are cut.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 
@@ -77,7 +78,8 @@ TEST(PlanFiles, TablesHoldThePlan) {
 TEST(PlanCalendar, LinesAreFoldedAndTextsEscaped) {
     EXPECT_EQ(calendartext("a,b;c\\d\r\ne\nf\x1B"), "a\\,b\\;c\\\\d\\ne\\nf?");
     EXPECT_EQ(calendarline(std::string(75, 'x')), std::string(75, 'x') + "\r\n");
-    EXPECT_EQ(calendarline(std::string(76, 'x')), std::string(75, 'x') + "\r\n x\r\n");
+    EXPECT_EQ(calendarline(std::string(150, 'x')),
+              std::string(75, 'x') + "\r\n " + std::string(74, 'x') + "\r\n x\r\n");
     // Two bytes a letter: 75 would part one.
     std::string accents;
     for (int i = 0; i < 80; ++i)
@@ -140,6 +142,15 @@ TEST(PlanCalendar, IdentifiersAreAnEventsOwnAndStay) {
     port.M2g += 1;
     port.S2Hm *= 1.01F;
     EXPECT_EQ(identifiers(port, needing(4.03), first, 300), before);
+    // And at ports with any lag, but for what moves over the ends.
+    for (port.M2g = 0; port.M2g < 360; port.M2g += 29) {
+        const auto earlier = identifiers(port, needing(4), first, 60);
+        port.M2g += 1;
+        const auto later = identifiers(port, needing(4), first, 60);
+        const std::set<std::string> known(earlier.begin(), earlier.end());
+        EXPECT_LE(std::count_if(later.begin(), later.end(), [&](const auto& each) { return !known.contains(each); }), 2)
+            << port.M2g;
+    }
     EXPECT_NE(identifiers(port, needing(2), first, 9, {"UK.hc", 1, ""}), identifiers(port, needing(2), first, 9));
     EXPECT_NE(identifiers(port, needing(2), first, 9, {"U K.hc", 15, ""}),
               identifiers(port, needing(2), first, 9, {"U%20K.hc", 15, ""}));

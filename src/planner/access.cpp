@@ -90,17 +90,17 @@ bool spans(const Window& window, Stretch between) {
            static_cast<double>(window.closes) > between.to * 60 - 1;
 }
 
-bool wished(const Window& window, const WindowWishes& wishes) {
-    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
-    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
-    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
-}
-
 }  // namespace
 
 std::optional<double> Passage::ceiling() const {
     if (!bridge) return std::nullopt;
     return bridgelevel + *bridge - airdraught;
+}
+
+bool wished(const Window& window, const WindowWishes& wishes) {
+    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
+    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
+    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
 }
 
 Access accessof(const TideSpan& span, Stretch between, const Passage& passage, const Stretches& daylight,
@@ -118,7 +118,8 @@ Access accessof(const TideSpan& span, Stretch between, const Passage& passage, c
     }
     for (Window window : windows) {
         const double from = static_cast<double>(window.opens) / 60, to = static_cast<double>(window.closes) / 60;
-        window.daylightminutes = std::lround(60 * sharedhours(daylight, from, to));
+        window.daylight = sharedhours(daylight, from, to);
+        window.daylightminutes = std::lround(60 * window.daylight);
         if (!wished(window, wishes)) continue;
         const Heights heights = heightswithin(span, from, to);
         window.greatestheight = heights.greatest;

@@ -40,11 +40,15 @@ struct Window {
     long opens = 0, closes = 0;  ///< minutes from the span's start; opening rounded up, closing rounded down
     double greatestheight = 0;   ///< of the tide within
     double leastmargin = 0;      ///< over the height needed, and under the ceiling, whichever is less
+    double daylight = 0;         ///< of it, in hours
     long daylightminutes = 0;
     bool cutatstart = false, cutatend = false;  ///< the time looked at or its prediction ends there, not the water
 
     long minutes() const { return closes - opens; }
 };
+
+/// Whether a window is long enough and light enough, and of one minute at least.
+bool wished(const Window& window, const WindowWishes& wishes);
 
 struct Access {
     std::vector<Window> windows;                        ///< of one minute at least

@@ -13,16 +13,29 @@
 
 namespace tarvane {
 
+/// Which tide a water is, whatever constants it is predicted from: the count of the mean moon's passages, as the port's
+/// own lag has them, keeps its number where the water moves by minutes.
+struct TideName {
+    long tide = 0;
+    bool high = false;
+    int nth = 0;  ///< of the waters of a kind that share that number, from 0 on
+
+    bool operator==(const TideName&) const = default;
+};
+
 /// A water at its minute.
 struct PlannedWater {
     Moment moment;
     Water water;
+    TideName name{};
 };
 
 /// A window between two minutes.
 struct PlannedWindow {
     Moment opens, closes;
     Window window;
+    TideName opening{};  ///< the last water before it at which she doesn't pass
+    int part = 0;        ///< of several with one such water, from 0 on
 };
 
 struct PlannedAccess {
@@ -30,6 +43,9 @@ struct PlannedAccess {
     bool always = false, never = false;
     std::optional<double> greatestheight, leastheight;  ///< of the tide in the plan
 };
+
+/// Whether a window is long enough, light enough, and some minute of it on one of the days of the week.
+bool wished(const PortClock& clock, const PlannedWindow& window, const WindowWishes& wishes);
 
 /// Springs or neaps by the port's own ranges.
 struct SpringTide {
@@ -85,6 +101,8 @@ class Plan {
 
   private:
     bool lacksdays() const;
+    void nametides();
+    void nameopenings(std::vector<PlannedWindow>& windows, const Passage& passage) const;
     double spanhours(Moment moment) const;
     Moment momentof(double spanhours) const;
 

@@ -91,6 +91,10 @@ std::string neverwords(const PlannedAccess& access, const Passage& passage) {
            ", and the tide does not keep to that for a minute";
 }
 
+std::string lackingwords(const std::string& whynot) {
+    return whynot.empty() ? "" : " No prediction for some of these days: " + whynot + ".";
+}
+
 std::string alwayswords(const PlannedAccess& access, const Passage& passage) {
     std::string words = "the level needed is " + metres(passage.needed(), 2) + ", and the tide does not fall below " +
                         metres(*access.leastheight, 2);
@@ -116,12 +120,6 @@ void addlightcells(const Plan& plan, const std::vector<std::pair<Moment, Moment>
 }
 
 }  // namespace
-
-std::string clocktext(const ClockTime& time) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%02d:%02d", time.hour(), time.minuteofhour());
-    return text;
-}
 
 std::string daytext(const Locale& locale, Date date) {
     return formatdate(locale, date, "ddd d mmm");
@@ -222,20 +220,25 @@ std::string momenttext(const Plan& plan, Moment moment, const std::optional<Pass
     return text + (depth > 0 ? ", " + metres(depth) + " over the bottom" : ", the bottom is dry");
 }
 
-std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale) {
-    constexpr std::size_t told = 3;
+std::string accessverdict(const PlannedAccess& access, const Passage& passage, const std::string& whynot) {
     const std::string needed = "the level needed is " + metres(passage.needed(), 2);
-    const std::string whynot = plan.whynot();
     if (!access.greatestheight) return "No prediction for these days: " + whynot + "; " + needed + ".";
-    const std::string lacking = whynot.empty() ? "" : " No prediction for some of these days: " + whynot + ".";
+    const std::string lacking = lackingwords(whynot);
     if (access.never) return "Never in these days: " + neverwords(access, passage) + "." + lacking;
     if (access.always) return "Always in these days: " + alwayswords(access, passage) + ".";
     if (access.windows.empty()) return "She passes at times, but not as you wish it; " + needed + "." + lacking;
+    return {};
+}
+
+std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale) {
+    constexpr std::size_t told = 3;
+    const std::string verdict = accessverdict(access, passage, plan.whynot());
+    if (!verdict.empty()) return verdict;
     std::string text;
     for (std::size_t i = 0; i < std::min(told, access.windows.size()); ++i)
         text += (i > 0 ? "; " : "") + windowwords(plan, access.windows[i], locale);
     if (access.windows.size() > told) text += "; and " + std::to_string(access.windows.size() - told) + " more";
-    return text + "." + lacking;
+    return text + "." + lackingwords(plan.whynot());
 }
 
 std::string nowtext(const Plan& plan, Moment moment) {

@@ -10,9 +10,6 @@
 
 namespace tarvane {
 
-/// "05:40"
-std::string clocktext(const ClockTime& time);
-
 /// "Sat 18 Jul", names the system's.
 std::string daytext(const Locale& locale, Date date);
 
@@ -50,6 +47,10 @@ std::string momenttext(const Plan& plan, Moment moment, const std::optional<Pass
 /// The answer: its first windows, or that there are none and whether the water or the bridge is in the way, or that she
 /// always passes, or why nothing is known. All but windows name the levels that they come from.
 std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale);
+
+/// The answer where there are no windows to tell: never, always, or none of them as wished; empty otherwise. `whynot`
+/// is why some days have no prediction.
+std::string accessverdict(const PlannedAccess& access, const Passage& passage, const std::string& whynot);
 
 /// "Now 14:32: 3.4 m, rising 0.6 m/h. High water 5.1 m at 17:02, in 2 h 30 min. Low water 0.9 m at 23:20, in 8 h 48
 /// min.", whichever comes first before the other.

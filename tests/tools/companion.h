@@ -12,6 +12,8 @@
 
 #include "fakes/temporaryfolder.h"
 #include "fakes/testport.h"
+#include "planner/portclock.h"
+#include "platform/systemzones/systemzones.h"
 #include "portdata/configuration.h"
 #include "portdata/recordfiles.h"
 #include "tides/runtides.h"
@@ -51,6 +53,8 @@ struct Companion : testing::Test {
         environment.programfolder = folder / "bin";
         environment.home = folder / "home";
         environment.today = makedate(2024, 4, 9);
+        environment.now = Moment(environment.today) + std::chrono::hours(10);
+        environment.zones = &zones;
         std::filesystem::create_directories(environment.programfolder);
         std::filesystem::create_directories(environment.home);
     }
@@ -104,6 +108,7 @@ struct Companion : testing::Test {
     }
 
     fakes::TemporaryFolder folder;
+    SystemZones zones;
     TidesEnvironment environment;
 };
 

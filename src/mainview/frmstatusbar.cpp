@@ -23,6 +23,8 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
     QFont bold = font();
     bold.setBold(true);
     statusnotes->setFont(bold);
+    statusnow = namedlabel("statusnow", this);
+    statusnow->setAccessibleName("Tide now");
     auto* column = new QVBoxLayout(rows);
     column->setContentsMargins(sidemargin, 0, sidemargin, 0);
     column->setSpacing(0);
@@ -33,6 +35,7 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
         column->addWidget(label);
     }
     addWidget(rows, 1);
+    addPermanentWidget(statusnow);
 }
 
 void StatusBar::show(const MainView& view) {
@@ -48,10 +51,19 @@ void StatusBar::show(const MainView& view) {
     fill();
 }
 
+void StatusBar::shownow(const std::string& text) {
+    const QString shown = screentext(text);
+    if (shown == statusnow->text()) return;
+    statusnow->setText(shown);
+    statusnow->setToolTip("The tide at this moment, on the port's own clock: " + shown);
+    fill();
+}
+
 /// As many notes as have room; the rest is counted, and all stand in the tool tip.
 void StatusBar::fill() {
     // By the bar's width: the labels get theirs only after this.
-    const int room = width() - 2 * sidemargin - 8;
+    const int room =
+        width() - 2 * sidemargin - 8 - (statusnow->text().isEmpty() ? 0 : statusnow->sizeHint().width() + 8);
     const QFontMetrics plain = statusline->fontMetrics();
     statusline->setText(plain.elidedText(statusline->toolTip(), Qt::ElideMiddle, room));
     const QFontMetrics bold = statusnotes->fontMetrics();

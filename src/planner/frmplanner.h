@@ -1,5 +1,5 @@
-// "Planner": a port's tides over days, when a boat can pass, and the tide now. Only controls; what they hold is the plan
-// view, what leaves it the plan commands. Stands beside the main window.
+// "Planner": a port's tides over days, when a boat can pass, and the tide now. Only controls; what they hold is the
+// plan view, what leaves it the plan commands. Stands beside the main window.
 #pragma once
 
 #include <QAction>
@@ -18,6 +18,7 @@
 #include "planner/frmplanpicture.h"
 #include "planner/frmplantable.h"
 #include "planner/planview.h"
+#include "planner/presenttide.h"
 #include "platform/qt/datebox.h"
 
 namespace tarvane {
@@ -89,6 +90,7 @@ class frmplanner : public QMainWindow {
 
     MainContext& context;
     PlanView view;
+    PresentTide present;
     QTimer* minute = nullptr;
     bool filling = false;  ///< the controls follow the view, not the user
 };

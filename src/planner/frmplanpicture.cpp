@@ -151,7 +151,8 @@ void PlanPictureBox::wheelEvent(QWheelEvent* event) {
     // Sideways, or with Shift, the wheel moves.
     const int along = turned.x() != 0 ? turned.x() : event->modifiers() & Qt::ShiftModifier ? turned.y() : 0;
     if (along != 0) {
-        moveplan(view, std::chrono::seconds(std::llround(-along / wheelclick / 8 * double((view.to - view.from).count()))));
+        moveplan(view,
+                 std::chrono::seconds(std::llround(-along / wheelclick / 8 * double((view.to - view.from).count()))));
         redraw();
     } else {
         zoom(std::pow(zoomstep, -turned.y() / wheelclick), event->position().x());

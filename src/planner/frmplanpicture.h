@@ -16,9 +16,9 @@ class PlanPictureBox : public QWidget {
   public:
     PlanPictureBox(PlanView& view, const Services& services, QWidget* parent = nullptr);
 
-    std::function<void()> oncursor;             ///< the cursor stands elsewhere or is gone
-    std::function<void(Date date)> onday;       ///< a day was double clicked
-    std::function<void()> onnow;                ///< Home was pressed while now isn't in the plan
+    std::function<void()> oncursor;        ///< the cursor stands elsewhere or is gone
+    std::function<void(Date date)> onday;  ///< a day was double clicked
+    std::function<void()> onnow;           ///< Home was pressed while now isn't in the plan
 
     void setlook(const PlanLook& wanted);
 

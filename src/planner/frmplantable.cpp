@@ -21,6 +21,7 @@ PlanTableBox::PlanTableBox(const char* name, const char* accessiblename) {
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setResizeContentsPrecision(0);
     setSortingEnabled(true);
@@ -53,7 +54,8 @@ int PlanTableBox::Model::columnCount(const QModelIndex& parent) const {
 
 QVariant PlanTableBox::Model::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole) return {};
-    return screentext(table.rows[static_cast<std::size_t>(index.row())].cells[static_cast<std::size_t>(index.column())]);
+    return screentext(
+        table.rows[static_cast<std::size_t>(index.row())].cells[static_cast<std::size_t>(index.column())]);
 }
 
 QVariant PlanTableBox::Model::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -148,6 +148,8 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         // Numbers alone need their month somewhere.
         if (form == "d" && (first || dayof(head.date) == 1)) head.tide = formatdate(picture.locale, head.date, "mmm");
         first = false;
+        // The short form where the whole word is too wide.
+        if (canvas.textwidth(head.tide, small) > room) head.tide = head.tide == "springs" ? "sp" : "np";
         const bool told = !head.tide.empty() && canvas.textwidth(head.tide, small) <= room;
         const double beside = told && head.phase >= 0 ? canvas.textwidth(head.tide, small) / 2 + radius + inset : 0;
         const double lower = top + inset / 2 + line;

@@ -54,6 +54,10 @@ QuestionRead readquestion(const PlanQuestion& question) {
     std::array<std::optional<double>, planfields> values;
     for (std::size_t i = 0; i < planfields && read.refusal.empty(); ++i) {
         const FieldRule& rule = rules[i];
+        const bool ofbridge = i == static_cast<std::size_t>(PlanField::airdraught) ||
+                              i == static_cast<std::size_t>(PlanField::bridgelevel);
+        // Without a bridge nobody reads what else stands there of one.
+        if (ofbridge && !values[static_cast<std::size_t>(PlanField::bridge)]) continue;
         if (rule.optional && trim(question[i]).empty()) continue;
         values[i] = typednumber(question[i]);
         if (values[i] && *values[i] >= rule.least && *values[i] <= rule.most) continue;
@@ -76,7 +80,8 @@ QuestionRead readquestion(const PlanQuestion& question) {
         read.refusal = "Mast: write how high it stands above the water, in metres";
     } else if (bridge && !value(PlanField::bridgelevel)) {
         read.refused = PlanField::bridgelevel;
-        read.refusal = "Bridge's level: write how many metres above chart datum the level lies that its height is given for";
+        read.refusal =
+            "Bridge's level: write how many metres above chart datum the level lies that its height is given for";
     }
     return read;
 }

@@ -1,4 +1,5 @@
-// "When can I go?": what the user types of his boat, the bottom and the bridge, and what it means. Must not reckon tides.
+// "When can I go?": what the user types of his boat, the bottom and the bridge, and what it means. Must not reckon
+// tides.
 #pragma once
 
 #include <array>

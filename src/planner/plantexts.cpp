@@ -251,4 +251,14 @@ std::string nowtext(const Plan& plan, Moment moment) {
     return when + metres(now->height) + ", " + tendency(now->rate) + "." + (highfirst ? high + low : low + high);
 }
 
+std::string shortnowtext(const Plan& plan, Moment moment) {
+    const auto now = plan.now(moment);
+    if (!now) return "";
+    std::string text = "Now " + metres(now->height) + ", " + tendency(now->rate);
+    const bool highfirst = now->nexthigh && (!now->nextlow || now->nexthigh->moment < now->nextlow->moment);
+    const auto& next = highfirst ? now->nexthigh : now->nextlow;
+    if (next) text += std::string(highfirst ? ", HW " : ", LW ") + clocktext(plan.clock().at(next->moment));
+    return text;
+}
+
 }  // namespace tarvane

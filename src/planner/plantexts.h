@@ -56,4 +56,7 @@ std::string accessverdict(const PlannedAccess& access, const Passage& passage, c
 /// min.", whichever comes first before the other.
 std::string nowtext(const Plan& plan, Moment moment);
 
+/// The same in few words, of the next water alone: "Now 3.4 m, rising 0.6 m/h, HW 17:02"; empty without a prediction.
+std::string shortnowtext(const Plan& plan, Moment moment);
+
 }  // namespace tarvane

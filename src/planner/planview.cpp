@@ -36,9 +36,9 @@ void replan(const MainContext& context, PlanView& view) {
     view.access = {};
     if (!view.whynot.empty()) return;
     view.first = std::clamp(view.first, makedate(leastyear, 1, 2), makedate(mostyear, 11, 1));
-    view.plan = std::make_shared<Plan>(PlanOf{view.port, view.about ? view.about->timezone : "", view.first,
-                                              view.settings.days, view.settings.clock},
-                                       context.services.zones);
+    view.plan = std::make_shared<Plan>(
+        PlanOf{view.port, view.about ? view.about->timezone : "", view.first, view.settings.days, view.settings.clock},
+        context.services.zones);
     answeranew(view);
 }
 
@@ -49,7 +49,7 @@ void takeport(const MainContext& context, PlanView& view) {
     view.ports.clear();
     for (const HarmonicRecord& each : readports(view.area))
         view.ports.push_back(trim(each.PortName));
-    view.whynot = !canopen(view.area)                                                      ? noareafile
+    view.whynot = !canopen(view.area)                                                            ? noareafile
                   : view.number < 1 || static_cast<std::size_t>(view.number) > view.ports.size() ? nosuchport
                                                                                                  : "";
     view.port = view.whynot.empty() ? readport(view.area, view.number) : HarmonicRecord{};
@@ -122,8 +122,8 @@ void answeranew(PlanView& view) {
     view.access = {};
     if (!view.plan || !view.settings.asked) return;
     const PlanSettings& wishes = view.settings;
-    view.access = view.plan->access(view.read.passage, {wishes.daylight, wishes.leastminutes, wishes.weekdays},
-                                    wishes.twilight);
+    view.access =
+        view.plan->access(view.read.passage, {wishes.daylight, wishes.leastminutes, wishes.weekdays}, wishes.twilight);
 }
 
 void keepsettings(MainContext& context, const PlanView& view) {
@@ -187,7 +187,7 @@ std::string plantitle(const PlanView& view, const Locale& locale) {
 }
 
 std::string answertext(const PlanView& view, const Locale& locale) {
-    if (!view.refusal.empty()) return view.refusal;
+    if (!view.refusal.empty()) return "\u26A0 " + view.refusal;
     if (!view.plan) return view.whynot;
     return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale) : "";
 }

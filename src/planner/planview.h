@@ -33,7 +33,7 @@ struct PlanView {
     std::shared_ptr<Plan> plan;  ///< none without a port
     std::string whynot;          ///< why there is none
     PlannedAccess access;
-    Moment from{}, to{};            ///< the part shown
+    Moment from{}, to{};             ///< the part shown
     std::optional<Moment> cursor{};  ///< where the user looks
 };
 

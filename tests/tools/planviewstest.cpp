@@ -68,6 +68,13 @@ TEST_F(PlanViews, YearsOnEndAndAllPortsAreTheSumOfTheirParts) {
     EXPECT_EQ(csv("--access --bottom -1 --days 370 --port all"), ports);
 }
 
+TEST_F(PlanViews, TodayIsWhatThePortsClockShows) {
+    environment.now = Moment(makedate(2026, 7, 14)) + std::chrono::minutes(23 * 60 + 30);
+    EXPECT_TRUE(has(run("--waters").out, "\nWednesday 15 July 2026\n"));
+    EXPECT_TRUE(has(run("--waters --clock ut").out, "\nTuesday 14 July 2026\n"));
+    EXPECT_TRUE(has(csv("--now"), ",2026-07-15T00:30+01:00,"));
+}
+
 TEST_F(PlanViews, JsonIsTyped) {
     const auto now = nlohmann::json::parse(run("--now --format json").out).at(0);
     EXPECT_TRUE(now["port"].is_number_integer() && now["rate"].is_number_float() && now["tendency"].is_string());

@@ -99,6 +99,17 @@ struct Companion : testing::Test {
     }
     std::string csv(const std::string& line) const { return run(line + " --format csv").out; }
 
+    /// A written-down session at a terminal, each command line behind "$ tides", with what it answers now.
+    std::string answersto(const std::string& path) const {
+        std::string answered;
+        for (const std::string& line : linesof(filetext(path))) {
+            if (!line.starts_with("$ tides")) continue;
+            const auto [status, out, err] = run(line.substr(7));
+            answered += line + "\n" + out + err + (status ? "(status " + std::to_string(status) + ")\n" : "");
+        }
+        return answered;
+    }
+
     /// Every file and folder under the temporary one with its size.
     std::map<std::string, std::uintmax_t> everything() const {
         std::map<std::string, std::uintmax_t> found;

@@ -143,7 +143,7 @@ TEST(PlanLook, WhatIsWrittenCanBeRead) {
     for (const PlanLight light : {PlanLight::day, PlanLight::dark, PlanLight::night}) {
         const PlanLook& look = planlook(light);
         for (const Rgb written : {look.text, look.faint, look.needed, look.now, look.cursor})
-            for (const Rgb behind : {look.paper, look.twilight, look.night, look.band, look.passable})
+            for (const Rgb behind : {look.paper, look.twilight, look.night, look.band, look.field, look.passable})
                 EXPECT_GE(contrast(written, behind), 4.5) << std::hex << written << " on " << behind;
         EXPECT_GE(contrast(look.text, look.seabed), 4.5);
         for (const Rgb behind : {look.paper, look.twilight, look.night})

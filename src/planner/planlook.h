@@ -1,12 +1,9 @@
 // The colours of the planner, by day, in the dark and at the chart table by night. Must not paint.
 #pragma once
 
-#include <cstdint>
+#include "platform/canvas.h"
 
 namespace tarvane {
-
-/// 0xRRGGBB.
-using Rgb = std::uint32_t;
 
 struct PlanLook {
     Rgb paper;     ///< behind the curve by day

@@ -1,4 +1,4 @@
-// The wall clock in the machine's local time. Nothing else reads the time.
+// The machine's clock, in its local time and as a moment. Nothing else reads the time.
 #pragma once
 
 #include <chrono>
@@ -12,10 +12,17 @@ struct ClockReading {
     int second = 0;               ///< 0 to 59
 };
 
+/// The moment at which a clock of universal time reads so.
+inline std::chrono::sys_seconds readas(const ClockReading& reading) {
+    return reading.today + std::chrono::hours(reading.hour) + std::chrono::minutes(reading.minute) +
+           std::chrono::seconds(reading.second);
+}
+
 class Clock {
   public:
     virtual ~Clock() = default;
     virtual ClockReading now() const = 0;
+    virtual std::chrono::sys_seconds moment() const = 0;  ///< universal time
 };
 
 }  // namespace tarvane

@@ -3,6 +3,7 @@
 
 #include "platform/clipboard.h"
 #include "platform/clock.h"
+#include "platform/drawings.h"
 #include "platform/drives.h"
 #include "platform/filedialogs.h"
 #include "platform/folders.h"
@@ -11,6 +12,7 @@
 #include "platform/printer.h"
 #include "platform/progress.h"
 #include "platform/windows.h"
+#include "platform/zones.h"
 
 namespace tarvane {
 
@@ -25,6 +27,8 @@ struct Services {
     Windows& windows;
     Progress& progress;
     Drives& drives;
+    Drawings& drawings;
+    const Zones& zones;
 };
 
 }  // namespace tarvane

@@ -11,6 +11,7 @@
 #include "fakes/scriptedprinter.h"
 #include "fakes/scriptedquestions.h"
 #include "platform/services.h"
+#include "platform/systemzones/systemzones.h"
 
 namespace tarvane {
 
@@ -35,6 +36,9 @@ struct ScriptedClock : Clock {
     }
 
     ClockReading now() const override { return reading; }
+
+    /// The same reading, taken for universal time.
+    std::chrono::sys_seconds moment() const override { return readas(reading); }
 };
 
 /// A progress that nobody sees; the user cancels when `cancelafter` steps were done.
@@ -57,6 +61,21 @@ struct ScriptedDrives : Drives {
     std::vector<Drive> drives() const override { return mounted; }
 };
 
+/// Pictures and pages that are asked for, none of them painted; files hold the kind and the title.
+struct ScriptedDrawings : Drawings {
+    std::vector<Drawing> copied;
+    std::vector<Booklet> previewed;
+
+    std::string png(const Drawing& drawing, double) override { return "PNG of " + drawing.title; }
+    std::string svg(const Drawing& drawing) override { return "SVG of " + drawing.title; }
+    std::string pdf(const Booklet& booklet, Paper) override { return "PDF of " + booklet.title; }
+    void copy(const Drawing& drawing) override { copied.push_back(drawing); }
+    PrintOutcome preview(const Booklet& booklet, Paper) override {
+        previewed.push_back(booklet);
+        return {};
+    }
+};
+
 struct ScriptedServices {
     ScriptedMessages messages;
     ScriptedFileDialogs filedialogs;
@@ -68,9 +87,12 @@ struct ScriptedServices {
     ScriptedWindows windows;
     ScriptedProgress progress;
     ScriptedDrives drives;
+    ScriptedDrawings drawings;
+    SystemZones zones;
 
     Services services() {
-        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
+        return {messages, filedialogs, printer,  clipboard, clock,    locale,
+                folders,  windows,     progress, drives,    drawings, zones};
     }
 };
 

@@ -60,6 +60,7 @@ struct QuietClipboard : Clipboard {
 /// Noon of 22 November 2026, for ever.
 struct QuietClock : Clock {
     ClockReading now() const override { return {std::chrono::year{2026} / 11 / 22, 12, 0, 0}; }
+    std::chrono::sys_seconds moment() const override { return readas(now()); }
 };
 
 struct QuietFolders : Folders {
@@ -86,6 +87,19 @@ struct QuietDrives : Drives {
     std::vector<Drive> drives() const override { return {}; }
 };
 
+struct QuietDrawings : Drawings {
+    std::string png(const Drawing&, double) override { return {}; }
+    std::string svg(const Drawing&) override { return {}; }
+    std::string pdf(const Booklet&, Paper) override { return {}; }
+    void copy(const Drawing&) override {}
+    PrintOutcome preview(const Booklet&, Paper) override { return {}; }
+};
+
+struct QuietZones : Zones {
+    std::optional<ZoneOffset> offsetat(const std::string&, std::chrono::sys_seconds) const override { return {}; }
+    std::string computerszone() const override { return {}; }
+};
+
 struct QuietSurface : DrawSurface {
     void setscale(double, double, double, double) override {}
     void setpersistent(bool) override {}
@@ -110,9 +124,12 @@ struct QuietServices {
     QuietWindows windows;
     QuietProgress progress;
     QuietDrives drives;
+    QuietDrawings drawings;
+    QuietZones zones;
 
     Services services() {
-        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
+        return {messages, filedialogs, printer,  clipboard, clock,    locale,
+                folders,  windows,     progress, drives,    drawings, zones};
     }
 };
 

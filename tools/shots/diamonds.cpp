@@ -83,7 +83,7 @@ void takediamonds(Stage& stage, const std::function<void(QWidget&, const QString
     const Services& real = onstage.services;
     MainContext context{onstage.session,
                         {messages, real.filedialogs, real.printer, real.clipboard, real.clock, real.locale,
-                         real.folders, real.windows, real.progress, medium},
+                         real.folders, real.windows, real.progress, medium, real.drawings, real.zones},
                         onstage.surfaces};
     frmimport import(context, &stage.window());
     emit import.dirDirectories->itemDoubleClicked(import.dirDirectories->item(2));

@@ -38,8 +38,8 @@ struct Press {
 
     Services withown() {
         const Services& s = onstage.services;
-        return {yes,      s.filedialogs, printer,   s.clipboard, s.clock,
-                s.locale, s.folders,     s.windows, s.progress,  s.drives};
+        return {yes,       s.filedialogs, printer,    s.clipboard, s.clock,    s.locale,
+                s.folders, s.windows,     s.progress, s.drives,    s.drawings, s.zones};
     }
 
     void day(std::int16_t port, Date date, float output) {

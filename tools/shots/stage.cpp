@@ -74,8 +74,8 @@ Stage::Stage() : clock(std::make_unique<QtClock>()) {
 void Stage::open() {
     ProbedDate today;
     session.conventions = CheckDateFormat(real.locale, clock->now().today, today);
-    const Services services{real.messages, real.filedialogs, real.printer, real.clipboard, *clock,
-                            real.locale,   real.folders,     real.windows, real.progress,  real.drives};
+    const Services services{real.messages, real.filedialogs, real.printer,  real.clipboard, *clock,        real.locale,
+                            real.folders,  real.windows,     real.progress, real.drives,    real.drawings, real.zones};
     mainwindow = std::make_unique<frmtarvane>(session, services);
     mainwindow->Form_Load();
     mainwindow->show();

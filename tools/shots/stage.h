@@ -16,6 +16,7 @@ class StandingClock : public Clock {
   public:
     explicit StandingClock(const ClockReading& at) : reading(at) {}
     ClockReading now() const override { return reading; }
+    std::chrono::sys_seconds moment() const override { return readas(reading); }
 
   private:
     ClockReading reading;

@@ -11,4 +11,8 @@ ClockReading QtClock::now() const {
     return {today, now.time().hour(), now.time().minute(), now.time().second()};
 }
 
+std::chrono::sys_seconds QtClock::moment() const {
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
 }  // namespace tarvane

@@ -1,4 +1,4 @@
-// The machine's clock in local time.
+// The machine's clock.
 #pragma once
 
 #include "platform/clock.h"
@@ -8,6 +8,7 @@ namespace tarvane {
 class QtClock : public Clock {
   public:
     ClockReading now() const override;
+    std::chrono::sys_seconds moment() const override;
 };
 
 }  // namespace tarvane

@@ -3,6 +3,7 @@
 
 #include "platform/qt/qtclipboard.h"
 #include "platform/qt/qtclock.h"
+#include "platform/qt/qtdrawings.h"
 #include "platform/qt/qtdrives.h"
 #include "platform/qt/qtfiledialogs.h"
 #include "platform/qt/qtfolders.h"
@@ -12,6 +13,7 @@
 #include "platform/qt/qtprogress.h"
 #include "platform/qt/qtwindows.h"
 #include "platform/services.h"
+#include "platform/systemzones/systemzones.h"
 
 namespace tarvane {
 
@@ -26,9 +28,12 @@ struct QtServices {
     QtWindows windows;
     QtProgress progress;
     QtDrives drives;
+    QtDrawings drawings;
+    SystemZones zones;
 
     Services services() {
-        return {messages, filedialogs, printer, clipboard, clock, locale, folders, windows, progress, drives};
+        return {messages, filedialogs, printer,  clipboard, clock,    locale,
+                folders,  windows,     progress, drives,    drawings, zones};
     }
 };
 

@@ -1,0 +1,57 @@
+// The picture of a plan: the curve over night and day, the heads of its days, its waters with their times, the windows
+// of passage, the level needed. Laid out for a canvas of any size, and painted. Must not reckon tides.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "planner/plan.h"
+#include "planner/planlook.h"
+#include "platform/canvas.h"
+#include "platform/locale.h"
+
+namespace tarvane {
+
+/// What is to be seen, and where.
+struct PlanPicture {
+    const Plan& plan;
+    const Locale& locale;
+    const PlanLook& look;
+    Area area;                              ///< of the canvas; all of it is painted
+    Moment from, to;                        ///< of the part that is shown
+    std::optional<Passage> passage = {};    ///< when the level needed and the bottom are shown
+    const PlannedAccess* access = nullptr;  ///< windows that are shown
+    double textsize = 12;                   ///< of most of its texts
+};
+
+/// Which moment and height lie where.
+struct PlanScale {
+    Area plot;  ///< within the picture's area
+    Moment from, to;
+    double least = 0, greatest = 1;  ///< heights at the plot's foot and head
+
+    double x(Moment moment) const;
+    double y(double height) const;
+    Moment moment(double x) const;  ///< to the second, also beyond the plot
+};
+
+/// Measures texts on the canvas, paints nothing.
+PlanScale scaleof(const PlanPicture& picture, const Canvas& canvas);
+
+void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale);
+
+/// The line of now; nothing where it isn't within the part shown.
+void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment now);
+
+/// The cursor, a line with a dot on the curve, and a bubble with the lines of `words`.
+void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment at,
+                 const std::vector<std::string>& words);
+
+/// The shape under a curve from one moment to another: what a window of passage fills.
+std::vector<Place> curveplaces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
+
+/// A moon of a phase, 0 new to 3 last quarter, as the north sees it.
+void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const PlanLook& look);
+
+}  // namespace tarvane

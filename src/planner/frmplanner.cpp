@@ -10,6 +10,7 @@
 #include "planner/plantexts.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/modaldialog.h"
+#include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"
 #include "portdata/portsearch.h"
 
@@ -45,6 +46,7 @@ PlanLight plannerlight(bool night) {
 
 frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(openplanview(maincontext)) {
     setObjectName("frmplanner");
+    setProperty(ownlight, true);
     setWindowTitle("Planner");
     QFont own = font();
     own.setPointSizeF(std::max(own.pointSizeF(), desktoplook().fontpoints));

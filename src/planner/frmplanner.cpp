@@ -63,6 +63,10 @@ frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(op
     fitscreen(*this);
     centreon(*this, nullptr);
     picture->setFocus();
+    // What was typed is on the screen first, and then kept.
+    keeplater = new QTimer(this);
+    keeplater->setSingleShot(true);
+    connect(keeplater, &QTimer::timeout, this, [this] { keepsettings(context, view); });
     minute = new QTimer(this);
     minute->setInterval(ticks);
     connect(minute, &QTimer::timeout, this, [this] { shownow(); });
@@ -83,13 +87,13 @@ void frmplanner::connectcontrols() {
     DTPicker->onpicked = [this](DateBox::Date date) { gotodate(date); };
     connect(cmbSpan, &QComboBox::activated, this, [this](int row) {
         showdays(context, view, view.first, spans[static_cast<std::size_t>(row)]);
-        keepsettings(context, view);
         showplan();
+        keeplater->start();
     });
     connect(cmbClock, &QComboBox::activated, this, [this](int row) {
         showclock(context, view, static_cast<ClockChoice>(row));
-        keepsettings(context, view);
         showplan();
+        keeplater->start();
     });
     connect(cmbPort, &QComboBox::activated, this, [this](int row) {
         if (onport && row >= 0) onport(static_cast<std::int16_t>(row + 1));
@@ -127,8 +131,8 @@ void frmplanner::connectquestion() {
         // None chosen asks for none: all are as good.
         view.settings.weekdays = wanted == 0 ? everyweekday : wanted;
         answeranew(view);
-        keepsettings(context, view);
         showanswer();
+        keeplater->start();
     };
     connect(fraQuestion, &QGroupBox::toggled, this, wished);
     connect(cmbDaylight, &QComboBox::activated, this, wished);
@@ -142,8 +146,8 @@ void frmplanner::ask() {
     for (std::size_t i = 0; i < planfields; ++i)
         question[i] = fields[i]->text().toStdString();
     askquestion(context, view, question);
-    if (view.refusal.empty()) keepsettings(context, view);
     showanswer();
+    if (view.refusal.empty()) keeplater->start();
 }
 
 void frmplanner::fillports() {
@@ -211,7 +215,8 @@ void frmplanner::showanswer() {
     lblAnswer->setText(screentext(answertext(view, context.services.locale)).replace("; ", "\n"));
     for (std::size_t i = 0; i < planfields; ++i) {
         const bool refused = !view.refusal.empty() && readquestion(view.question).refused == static_cast<PlanField>(i);
-        QFont font = fraQuestion->font();
+        QFont font = fields[i]->font();
+        if (font.underline() == refused) continue;
         font.setUnderline(refused);
         fields[i]->setFont(font);
     }

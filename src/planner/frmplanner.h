@@ -91,7 +91,7 @@ class frmplanner : public QMainWindow {
     MainContext& context;
     PlanView view;
     PresentTide present;
-    QTimer* minute = nullptr;
+    QTimer *minute = nullptr, *keeplater = nullptr;
     bool filling = false;  ///< the controls follow the view, not the user
 };
 

@@ -19,8 +19,10 @@ std::string isodate(Date date) {
     return digits(yearof(date), 4) + "-" + digits(monthof(date), 2) + "-" + digits(dayof(date), 2);
 }
 
-std::string momenttext(Date date, const std::string& clock, int hoursahead) {
-    return isodate(date) + "T" + clock + (hoursahead < 0 ? "-" : "+") + digits(std::abs(hoursahead), 2) + ":00";
+std::string isomoment(Date date, const std::string& clock, std::chrono::minutes ahead) {
+    const int count = std::abs(static_cast<int>(ahead.count()));
+    return isodate(date) + "T" + clock + (ahead.count() < 0 ? "-" : "+") + digits(count / 60, 2) + ":" +
+           digits(count % 60, 2);
 }
 
 }  // namespace tarvane

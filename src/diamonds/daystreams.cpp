@@ -32,7 +32,7 @@ TideStreams streamsof(const DiamondRecord& diamond, const DayStreams& day, Date 
 }
 
 std::string isotext(const ClockMoment& moment, int hoursahead) {
-    return momenttext(moment.date, timetext(moment.time), hoursahead);
+    return isomoment(moment.date, timetext(moment.time), std::chrono::hours(hoursahead));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "mainview/frmstatusbar.h"
 
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "platform/qt/named.h"
@@ -23,15 +24,21 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
     QFont bold = font();
     bold.setBold(true);
     statusnotes->setFont(bold);
+    statusnow = namedlabel("statusnow", rows);
+    statusnow->setAccessibleName("Tide now");
     auto* column = new QVBoxLayout(rows);
     column->setContentsMargins(sidemargin, 0, sidemargin, 0);
     column->setSpacing(0);
-    for (QLabel* label : {statusline, statusnotes}) {
-        // The text is fitted to the label and never widens the window.
+    // The texts are fitted to these labels and never widen the window.
+    for (QLabel* label : {statusline, statusnotes})
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    for (QLabel* label : {statusline, statusnotes, statusnow})
         label->setFixedHeight(label->fontMetrics().height() + 1);
-        column->addWidget(label);
-    }
+    auto* lower = new QHBoxLayout;
+    lower->addWidget(statusnotes, 1);
+    lower->addWidget(statusnow);
+    column->addWidget(statusline);
+    column->addLayout(lower);
     addWidget(rows, 1);
 }
 
@@ -48,10 +55,19 @@ void StatusBar::show(const MainView& view) {
     fill();
 }
 
+void StatusBar::shownow(const std::string& text) {
+    const QString shown = screentext(text);
+    if (shown == statusnow->text()) return;
+    statusnow->setText(shown);
+    statusnow->setToolTip("The tide at this moment, on the port's own clock: " + shown);
+    fill();
+}
+
 /// As many notes as have room; the rest is counted, and all stand in the tool tip.
 void StatusBar::fill() {
     // By the bar's width: the labels get theirs only after this.
     const int room = width() - 2 * sidemargin - 8;
+    const int lower = room - (statusnow->text().isEmpty() ? 0 : statusnow->sizeHint().width() + sidemargin);
     const QFontMetrics plain = statusline->fontMetrics();
     statusline->setText(plain.elidedText(statusline->toolTip(), Qt::ElideMiddle, room));
     const QFontMetrics bold = statusnotes->fontMetrics();
@@ -67,9 +83,9 @@ void StatusBar::fill() {
     qsizetype count = notes.size();
     // What was saved or printed where is told before the notes, which can be reduced to their number.
     const qsizetype least = answer.isEmpty() ? 1 : 0;
-    while (count > least && bold.horizontalAdvance(joined(count)) > room)
+    while (count > least && bold.horizontalAdvance(joined(count)) > lower)
         --count;
-    statusnotes->setText(bold.elidedText(joined(count), Qt::ElideMiddle, room));
+    statusnotes->setText(bold.elidedText(joined(count), Qt::ElideMiddle, lower));
     statusnotes->setToolTip(joined(notes.size()));
 }
 

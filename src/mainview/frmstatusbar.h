@@ -15,8 +15,12 @@ class StatusBar : public QStatusBar {
 
     void show(const MainView& view);
 
+    /// The present tide, in few words.
+    void shownow(const std::string& text);
+
     QLabel* statusline = nullptr;
     QLabel* statusnotes = nullptr;
+    QLabel* statusnow = nullptr;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QShortcut>
 
+#include "mainview/plannersteps.h"
 #include "mainview/stepping.h"
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/screentext.h"
@@ -54,6 +55,12 @@ void frmtarvane::Form_Load() {
 void frmtarvane::showview() {
     refreshstatus(context);
     copyview();
+    shownow();
+    if (planner && planner->isVisible()) planner->follow();
+}
+
+void frmtarvane::shownow() {
+    statusbar->shownow(presenttidetext(context, present));
 }
 
 void frmtarvane::copyview() {

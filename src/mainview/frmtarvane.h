@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "adjust/frmharmadjust.h"
+#include "planner/frmplanner.h"
 
 #include "mainview/frmlayerspanel.h"
 #include "mainview/frmstatusbar.h"
@@ -29,6 +30,9 @@ class frmtarvane : public QMainWindow {
 
     /// The start-up: reads what is stored, predicts today and starts the timers.
     void Form_Load();
+
+    /// Opens the planner where the user wants it at the start.
+    void openatstart();
 
     /// Copies the session's view to every control.
     void showview();
@@ -84,6 +88,8 @@ class frmtarvane : public QMainWindow {
     void choose(const MenuEntry& entry);
     void opendialog(Dialog dialog);
     void openadjust();
+    void openplanner();
+    void shownow();
 
     /// A menu or an entry that the view can hide or disable.
     struct Switched {
@@ -105,7 +111,9 @@ class frmtarvane : public QMainWindow {
     bool loaded = false;
     bool layingout = false;                 ///< the controls are being placed: resized pictures wait
     std::unique_ptr<frmHarmAdjust> adjust;  ///< once it was opened
-    bool resized = false;                   ///< a picture is empty and waits to be drawn anew
+    std::unique_ptr<frmplanner> planner;    ///< once it was opened
+    PresentTide present;
+    bool resized = false;  ///< a picture is empty and waits to be drawn anew
 };
 
 }  // namespace tarvane

@@ -9,6 +9,7 @@
 #include "diamonds/frmtidaldiamondscopy.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/frmtimdat.h"
+#include "mainview/plannersteps.h"
 #include "ports/frmchartdepth.h"
 #include "ports/frmconfig.h"
 #include "ports/frmharmedit.h"
@@ -45,6 +46,8 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openmodal<Frmsunrise>(context, this);
         case Dialog::adjust:
             return openadjust();
+        case Dialog::planner:
+            return openplanner();
         case Dialog::correctconstants:
             return openmodal<frmharmedit>(context, this);
         case Dialog::copyports:
@@ -70,8 +73,32 @@ void frmtarvane::openadjust() {
     adjust->activateWindow();
 }
 
+/// The planner stands beside the main window too, and follows it to another port.
+void frmtarvane::openplanner() {
+    if (!planner) {
+        planner = std::make_unique<frmplanner>(context);
+        planner->onport = [this](std::int16_t number) {
+            chooseport(context, number);
+            showview();
+        };
+        planner->onday = [this](Date date) {
+            showdate(context, date);
+            showview();
+        };
+    }
+    planner->follow();
+    planner->show();
+    planner->raise();
+    planner->activateWindow();
+}
+
+void frmtarvane::openatstart() {
+    if (readplansettings(plansettingspath(session.folders)).openatstart) openplanner();
+}
+
 void frmtarvane::closeEvent(QCloseEvent* event) {
     if (adjust && adjust->isVisible() && !adjust->close()) return event->ignore();
+    if (planner) planner->close();
     QMainWindow::closeEvent(event);
 }
 

@@ -104,6 +104,10 @@ void streamsforday(Desk& desk) {
     desk.open(Dialog::streams);
 }
 
+void openplanner(Desk& desk) {
+    desk.open(Dialog::planner);
+}
+
 void help(Desk& desk) {
     desk.context.services.windows.showmanual("frmtarvane");
 }
@@ -143,6 +147,7 @@ constexpr MenuEntry entries[] = {
     {"mnutides", "mnuArea", "Sea &Area", "", selectarea},
     {"mnuCalc", "mnumonth", "&Months Tide", "Ctrl+M", run<calculatemonth>, true},
     {"mnuCalc", "mnusunrise", "&Sunrise/Lunar phases", "", sunandmoon},
+    {"mnuCalc", "mnuPlanner", "&Planner", "Ctrl+G", openplanner},
     {"mnuCalc", "mnuStreams", "S&treams for a Day", "", streamsforday},
     {"mnuCopy", "mnuCopyDaysTides", "C&opy Days Tides", "Ctrl+C", run<copydaystides>},
     {"mnuCopy", "mnuCopyMonth", "Copy &Months Tides", "", run<copymonthstides>},

@@ -23,13 +23,14 @@ enum class Dialog {
     streams,
     copydiamonds,
     importcharts,
+    planner,
     adjust
 };
 
 /// What a menu command works with: the session's context, and what only the window itself can do.
 struct Desk {
     MainContext& context;
-    std::function<void(Dialog)> open;  ///< shows a window, modal but for `adjust`: back when it is closed
+    std::function<void(Dialog)> open;  ///< shows a window, modal but for `adjust` and `planner`: back when it is closed
     std::function<void()> leave;       ///< closes the main window
 };
 

@@ -42,7 +42,7 @@ Heights heightswithin(const TideSpan& span, double from, double to) {
                                 [](const TideRun& each, double at) { return each.to < at; });
     for (; run != span.runs().end() && run->from <= to; ++run) {
         if (run->from >= from) take(run->first);
-        if (run->to <= to) take(run->last);
+        if (run->to > from && run->to <= to) take(run->last);
     }
     for (const double end : {from, to})
         if (const auto height = span.height(end)) take(*height);
@@ -63,8 +63,8 @@ Window cuttominutes(const TideSpan& span, Stretch between, const Stretch& open, 
         ++window.opens;
     while (window.closes >= window.opens && !suffices(window.closes))
         --window.closes;
-    window.cutatstart = open.from < between.from + touching;
-    window.cutatend = open.to > between.to - touching;
+    window.cutatstart = open.from < between.from + touching || !span.height(open.from - touching);
+    window.cutatend = open.to > between.to - touching || !span.height(open.to + touching);
     return window;
 }
 
@@ -84,10 +84,10 @@ std::vector<Window> windowsof(const TideSpan& span, Stretch between, double floo
     return windows;
 }
 
-bool wished(const Window& window, const WindowWishes& wishes) {
-    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
-    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
-    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
+/// From one end to the other, but for less than a minute.
+bool spans(const Window& window, Stretch between) {
+    return static_cast<double>(window.opens) < between.from * 60 + 1 &&
+           static_cast<double>(window.closes) > between.to * 60 - 1;
 }
 
 }  // namespace
@@ -97,16 +97,29 @@ std::optional<double> Passage::ceiling() const {
     return bridgelevel + *bridge - airdraught;
 }
 
+bool wished(const Window& window, const WindowWishes& wishes) {
+    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
+    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
+    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
+}
+
 Access accessof(const TideSpan& span, Stretch between, const Passage& passage, const Stretches& daylight,
                 const WindowWishes& wishes) {
     const double floor = passage.needed(), ceiling = passage.ceiling().value_or(HUGE_VAL);
     Access access;
     const std::vector<Window> windows = windowsof(span, between, floor, ceiling);
     access.never = windows.empty();
-    access.always = windows.size() == 1 && windows[0].cutatstart && windows[0].cutatend;
+    access.always = windows.size() == 1 && spans(windows[0], between);
+    // Without the last moment, which is of the day behind.
+    const Heights all = heightswithin(span, between.from, between.to - touching);
+    if (all.least <= all.greatest) {
+        access.greatestheight = all.greatest;
+        access.leastheight = all.least;
+    }
     for (Window window : windows) {
         const double from = static_cast<double>(window.opens) / 60, to = static_cast<double>(window.closes) / 60;
-        window.daylightminutes = std::lround(60 * sharedhours(daylight, from, to));
+        window.daylight = sharedhours(daylight, from, to);
+        window.daylightminutes = std::lround(60 * window.daylight);
         if (!wished(window, wishes)) continue;
         const Heights heights = heightswithin(span, from, to);
         window.greatestheight = heights.greatest;

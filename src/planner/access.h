@@ -25,26 +25,36 @@ struct Passage {
 
 enum class Daylight { none, part, whole };
 
+/// A set of days of the week: bit 0 is Sunday.
+using Weekdays = unsigned;
+inline constexpr Weekdays everyweekday = 0x7F;
+
 /// What windows are wanted beyond the tide.
 struct WindowWishes {
     Daylight daylight = Daylight::none;  ///< none asks for none
     int leastminutes = 0;
+    Weekdays weekdays = everyweekday;  ///< on one of which some of it lies; applied by a plan, which knows the clock
 };
 
 struct Window {
     long opens = 0, closes = 0;  ///< minutes from the span's start; opening rounded up, closing rounded down
     double greatestheight = 0;   ///< of the tide within
     double leastmargin = 0;      ///< over the height needed, and under the ceiling, whichever is less
+    double daylight = 0;         ///< of it, in hours
     long daylightminutes = 0;
-    bool cutatstart = false, cutatend = false;  ///< the time looked at ends there, not the water
+    bool cutatstart = false, cutatend = false;  ///< the time looked at or its prediction ends there, not the water
 
     long minutes() const { return closes - opens; }
 };
 
+/// Whether a window is long enough and light enough, and of one minute at least.
+bool wished(const Window& window, const WindowWishes& wishes);
+
 struct Access {
-    std::vector<Window> windows;  ///< of one minute at least
-    bool always = false;          ///< all the time looked at
-    bool never = false;           ///< at no minute of it, whatever the wishes
+    std::vector<Window> windows;                        ///< of one minute at least
+    bool always = false;                                ///< all the time looked at
+    bool never = false;                                 ///< at no minute of it, whatever the wishes
+    std::optional<double> greatestheight, leastheight;  ///< of the tide in all that time; nothing without a prediction
 };
 
 /// The windows of a span between two of its moments. `daylight` are its stretches of light; a window lies wholly in it

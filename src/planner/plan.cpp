@@ -1,6 +1,7 @@
 #include "planner/plan.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tarvane {
@@ -30,6 +31,18 @@ void shift(Stretches& stretches, double by) {
     }
 }
 
+/// The mean moon's upper and lower passages since 2000, less the port's lag: high waters of a port with one tide like
+/// another stand near whole numbers, low waters near halves.
+long tidenumber(const HarmonicRecord& port, Moment moment, bool high) {
+    constexpr double moonhours = 28.9841042;  // degrees an hour
+    constexpr double atstart = 136.5;         // twice the angle from the mean moon at 2000-01-01 00:00
+    constexpr Moment start{std::chrono::sys_days{std::chrono::year{2000} / 1 / 1}};
+    const double zonetime = static_cast<double>((moment - start).count()) / 3600 - zonehoursof(port);
+    const double lag = std::isfinite(port.M2g) ? double{port.M2g} : 0;
+    const double turns = (atstart + moonhours * zonetime - lag) / 360;
+    return std::lround(high ? turns : turns - 0.5);
+}
+
 /// The mean share of the waters about each: of three high waters and the lows between.
 std::vector<double> smoothedshares(const std::vector<PlannedWater>& waters) {
     constexpr std::size_t aside = 3;
@@ -44,6 +57,14 @@ std::vector<double> smoothedshares(const std::vector<PlannedWater>& waters) {
 
 }  // namespace
 
+bool wished(const PortClock& clock, const PlannedWindow& window, const WindowWishes& wishes) {
+    if (!wished(window.window, wishes)) return false;
+    const Date last = clock.at(window.closes - minutes(1)).date;
+    for (Date date = clock.at(window.opens).date; date <= last; date += days(1))
+        if (wishes.weekdays >> std::chrono::weekday(date).c_encoding() & 1U) return true;
+    return false;
+}
+
 Plan::Plan(const PlanOf& of, const Zones& zones)
     : of_(of),
       clock_(of.clock, zonehoursof(of.port), of.iana, zones),
@@ -51,15 +72,53 @@ Plan::Plan(const PlanOf& of, const Zones& zones)
       ends_(clock_.startof(of.first + days(of.days))),
       origin_(Moment(spanstart(begins_, zonehoursof(of.port))) + hours(zonehoursof(of.port))),
       tides_(of.port, spanstart(begins_, zonehoursof(of.port)), spandays(begins_, ends_)) {
+    if (lacksdays()) whynot_ = tides_.whynot();
     const Date first = floor<days>(origin_);
     light_ = lightof(of.port.PortLat, of.port.PortLong, first, tides_.days() + 1);
     const double offset = static_cast<double>((Moment(first) - origin_).count()) / 3600;
     shift(light_.day, offset);
     shift(light_.civil, offset);
-    for (const Water& water : watersof(tides_, meanspringrange(of.port))) {
+    for (const Water& water : watersof(tides_, meanspringrange(of.port)))
         around_.push_back({momentof(water.hours), water});
-        if (around_.back().moment >= begins_ && around_.back().moment < ends_) waters_.push_back(around_.back());
+    nametides();
+    for (const PlannedWater& each : around_)
+        if (each.moment >= begins_ && each.moment < ends_) waters_.push_back(each);
+}
+
+void Plan::nametides() {
+    std::array<std::optional<TideName>, 2> last;  // by kind
+    for (PlannedWater& each : around_) {
+        std::optional<TideName>& before = last.at(each.water.high ? 1 : 0);
+        each.name = {tidenumber(of_.port, each.moment, each.water.high), each.water.high};
+        if (before && before->tide == each.name.tide) each.name.nth = before->nth + 1;
+        before = each.name;
     }
+}
+
+/// Where she passes at all waters looked at, the last one before the window.
+void Plan::nameopenings(std::vector<PlannedWindow>& windows, const Passage& passage) const {
+    const double floor = passage.needed(), ceiling = passage.ceiling().value_or(HUGE_VAL);
+    const auto passes = [&](const PlannedWater& each) {
+        return each.water.height >= floor && each.water.height <= ceiling;
+    };
+    for (PlannedWindow& window : windows) {
+        const auto behind =
+            std::upper_bound(around_.begin(), around_.end(), window.opens,
+                             [](Moment moment, const PlannedWater& each) { return moment < each.moment; });
+        const auto before = std::make_reverse_iterator(behind);
+        auto opening = std::find_if_not(before, around_.rend(), passes);
+        if (opening == around_.rend()) opening = before;
+        if (opening != around_.rend()) window.opening = opening->name;
+    }
+    for (std::size_t i = 1; i < windows.size(); ++i)
+        if (windows[i].opening == windows[i - 1].opening) windows[i].part = windows[i - 1].part + 1;
+}
+
+/// Whether a day of the span that lies within the plan has no prediction: those around may.
+bool Plan::lacksdays() const {
+    for (Moment moment = begins_; moment < ends_; moment += days(1))
+        if (!height(moment)) return true;
+    return !height(ends_ - minutes(1));
 }
 
 double Plan::spanhours(Moment moment) const {
@@ -74,9 +133,11 @@ Moment Plan::momentof(double spanhours) const {
 PlannedAccess Plan::access(const Passage& passage, const WindowWishes& wishes, bool twilight) const {
     const Access found =
         accessof(tides_, {spanhours(begins_), spanhours(ends_)}, passage, twilight ? light_.civil : light_.day, wishes);
-    PlannedAccess access{{}, found.always, found.never};
+    PlannedAccess access{{}, found.always, found.never, found.greatestheight, found.leastheight};
     for (const Window& window : found.windows)
         access.windows.push_back({origin_ + minutes(window.opens), origin_ + minutes(window.closes), window});
+    nameopenings(access.windows, passage);
+    std::erase_if(access.windows, [&](const PlannedWindow& window) { return !wished(clock_, window, wishes); });
     return access;
 }
 

@@ -13,22 +13,39 @@
 
 namespace tarvane {
 
+/// Which tide a water is, whatever constants it is predicted from: the count of the mean moon's passages, as the port's
+/// own lag has them, keeps its number where the water moves by minutes.
+struct TideName {
+    long tide = 0;
+    bool high = false;
+    int nth = 0;  ///< of the waters of a kind that share that number, from 0 on
+
+    bool operator==(const TideName&) const = default;
+};
+
 /// A water at its minute.
 struct PlannedWater {
     Moment moment;
     Water water;
+    TideName name{};
 };
 
 /// A window between two minutes.
 struct PlannedWindow {
     Moment opens, closes;
     Window window;
+    TideName opening{};  ///< the last water before it at which she doesn't pass
+    int part = 0;        ///< of several with one such water, from 0 on
 };
 
 struct PlannedAccess {
     std::vector<PlannedWindow> windows;
     bool always = false, never = false;
+    std::optional<double> greatestheight, leastheight;  ///< of the tide in the plan
 };
+
+/// Whether a window is long enough, light enough, and some minute of it on one of the days of the week.
+bool wished(const PortClock& clock, const PlannedWindow& window, const WindowWishes& wishes);
 
 /// Springs or neaps by the port's own ranges.
 struct SpringTide {
@@ -63,7 +80,7 @@ class Plan {
     Moment ends() const { return ends_; }      ///< of the day behind its last
 
     /// Why there are no tides on some day of it; empty when there are on all.
-    const char* whynot() const { return tides_.whynot(); }
+    const char* whynot() const { return whynot_; }
 
     std::optional<double> height(Moment moment) const { return tides_.height(spanhours(moment)); }
     std::optional<double> rate(Moment moment) const { return tides_.rate(spanhours(moment)); }
@@ -83,6 +100,9 @@ class Plan {
     std::optional<TideNow> now(Moment moment) const;
 
   private:
+    bool lacksdays() const;
+    void nametides();
+    void nameopenings(std::vector<PlannedWindow>& windows, const Passage& passage) const;
     double spanhours(Moment moment) const;
     Moment momentof(double spanhours) const;
 
@@ -91,6 +111,7 @@ class Plan {
     Moment begins_, ends_;
     Moment origin_;  ///< of the span's hours
     TideSpan tides_;
+    const char* whynot_ = "";
     Light light_;                       ///< in the span's hours
     std::vector<PlannedWater> around_;  ///< of the plan and some days on both sides
     std::vector<PlannedWater> waters_;

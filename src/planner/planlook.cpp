@@ -11,6 +11,7 @@ constexpr PlanLook daylook{.paper = 0xFFFFFF,
                            .twilight = 0xEEF1F6,
                            .night = 0xDDE3EC,
                            .band = 0xF4F5F7,
+                           .field = 0xFFFFFF,
                            .grid = 0xC3CAD4,
                            .text = 0x1B2430,
                            .faint = 0x4A5563,
@@ -19,13 +20,14 @@ constexpr PlanLook daylook{.paper = 0xFFFFFF,
                            .hatch = 0x2E7D46,
                            .needed = 0x1E5B33,
                            .seabed = 0xC9B38C,
-                           .now = 0xC62828,
+                           .now = 0xAF1B1B,
                            .cursor = 0x5B2A86};
 
 constexpr PlanLook darklook{.paper = 0x20262E,
                             .twilight = 0x1A2027,
                             .night = 0x12171D,
                             .band = 0x2A323C,
+                            .field = 0x161B21,
                             .grid = 0x46515F,
                             .text = 0xE8ECF1,
                             .faint = 0xB3BDC9,
@@ -34,7 +36,7 @@ constexpr PlanLook darklook{.paper = 0x20262E,
                             .hatch = 0x5FC27E,
                             .needed = 0x8FE0A8,
                             .seabed = 0x6B5B3E,
-                            .now = 0xFF7A70,
+                            .now = 0xFF9088,
                             .cursor = 0xD3A6FF};
 
 // Red alone, which leaves the eye its sight in the dark.
@@ -42,16 +44,17 @@ constexpr PlanLook nightlook{.paper = 0x140000,
                              .twilight = 0x0E0000,
                              .night = 0x080000,
                              .band = 0x1C0000,
+                             .field = 0x300000,
                              .grid = 0x4A0000,
-                             .text = 0xFF4A3A,
-                             .faint = 0xE03A2C,
+                             .text = 0xFF6250,
+                             .faint = 0xEE4434,
                              .curve = 0xFF5A48,
                              .passable = 0x330000,
                              .hatch = 0xA02018,
                              .needed = 0xFF6A58,
                              .seabed = 0x3C1008,
                              .now = 0xFF8070,
-                             .cursor = 0xFF9080};
+                             .cursor = 0xFF8C78};
 
 double luminance(Rgb colour) {
     const std::array<double, 3> weights{0.2126, 0.7152, 0.0722};

@@ -9,7 +9,8 @@ struct PlanLook {
     Rgb paper;     ///< behind the curve by day
     Rgb twilight;  ///< behind it in civil twilight
     Rgb night;
-    Rgb band;  ///< behind the heads of the days
+    Rgb band;   ///< behind the heads of the days, and the window
+    Rgb field;  ///< behind what is typed and listed
     Rgb grid;
     Rgb text;
     Rgb faint;  ///< of lesser texts

@@ -23,6 +23,7 @@ struct PlanPicture {
     std::optional<Passage> passage = {};    ///< when the level needed and the bottom are shown
     const PlannedAccess* access = nullptr;  ///< windows that are shown
     double textsize = 12;                   ///< of most of its texts
+    std::string title = {};                 ///< above it; empty for none
 };
 
 /// Which moment and height lie where.
@@ -48,8 +49,9 @@ void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale
 void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment at,
                  const std::vector<std::string>& words);
 
-/// The shape under a curve from one moment to another: what a window of passage fills.
-std::vector<Place> curveplaces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
+/// The curve from one moment to another, a place a unit of width, in as many pieces as days without a prediction part
+/// it.
+std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
 
 /// A moon of a phase, 0 new to 3 last quarter, as the north sees it.
 void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const PlanLook& look);

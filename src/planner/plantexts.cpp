@@ -13,18 +13,22 @@ namespace {
 using std::chrono::days;
 using std::chrono::minutes;
 
+constexpr double standingrate = 0.05;  // metres an hour
 constexpr const char* phasewords[] = {"New moon", "First quarter", "Full moon", "Last quarter"};
 
 double keyof(Moment moment) {
     return static_cast<double>(moment.time_since_epoch().count());
 }
 
-/// Whether the clock is changed between the plan's ends.
+/// Whether the clock is changed within the plan; a year has two changes, after which it is as it was.
 bool clockchanges(const Plan& plan) {
-    return plan.clock().at(plan.begins()).ahead != plan.clock().at(plan.ends() - minutes(1)).ahead;
+    const auto ahead = plan.clock().at(plan.begins()).ahead;
+    for (Moment moment = plan.begins(); moment < plan.ends(); moment += days(1))
+        if (plan.clock().at(moment).ahead != ahead) return true;
+    return plan.clock().at(plan.ends() - minutes(1)).ahead != ahead;
 }
 
-/// "Sat 18 Jul", and the clock time, with its offset where the clock is changed within the plan.
+/// The clock time, with its offset where the clock is changed within the plan.
 std::string timecell(const Plan& plan, Moment moment, bool changes) {
     const ClockTime time = plan.clock().at(moment);
     return clocktext(time) + (changes ? " " + utname(time.ahead) : "");
@@ -42,10 +46,10 @@ std::string kindword(const Water& water) {
     return std::string(water.high ? "High" : "Low") + (water.stand ? " (stand)" : "");
 }
 
-/// "rising 0.8 m/h"; a tide of less than 5 cm an hour stands.
+/// "rising 0.8 m/h"; what stands has no rate.
 std::string tendency(double rate) {
-    if (std::abs(rate) < 0.05) return "standing";
-    return std::string(rate > 0 ? "rising " : "falling ") + metres(std::abs(rate)) + "/h";
+    const std::string word = tendencyword(rate);
+    return std::abs(rate) < standingrate ? word : word + " " + metres(std::abs(rate)) + "/h";
 }
 
 std::string cutwords(const Window& window) {
@@ -55,22 +59,58 @@ std::string cutwords(const Window& window) {
 
 std::string windowwords(const Plan& plan, const PlannedWindow& window, const Locale& locale) {
     const ClockTime opens = plan.clock().at(window.opens), closes = plan.clock().at(window.closes);
-    std::string words = daytext(locale, opens.date) + " " + clocktext(opens) + " to ";
+    const std::string from = daytext(locale, opens.date) + " " + clocktext(opens),
+                      until = daytext(locale, closes.date) + " " + clocktext(closes);
+    if (window.window.cutatstart && !window.window.cutatend) return "until " + until;
+    if (window.window.cutatend && !window.window.cutatstart) return "from " + from + " on";
+    std::string words = from + " to ";
     if (closes.date != opens.date) words += daytext(locale, closes.date) + " ";
     return words + clocktext(closes);
 }
 
 std::string waterwords(const Plan& plan, const char* name, const std::optional<PlannedWater>& water, Moment now) {
     if (!water) return "";
-    const auto togo = std::chrono::duration_cast<minutes>(water->moment - now);
+    // From minute to minute, as both are shown.
+    const auto togo = std::chrono::floor<minutes>(water->moment) - std::chrono::floor<minutes>(now);
     return std::string(" ") + name + " water " + metres(water->water.height) + " at " +
            clocktext(plan.clock().at(water->moment)) + ", in " + durationtext(togo) + ".";
 }
 
-/// The first moment within a day's light and the last one.
+/// Why she never passes, as the tide's own heights have it.
+std::string neverwords(const PlannedAccess& access, const Passage& passage) {
+    const std::string needed = "the level needed is " + metres(passage.needed(), 2);
+    const auto ceiling = passage.ceiling();
+    if (ceiling && *ceiling < passage.needed())
+        return needed + ", but above " + metres(*ceiling, 2) + " the mast does not pass the bridge";
+    if (*access.greatestheight < passage.needed())
+        return needed + ", and the tide does not rise above " + metres(*access.greatestheight, 2);
+    if (ceiling && *access.leastheight > *ceiling)
+        return "the mast passes the bridge up to " + metres(*ceiling, 2) + ", and the tide does not fall below " +
+               metres(*access.leastheight, 2) + "; " + needed;
+    return needed + (ceiling ? ", the most under the bridge " + metres(*ceiling, 2) : "") +
+           ", and the tide does not keep to that for a minute";
+}
+
+std::string lackingwords(const std::string& whynot) {
+    return whynot.empty() ? "" : " No prediction for some of these days: " + whynot + ".";
+}
+
+std::string alwayswords(const PlannedAccess& access, const Passage& passage) {
+    std::string words = "the level needed is " + metres(passage.needed(), 2) + ", and the tide does not fall below " +
+                        metres(*access.leastheight, 2);
+    if (const auto ceiling = passage.ceiling())
+        words += "; the mast passes the bridge up to " + metres(*ceiling, 2) + ", and the tide does not rise above " +
+                 metres(*access.greatestheight, 2);
+    return words;
+}
+
+/// The first moment within a day's light and the last one; words for a day that is all light or all dark.
 void addlightcells(const Plan& plan, const std::vector<std::pair<Moment, Moment>>& light, Date date, bool changes,
                    PlanTable::Row& row) {
-    std::string from = "-", until = "-";
+    const Moment noon = plan.clock().startof(date) + std::chrono::hours(12);
+    const bool lit = std::any_of(light.begin(), light.end(),
+                                 [&](const auto& each) { return each.first <= noon && noon < each.second; });
+    std::string from = lit ? "all day" : "none", until = from;
     for (const auto& [begins, ends] : light) {
         if (plan.clock().at(begins).date == date && begins > plan.begins()) from = timecell(plan, begins, changes);
         if (plan.clock().at(ends).date == date && ends < plan.ends()) until = timecell(plan, ends, changes);
@@ -80,12 +120,6 @@ void addlightcells(const Plan& plan, const std::vector<std::pair<Moment, Moment>
 }
 
 }  // namespace
-
-std::string clocktext(const ClockTime& time) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%02d:%02d", time.hour(), time.minuteofhour());
-    return text;
-}
 
 std::string daytext(const Locale& locale, Date date) {
     return formatdate(locale, date, "ddd d mmm");
@@ -102,9 +136,14 @@ std::string metres(double height, int decimals) {
 std::string durationtext(minutes duration) {
     const auto count = duration.count();
     if (count < 60) return std::to_string(count) + " min";
-    if (duration >= days(3)) return std::to_string(count / (24 * 60)) + " days";
+    if (duration >= days(3)) return std::to_string(std::chrono::round<days>(duration).count()) + " days";
     const auto rest = count % 60;
     return std::to_string(count / 60) + " h " + (rest < 10 ? "0" : "") + std::to_string(rest) + " min";
+}
+
+const char* tendencyword(double rate) {
+    if (std::abs(rate) < standingrate) return "standing";
+    return rate > 0 ? "rising" : "falling";
 }
 
 PlanTable tidestable(const Plan& plan, const Locale& locale) {
@@ -181,26 +220,45 @@ std::string momenttext(const Plan& plan, Moment moment, const std::optional<Pass
     return text + (depth > 0 ? ", " + metres(depth) + " over the bottom" : ", the bottom is dry");
 }
 
+std::string accessverdict(const PlannedAccess& access, const Passage& passage, const std::string& whynot) {
+    const std::string needed = "the level needed is " + metres(passage.needed(), 2);
+    if (!access.greatestheight) return "No prediction for these days: " + whynot + "; " + needed + ".";
+    const std::string lacking = lackingwords(whynot);
+    if (access.never) return "Never in these days: " + neverwords(access, passage) + "." + lacking;
+    if (access.always) return "Always in these days: " + alwayswords(access, passage) + ".";
+    if (access.windows.empty()) return "She passes at times, but not as you wish it; " + needed + "." + lacking;
+    return {};
+}
+
 std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale) {
     constexpr std::size_t told = 3;
-    const std::string needed = "needed " + metres(passage.needed());
-    if (plan.waters().empty() && *plan.whynot() != '\0') return plan.whynot();
-    if (access.never) return "Never in these days: " + needed + ", and the tide does not reach it.";
-    if (access.always) return "Always in these days: the tide never falls below what is " + needed + ".";
-    if (access.windows.empty()) return "There is water enough at times (" + needed + "), but not as you wish it.";
+    const std::string verdict = accessverdict(access, passage, plan.whynot());
+    if (!verdict.empty()) return verdict;
     std::string text;
     for (std::size_t i = 0; i < std::min(told, access.windows.size()); ++i)
         text += (i > 0 ? "; " : "") + windowwords(plan, access.windows[i], locale);
     if (access.windows.size() > told) text += "; and " + std::to_string(access.windows.size() - told) + " more";
-    return text + ".";
+    return text + "." + lackingwords(plan.whynot());
 }
 
 std::string nowtext(const Plan& plan, Moment moment) {
     const auto now = plan.now(moment);
     const std::string when = "Now " + clocktext(plan.clock().at(moment)) + ": ";
     if (!now) return when + "no prediction.";
-    return when + metres(now->height) + ", " + tendency(now->rate) + "." +
-           waterwords(plan, "High", now->nexthigh, moment) + waterwords(plan, "Low", now->nextlow, moment);
+    const std::string high = waterwords(plan, "High", now->nexthigh, moment),
+                      low = waterwords(plan, "Low", now->nextlow, moment);
+    const bool highfirst = !now->nextlow || (now->nexthigh && now->nexthigh->moment < now->nextlow->moment);
+    return when + metres(now->height) + ", " + tendency(now->rate) + "." + (highfirst ? high + low : low + high);
+}
+
+std::string shortnowtext(const Plan& plan, Moment moment) {
+    const auto now = plan.now(moment);
+    if (!now) return "";
+    std::string text = "Now " + metres(now->height) + ", " + tendency(now->rate);
+    const bool highfirst = now->nexthigh && (!now->nextlow || now->nexthigh->moment < now->nextlow->moment);
+    const auto& next = highfirst ? now->nexthigh : now->nextlow;
+    if (next) text += std::string(highfirst ? ", HW " : ", LW ") + clocktext(plan.clock().at(next->moment));
+    return text;
 }
 
 }  // namespace tarvane

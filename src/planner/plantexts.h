@@ -10,9 +10,6 @@
 
 namespace tarvane {
 
-/// "05:40"
-std::string clocktext(const ClockTime& time);
-
 /// "Sat 18 Jul", names the system's.
 std::string daytext(const Locale& locale, Date date);
 
@@ -21,6 +18,9 @@ std::string metres(double height, int decimals = 1);
 
 /// "1 h 05 min", "40 min", "3 days"
 std::string durationtext(std::chrono::minutes duration);
+
+/// "rising", "falling"; "standing" at less than 5 cm an hour.
+const char* tendencyword(double rate);
 
 /// One table: its headings and rows, and the moment to which a row leads.
 struct PlanTable {
@@ -44,11 +44,19 @@ std::string tabbedtext(const PlanTable& table);
 /// "Sat 18 Jul 05:40: 4.42 m, rising 0.8 m/h, 6.4 m over the bottom"
 std::string momenttext(const Plan& plan, Moment moment, const std::optional<Passage>& passage, const Locale& locale);
 
-/// The answer: its first windows, or that there are none, or that it is always deep enough, or why nothing is known.
+/// The answer: its first windows, or that there are none and whether the water or the bridge is in the way, or that she
+/// always passes, or why nothing is known. All but windows name the levels that they come from.
 std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale);
 
+/// The answer where there are no windows to tell: never, always, or none of them as wished; empty otherwise. `whynot`
+/// is why some days have no prediction.
+std::string accessverdict(const PlannedAccess& access, const Passage& passage, const std::string& whynot);
+
 /// "Now 14:32: 3.4 m, rising 0.6 m/h. High water 5.1 m at 17:02, in 2 h 30 min. Low water 0.9 m at 23:20, in 8 h 48
-/// min."
+/// min.", whichever comes first before the other.
 std::string nowtext(const Plan& plan, Moment moment);
+
+/// The same in few words, of the next water alone: "Now 3.4 m, rising 0.6 m/h, HW 17:02"; empty without a prediction.
+std::string shortnowtext(const Plan& plan, Moment moment);
 
 }  // namespace tarvane

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "dates/isomoments.h"
 #include "dates/summertime.h"
 
 namespace tarvane {
@@ -32,13 +33,14 @@ std::string utname(seconds ahead) {
     return name;
 }
 
-std::string isomoment(const ClockTime& time) {
-    const auto ahead = static_cast<int>(time.ahead.count());
-    char text[48];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d%c%02d:%02d", yearof(time.date), monthof(time.date),
-                  dayof(time.date), time.hour(), time.minuteofhour(), ahead < 0 ? '-' : '+', std::abs(ahead) / 60,
-                  std::abs(ahead) % 60);
+std::string clocktext(const ClockTime& time) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%02d:%02d", time.hour(), time.minuteofhour());
     return text;
+}
+
+std::string isomoment(const ClockTime& time) {
+    return isomoment(time.date, clocktext(time), time.ahead);
 }
 
 PortClock::PortClock(ClockChoice choice, std::int16_t zonehours, const std::string& iana, const Zones& zones)

@@ -61,6 +61,9 @@ class PortClock {
 /// "UT", "UT+1", "UT-3:30"
 std::string utname(std::chrono::seconds ahead);
 
+/// "05:40"
+std::string clocktext(const ClockTime& time);
+
 /// "2026-07-14T05:40+01:00"
 std::string isomoment(const ClockTime& time);
 

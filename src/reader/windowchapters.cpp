@@ -24,7 +24,7 @@ constexpr WindowChapter chapters[] = {
     {"FrmAdjustfileselect", creek}, {"frmAdjustSave", creek},
     {"frmWeighting", creek},        {"frmTidalDiamondsCopy", streams},
     {"frmimport", streams},         {"frmstreams", streams},
-    {"frmshowconf", files},
+    {"frmshowconf", files},         {"frmplanner", firstday},
 };
 
 }  // namespace

@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
         window = std::make_unique<frmtarvane>(session, services.services());
         window->Form_Load();
         window->show();
+        window->openatstart();
         conditions.hide();
     };
     conditions.onhelp = [&] { manual.open("frmConditions"); };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -244,6 +245,17 @@ std::string shortest(float value) {
     std::array<char, 100> buffer{};
     const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
     return std::string(buffer.data(), written.ptr);
+}
+
+std::string fixed(double value, int decimals) {
+    // 309 digits of the greatest double, a sign, a point and the decimals
+    std::array<char, 400> buffer{};
+    const auto written =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
+    assert(written.ec == std::errc{});
+    std::string text(buffer.data(), written.ptr);
+    if (text.starts_with('-') && text.find_first_not_of("-0.") == std::string::npos) text.erase(0, 1);
+    return text;
 }
 
 std::string format(double value, std::string_view pattern) {

@@ -33,6 +33,9 @@ std::string numbertext(int value);
 /// The shortest plain decimals that read back as the same single; "nan" and "inf" for what is none.
 std::string shortest(float value);
 
+/// The value with so many decimals, its exact binary value rounded once; a value that rounds to zero carries no sign.
+std::string fixed(double value, int decimals);
+
 /// A value under one of the patterns of digits ("0", "#"), point, grouping comma and sections (";"): "0.0", "000",
 /// "00.00", "#,#0.0;;;", "#,##0.00;;;", "###000", "###,000", "##0.0" and their like. Decimal rounding is half away from
 /// zero on the 15-digit text of the value; an empty section falls back to the first, so a negative keeps its sign and a

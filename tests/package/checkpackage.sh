@@ -74,6 +74,7 @@ END
 before=$(find root home | sort)
 root/usr/bin/tides --list >list.txt || fault "tides doesn't work from the package."
 [ "$(wc -l <list.txt)" -gt 80 ] || fault "tides doesn't list the ports of the package."
+root/usr/bin/tides dover --waters | grep -q 'Europe/London' || fault "tides doesn't know the clocks of the package's ports."
 [ "$(find root home | sort)" = "$before" ] || fault "tides made files."
 
 touch mine.hc race.l20 notes.txt
@@ -83,7 +84,9 @@ while IFS='>' read -r words wanted; do
 done <<'END'
 tides --sa>--samples|
 tides fit>fit|
-tides --format ''>text|csv|json|
+tides --format ''>text|csv|json|ics|
+tides fit --format ''>text|csv|json|
+tides --clock u>ut|
 tides fit --form>--format|
 tides fit --near dov>Dover|
 tides --port 'le\ h'>Le\ Havre|

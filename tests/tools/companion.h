@@ -12,6 +12,8 @@
 
 #include "fakes/temporaryfolder.h"
 #include "fakes/testport.h"
+#include "planner/portclock.h"
+#include "platform/systemzones/systemzones.h"
 #include "portdata/configuration.h"
 #include "portdata/recordfiles.h"
 #include "tides/runtides.h"
@@ -51,6 +53,8 @@ struct Companion : testing::Test {
         environment.programfolder = folder / "bin";
         environment.home = folder / "home";
         environment.today = makedate(2024, 4, 9);
+        environment.now = Moment(environment.today) + std::chrono::hours(10);
+        environment.zones = &zones;
         std::filesystem::create_directories(environment.programfolder);
         std::filesystem::create_directories(environment.home);
     }
@@ -95,6 +99,17 @@ struct Companion : testing::Test {
     }
     std::string csv(const std::string& line) const { return run(line + " --format csv").out; }
 
+    /// A written-down session at a terminal, each command line behind "$ tides", with what it answers now.
+    std::string answersto(const std::string& path) const {
+        std::string answered;
+        for (const std::string& line : linesof(filetext(path))) {
+            if (!line.starts_with("$ tides")) continue;
+            const auto [status, out, err] = run(line.substr(7));
+            answered += line + "\n" + out + err + (status ? "(status " + std::to_string(status) + ")\n" : "");
+        }
+        return answered;
+    }
+
     /// Every file and folder under the temporary one with its size.
     std::map<std::string, std::uintmax_t> everything() const {
         std::map<std::string, std::uintmax_t> found;
@@ -104,6 +119,7 @@ struct Companion : testing::Test {
     }
 
     fakes::TemporaryFolder folder;
+    SystemZones zones;
     TidesEnvironment environment;
 };
 

@@ -35,6 +35,7 @@
 #include "shell/frmconditions.h"
 #include "shots/diamonds.h"
 #include "shots/pages.h"
+#include "shots/planner.h"
 #include "shots/reader.h"
 #include "shots/stage.h"
 
@@ -292,6 +293,7 @@ void takeeverything(Album& album, const std::string& area) {
     takestreams(album, stage);
     takeprogress(album, stage);
     takediamonds(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
+    takeplanner(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));

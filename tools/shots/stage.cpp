@@ -55,6 +55,7 @@ HarmonicRecord oddport(const char* name, float level, float m2, float k1) {
 Stage::Stage(const std::string& area, const ClockReading& at) : clock(std::make_unique<StandingClock>(at)) {
     session.folders = foldersin(folder.path().toStdString());
     fs::copy_file(area, session.folders.programfolder + "/UK.hc");
+    copyif(fs::path(area).parent_path() / "uk-about.csv", session.folders.programfolder + "/uk-about.csv");
     open();
 }
 
@@ -67,7 +68,8 @@ Stage::Stage() : clock(std::make_unique<QtClock>()) {
     session.folders = foldersin(folder.path().toStdString());
     copyif(own.cfgpath(), session.folders.cfgpath());
     copyif(own.depthsfolder(), session.folders.depthsfolder());
-    copyif(own.programfolder + "/UK.hc", session.folders.programfolder + "/UK.hc");
+    for (const char* name : {"/UK.hc", "/uk-about.csv"})
+        copyif(own.programfolder + name, session.folders.programfolder + name);
     open();
 }
 

@@ -21,6 +21,13 @@ void Absences::note(const std::string& subject, const char* reason, Date date) {
     ++known->days;
 }
 
+int Absences::count() const {
+    int days = 0;
+    for (const Absence& absence : absences)
+        days += absence.days;
+    return days;
+}
+
 void Absences::tell(std::ostream& err) const {
     for (const Absence& absence : absences) {
         err << "tides: no " << plaintext(absence.subject);

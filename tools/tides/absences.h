@@ -16,6 +16,9 @@ class Absences {
 
     bool empty() const { return absences.empty(); }
 
+    /// How many days in all.
+    int count() const;
+
     /// A line for each subject and reason.
     void tell(std::ostream& err) const;
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "dates/calendar.h"
+#include "platform/zones.h"
 #include "portdata/configuration.h"
 
 namespace tarvane {
@@ -16,6 +17,8 @@ struct TidesEnvironment {
     std::string datahome;       ///< XDG_DATA_HOME, empty when unset
     std::string confighome;     ///< XDG_CONFIG_HOME, empty when unset
     Date today{};               ///< the local calendar date
+    std::chrono::sys_seconds now{};
+    const Zones* zones = nullptr;  ///< the rules of the ports' clocks
 };
 
 /// The folders that the desktop program would work in for this user.

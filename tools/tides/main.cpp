@@ -1,9 +1,11 @@
 // The terminal companion: hands the machine's environment and the clock to `runtides`.
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <iostream>
 
+#include "platform/systemzones/systemzones.h"
 #include "tides/runtides.h"
 
 namespace {
@@ -35,6 +37,9 @@ int main(int argc, char** argv) {
     environment.datahome = variable("XDG_DATA_HOME");
     environment.confighome = variable("XDG_CONFIG_HOME");
     environment.today = localtoday();
+    environment.now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    const tarvane::SystemZones zones;
+    environment.zones = &zones;
     std::ios::sync_with_stdio(false);
     return tarvane::runtides(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc), environment, std::cout,
                              std::cerr);

@@ -63,7 +63,8 @@ void monthrows(const ViewContext& context, RowWriter& writer, Absences& absences
                 writer.row({numbertext(port.port.number), port.name, numbertext(yearof(date)),
                             numbertext(monthof(date)), numbertext(dayof(date)),
                             EnglishLocale().dayabbreviation(weekdayof(date)), clock, height,
-                            momenttext(date, clock, hoursahead(port, shift)), shortest(includeddepth(port))});
+                            isomoment(date, clock, std::chrono::hours(hoursahead(port, shift))),
+                            shortest(includeddepth(port))});
             }
             if (day.waters.empty()) noteabsence(absences, port, day.prediction, day.date);
         });

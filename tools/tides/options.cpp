@@ -43,6 +43,7 @@ std::string takedays(const std::string& value, Options& options) {
         return "--days takes a whole number from 1 to " + numbertext(mostdays) + ", not " + inquotes(value);
     }
     options.days = *days;
+    options.daysgiven = true;
     return "";
 }
 
@@ -52,16 +53,35 @@ std::string takesummer(const std::string& value, Options& options) {
 }
 
 std::string takeformat(const std::string& value, Options& options) {
-    return parseformat(value, options.format);
+    if (value != "ics") return parseformat(value, options.format);
+    options.format = OutputFormat::ics;
+    return "";
 }
 
-constexpr std::array<ValueOption<Options>, 6> valueoptions{{
+template <std::string (*take)(const std::string&, PlanOptions&)>
+std::string takeplan(const std::string& value, Options& options) {
+    return take(value, options.plan);
+}
+
+constexpr std::size_t boatoptions = 7;  // from here on those of a boat's passage
+
+constexpr std::array<ValueOption<Options>, 14> valueoptions{{
     {"--area", "FILE.hc", "the sea area file, in place of the stored one", takearea},
     {"--port", "NUMBER|NAME|all", "a port by its number, its name or a part of its name, or every port", takeport},
     {"--date", "YYYY-MM-DD", "the first day, in place of today", takedate},
     {"--days", "N", "how many days, 1 to 3660", takedays},
     {"--summer", "on|off", "adjust for summer time or not, in place of the stored choice", takesummer},
-    {"--format", "text|csv|json", "how the result is written; text when left out", takeformat},
+    {"--format", "text|csv|json|ics", "how the result is written; text when left out", takeformat},
+    {"--clock", "port|ut|zone", "the clock of --waters, --access and --now; the port's own when left out",
+     takeplan<takeclock>},
+    {"--draught", "M", "the boat's draught in metres, in place of the stored one", takeplan<takedraught>},
+    {"--clearance", "M", "metres to be kept under the keel, in place of the stored ones", takeplan<takeclearance>},
+    {"--bottom", "M", "the depth of the shallowest place below chart datum, negative where it dries",
+     takeplan<takebottom>},
+    {"--ceiling", "M", "the height of tide that mustn't be exceeded, as under a bridge", takeplan<takeceiling>},
+    {"--daylight", "none|part|whole", "windows with the sun up for part or the whole of them", takeplan<takedaylight>},
+    {"--least", "MINUTES", "windows of so many minutes at least", takeplan<takeleast>},
+    {"--weekdays", "sat,sun", "windows on one of these days of the week", takeplan<takeweekdays>},
 }};
 
 /// What a description of the command line leaves behind, in the order of the tables.
@@ -83,6 +103,10 @@ constexpr const char* notes =
     "that it is ahead of universal time, 2026-07-14T05:40+01:00, and \"depth\" the charted depth in metres that the\n"
     "height includes, 0 with heights above chart datum. Days without a prediction are left out there and named on\n"
     "standard error, in a line for each port and reason.\n"
+    "--waters, --access and --now go by the port's own clock, changed on the day that the place changes it, and by "
+    "heights\n"
+    "above chart datum; days are days of that clock. Metres may have a comma for the point. --format ics writes a\n"
+    "calendar of --waters or --access.\n"
     "\"tides fit\" fits constants to heights read on the spot; tides fit --help tells how.\n"
     "\"tides streams\" shows the streams at a tidal diamond; tides streams --help tells how.\n"
     "Exit status: 0; or 2 with one line on standard error and nothing on standard output, and when CSV or JSON would\n"
@@ -97,6 +121,8 @@ void describe(CommandLine& line) {
     line.portwords->expected(-1)->option_text("NUMBER|NAME|all");
     line.portwords->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     line.values = addvalues<Options>(app, valueoptions);
+    for (std::size_t i = boatoptions; i < line.values.size(); ++i)
+        line.values[i]->group("With --access");
     for (const View* view : views().subspan(1))
         line.flags.push_back(app.add_flag(view->option, view->help)->group("What is shown"));
     app.get_formatter()->column_width(30);
@@ -129,6 +155,23 @@ std::string takegiven(const CommandLine& line, Options& options) {
     return takeport(words, options);
 }
 
+/// Options that the view has no use for but a reader would think it had.
+std::string checkview(const CommandLine& line, const Options& options) {
+    const View& view = *options.view;
+    const std::string name = view.option;
+    if (options.format == OutputFormat::ics && !view.calendar) return "--format ics goes with --waters and --access";
+    if (options.plan.clock && !view.planned) return "--clock goes with --waters, --access and --now";
+    if (view.planned && options.summer) return name + " takes no --summer: times are those that --clock asks for";
+    if (view.presentmoment && (options.date || options.daysgiven))
+        return name + " is about the present moment: it takes no --date and no --days";
+    for (std::size_t i = boatoptions; i < line.values.size(); ++i)
+        if (line.values[i]->count() > 0 && !view.hasboat)
+            return std::string(valueoptions.at(i).option) + " goes with --access";
+    if (view.hasboat && !options.plan.bottom)
+        return "--access needs --bottom: the depth of the shallowest place below chart datum, negative where it dries";
+    return "";
+}
+
 }  // namespace
 
 std::string parseoptions(const std::vector<std::string>& arguments, Options& options) {
@@ -147,8 +190,9 @@ std::string parseoptions(const std::vector<std::string>& arguments, Options& opt
     }
     for (const std::string& unknown : line.app.remaining())
         if (unknown != "--") return "there is no option " + inquotes(unknown) + "; tides --help lists them";
-    const std::string fault = takeview(line, options);
-    return fault.empty() ? takegiven(line, options) : fault;
+    std::string fault = takeview(line, options);
+    if (fault.empty()) fault = takegiven(line, options);
+    return fault.empty() ? checkview(line, options) : fault;
 }
 
 std::string inquotes(const std::string& text) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "dates/calendar.h"
+#include "tides/planoptions.h"
 #include "tides/rows.h"
 #include "tides/views.h"
 
@@ -22,6 +23,8 @@ struct Options {
     int days = 1;
     std::optional<bool> summer;
     const View* view = nullptr;  ///< set after a parse without fault
+    bool daysgiven = false;
+    PlanOptions plan;
     OutputFormat format = OutputFormat::text;
 };
 

@@ -1,6 +1,5 @@
 #include "tides/rows.h"
 
-#include <array>
 #include <cassert>
 #include <charconv>
 #include <cmath>
@@ -29,17 +28,6 @@ Json jsonnumber(const std::string& text) {
 }
 
 }  // namespace
-
-std::string fixed(double value, int decimals) {
-    // 309 digits of the greatest double, a sign, a point and the decimals
-    std::array<char, 400> buffer{};
-    const auto written =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
-    assert(written.ec == std::errc{});
-    std::string text(buffer.data(), written.ptr);
-    if (text.starts_with('-') && text.find_first_not_of("-0.") == std::string::npos) text.erase(0, 1);
-    return text;
-}
 
 RowWriter::RowWriter(std::ostream& out, OutputFormat format, std::vector<Column> columns)
     : stream(out), outputformat(format), heads(std::move(columns)) {}

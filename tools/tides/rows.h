@@ -1,22 +1,21 @@
-// Tables of results as CSV or JSON, written row by row, and numbers with a fixed count of decimals. Must not use the
-// process's locale or know what the columns mean.
+// Tables of results as CSV or JSON, written row by row. Must not use the process's locale or know what the columns
+// mean.
 #pragma once
 
 #include <ostream>
 #include <string>
 #include <vector>
 
+#include "text/numbers.h"
+
 namespace tarvane {
 
-enum class OutputFormat { text, csv, json };
+enum class OutputFormat { text, csv, json, ics };
 
 struct Column {
     std::string name;
     bool isnumber = true;
 };
-
-/// The value with so many decimals, its exact binary value rounded once; a value that rounds to zero carries no sign.
-std::string fixed(double value, int decimals);
 
 /// Writes a header line and rows (CSV), or an array with one object a row (JSON), from the first row on. A number that
 /// isn't finite reads "nan" or "inf" in CSV and null in JSON.

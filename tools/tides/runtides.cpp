@@ -59,6 +59,18 @@ std::string takedays(const Options& options, Date today, ViewContext& context) {
     return last > makedate(9999, 12, 31) ? "the days run past 9999-12-31" : "";
 }
 
+/// The zones of the ports, and the boat. A table of zones that can't be read leaves the ports to their zone letters.
+std::string takeplan(const Options& options, const TidesEnvironment& environment, const ProgramFolders& folders,
+                     ViewContext& context) {
+    PlanAsked& plan = context.plan;
+    plan.clock = options.plan.clock.value_or(ClockChoice::port);
+    plan.date = options.date;
+    plan.now = environment.now;
+    plan.zones = environment.zones;
+    plan.about = aboutarea(folders, context.settings.hcfile);
+    return options.view->hasboat ? takepassage(options.plan, context.settings, plan.passage, plan.wishes) : "";
+}
+
 std::string prepare(const Options& options, const TidesEnvironment& environment, ViewContext& context) {
     const ProgramFolders folders = foldersof(environment);
     std::string fault;
@@ -70,7 +82,8 @@ std::string prepare(const Options& options, const TidesEnvironment& environment,
         context.settings.currentsummer = context.settings.summerflag2;
         context.settings.depfile = depfileof(folders, context.settings.hcfile);
         fault = takeports(options, context);
-        if (fault.empty()) fault = checkdepths(context.settings);
+        if (fault.empty() && options.view->planned) fault = takeplan(options, environment, folders, context);
+        if (fault.empty() && !options.view->planned) fault = checkdepths(context.settings);
     } else if (options.area) {
         AreaInHand readable;
         fault = readarea(*options.area, readable);
@@ -81,14 +94,24 @@ std::string prepare(const Options& options, const TidesEnvironment& environment,
 
 /// Writes the result. The exit status: days without one are no fault as long as there are others.
 int show(const Options& options, const ViewContext& context, std::ostream& out, std::ostream& err) {
+    if (!context.plan.about.fault.empty())
+        err << "tides: " << plaintext(aboutname(context.areaname) + " isn't read: " + context.plan.about.fault) << "\n";
     if (options.format == OutputFormat::text) {
         options.view->text(context, out);
         return 0;
     }
     Absences absences;
+    if (options.format == OutputFormat::ics) {
+        const bool events = options.view->calendar(context, out, absences);
+        absences.tell(err);
+        if (!events && absences.empty()) err << "tides: there is nothing to put into a calendar\n";
+        return events ? 0 : refused;
+    }
     RowWriter writer(out, options.format, options.view->columns());
     options.view->rows(context, writer, absences);
-    const bool nothing = writer.empty() && !absences.empty();
+    const auto asked = static_cast<std::size_t>(context.days) * context.ports.size();
+    const bool nothing = writer.empty() && !absences.empty() &&
+                         (!options.view->planned || static_cast<std::size_t>(absences.count()) >= asked);
     if (!nothing) writer.finish();
     absences.tell(err);
     return nothing ? refused : 0;

@@ -38,7 +38,8 @@ void samplesrows(const ViewContext& context, RowWriter& writer, Absences& absenc
                                                fixed(sample.height, sampledecimals)};
                 for (const Constituent& constituent : constituents)
                     cells.push_back(fixed((prediction.*constituent.layer)[row].height, sampledecimals));
-                cells.push_back(momenttext(dateofhour(day, sample.time), timetext(sample.time), ahead));
+                cells.push_back(
+                    isomoment(dateofhour(day, sample.time), timetext(sample.time), std::chrono::hours(ahead)));
                 cells.push_back(depth);
                 writer.row(cells);
             }

@@ -9,7 +9,8 @@ namespace tarvane {
 
 namespace {
 
-constexpr std::array<const View*, 6> allviews{&watersview, &samplesview, &monthview, &sunview, &orbitalview, &listview};
+constexpr std::array<const View*, 9> allviews{&watersview, &samplesview,    &monthview,  &sunview, &orbitalview,
+                                              &listview,   &planwatersview, &accessview, &nowview};
 
 }  // namespace
 

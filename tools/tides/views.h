@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <ostream>
 #include <span>
 #include <string>
@@ -12,6 +13,8 @@
 #include "dates/calendar.h"
 #include "dates/isomoments.h"
 #include "engine/prediction.h"
+#include "planner/plan.h"
+#include "portdata/aboutports.h"
 #include "portdata/configuration.h"
 #include "sunmoon/suntimes.h"
 #include "tides/absences.h"
@@ -24,6 +27,17 @@ struct PortInHand {
     PredictedPort port;  ///< its records as they were read, once
 };
 
+/// What is asked of the planner's views.
+struct PlanAsked {
+    ClockChoice clock = ClockChoice::port;
+    std::optional<Date> date;  ///< the day that the clock shows at each port when left out
+    Moment now;
+    const Zones* zones = nullptr;
+    AboutTable about;  ///< of the area: which zones the ports keep
+    Passage passage;
+    WindowWishes wishes;
+};
+
 /// All that a view works on.
 struct ViewContext {
     Settings settings;
@@ -32,6 +46,7 @@ struct ViewContext {
     Date dateonshow{};  ///< the date asked for
     Date first{};       ///< it, or the first of its month
     int days = 1;
+    PlanAsked plan;
 };
 
 struct View {
@@ -43,9 +58,15 @@ struct View {
     std::vector<Column> (*columns)();
     void (*rows)(const ViewContext&, RowWriter&, Absences&);
     void (*text)(const ViewContext&, std::ostream&);
+    bool planned = false;        ///< by the planner: on a clock of the port's, to the minute
+    bool hasboat = false;        ///< it is about a boat's passage
+    bool presentmoment = false;  ///< it is about no day
+    /// Writes a calendar; false, and nothing written, when there is no event.
+    bool (*calendar)(const ViewContext&, std::ostream&, Absences&) = nullptr;
 };
 
-extern const View watersview, samplesview, monthview, sunview, orbitalview, listview;
+extern const View watersview, samplesview, monthview, sunview, orbitalview, listview, planwatersview, accessview,
+    nowview;
 
 /// Every view; the first is the one shown when none is asked for.
 std::span<const View* const> views();

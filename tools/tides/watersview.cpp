@@ -34,7 +34,8 @@ void watersrows(const ViewContext& context, RowWriter& writer, Absences& absence
                 const std::string clock = timetext(point.time);
                 const Date date = dateofhour(day, point.time);
                 writer.row({number, port.name, isodate(date), clock, fixed(point.height, heightdecimals),
-                            kindof(prediction, i), momenttext(date, clock, hoursahead(port, prediction.day.summer)),
+                            kindof(prediction, i),
+                            isomoment(date, clock, std::chrono::hours(hoursahead(port, prediction.day.summer))),
                             depth});
             }
         });

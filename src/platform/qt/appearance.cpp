@@ -14,6 +14,8 @@ static void loadicons() {
 namespace tarvane {
 namespace {
 
+constexpr const char *darkproperty = "desktopdark", *pointsproperty = "desktopfontpoints";
+
 /// The pictures are black on white and grey, so that the windows round them are light on every desktop.
 QPalette lightpalette() {
     QPalette palette(QColor(0xF2, 0xF2, 0xF0));
@@ -39,7 +41,15 @@ QFont programfont() {
 
 }  // namespace
 
+DesktopLook desktoplook() {
+    constexpr double plain = 9;
+    const QVariant points = qApp->property(pointsproperty);
+    return {qApp->property(darkproperty).toBool(), points.isValid() ? points.toDouble() : plain};
+}
+
 void setappearance(QApplication& application) {
+    application.setProperty(darkproperty, QApplication::palette().color(QPalette::Window).lightness() < 128);
+    application.setProperty(pointsproperty, QApplication::font().pointSizeF());
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("Tarvane Tides");
     QApplication::setApplicationDisplayName(QString());

@@ -9,6 +9,15 @@ namespace tarvane {
 /// changed.
 void setappearance(QApplication& application);
 
+/// What the desktop asks of windows that follow it.
+struct DesktopLook {
+    bool dark = false;
+    double fontpoints = 9;
+};
+
+/// As it was when the application was set up.
+DesktopLook desktoplook();
+
 /// The program's icon: a tide's curve over the marks of a staff.
 QIcon programicon();
 

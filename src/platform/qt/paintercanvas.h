@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
+#include <vector>
 
 #include "platform/canvas.h"
 
@@ -24,10 +26,17 @@ class PainterCanvas : public Canvas {
     void text(Place place, const std::string& text, const TextLook& look) override;
 
   private:
-    QFont fontof(const TextLook& look) const;
+    struct Font {
+        int size;
+        bool bold;
+        QFont font;
+        QFontMetricsF metrics;
+    };
+    const Font& fontof(const TextLook& look) const;
 
     QPainter& painter_;
     QFont font_;
+    mutable std::vector<Font> fonts_;  ///< those that were asked for
 };
 
 }  // namespace tarvane

@@ -1,0 +1,41 @@
+#include "mainview/plannersteps.h"
+
+#include "mainview/dateentry.h"
+#include "planner/plantexts.h"
+#include "portdata/aboutports.h"
+#include "portdata/recordfiles.h"
+#include "ports/portselection.h"
+#include "session/refresh.h"
+#include "session/tidecurve.h"
+
+namespace tarvane {
+
+void chooseport(MainContext& context, std::int16_t number) {
+    Session& session = context.session;
+    reloadforportlist(context);
+    PortList list;
+    list.selectedport = number;
+    portconfigok(context, list, 0, session.settings.configrec.sortmode != 0);
+    enabletopmenus(session);
+    drawtidecurve(session, context.surfaces);
+}
+
+void showdate(MainContext& context, Date date) {
+    DateEntry entry = opendateentry(context);
+    pickdate(context, entry, date);
+    confirmpicker(context, entry);
+    drawtidecurve(context.session, context.surfaces);
+}
+
+std::string presenttidetext(const MainContext& context, PresentTide& present) {
+    const Session& session = context.session;
+    const Settings& settings = session.settings;
+    if (settings.currentport < 1 || settings.currentport > portcount(settings.hcfile)) return "";
+    const HarmonicRecord port = readport(settings.hcfile, settings.currentport);
+    const auto about = aboutport(aboutarea(session.folders, settings.hcfile), port, settings.currentport);
+    const Moment now = context.services.clock.moment();
+    return shortnowtext(present.at(port, about ? about->timezone : "", ClockChoice::port, context.services.zones, now),
+                        now);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,19 @@
+// What the main window does when the planner asks for it, and the present tide in its status bar. Must not know any
+// control.
+#pragma once
+
+#include "planner/presenttide.h"
+#include "session/session.h"
+
+namespace tarvane {
+
+/// Makes a port of the sea area current, by its number, as choosing it in the list of ports does.
+void chooseport(MainContext& context, std::int16_t number);
+
+/// Shows a day, as entering its date does.
+void showdate(MainContext& context, Date date);
+
+/// "Now 3.4 m, rising 0.6 m/h, HW 17:02", on the port's clock; empty without a prediction.
+std::string presenttidetext(const MainContext& context, PresentTide& present);
+
+}  // namespace tarvane

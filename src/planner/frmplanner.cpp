@@ -1,0 +1,312 @@
+#include "planner/frmplanner.h"
+
+#include <QCloseEvent>
+#include <QCompleter>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "dates/dateformats.h"
+#include "dates/typeddate.h"
+#include "planner/plantexts.h"
+#include "platform/qt/appearance.h"
+#include "platform/qt/modaldialog.h"
+#include "platform/qt/screentext.h"
+#include "portdata/portsearch.h"
+
+namespace tarvane {
+namespace {
+
+constexpr std::array spans{1, 2, 3, 7, 14, 31};
+constexpr int ticks = 5000;
+
+QPalette paletteof(const PlanLook& look) {
+    const auto colour = [](Rgb rgb) { return QColor::fromRgb(rgb); };
+    QPalette palette(colour(look.band));
+    palette.setColor(QPalette::Window, colour(look.band));
+    palette.setColor(QPalette::Base, colour(look.field));
+    palette.setColor(QPalette::AlternateBase, colour(look.band));
+    palette.setColor(QPalette::Button, colour(look.band));
+    palette.setColor(QPalette::ToolTipBase, colour(look.band));
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
+        palette.setColor(role, colour(look.text));
+    palette.setColor(QPalette::PlaceholderText, colour(look.faint));
+    palette.setColor(QPalette::Highlight, colour(look.curve));
+    palette.setColor(QPalette::HighlightedText, colour(look.paper));
+    palette.setColor(QPalette::Link, colour(look.curve));
+    return palette;
+}
+
+PlanLight plannerlight(bool night) {
+    return night ? PlanLight::night : desktoplook().dark ? PlanLight::dark : PlanLight::day;
+}
+
+}  // namespace
+
+frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(openplanview(maincontext)) {
+    setObjectName("frmplanner");
+    setWindowTitle("Planner");
+    QFont own = font();
+    own.setPointSizeF(std::max(own.pointSizeF(), desktoplook().fontpoints));
+    setFont(own);
+    buildlayout();
+    buildmenus();
+    fillports();
+    fillfields();
+    showall();
+    connectcontrols();
+    connectquestion();
+    shownight(view.settings.night);
+    resize(picture->sizeHint().width(), picture->sizeHint().height() * 2);
+    fitscreen(*this);
+    centreon(*this, nullptr);
+    picture->setFocus();
+    minute = new QTimer(this);
+    minute->setInterval(ticks);
+    connect(minute, &QTimer::timeout, this, [this] { shownow(); });
+    minute->start();
+}
+
+void frmplanner::connectcontrols() {
+    const auto onstep = [this](QToolButton* button, int days) {
+        connect(button, &QToolButton::clicked, this, [this, days] { stepdays(days); });
+    };
+    onstep(cmdPreviousWeek, -7);
+    onstep(cmdPreviousDay, -1);
+    onstep(cmdNextDay, 1);
+    onstep(cmdNextWeek, 7);
+    connect(cmdToday, &QToolButton::clicked, this, [this] { gotodate(todayof(context, view)); });
+    connect(DTPicker, &QLineEdit::editingFinished, this, [this] { typedate(); });
+    DTPicker->onstep = [this](int days) { stepdays(days); };
+    DTPicker->onpicked = [this](DateBox::Date date) { gotodate(date); };
+    connect(cmbSpan, &QComboBox::activated, this, [this](int row) {
+        showdays(context, view, view.first, spans[static_cast<std::size_t>(row)]);
+        keepsettings(context, view);
+        showplan();
+    });
+    connect(cmbClock, &QComboBox::activated, this, [this](int row) {
+        showclock(context, view, static_cast<ClockChoice>(row));
+        keepsettings(context, view);
+        showplan();
+    });
+    connect(cmbPort, &QComboBox::activated, this, [this](int row) {
+        if (onport && row >= 0) onport(static_cast<std::int16_t>(row + 1));
+        follow();
+    });
+    connect(cmbPort->lineEdit(), &QLineEdit::returnPressed, this, [this] { chooseport(cmbPort->currentText()); });
+    connect(pages, &QTabWidget::currentChanged, this, [this] { showpage(); });
+    for (PlanTableBox* table : {tides, windows, sunandmoon})
+        table->onmoment = [this](Moment at) { leap(at); };
+    picture->oncursor = [this] { showcursor(); };
+    picture->onnow = [this] { gotodate(todayof(context, view)); };
+    picture->onday = [this](Date date) {
+        const Date shown = view.plan->clock().at(view.from).date;
+        const bool alone = shown == date && view.to - view.from <= std::chrono::hours(25);
+        if (alone)
+            showwhole(view);
+        else
+            showday(view, date);
+        picture->redraw();
+        if (!alone && onday) onday(date);
+    };
+}
+
+void frmplanner::connectquestion() {
+    for (QLineEdit* field : fields)
+        connect(field, &QLineEdit::textEdited, this, [this] { ask(); });
+    const auto wished = [this] {
+        if (filling) return;
+        view.settings.asked = fraQuestion->isChecked();
+        view.settings.daylight = static_cast<Daylight>(cmbDaylight->currentIndex());
+        view.settings.twilight = chkTwilight->isChecked();
+        Weekdays wanted = 0;
+        for (std::size_t i = 0; i < weekdays.size(); ++i)
+            if (weekdays[i]->isChecked()) wanted |= 1U << ((i + 1) % 7);
+        // None chosen asks for none: all are as good.
+        view.settings.weekdays = wanted == 0 ? everyweekday : wanted;
+        answeranew(view);
+        keepsettings(context, view);
+        showanswer();
+    };
+    connect(fraQuestion, &QGroupBox::toggled, this, wished);
+    connect(cmbDaylight, &QComboBox::activated, this, wished);
+    connect(chkTwilight, &QCheckBox::toggled, this, wished);
+    for (QToolButton* day : weekdays)
+        connect(day, &QToolButton::toggled, this, wished);
+}
+
+void frmplanner::ask() {
+    PlanQuestion question;
+    for (std::size_t i = 0; i < planfields; ++i)
+        question[i] = fields[i]->text().toStdString();
+    askquestion(context, view, question);
+    if (view.refusal.empty()) keepsettings(context, view);
+    showanswer();
+}
+
+void frmplanner::fillports() {
+    const QSignalBlocker quiet(cmbPort);
+    QStringList names;
+    for (const std::string& name : view.ports)
+        names << screentext(name);
+    cmbPort->clear();
+    cmbPort->addItems(names);
+    cmbPort->setCurrentIndex(view.whynot.empty() ? view.number - 1 : -1);
+    QCompleter* completer = cmbPort->completer();
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setCompletionMode(QCompleter::PopupCompletion);
+}
+
+void frmplanner::fillfields() {
+    filling = true;
+    for (std::size_t i = 0; i < planfields; ++i)
+        fields[i]->setText(screentext(view.question[i]));
+    const PlanSettings& settings = view.settings;
+    fraQuestion->setChecked(settings.asked);
+    cmbDaylight->setCurrentIndex(static_cast<int>(settings.daylight));
+    chkTwilight->setChecked(settings.twilight);
+    for (std::size_t i = 0; i < weekdays.size(); ++i)
+        weekdays[i]->setChecked(settings.weekdays != everyweekday && (settings.weekdays >> ((i + 1) % 7) & 1U) != 0);
+    const auto span = std::find(spans.begin(), spans.end(), settings.days);
+    cmbSpan->setCurrentIndex(span == spans.end() ? -1 : static_cast<int>(span - spans.begin()));
+    cmbClock->setCurrentIndex(static_cast<int>(settings.clock));
+    filling = false;
+}
+
+void frmplanner::chooseport(const QString& text) {
+    const std::vector<PortHit> hits = findports(view.ports, text.toStdString());
+    if (text.trimmed().isEmpty() || hits.empty()) {
+        tell("No port of this sea area is called so");
+        return fillports();
+    }
+    if (onport) onport(static_cast<std::int16_t>(hits.front().place + 1));
+    follow();
+    picture->setFocus();
+}
+
+void frmplanner::follow() {
+    if (!followport(context, view)) return;
+    fillports();
+    fillfields();
+    showall();
+}
+
+void frmplanner::showall() {
+    showplan();
+    showcursor();
+}
+
+void frmplanner::showplan() {
+    setWindowTitle(screentext(view.portname.empty() ? "Planner" : view.portname + " - Planner"));
+    showdate();
+    lblFoot->setText(screentext(planfoot(view)));
+    showanswer();
+    shownow();
+}
+
+void frmplanner::showanswer() {
+    picture->redraw();
+    lblAnswer->setText(screentext(answertext(view, context.services.locale)).replace("; ", "\n"));
+    for (std::size_t i = 0; i < planfields; ++i) {
+        const bool refused = !view.refusal.empty() && readquestion(view.question).refused == static_cast<PlanField>(i);
+        QFont font = fraQuestion->font();
+        font.setUnderline(refused);
+        fields[i]->setFont(font);
+    }
+    showpage();
+    showcursor();
+}
+
+void frmplanner::showpage() {
+    const Locale& locale = context.services.locale;
+    if (!view.plan) {
+        for (PlanTableBox* table : {tides, windows, sunandmoon})
+            table->showtable({});
+    } else if (pages->currentWidget() == tides) {
+        tides->showtable(tidestable(*view.plan, locale));
+    } else if (pages->currentWidget() == windows) {
+        windows->showtable(accesstable(*view.plan, view.access, view.read.passage, locale));
+    } else {
+        sunandmoon->showtable(suntable(*view.plan, locale));
+    }
+}
+
+void frmplanner::showdate() {
+    DTPicker->setText(
+        QString::fromStdString(typeddate(view.first, context.session.conventions, context.services.locale)));
+    DTPicker->setcalendar(view.first);
+    lblDayName->setText(screentext(formatdate(context.services.locale, view.first, "ddd")));
+}
+
+void frmplanner::shownow() {
+    const Moment now = context.services.clock.moment();
+    const std::string iana = view.about ? view.about->timezone : "";
+    lblNow->setText(
+        screentext(view.whynot.empty()
+                       ? nowtext(present.at(view.port, iana, view.settings.clock, context.services.zones, now), now)
+                       : view.whynot));
+    picture->shownow();
+}
+
+void frmplanner::showcursor() {
+    const bool told = view.plan && view.cursor;
+    const QString text =
+        told ? screentext(momenttext(*view.plan, *view.cursor, passageof(view), context.services.locale)) : QString();
+    lblCursor->setText(text);
+    picture->setAccessibleDescription(text);
+}
+
+void frmplanner::shownight(bool night) {
+    view.settings.night = night;
+    const PlanLook& look = planlook(plannerlight(night));
+    setPalette(paletteof(look));
+    // Its own style keeps it from the window's palette.
+    DTPicker->arrow->setPalette(paletteof(look));
+    picture->setlook(look);
+    if (onnight) onnight(night);
+}
+
+void frmplanner::gotodate(Date date) {
+    showdays(context, view, date, view.settings.days);
+    showplan();
+}
+
+void frmplanner::stepdays(int days) {
+    gotodate(view.first + std::chrono::days(days));
+}
+
+void frmplanner::typedate() {
+    const ReadDate read = readdate(DTPicker->text().toStdString(), context.session.conventions, context.services.locale,
+                                   context.services.clock.now().today);
+    if (!read.date) tell(read.refusal);
+    if (read.date && *read.date != view.first) return gotodate(*read.date);
+    showdate();
+}
+
+/// A row of a table leads to its moment.
+void frmplanner::leap(Moment at) {
+    putcursor(view, at);
+    picture->redraw();
+    showcursor();
+}
+
+void frmplanner::tell(const std::string& text) {
+    lblSaid->setText(screentext(text));
+}
+
+void frmplanner::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) return picture->setFocus();
+    QMainWindow::keyPressEvent(event);
+}
+
+void frmplanner::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) shownow();
+    QMainWindow::changeEvent(event);
+}
+
+void frmplanner::closeEvent(QCloseEvent* event) {
+    keepsettings(context, view);
+    QMainWindow::closeEvent(event);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,98 @@
+// "Planner": a port's tides over days, when a boat can pass, and the tide now. Only controls; what they hold is the
+// plan view, what leaves it the plan commands. Stands beside the main window.
+#pragma once
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolButton>
+#include <array>
+#include <functional>
+
+#include "planner/frmplanpicture.h"
+#include "planner/frmplantable.h"
+#include "planner/planview.h"
+#include "planner/presenttide.h"
+#include "platform/qt/datebox.h"
+
+namespace tarvane {
+
+class frmplanner : public QMainWindow {
+  public:
+    explicit frmplanner(MainContext& context);
+
+    /// What the rest of the program does when the user asks for it here: another port of the sea area by its number, a
+    /// day for the main window, red light everywhere.
+    std::function<void(std::int16_t number)> onport;
+    std::function<void(Date date)> onday;
+    std::function<void(bool night)> onnight;
+
+    /// The session may have another port by now.
+    void follow();
+
+    PlanPictureBox* picture = nullptr;
+    QComboBox *cmbPort = nullptr, *cmbSpan = nullptr, *cmbClock = nullptr, *cmbDaylight = nullptr;
+    QToolButton *cmdPreviousWeek = nullptr, *cmdPreviousDay = nullptr, *cmdNextDay = nullptr, *cmdNextWeek = nullptr,
+                *cmdToday = nullptr;
+    DateBox* DTPicker = nullptr;
+    QLabel *lblDayName = nullptr, *lblNow = nullptr, *lblAnswer = nullptr, *lblCursor = nullptr, *lblFoot = nullptr,
+           *lblSaid = nullptr;
+    QGroupBox* fraQuestion = nullptr;
+    std::array<QLineEdit*, planfields> fields{};
+    QCheckBox* chkTwilight = nullptr;
+    std::array<QToolButton*, 7> weekdays{};  ///< from Monday
+    QTabWidget* pages = nullptr;
+    PlanTableBox *tides = nullptr, *windows = nullptr, *sunandmoon = nullptr;
+
+    PlanView& planview() { return view; }
+    QAction* entry(const char* name) const { return findChild<QAction*>(QLatin1String(name)); }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void buildlayout();
+    QLayout* buildchoices();
+    QWidget* buildquestion();
+    QLayout* buildwishes();
+    QWidget* buildpages();
+    void buildmenus();
+    void buildfilemenu();
+    QAction* add(class QMenu* menu, const char* name, const char* caption, const QKeySequence& key,
+                 std::function<void()> act);
+    void connectcontrols();
+    void connectquestion();
+    void fillports();
+    void fillfields();
+    void showall();
+    void showplan();
+    void showpage();
+    void showdate();
+    void showanswer();
+    void shownow();
+    void showcursor();
+    void shownight(bool night);
+    void stepdays(int days);
+    void gotodate(Date date);
+    void typedate();
+    void ask();
+    void chooseport(const QString& text);
+    void leap(Moment at);
+    void tell(const std::string& text);
+
+    MainContext& context;
+    PlanView view;
+    PresentTide present;
+    QTimer* minute = nullptr;
+    bool filling = false;  ///< the controls follow the view, not the user
+};
+
+}  // namespace tarvane

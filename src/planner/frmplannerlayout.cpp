@@ -1,0 +1,203 @@
+// The planner's controls and where they lie.
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "dates/typeddate.h"
+#include "planner/frmplanner.h"
+#include "platform/qt/named.h"
+
+namespace tarvane {
+namespace {
+
+QToolButton* stepbutton(const char* name, const QString& face, const char* words) {
+    auto* button = named<QToolButton>(name);
+    button->setText(face);
+    button->setToolTip(words);
+    button->setAccessibleName(words);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QComboBox* choicebox(const char* name, const QStringList& rows, const char* words) {
+    auto* box = named<QComboBox>(name);
+    box->addItems(rows);
+    box->setAccessibleName(words);
+    return box;
+}
+
+QLabel* textlabel(const char* name, bool wraps) {
+    auto* label = named<QLabel>(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(wraps);
+    if (!wraps) label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+struct FieldPlace {
+    const char* name;
+    const char* caption;
+    const char* hint;
+    const char* placeholder;
+};
+
+constexpr std::array<FieldPlace, planfields> fieldplaces{
+    {{"txtDraught", "D&raught, m", "How deep the boat goes, metres", ""},
+     {"txtClearance", "C&learance, m", "Water to be kept under the keel, metres", ""},
+     {"txtBottom", "&Bottom, m",
+      "Charted depth in metres below chart datum; negative if it dries: -2 for a sill that dries 2 m",
+      "negative if it dries"},
+     {"txtBridge", "Brid&ge, m", "Height of a bridge above its level, metres; empty for none", "none"},
+     {"txtMast", "&Mast, m", "How high the mast stands above the water, metres", ""},
+     {"txtBridgeLevel", "Bridge le&vel, m",
+      "How many metres above chart datum the level lies that the bridge's height is given for, such as mean high water "
+      "springs",
+      "above chart datum"},
+     {"txtLeast", "At l&east, minutes", "Shorter windows are left out", "any"}}};
+
+}  // namespace
+
+void frmplanner::buildlayout() {
+    picture = new PlanPictureBox(view, context.services);
+    picture->setMinimumHeight(fontMetrics().height() * 11);
+    lblNow = textlabel("lblNow", false);
+    lblAnswer = textlabel("lblAnswer", true);
+    lblCursor = textlabel("lblCursor", false);
+    lblFoot = textlabel("lblFoot", false);
+    lblSaid = textlabel("lblSaid", false);
+    QFont larger = font();
+    larger.setPointSizeF(larger.pointSizeF() * 1.15);
+    larger.setBold(true);
+    lblAnswer->setFont(larger);
+    lblNow->setFont(larger);
+
+    auto* lower = new QWidget;
+    auto* columns = new QHBoxLayout(lower);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->addWidget(buildquestion());
+    columns->addWidget(buildpages(), 1);
+    auto* split = named<QSplitter>("split", Qt::Vertical);
+    split->addWidget(picture);
+    split->addWidget(lower);
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 1);
+    split->setChildrenCollapsible(false);
+
+    auto* whole = new QWidget;
+    auto* rows = new QVBoxLayout(whole);
+    rows->addLayout(buildchoices());
+    rows->addWidget(lblNow);
+    rows->addWidget(split, 1);
+    rows->addWidget(lblFoot);
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(lblCursor, 1);
+    foot->addWidget(lblSaid, 1);
+    rows->addLayout(foot);
+    setCentralWidget(whole);
+}
+
+QLayout* frmplanner::buildchoices() {
+    cmbPort = choicebox("cmbPort", {}, "Port");
+    cmbPort->setEditable(true);
+    cmbPort->setInsertPolicy(QComboBox::NoInsert);
+    cmbPort->setMinimumContentsLength(18);
+    cmdPreviousWeek = stepbutton("cmdPreviousWeek", "\u00AB", "Previous week");
+    cmdPreviousDay = stepbutton("cmdPreviousDay", "\u2039", "Previous day");
+    cmdNextDay = stepbutton("cmdNextDay", "\u203A", "Next day");
+    cmdNextWeek = stepbutton("cmdNextWeek", "\u00BB", "Next week");
+    cmdToday = stepbutton("cmdToday", "Today", "Today");
+    cmdToday->setAutoRaise(false);
+    DTPicker = named<DateBox>("DTPicker", makedate(firsttypedyear, 1, 1), makedate(lasttypedyear, 12, 31));
+    DTPicker->setMaxLength(30);
+    DTPicker->setAccessibleName("First day");
+    DTPicker->setFixedWidth(fontMetrics().averageCharWidth() * 16);
+    lblDayName = textlabel("lblDayName", false);
+    lblDayName->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    cmbSpan = choicebox("cmbSpan", {"1 day", "2 days", "3 days", "1 week", "2 weeks", "31 days"}, "Span");
+    cmbClock = choicebox("cmbClock", {"Port's clock", "Universal time", "Zone time", "This computer's clock"}, "Clock");
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(captionof("&Port", cmbPort));
+    row->addWidget(cmbPort, 1);
+    auto* date = new QHBoxLayout;
+    date->setSpacing(0);
+    for (QWidget* each : {static_cast<QWidget*>(cmdPreviousWeek), static_cast<QWidget*>(cmdPreviousDay),
+                          static_cast<QWidget*>(DTPicker), static_cast<QWidget*>(DTPicker->arrow),
+                          static_cast<QWidget*>(cmdNextDay), static_cast<QWidget*>(cmdNextWeek)})
+        date->addWidget(each);
+    row->addWidget(lblDayName);
+    row->addLayout(date);
+    row->addWidget(cmdToday);
+    row->addWidget(captionof("&Span", cmbSpan));
+    row->addWidget(cmbSpan);
+    row->addWidget(captionof("Cl&ock", cmbClock));
+    row->addWidget(cmbClock);
+    return row;
+}
+
+QWidget* frmplanner::buildquestion() {
+    fraQuestion = named<QGroupBox>("fraQuestion", "&When can I go?");
+    fraQuestion->setCheckable(true);
+    auto* grid = new QGridLayout;
+    for (std::size_t i = 0; i < planfields; ++i) {
+        const FieldPlace& place = fieldplaces[i];
+        fields[i] = named<QLineEdit>(place.name);
+        fields[i]->setToolTip(place.hint);
+        fields[i]->setAccessibleDescription(place.hint);
+        fields[i]->setPlaceholderText(place.placeholder);
+        fields[i]->setMaxLength(20);
+        fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 10);
+        const int row = static_cast<int>(i / 3), column = static_cast<int>(i % 3) * 2;
+        grid->addWidget(captionof(place.caption, fields[i]), row, column, Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(fields[i], row, column + 1);
+    }
+    auto* wishes = buildwishes();
+    grid->addLayout(wishes, 2, 2, 1, 4);
+    auto* rows = new QVBoxLayout(fraQuestion);
+    rows->addLayout(grid);
+    auto* days = new QHBoxLayout;
+    days->setSpacing(2);
+    for (std::size_t i = 0; i < weekdays.size(); ++i) {
+        const int sundayfirst = static_cast<int>((i + 1) % 7);
+        const QString name = QString::fromStdString(context.services.locale.dayname(sundayfirst));
+        weekdays[i] = named<QToolButton>("weekday");
+        weekdays[i]->setText(QString::fromStdString(context.services.locale.dayabbreviation(sundayfirst)));
+        weekdays[i]->setAccessibleName(name);
+        weekdays[i]->setToolTip(name);
+        weekdays[i]->setCheckable(true);
+        weekdays[i]->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        days->addWidget(weekdays[i]);
+    }
+    rows->addLayout(days);
+    rows->addWidget(lblAnswer, 1);
+    lblAnswer->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    lblAnswer->setMinimumHeight(fontMetrics().height() * 4);
+    return fraQuestion;
+}
+
+QLayout* frmplanner::buildwishes() {
+    cmbDaylight = choicebox("cmbDaylight", {"By day or night", "Partly in daylight", "Wholly in daylight"}, "Daylight");
+    chkTwilight = named<QCheckBox>("chkTwilight", "and &twilight");
+    chkTwilight->setToolTip("Civil twilight counts as daylight: the sun is less than 6 degrees down");
+    auto* row = new QHBoxLayout;
+    row->addWidget(cmbDaylight);
+    row->addWidget(chkTwilight);
+    row->addStretch(1);
+    return row;
+}
+
+QWidget* frmplanner::buildpages() {
+    tides = new PlanTableBox("tides", "Tides");
+    windows = new PlanTableBox("windows", "Access");
+    sunandmoon = new PlanTableBox("sunandmoon", "Sun and Moon");
+    pages = named<QTabWidget>("pages");
+    pages->addTab(tides, "Tides");
+    pages->addTab(windows, "Access");
+    pages->addTab(sunandmoon, "Sun and Moon");
+    return pages;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,86 @@
+// The planner's menus.
+#include <QMenu>
+#include <QMenuBar>
+
+#include "planner/frmplanner.h"
+#include "planner/plancommands.h"
+#include "platform/qt/screentext.h"
+
+namespace tarvane {
+
+QAction* frmplanner::add(QMenu* menu, const char* name, const char* caption, const QKeySequence& key,
+                         std::function<void()> act) {
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(name);
+    if (!key.isEmpty()) action->setShortcut(key);
+    connect(action, &QAction::triggered, this, [this, act = std::move(act)] {
+        context.session.view.answer.clear();
+        act();
+        tell(context.session.view.answer);
+    });
+    return action;
+}
+
+void frmplanner::buildfilemenu() {
+    QMenu* file = menuBar()->addMenu("&File");
+    const auto save = [this](auto command) { return [this, command] { command(context, view); }; };
+    add(file, "mnuSaveTides", "Save &Tides as Table", {}, save(savewaterstable));
+    add(file, "mnuSaveAccess", "Save &Access as Table", {}, save(savewindowstable));
+    add(file, "mnuCalendarTides", "Save T&ides as Calendar", {}, save(savewaterscalendar));
+    add(file, "mnuCalendarAccess", "Save A&ccess as Calendar", {}, save(savewindowscalendar));
+    add(file, "mnuSavePicture", "Save &Picture", QKeySequence::Save,
+        [this] { saveplanpicture(context, view, picture->width(), picture->height()); });
+    file->addSeparator();
+    add(file, "mnuClose", "&Close", QKeySequence("Ctrl+W"), [this] { close(); });
+}
+
+void frmplanner::buildmenus() {
+    buildfilemenu();
+    QMenu* edit = menuBar()->addMenu("&Edit");
+    add(edit, "mnuCopyTable", "Copy &Table", QKeySequence("Ctrl+Shift+C"),
+        [this] { copyplantable(context, static_cast<PlanTableBox*>(pages->currentWidget())->table()); });
+    add(edit, "mnuCopyPicture", "Copy &Picture", QKeySequence("Ctrl+Alt+C"),
+        [this] { copyplanpicture(context, view, picture->width(), picture->height()); });
+
+    QMenu* go = menuBar()->addMenu("&Go");
+    add(go, "mnuToday", "&Today", QKeySequence("Ctrl+T"), [this] { gotodate(todayof(context, view)); });
+    add(go, "mnuPreviousDay", "&Previous Day", QKeySequence("PgUp"), [this] { stepdays(-1); });
+    add(go, "mnuNextDay", "&Next Day", QKeySequence("PgDown"), [this] { stepdays(1); });
+    add(go, "mnuPreviousWeek", "Pre&vious Week", QKeySequence("Shift+PgUp"), [this] { stepdays(-7); });
+    add(go, "mnuNextWeek", "Ne&xt Week", QKeySequence("Shift+PgDown"), [this] { stepdays(7); });
+    add(go, "mnuPort", "Choose P&ort", QKeySequence("Ctrl+F"), [this] {
+        cmbPort->setFocus();
+        cmbPort->lineEdit()->selectAll();
+    });
+
+    QMenu* show = menuBar()->addMenu("&View");
+    add(show, "mnuZoomIn", "Zoom &In", QKeySequence::ZoomIn, [this] {
+        zoomplan(view, 0.5, view.from + (view.to - view.from) / 2);
+        picture->redraw();
+    });
+    add(show, "mnuZoomOut", "Zoom &Out", QKeySequence::ZoomOut, [this] {
+        zoomplan(view, 2, view.from + (view.to - view.from) / 2);
+        picture->redraw();
+    });
+    add(show, "mnuWhole", "&All Days", QKeySequence("Ctrl+0"), [this] {
+        showwhole(view);
+        picture->redraw();
+    });
+    show->addSeparator();
+    QAction* night = add(show, "mnuNight", "&Night (red)", QKeySequence("Ctrl+R"), [this] {
+        shownight(entry("mnuNight")->isChecked());
+        keepsettings(context, view);
+    });
+    night->setCheckable(true);
+    night->setChecked(view.settings.night);
+    QAction* start = add(show, "mnuOpenAtStart", "Open the planner at &start", {}, [this] {
+        view.settings.openatstart = entry("mnuOpenAtStart")->isChecked();
+        keepsettings(context, view);
+    });
+    start->setCheckable(true);
+    start->setChecked(view.settings.openatstart);
+    QMenu* help = menuBar()->addMenu("&Help");
+    add(help, "mnuManual", "&Manual", {}, [this] { context.services.windows.showmanual("frmplanner"); });
+}
+
+}  // namespace tarvane

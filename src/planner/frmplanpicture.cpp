@@ -1,0 +1,237 @@
+#include "planner/frmplanpicture.h"
+
+#include <QFontInfo>
+#include <QGestureEvent>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPainter>
+#include <QPinchGesture>
+#include <QWheelEvent>
+#include <cmath>
+
+#include "planner/plantexts.h"
+#include "platform/qt/paintercanvas.h"
+
+namespace tarvane {
+namespace {
+
+constexpr double zoomstep = 1.25;
+constexpr double wheelclick = 120;
+
+/// "Sat 18 Jul 05:40 BST: 4.42 m, rising 0.8 m/h" as lines.
+std::vector<std::string> bubblelines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::string rest = text;
+    for (const char* part : {": ", ", ", ", "}) {
+        const std::size_t at = rest.find(part);
+        if (at == std::string::npos) break;
+        lines.push_back(rest.substr(0, at));
+        rest.erase(0, at + 2);
+    }
+    lines.push_back(rest);
+    return lines;
+}
+
+}  // namespace
+
+PlanPictureBox::PlanPictureBox(PlanView& owner, const Services& all, QWidget* parent)
+    : QWidget(parent), view(owner), services(all), look(&planlook(PlanLight::day)) {
+    setObjectName("picture");
+    setAccessibleName("Tides of the days, with the windows of passage");
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    grabGesture(Qt::PinchGesture);
+}
+
+void PlanPictureBox::setlook(const PlanLook& wanted) {
+    look = &wanted;
+    redraw();
+}
+
+void PlanPictureBox::redraw() {
+    painted = {};
+    update();
+}
+
+QSize PlanPictureBox::sizeHint() const {
+    return {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 22};
+}
+
+std::optional<PlanPicture> PlanPictureBox::picture() const {
+    if (!view.plan) return std::nullopt;
+    return PlanPicture{.plan = *view.plan,
+                       .locale = services.locale,
+                       .look = *look,
+                       .area = {0, 0, double(width()), double(height())},
+                       .from = view.from,
+                       .to = view.to,
+                       .passage = passageof(view),
+                       .access = &view.access,
+                       .textsize = double(QFontInfo(font()).pixelSize())};
+}
+
+void PlanPictureBox::repaintpicture() {
+    const double ratio = devicePixelRatioF();
+    painted = QPixmap(size() * ratio);
+    painted.setDevicePixelRatio(ratio);
+    painted.fill(QColor::fromRgb(look->paper));
+    QPainter painter(&painted);
+    PainterCanvas canvas(painter, font());
+    if (const auto shown = picture()) {
+        scale = scaleof(*shown, canvas);
+        paintplan(canvas, *shown, scale);
+        return;
+    }
+    const TextLook words{look->text, double(QFontInfo(font()).pixelSize()), false, Anchor::middle};
+    canvas.text({width() / 2.0, height() / 2.0}, view.whynot, words);
+}
+
+void PlanPictureBox::paintEvent(QPaintEvent*) {
+    if (painted.isNull() || painted.size() != size() * devicePixelRatioF()) repaintpicture();
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, painted);
+    const auto shown = picture();
+    if (!shown) return;
+    PainterCanvas canvas(painter, font());
+    paintnow(canvas, *shown, scale, services.clock.moment());
+    if (!view.cursor) return;
+    paintcursor(canvas, *shown, scale, *view.cursor,
+                bubblelines(momenttext(*view.plan, *view.cursor, shown->passage, services.locale)));
+}
+
+void PlanPictureBox::putat(std::optional<Moment> at) {
+    const Moment before = view.from;
+    if (at && view.plan)
+        putcursor(view, *at);
+    else
+        view.cursor.reset();
+    if (view.from != before) painted = {};
+    update();
+    if (oncursor) oncursor();
+}
+
+void PlanPictureBox::mouseMoveEvent(QMouseEvent* event) {
+    if (!view.plan) return;
+    const double x = event->position().x();
+    if (draggedfrom && scale.plot.width() > 0) {
+        const double seconds = (*draggedfrom - x) / scale.plot.width() * double((view.to - view.from).count());
+        draggedfrom = x;
+        moveplan(view, std::chrono::seconds(std::llround(seconds)));
+        return redraw();
+    }
+    if (painted.isNull()) return;
+    bymouse = true;
+    const bool inside = scale.plot.holds({x, event->position().y()});
+    putat(inside ? std::optional(std::chrono::round<std::chrono::minutes>(scale.moment(x))) : std::nullopt);
+}
+
+void PlanPictureBox::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) draggedfrom = event->position().x();
+}
+
+void PlanPictureBox::mouseReleaseEvent(QMouseEvent*) {
+    draggedfrom.reset();
+}
+
+void PlanPictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!view.plan || painted.isNull() || event->button() != Qt::LeftButton) return;
+    const Moment at = std::clamp(scale.moment(event->position().x()), view.from, view.to - std::chrono::seconds(1));
+    if (onday) onday(view.plan->clock().at(at).date);
+}
+
+void PlanPictureBox::zoom(double factor, double x) {
+    if (!view.plan || painted.isNull()) return;
+    zoomplan(view, factor, std::clamp(scale.moment(x), view.from, view.to));
+    redraw();
+}
+
+void PlanPictureBox::wheelEvent(QWheelEvent* event) {
+    const QPoint turned = event->angleDelta();
+    // Sideways, or with Shift, the wheel moves.
+    const int along = turned.x() != 0 ? turned.x() : event->modifiers() & Qt::ShiftModifier ? turned.y() : 0;
+    if (along != 0) {
+        moveplan(view,
+                 std::chrono::seconds(std::llround(-along / wheelclick / 8 * double((view.to - view.from).count()))));
+        redraw();
+    } else {
+        zoom(std::pow(zoomstep, -turned.y() / wheelclick), event->position().x());
+    }
+    event->accept();
+}
+
+void PlanPictureBox::leaveEvent(QEvent*) {
+    if (bymouse) putat(std::nullopt);
+    bymouse = false;
+}
+
+void PlanPictureBox::walk(std::chrono::minutes by) {
+    if (!view.plan) return;
+    const Moment now = services.clock.moment();
+    const Moment start = now >= view.from && now < view.to ? std::chrono::floor<std::chrono::minutes>(now) : view.from;
+    putat(view.cursor ? *view.cursor + by : start);
+}
+
+void PlanPictureBox::walkwater(bool forwards) {
+    if (!view.plan) return;
+    const Moment at = view.cursor.value_or(view.from);
+    std::optional<Moment> next;
+    for (const PlannedWater& each : view.plan->waters()) {
+        if (forwards && each.moment > at && !next) next = each.moment;
+        if (!forwards && each.moment < at) next = each.moment;
+    }
+    if (next) putat(next);
+}
+
+void PlanPictureBox::gonow() {
+    if (!view.plan) return;
+    const Moment now = std::chrono::floor<std::chrono::minutes>(services.clock.moment());
+    if (now < view.plan->begins() || now >= view.plan->ends()) {
+        if (onnow) onnow();
+        if (!view.plan) return;
+    }
+    putat(now);
+}
+
+void PlanPictureBox::keyPressEvent(QKeyEvent* event) {
+    using std::chrono::minutes;
+    bymouse = false;
+    const bool fine = event->modifiers() & Qt::ShiftModifier, waters = event->modifiers() & Qt::ControlModifier;
+    const minutes step(fine ? 1 : 10);
+    const double middle = (scale.plot.left + scale.plot.right) / 2;
+    switch (event->key()) {
+        case Qt::Key_Left:
+            return waters ? walkwater(false) : walk(-step);
+        case Qt::Key_Right:
+            return waters ? walkwater(true) : walk(step);
+        case Qt::Key_Home:
+            return gonow();
+        case Qt::Key_Plus:
+            return zoom(1 / zoomstep, view.cursor ? scale.x(*view.cursor) : middle);
+        case Qt::Key_Minus:
+            return zoom(zoomstep, view.cursor ? scale.x(*view.cursor) : middle);
+        case Qt::Key_Escape:
+            if (view.cursor) return putat(std::nullopt);
+            break;
+        default:
+            break;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+bool PlanPictureBox::event(QEvent* event) {
+    if (event->type() == QEvent::Gesture) {
+        const auto* pinch = static_cast<QPinchGesture*>(static_cast<QGestureEvent*>(event)->gesture(Qt::PinchGesture));
+        if (pinch && pinch->scaleFactor() > 0) zoom(1 / pinch->scaleFactor(), mapFromGlobal(pinch->hotSpot()).x());
+        return true;
+    }
+    if (event->type() == QEvent::NativeGesture) {
+        const auto* gesture = static_cast<QNativeGestureEvent*>(event);
+        if (gesture->gestureType() == Qt::ZoomNativeGesture) zoom(1 / (1 + gesture->value()), gesture->position().x());
+        return true;
+    }
+    if (event->type() == QEvent::FontChange) redraw();
+    return QWidget::event(event);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,90 @@
+#include "planner/frmplantable.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "platform/qt/screentext.h"
+
+namespace tarvane {
+
+PlanTableBox::PlanTableBox(const char* name, const char* accessiblename) {
+    setObjectName(QLatin1String(name));
+    setAccessibleName(accessiblename);
+    setModel(&model_);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setResizeContentsPrecision(0);
+    setSortingEnabled(true);
+    sortByColumn(0, Qt::AscendingOrder);
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { choose(index.row()); });
+}
+
+void PlanTableBox::choose(int row) {
+    if (row >= 0 && row < model_.rowCount() && onmoment)
+        onmoment(model_.table.rows[static_cast<std::size_t>(row)].moment);
+}
+
+void PlanTableBox::showtable(PlanTable table) {
+    model_.replace(std::move(table));
+    resizeColumnsToContents();
+}
+
+void PlanTableBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return choose(currentIndex().row());
+    QTableView::keyPressEvent(event);
+}
+
+int PlanTableBox::Model::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(table.rows.size());
+}
+
+int PlanTableBox::Model::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(table.headings.size());
+}
+
+QVariant PlanTableBox::Model::data(const QModelIndex& index, int role) const {
+    if (role != Qt::DisplayRole) return {};
+    return screentext(
+        table.rows[static_cast<std::size_t>(index.row())].cells[static_cast<std::size_t>(index.column())]);
+}
+
+QVariant PlanTableBox::Model::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+    return screentext(table.headings[static_cast<std::size_t>(section)]);
+}
+
+void PlanTableBox::Model::arrange() {
+    const auto column = static_cast<std::size_t>(std::max(sortedby, 0));
+    std::stable_sort(table.rows.begin(), table.rows.end(), [&](const PlanTable::Row& one, const PlanTable::Row& other) {
+        if (column >= one.keys.size()) return false;
+        return order == Qt::AscendingOrder ? one.keys[column] < other.keys[column]
+                                           : one.keys[column] > other.keys[column];
+    });
+}
+
+void PlanTableBox::Model::sort(int column, Qt::SortOrder wanted) {
+    emit layoutAboutToBeChanged();
+    sortedby = column;
+    order = wanted;
+    arrange();
+    emit layoutChanged();
+}
+
+void PlanTableBox::Model::replace(PlanTable another) {
+    beginResetModel();
+    table = std::move(another);
+    arrange();
+    endResetModel();
+}
+
+}  // namespace tarvane

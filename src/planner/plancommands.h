@@ -1,0 +1,23 @@
+// What leaves the planner: tables, calendars and pictures as files, the clipboard, paper. Must not know any control.
+#pragma once
+
+#include "planner/plantexts.h"
+#include "planner/planview.h"
+
+namespace tarvane {
+
+/// Waters or windows, where the user chooses. One that holds nothing isn't written; the answer line says so.
+void savewaterstable(MainContext& context, const PlanView& view);
+void savewindowstable(MainContext& context, const PlanView& view);
+void savewaterscalendar(MainContext& context, const PlanView& view);
+void savewindowscalendar(MainContext& context, const PlanView& view);
+
+/// The picture as it is shown, by day, as a PNG or an SVG by the name's ending; or on the clipboard. Units of 1/96
+/// inch.
+void saveplanpicture(MainContext& context, const PlanView& view, double width, double height);
+void copyplanpicture(MainContext& context, const PlanView& view, double width, double height);
+
+/// A table on the clipboard, tabs between its cells.
+void copyplantable(MainContext& context, const PlanTable& table);
+
+}  // namespace tarvane

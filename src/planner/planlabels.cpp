@@ -1,0 +1,65 @@
+#include "planner/planlabels.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tarvane {
+namespace {
+
+constexpr double apart = 2;
+constexpr double linegap = 0.92;  // of a line's height: figures have no descenders
+
+bool overlap(const Area& one, const Area& other) {
+    return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
+}
+
+}  // namespace
+
+Area areaof(const Canvas& canvas, const PlanLabel& label) {
+    double width = 0;
+    for (const std::string& line : label.lines)
+        width = std::max(width, canvas.textwidth(line, label.look));
+    const double height = canvas.textheight(label.look) * linegap * static_cast<double>(label.lines.size());
+    return {label.middle.x - width / 2 - apart, label.middle.y, label.middle.x + width / 2 + apart,
+            label.middle.y + height};
+}
+
+bool LabelPlaces::isfree(const Area& area) const {
+    return area.top >= within_.top && area.bottom <= within_.bottom &&
+           std::none_of(taken_.begin(), taken_.end(), [&](const Area& each) { return overlap(area, each); });
+}
+
+std::vector<PlanLabel> LabelPlaces::place(std::vector<PlanLabel> labels) {
+    std::stable_sort(labels.begin(), labels.end(),
+                     [](const PlanLabel& one, const PlanLabel& other) { return one.importance > other.importance; });
+    std::vector<PlanLabel> placed;
+    for (PlanLabel& label : labels) {
+        Area area = areaof(canvas_, label);
+        const double inside = std::max(within_.left - area.left, 0.0) + std::min(within_.right - area.right, 0.0);
+        label.middle.x += inside;
+        area.left += inside;
+        area.right += inside;
+        if (!isfree(area)) continue;
+        taken_.push_back(area);
+        placed.push_back(label);
+    }
+    return placed;
+}
+
+void paintlabel(Canvas& canvas, const PlanLabel& label) {
+    TextLook look = label.look;
+    look.anchor = Anchor::middle;
+    Place place = label.middle;
+    if (label.behind) {
+        const Area area = areaof(canvas, label);
+        const std::array corners{Place{area.left, area.top}, Place{area.right, area.top},
+                                 Place{area.right, area.bottom}, Place{area.left, area.bottom}};
+        canvas.fill(corners, *label.behind, 0.8);
+    }
+    for (const std::string& line : label.lines) {
+        canvas.text(place, line, look);
+        place.y += canvas.textheight(look) * linegap;
+    }
+}
+
+}  // namespace tarvane

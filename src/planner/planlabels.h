@@ -1,0 +1,45 @@
+// Labels of the planner's picture, of which none may lie on another: the more important take their places first, and
+// one that finds none is left out. Must not paint.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/canvas.h"
+
+namespace tarvane {
+
+/// Lines of text, one under the other, each middled.
+struct PlanLabel {
+    std::vector<std::string> lines;
+    TextLook look;
+    Place middle;                    ///< of its upper edge
+    double importance = 0;           ///< the greater first
+    std::optional<Rgb> behind = {};  ///< fills its place
+};
+
+/// What a label covers.
+Area areaof(const Canvas& canvas, const PlanLabel& label);
+
+class LabelPlaces {
+  public:
+    LabelPlaces(const Canvas& canvas, const Area& within) : canvas_(canvas), within_(within) {}
+
+    /// Keeps an area free of labels.
+    void take(const Area& area) { taken_.push_back(area); }
+
+    /// Those of the labels that have room, each moved sideways where only that keeps it inside.
+    std::vector<PlanLabel> place(std::vector<PlanLabel> labels);
+
+  private:
+    bool isfree(const Area& area) const;
+
+    const Canvas& canvas_;
+    Area within_;
+    std::vector<Area> taken_;
+};
+
+void paintlabel(Canvas& canvas, const PlanLabel& label);
+
+}  // namespace tarvane

@@ -1,0 +1,376 @@
+#include "planner/planpicture.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "dates/dateformats.h"
+#include "planner/planlabels.h"
+#include "planner/plantexts.h"
+#include "sunmoon/lunarphases.h"
+
+namespace tarvane {
+namespace {
+
+using std::chrono::days;
+using std::chrono::hours;
+using std::chrono::minutes;
+
+constexpr double inset = 4;
+constexpr double hatchstep = 7;
+
+double strokeof(const PlanPicture& picture) {
+    return picture.textsize / 12;
+}
+
+TextLook textlook(const PlanPicture& picture, Rgb colour, Anchor anchor = Anchor::left, bool bold = false) {
+    return {colour, picture.textsize, bold, anchor};
+}
+
+void paintlight(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    const auto fill = [&](bool twilight, Rgb colour) {
+        for (const auto& [begins, ends] : picture.plan.light(twilight)) {
+            const double left = scale.x(std::max(begins, scale.from)), right = scale.x(std::min(ends, scale.to));
+            if (left < right) canvas.fill(Area{left, scale.plot.top, right, scale.plot.bottom}, colour);
+        }
+    };
+    canvas.fill(scale.plot, picture.look.night);
+    fill(true, picture.look.twilight);
+    fill(false, picture.look.paper);
+}
+
+/// The least step of a ladder that keeps marks so far apart.
+template <std::size_t count>
+double stepof(const std::array<double, count>& ladder, double perunit, double apart) {
+    const auto step = std::find_if(ladder.begin(), ladder.end(), [&](double each) { return each * perunit >= apart; });
+    return step == ladder.end() ? ladder.back() : *step;
+}
+
+void paintheights(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    constexpr std::array ladder{0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0};
+    const TextLook look = textlook(picture, picture.look.faint, Anchor::right);
+    const double tall = canvas.textheight(look);
+    const double step = stepof(ladder, scale.plot.height() / (scale.greatest - scale.least), 2 * tall);
+    for (double count = std::ceil(scale.least / step); count * step <= scale.greatest; ++count) {
+        const double y = scale.y(count * step);
+        if (y - tall / 2 < scale.plot.top + tall || y + tall / 2 > scale.plot.bottom) continue;
+        const std::array places{Place{scale.plot.left, y}, Place{scale.plot.right, y}};
+        canvas.line(places, {picture.look.grid, 0.5});
+        std::string text = metres(count * step, step < 1 ? 1 : 0);
+        text.resize(text.size() - 2);  // the unit stands at the top
+        canvas.text({scale.plot.left - inset, y - tall / 2}, text, look);
+    }
+    canvas.text({scale.plot.left - inset, scale.plot.top}, "m", look);
+}
+
+/// Calls `act` with each full hour of the clock within the part shown.
+template <typename Act>
+void eachhour(const PlanPicture& picture, const PlanScale& scale, Act act) {
+    // Clocks stand whole quarters of an hour off universal time.
+    for (Moment at = std::chrono::ceil<hours>(scale.from - hours(1)); at <= scale.to; at += minutes(15)) {
+        if (at < scale.from) continue;
+        const ClockTime time = picture.plan.clock().at(at);
+        if (time.minuteofhour() == 0) act(at, time.hour());
+    }
+}
+
+void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    constexpr std::array ladder{1.0, 2.0, 3.0, 6.0, 12.0, 24.0};
+    const TextLook look = textlook(picture, picture.look.faint, Anchor::middle);
+    const double perhour = scale.plot.width() / (static_cast<double>((scale.to - scale.from).count()) / 3600);
+    const int step = static_cast<int>(stepof(ladder, perhour, canvas.textwidth("00", look) * 1.8));
+    eachhour(picture, scale, [&](Moment at, int hour) {
+        const double x = scale.x(at);
+        const std::array places{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
+        if (hour == 0) return canvas.line(places, {picture.look.faint, 1});
+        if (hour % step != 0) return;
+        canvas.line(places, {picture.look.grid, 0.5});
+        if (step <= 12)
+            canvas.text({x, scale.plot.bottom + inset / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
+    });
+}
+
+/// The longest form of their names that has room in the heads of all days, each `room` wide.
+const char* dayform(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    constexpr std::array forms{"dddd d mmmm yyyy", "dddd d mmmm", "ddd d mmm", "ddd d"};
+    const TextLook look = textlook(picture, 0, Anchor::middle, true);
+    const double room = scale.x(scale.from + hours(23)) - scale.plot.left - inset;
+    const Date first = picture.plan.clock().at(scale.from).date;
+    const auto fits = [&](const char* form) {
+        for (Date date = first; date < first + days(7); date += days(1))
+            if (canvas.textwidth(formatdate(picture.locale, date, form), look) > room) return false;
+        return true;
+    };
+    const auto form = std::find_if(forms.begin(), forms.end(), fits);
+    return form == forms.end() ? "d" : *form;
+}
+
+/// What a day is within the springs and neaps and the phases of the moon.
+struct DayHead {
+    Date date{};
+    double left = 0, right = 0;
+    int phase = -1;  ///< of the moon; negative for none
+    std::string tide;
+};
+
+std::vector<DayHead> dayheads(const PlanPicture& picture, const PlanScale& scale) {
+    const PortClock& clock = picture.plan.clock();
+    const auto phases = phasesbetween(picture.plan.begins(), picture.plan.ends());
+    const auto springs = picture.plan.springsandneaps();
+    std::vector<DayHead> heads;
+    for (Date date = clock.at(scale.from).date; clock.startof(date) < scale.to; date += days(1)) {
+        DayHead head{date, scale.x(std::max(clock.startof(date), scale.from)),
+                     scale.x(std::min(clock.startof(date + days(1)), scale.to)), -1, ""};
+        for (const MoonPhase& each : phases)
+            if (clock.at(each.moment).date == date) head.phase = each.phase;
+        for (const SpringTide& each : springs)
+            if (clock.at(each.moment).date == date) head.tide = each.springs ? "springs" : "neaps";
+        heads.push_back(head);
+    }
+    return heads;
+}
+
+void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    const double line = canvas.textheight(textlook(picture, 0)), radius = picture.textsize * 0.42;
+    const double top = scale.plot.top - 2 * line - inset;
+    canvas.fill(Area{scale.plot.left, top, scale.plot.right, scale.plot.top}, picture.look.band);
+    const std::string form = dayform(canvas, picture, scale);
+    bool first = true;
+    for (DayHead& head : dayheads(picture, scale)) {
+        const auto weekday = std::chrono::weekday(head.date);
+        const bool weekend = weekday == std::chrono::Saturday || weekday == std::chrono::Sunday;
+        const TextLook look = textlook(picture, picture.look.text, Anchor::middle, weekend);
+        const double room = head.right - head.left - inset, middle = (head.left + head.right) / 2;
+        const std::string name = formatdate(picture.locale, head.date, form);
+        if (canvas.textwidth(name, look) <= room) canvas.text({middle, top + inset / 2}, name, look);
+        const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
+        // Numbers alone need their month somewhere.
+        if (form == "d" && (first || dayof(head.date) == 1)) head.tide = formatdate(picture.locale, head.date, "mmm");
+        first = false;
+        // The short form where the whole word is too wide.
+        if (canvas.textwidth(head.tide, small) > room) head.tide = head.tide == "springs" ? "sp" : "np";
+        const bool told = !head.tide.empty() && canvas.textwidth(head.tide, small) <= room;
+        const double beside = told && head.phase >= 0 ? canvas.textwidth(head.tide, small) / 2 + radius + inset : 0;
+        const double lower = top + inset / 2 + line;
+        if (told) canvas.text({middle, lower}, head.tide, small);
+        if (head.phase >= 0 && room > 2 * radius && middle + beside + radius < head.right)
+            paintmoon(canvas, {middle + beside, lower + line / 2}, radius, head.phase, picture.look);
+        const std::array edge{Place{head.right, top}, Place{head.right, scale.plot.top}};
+        canvas.line(edge, {picture.look.grid, 1});
+    }
+}
+
+/// Lines that rise to the right, through a shape of any form.
+void hatch(Canvas& canvas, const std::vector<Place>& shape, const LineLook& look) {
+    double least = HUGE_VAL, greatest = -HUGE_VAL;
+    for (const Place& each : shape) {
+        least = std::min(least, each.x + each.y);
+        greatest = std::max(greatest, each.x + each.y);
+    }
+    for (double sum = std::ceil(least / hatchstep) * hatchstep; sum < greatest; sum += hatchstep) {
+        std::vector<double> crossed;  // x of the places where the line meets the shape's edge
+        for (std::size_t i = 0; i < shape.size(); ++i) {
+            const Place &one = shape[i], &other = shape[(i + 1) % shape.size()];
+            const double first = one.x + one.y - sum, second = other.x + other.y - sum;
+            if ((first < 0) != (second < 0)) crossed.push_back(one.x + (other.x - one.x) * first / (first - second));
+        }
+        std::sort(crossed.begin(), crossed.end());
+        for (std::size_t i = 0; i + 1 < crossed.size(); i += 2) {
+            const std::array places{Place{crossed[i], sum - crossed[i]}, Place{crossed[i + 1], sum - crossed[i + 1]}};
+            canvas.line(places, look);
+        }
+    }
+}
+
+/// The height of the level needed in the picture, or of its foot where that lies above it.
+double floorof(const PlanPicture& picture, const PlanScale& scale) {
+    return std::min(scale.y(picture.passage->needed()), scale.plot.bottom);
+}
+
+void paintwindows(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    if (!picture.passage || !picture.access) return;
+    const double foot = floorof(picture, scale);
+    for (const PlannedWindow& window : picture.access->windows)
+        for (std::vector<Place>& shape : curvepieces(picture, scale, window.opens, window.closes)) {
+            if (shape.size() < 2) continue;
+            const double first = shape.front().x, last = shape.back().x;
+            shape.push_back({last, foot});
+            shape.push_back({first, foot});
+            canvas.fill(shape, picture.look.passable);
+            hatch(canvas, shape, {picture.look.hatch, 0.7 * strokeof(picture)});
+        }
+}
+
+void paintseabed(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    if (!picture.passage || picture.passage->bottom >= 0) return;
+    const double y = std::max(scale.y(-picture.passage->bottom), scale.plot.top);
+    if (y < scale.plot.bottom)
+        canvas.fill(Area{scale.plot.left, y, scale.plot.right, scale.plot.bottom}, picture.look.seabed);
+}
+
+void paintcurve(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    const auto pieces = curvepieces(picture, scale, scale.from, scale.to);
+    for (const std::vector<Place>& piece : pieces)
+        canvas.line(piece, {picture.look.curve, 2 * strokeof(picture)});
+    if (!pieces.empty()) return;
+    const TextLook look = textlook(picture, picture.look.text, Anchor::middle);
+    canvas.text({(scale.plot.left + scale.plot.right) / 2, (scale.plot.top + scale.plot.bottom) / 2},
+                picture.plan.whynot(), look);
+}
+
+/// A level by its line and name, which is kept free of labels.
+void paintlevel(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, double height,
+                const std::string& name, LabelPlaces& places) {
+    const TextLook look = textlook(picture, picture.look.needed, Anchor::left, true);
+    const double tall = canvas.textheight(look), y = scale.y(height);
+    const bool above = y < scale.plot.top, inside = !above && y <= scale.plot.bottom;
+    if (inside) {
+        const std::array line{Place{scale.plot.left, y}, Place{scale.plot.right, y}};
+        canvas.line(line, {picture.look.needed, 1.5 * strokeof(picture), LineStyle::dashed});
+    }
+    const double top = inside ? std::max(y - tall, scale.plot.top) : above ? scale.plot.top : scale.plot.bottom - tall;
+    const std::string text = name + (inside ? "" : above ? ", above the picture" : ", below the picture");
+    const Area area{scale.plot.left + inset, top, scale.plot.left + inset + canvas.textwidth(text, look), top + tall};
+    canvas.fill(area, picture.look.paper);
+    canvas.text({area.left, area.top}, text, look);
+    places.take(area);
+}
+
+void paintlevels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
+    if (!picture.passage) return;
+    paintlevel(canvas, picture, scale, picture.passage->needed(), "needed " + metres(picture.passage->needed()),
+               places);
+    if (const auto ceiling = picture.passage->ceiling())
+        paintlevel(canvas, picture, scale, *ceiling, "at most " + metres(*ceiling), places);
+}
+
+std::vector<PlanLabel> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    const double tall = canvas.textheight(textlook(picture, 0));
+    std::vector<PlanLabel> labels;
+    for (const PlannedWater& each : picture.plan.waters()) {
+        if (each.moment < scale.from || each.moment > scale.to) continue;
+        const double y = scale.y(each.water.height);
+        PlanLabel label{{clocktext(picture.plan.clock().at(each.moment)), metres(each.water.height)},
+                        textlook(picture, picture.look.text, Anchor::middle, each.water.high),
+                        {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
+                        each.water.springshare + (each.water.high ? 10 : 0) - (each.water.stand ? 5 : 0)};
+        labels.push_back(label);
+    }
+    return labels;
+}
+
+std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    std::vector<PlanLabel> labels;
+    if (!picture.passage || !picture.access) return labels;
+    const TextLook look = textlook(picture, picture.look.needed, Anchor::middle, true);
+    const double tall = canvas.textheight(look), foot = floorof(picture, scale);
+    const double top = foot + inset + 2 * tall > scale.plot.bottom ? foot - 2 * tall - inset : foot + inset / 2;
+    for (const PlannedWindow& each : picture.access->windows) {
+        const Moment opens = std::max(each.opens, scale.from), closes = std::min(each.closes, scale.to);
+        if (opens >= closes) continue;
+        const std::string from = clocktext(picture.plan.clock().at(each.opens));
+        const std::string until = clocktext(picture.plan.clock().at(each.closes));
+        const double middle = (scale.x(opens) + scale.x(closes)) / 2;
+        labels.push_back({{from + "-" + until}, look, {middle, top}, 30, picture.look.paper});
+        // In two lines where one is too wide for its neighbours.
+        labels.push_back({{from + "-", until}, look, {middle, top}, 20, picture.look.paper});
+    }
+    return labels;
+}
+
+/// Each window's times once: the wide labels when all of them have room, else those of two lines.
+std::vector<PlanLabel> oneform(const Canvas& canvas, std::vector<PlanLabel> labels, double room) {
+    bool wide = true;
+    double behind = -HUGE_VAL;
+    for (const PlanLabel& each : labels) {
+        if (each.lines.size() != 1) continue;
+        const double half = canvas.textwidth(each.lines[0], each.look) / 2;
+        wide = wide && each.middle.x - half > behind;
+        behind = each.middle.x + half + room;
+    }
+    std::erase_if(labels, [&](const PlanLabel& each) { return (each.lines.size() == 1) != wide; });
+    return labels;
+}
+
+void paintlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
+    std::vector<PlanLabel> labels = oneform(canvas, windowlabels(canvas, picture, scale), inset);
+    for (const PlanLabel& each : waterlabels(canvas, picture, scale))
+        labels.push_back(each);
+    for (const PlanLabel& each : places.place(labels))
+        paintlabel(canvas, each);
+}
+
+}  // namespace
+
+void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    canvas.fill(picture.area, picture.look.paper);
+    if (!picture.title.empty()) {
+        const TextLook look{picture.look.text, picture.textsize * 1.25, true, Anchor::left};
+        canvas.text({scale.plot.left, picture.area.top + inset}, picture.title, look);
+    }
+    LabelPlaces places(canvas, scale.plot);
+    paintlight(canvas, picture, scale);
+    paintheads(canvas, picture, scale);
+    paintheights(canvas, picture, scale);
+    painthours(canvas, picture, scale);
+    paintseabed(canvas, picture, scale);
+    paintwindows(canvas, picture, scale);
+    paintcurve(canvas, picture, scale);
+    paintlevels(canvas, picture, scale, places);
+    paintlabels(canvas, picture, scale, places);
+}
+
+void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment now) {
+    if (now < scale.from || now > scale.to) return;
+    const double x = scale.x(now);
+    const std::array places{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
+    canvas.line(places, {picture.look.now, 1.5 * strokeof(picture)});
+}
+
+void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment at,
+                 const std::vector<std::string>& words) {
+    if (at < scale.from || at > scale.to) return;
+    const double x = scale.x(at), radius = picture.textsize / 3;
+    const std::array line{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
+    canvas.line(line, {picture.look.cursor, strokeof(picture)});
+    std::vector<Place> dot;
+    if (const auto height = picture.plan.height(at))
+        for (int i = 0; i < 24; ++i) {
+            const double turn = i * std::numbers::pi / 12;
+            dot.push_back({x + radius * std::cos(turn), scale.y(*height) + radius * std::sin(turn)});
+        }
+    if (!dot.empty()) canvas.fill(dot, picture.look.cursor);
+    const TextLook look = textlook(picture, picture.look.text);
+    double width = 0;
+    for (const std::string& each : words)
+        width = std::max(width, canvas.textwidth(each, look));
+    const double tall = canvas.textheight(look), left = x + 3 * inset;
+    const bool onleft = left + width + 3 * inset > scale.plot.right;
+    Area bubble{left, scale.plot.top + inset, left + width + 2 * inset,
+                scale.plot.top + 3 * inset + tall * static_cast<double>(words.size())};
+    if (onleft) bubble = {x - 3 * inset - width - 2 * inset, bubble.top, x - 3 * inset, bubble.bottom};
+    canvas.fill(bubble, picture.look.band);
+    const std::array frame{Place{bubble.left, bubble.top}, Place{bubble.right, bubble.top},
+                           Place{bubble.right, bubble.bottom}, Place{bubble.left, bubble.bottom},
+                           Place{bubble.left, bubble.top}};
+    canvas.line(frame, {picture.look.cursor, 1});
+    for (std::size_t i = 0; i < words.size(); ++i)
+        canvas.text({bubble.left + inset, bubble.top + inset + tall * static_cast<double>(i)}, words[i], look);
+}
+
+void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const PlanLook& look) {
+    std::vector<Place> rim, half;
+    for (int i = 0; i <= 36; ++i) {
+        const double turn = i * std::numbers::pi / 18;
+        rim.push_back({middle.x + radius * std::cos(turn), middle.y + radius * std::sin(turn)});
+        // Of the dark half: on the left at the first quarter, on the right at the last.
+        const double side = phase == 1 ? std::numbers::pi / 2 : -std::numbers::pi / 2, along = side + turn / 2;
+        half.push_back({middle.x + radius * std::cos(along), middle.y + radius * std::sin(along)});
+    }
+    canvas.fill(rim, phase == 0 ? look.faint : look.paper);
+    if (phase == 1 || phase == 3) canvas.fill(half, look.faint);
+    canvas.line(rim, {look.faint, radius / 6});
+}
+
+}  // namespace tarvane

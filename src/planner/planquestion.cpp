@@ -1,0 +1,118 @@
+#include "planner/planquestion.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "text/numbers.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+struct FieldRule {
+    const char* name;
+    double least, most;
+    const char* unit;
+    bool optional = false;
+};
+
+constexpr std::array<FieldRule, planfields> rules{{{"Draught", 0, 40, "m"},
+                                                   {"Clearance", 0, 40, "m"},
+                                                   {"Bottom", -40, 500, "m"},
+                                                   {"Bridge", 0, 200, "m", true},
+                                                   {"Mast", 0, 200, "m", true},
+                                                   {"Bridge's level", -40, 40, "m", true},
+                                                   {"Least time", 0, 1440, "minutes", true}}};
+
+std::string fieldtext(double value) {
+    // Stored singles read as they were typed.
+    return numbertext(std::round(value * 1000) / 1000);
+}
+
+std::string optionaltext(const std::optional<double>& value) {
+    return value ? fieldtext(*value) : "";
+}
+
+}  // namespace
+
+std::optional<double> typednumber(std::string_view text) {
+    std::string typed = trim(std::string(text));
+    if (typed.size() > 1 && typed.back() == 'm') typed = trim(typed.substr(0, typed.size() - 1));
+    if (typed.starts_with("\u2212")) typed = "-" + typed.substr(3);
+    if (typed.starts_with("+")) typed.erase(0, 1);
+    if (std::count(typed.begin(), typed.end(), ',') == 1) std::replace(typed.begin(), typed.end(), ',', '.');
+    if (typed.find_first_not_of("0123456789.-") != std::string::npos) return std::nullopt;
+    double value = 0;
+    const auto read = std::from_chars(typed.data(), typed.data() + typed.size(), value);
+    if (read.ec != std::errc{} || read.ptr != typed.data() + typed.size()) return std::nullopt;
+    return value;
+}
+
+QuestionRead readquestion(const PlanQuestion& question) {
+    QuestionRead read;
+    std::array<std::optional<double>, planfields> values;
+    for (std::size_t i = 0; i < planfields && read.refusal.empty(); ++i) {
+        const FieldRule& rule = rules[i];
+        const bool ofbridge = i == static_cast<std::size_t>(PlanField::airdraught) ||
+                              i == static_cast<std::size_t>(PlanField::bridgelevel);
+        // Without a bridge nobody reads what else stands there of one.
+        if (ofbridge && !values[static_cast<std::size_t>(PlanField::bridge)]) continue;
+        if (rule.optional && trim(question[i]).empty()) continue;
+        values[i] = typednumber(question[i]);
+        if (values[i] && *values[i] >= rule.least && *values[i] <= rule.most) continue;
+        read.refused = static_cast<PlanField>(i);
+        read.refusal = std::string(rule.name) + ": write " + rule.unit + " from " + fieldtext(rule.least) + " to " +
+                       fieldtext(rule.most) + ", not \u201C" + trim(question[i]) + "\u201D";
+    }
+    if (!read.refusal.empty()) return read;
+    const auto value = [&](PlanField field) { return values[static_cast<std::size_t>(field)]; };
+    read.passage.draught = *value(PlanField::draught);
+    read.passage.clearance = *value(PlanField::clearance);
+    read.passage.bottom = *value(PlanField::bottom);
+    read.passage.bridge = value(PlanField::bridge);
+    read.passage.airdraught = value(PlanField::airdraught).value_or(0);
+    read.passage.bridgelevel = value(PlanField::bridgelevel).value_or(0);
+    read.leastminutes = static_cast<int>(std::ceil(value(PlanField::least).value_or(0)));
+    const bool bridge = read.passage.bridge.has_value();
+    if (bridge && !value(PlanField::airdraught)) {
+        read.refused = PlanField::airdraught;
+        read.refusal = "Mast: write how high it stands above the water, in metres";
+    } else if (bridge && !value(PlanField::bridgelevel)) {
+        read.refused = PlanField::bridgelevel;
+        read.refusal =
+            "Bridge's level: write how many metres above chart datum the level lies that its height is given for";
+    }
+    return read;
+}
+
+PlanQuestion prefilledquestion(const PlanSettings& settings, const Settings& stored, const std::string& port) {
+    const auto kept = settings.bottoms.find(port);
+    const double depth = static_cast<double>(stored.userdepth);
+    return {fieldtext(settings.draught.value_or(static_cast<double>(stored.currentdraught))),
+            fieldtext(settings.clearance.value_or(static_cast<double>(stored.currentukc))),
+            fieldtext(kept == settings.bottoms.end() ? depth : kept->second),
+            optionaltext(settings.bridge),
+            optionaltext(settings.airdraught),
+            optionaltext(settings.bridgelevel),
+            settings.leastminutes > 0 ? numbertext(settings.leastminutes) : ""};
+}
+
+void keepquestion(const QuestionRead& read, const Settings& stored, const std::string& port, PlanSettings& settings) {
+    // What is as stored for the classic window goes on following that.
+    const auto differing = [](double typed, float as) {
+        return fieldtext(typed) == fieldtext(static_cast<double>(as)) ? std::nullopt : std::optional(typed);
+    };
+    settings.draught = differing(read.passage.draught, stored.currentdraught);
+    settings.clearance = differing(read.passage.clearance, stored.currentukc);
+    settings.bottoms.erase(port);
+    if (const auto bottom = differing(read.passage.bottom, stored.userdepth)) settings.bottoms[port] = *bottom;
+    settings.bridge = read.passage.bridge;
+    if (read.passage.bridge) {
+        settings.airdraught = read.passage.airdraught;
+        settings.bridgelevel = read.passage.bridgelevel;
+    }
+    settings.leastminutes = read.leastminutes;
+}
+
+}  // namespace tarvane

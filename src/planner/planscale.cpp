@@ -1,0 +1,105 @@
+// Which moment and height lie where in the planner's picture.
+#include <algorithm>
+#include <cmath>
+
+#include "planner/planpicture.h"
+
+namespace tarvane {
+namespace {
+
+constexpr double scalegap = 4;
+constexpr double leasthop = 1e-9;
+
+struct HeightRange {
+    double least = 0, greatest = 1;
+};
+
+/// Of the whole plan, so that the scale stands while the picture is moved.
+HeightRange heightsof(const Plan& plan) {
+    double least = HUGE_VAL, greatest = -HUGE_VAL;
+    const auto take = [&](std::optional<double> height) {
+        if (!height) return;
+        least = std::min(least, *height);
+        greatest = std::max(greatest, *height);
+    };
+    for (const PlannedWater& each : plan.waters())
+        take(each.water.height);
+    for (Moment at = plan.begins(); at < plan.ends(); at += std::chrono::days(1))
+        take(plan.height(at));
+    take(plan.height(plan.ends()));
+    if (least > greatest) return {};
+    return {least, std::max(greatest, least + 0.1)};
+}
+
+/// With what the passage asks for, where that is not out of all reach.
+HeightRange withpassage(HeightRange heights, const std::optional<Passage>& passage) {
+    if (!passage) return heights;
+    const double reach = heights.greatest - heights.least;
+    const HeightRange tides = heights;
+    const auto take = [&](double height) {
+        if (height < tides.least - reach || height > tides.greatest + reach) return;
+        heights.least = std::min(heights.least, height);
+        heights.greatest = std::max(heights.greatest, height);
+    };
+    take(passage->needed());
+    if (const auto ceiling = passage->ceiling()) take(*ceiling);
+    if (passage->bottom < 0) take(-passage->bottom);
+    return heights;
+}
+
+}  // namespace
+
+double PlanScale::x(Moment moment) const {
+    return plot.left + plot.width() * static_cast<double>((moment - from).count()) /
+                           static_cast<double>(std::max<std::int64_t>((to - from).count(), 1));
+}
+
+double PlanScale::y(double height) const {
+    return plot.bottom - plot.height() * (height - least) / (greatest - least);
+}
+
+Moment PlanScale::moment(double x) const {
+    const double part = plot.width() > 0 ? (x - plot.left) / plot.width() : 0;
+    return from + std::chrono::seconds(std::llround(part * static_cast<double>((to - from).count())));
+}
+
+PlanScale scaleof(const PlanPicture& picture, const Canvas& canvas) {
+    const TextLook look{.size = picture.textsize};
+    const double line = canvas.textheight(look);
+    PlanScale scale;
+    scale.from = picture.from;
+    scale.to = picture.to;
+    const double title =
+        picture.title.empty() ? 0 : canvas.textheight({.size = picture.textsize * 1.25}) + 2 * scalegap;
+    scale.plot = {picture.area.left + canvas.textwidth("-10.5", look) + 2 * scalegap,
+                  picture.area.top + title + 2 * line + 2 * scalegap, picture.area.right - 2 * scalegap,
+                  picture.area.bottom - line - 2 * scalegap};
+    const HeightRange heights = withpassage(heightsof(picture.plan), picture.passage);
+    // Labels of two lines find room over the highest water and under the lowest.
+    const double room = 2 * line + 2 * scalegap, inner = scale.plot.height() - 2 * room;
+    const double metres = (heights.greatest - heights.least) / std::max(inner, line);
+    scale.least = heights.least - room * metres;
+    scale.greatest = heights.greatest + room * metres;
+    return scale;
+}
+
+std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from,
+                                            Moment to) {
+    std::vector<std::vector<Place>> pieces;
+    bool apart = true;
+    const auto take = [&](Moment at) {
+        const auto height = picture.plan.height(at);
+        if (height && apart) pieces.emplace_back();
+        if (height) pieces.back().push_back({scale.x(at), scale.y(*height)});
+        apart = !height;
+    };
+    from = std::max(from, scale.from);
+    to = std::min(to, scale.to);
+    const double first = scale.x(from), last = scale.x(to);
+    for (double x = first; x < last - leasthop; x += 1)
+        take(scale.moment(x));
+    if (from < to) take(to);
+    return pieces;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,42 @@
+// What the planner remembers between runs, in a file of its own beside the configuration. Must not touch that one.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "files/wholefiles.h"
+#include "planner/access.h"
+#include "planner/portclock.h"
+#include "platform/drawings.h"
+#include "portdata/configuration.h"
+
+namespace tarvane {
+
+struct PlanSettings {
+    bool openatstart = false;
+    bool night = false;  ///< red on black
+    int days = 7;        ///< 1 to 31
+    ClockChoice clock = ClockChoice::port;
+    std::optional<Paper> paper;  ///< without one the locale's
+
+    bool asked = true;  ///< "When can I go?" is answered
+    bool twilight = false;
+    Daylight daylight = Daylight::none;
+    int leastminutes = 0;
+    Weekdays weekdays = everyweekday;
+    /// Metres; those that were typed in the planner, and for a port, "UK.hc/Cherbourg", its bottom.
+    std::optional<double> draught, clearance, bridge, airdraught, bridgelevel;
+    std::map<std::string, double> bottoms;
+};
+
+/// Where they are kept.
+std::string plansettingspath(const ProgramFolders& folders);
+
+/// Those of a first start for a file that isn't there or isn't one of these; a value that is out of its range or of
+/// another kind is left at that of a first start.
+PlanSettings readplansettings(const std::string& path);
+
+WriteOutcome writeplansettings(const std::string& path, const PlanSettings& settings);
+
+}  // namespace tarvane

@@ -1,0 +1,202 @@
+#include "planner/planview.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "dates/dateformats.h"
+#include "planner/plantexts.h"
+#include "portdata/recordfiles.h"
+#include "session/documents.h"
+#include "session/refresh.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+using std::chrono::days;
+using std::chrono::hours;
+
+constexpr int leastyear = 1, mostyear = 9999;
+
+std::string filename(const std::string& path) {
+    return path.substr(path.find_last_of('/') + 1);
+}
+
+std::array<float, 3> storedvalues(const Settings& settings) {
+    return {settings.currentdraught, settings.currentukc, settings.userdepth};
+}
+
+std::string portkey(const PlanView& view) {
+    return filename(view.area) + "/" + view.portname;
+}
+
+/// Makes the plan of what is in hand.
+void replan(const MainContext& context, PlanView& view) {
+    view.plan.reset();
+    view.access = {};
+    if (!view.whynot.empty()) return;
+    view.first = std::clamp(view.first, makedate(leastyear, 1, 2), makedate(mostyear, 11, 1));
+    view.plan = std::make_shared<Plan>(
+        PlanOf{view.port, view.about ? view.about->timezone : "", view.first, view.settings.days, view.settings.clock},
+        context.services.zones);
+    answeranew(view);
+}
+
+void takeport(const MainContext& context, PlanView& view) {
+    const Settings& settings = context.session.settings;
+    view.area = settings.hcfile;
+    view.number = settings.currentport;
+    view.ports.clear();
+    for (const HarmonicRecord& each : readports(view.area))
+        view.ports.push_back(trim(each.PortName));
+    view.whynot = !canopen(view.area)                                                            ? noareafile
+                  : view.number < 1 || static_cast<std::size_t>(view.number) > view.ports.size() ? nosuchport
+                                                                                                 : "";
+    view.port = view.whynot.empty() ? readport(view.area, view.number) : HarmonicRecord{};
+    view.portname = trim(view.port.PortName);
+    view.about = aboutport(aboutarea(context.session.folders, view.area), view.port, view.number);
+    view.stored = storedvalues(settings);
+    view.question = prefilledquestion(view.settings, settings, portkey(view));
+    view.refusal.clear();
+    view.read = readquestion(view.question);
+}
+
+void keepinside(PlanView& view) {
+    const auto shown = std::min(view.to - view.from, view.plan->ends() - view.plan->begins());
+    view.from = std::clamp(view.from, view.plan->begins(), view.plan->ends() - shown);
+    view.to = view.from + shown;
+}
+
+}  // namespace
+
+PlanView openplanview(const MainContext& context) {
+    PlanView view;
+    view.settings = readplansettings(plansettingspath(context.session.folders));
+    view.first = context.session.onshow.tidedate;
+    takeport(context, view);
+    replan(context, view);
+    showwhole(view);
+    return view;
+}
+
+bool followport(const MainContext& context, PlanView& view) {
+    const Settings& settings = context.session.settings;
+    const bool same = view.area == settings.hcfile && view.number == settings.currentport && view.whynot.empty() &&
+                      view.stored == storedvalues(settings);
+    if (same && encode(readport(view.area, view.number)) == encode(view.port)) return false;
+    takeport(context, view);
+    replan(context, view);
+    showwhole(view);
+    return true;
+}
+
+void showdays(const MainContext& context, PlanView& view, Date first, int count) {
+    view.first = first;
+    view.settings.days = std::clamp(count, 1, 31);
+    replan(context, view);
+    showwhole(view);
+}
+
+void showclock(const MainContext& context, PlanView& view, ClockChoice clock) {
+    view.settings.clock = clock;
+    replan(context, view);
+    showwhole(view);
+}
+
+Date todayof(const MainContext& context, const PlanView& view) {
+    if (!view.plan) return context.services.clock.now().today;
+    return view.plan->clock().at(context.services.clock.moment()).date;
+}
+
+void askquestion(const MainContext& context, PlanView& view, const PlanQuestion& question) {
+    view.question = question;
+    const QuestionRead read = readquestion(question);
+    view.refusal = read.refusal;
+    if (!read.refusal.empty()) return;
+    view.read = read;
+    keepquestion(read, context.session.settings, portkey(view), view.settings);
+    answeranew(view);
+}
+
+void answeranew(PlanView& view) {
+    view.access = {};
+    if (!view.plan || !view.settings.asked) return;
+    const PlanSettings& wishes = view.settings;
+    view.access =
+        view.plan->access(view.read.passage, {wishes.daylight, wishes.leastminutes, wishes.weekdays}, wishes.twilight);
+}
+
+void keepsettings(MainContext& context, const PlanView& view) {
+    const std::string path = plansettingspath(context.session.folders);
+    const WriteOutcome written = writeplansettings(path, view.settings);
+    if (!written) answer(context, "The planner's settings could not be kept: " + path + ": " + written.reason());
+}
+
+void zoomplan(PlanView& view, double factor, Moment about) {
+    if (!view.plan) return;
+    const double shown = static_cast<double>((view.to - view.from).count());
+    const double least = 3 * 3600, most = static_cast<double>((view.plan->ends() - view.plan->begins()).count());
+    const double wanted = std::clamp(shown * factor, std::min(least, most), most);
+    const double before = static_cast<double>((about - view.from).count()) * wanted / shown;
+    view.from = about - std::chrono::seconds(std::llround(before));
+    view.to = view.from + std::chrono::seconds(std::llround(wanted));
+    keepinside(view);
+}
+
+void moveplan(PlanView& view, std::chrono::seconds by) {
+    if (!view.plan) return;
+    view.from += by;
+    view.to += by;
+    keepinside(view);
+}
+
+void showday(PlanView& view, Date date) {
+    if (!view.plan) return;
+    view.from = view.plan->clock().startof(date);
+    view.to = view.plan->clock().startof(date + days(1));
+    keepinside(view);
+}
+
+void showwhole(PlanView& view) {
+    if (!view.plan) return;
+    view.from = view.plan->begins();
+    view.to = view.plan->ends();
+    if (view.cursor && (*view.cursor < view.from || *view.cursor > view.to)) view.cursor.reset();
+}
+
+void putcursor(PlanView& view, Moment at) {
+    if (!view.plan) return;
+    view.cursor = std::clamp(at, view.plan->begins(), view.plan->ends());
+    if (*view.cursor < view.from) moveplan(view, *view.cursor - view.from);
+    if (*view.cursor > view.to) moveplan(view, *view.cursor - view.to);
+}
+
+std::optional<Passage> passageof(const PlanView& view) {
+    return view.settings.asked ? std::optional(view.read.passage) : std::nullopt;
+}
+
+std::string plantitle(const PlanView& view, const Locale& locale) {
+    if (!view.plan) return view.portname;
+    const Date first = view.first, last = first + days(view.settings.days - 1);
+    std::string dates = formatdate(locale, last, "d mmmm yyyy");
+    if (first != last) {
+        const bool month = monthof(first) == monthof(last), year = yearof(first) == yearof(last);
+        dates = formatdate(locale, first, month && year ? "d" : year ? "d mmmm" : "d mmmm yyyy") + " to " + dates;
+    }
+    return view.portname + ", " + dates + ", " + view.plan->clock().description();
+}
+
+std::string answertext(const PlanView& view, const Locale& locale) {
+    if (!view.refusal.empty()) return "\u26A0 " + view.refusal;
+    if (!view.plan) return view.whynot;
+    return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale) : "";
+}
+
+std::string planfoot(const PlanView& view) {
+    if (!view.plan) return view.whynot;
+    return "Times by the " + view.plan->clock().description() + "; heights in metres above chart datum" +
+           (view.about && !view.about->datum.empty() ? " (" + view.about->datum + ")" : "") +
+           ". Predictions: weather isn't counted.";
+}
+
+}  // namespace tarvane

@@ -209,7 +209,8 @@ void frmstreams::showdate() {
 
 void frmstreams::showdayname() {
     DTPicker->setcalendar(view.date);
-    txtDayName->setText(QString::fromStdString("(" + formatdate(context.services.locale, view.date, "dddd") + ")"));
+    const std::string name = formatdate(context.services.locale, view.date, "dddd");
+    txtDayName->setText("(" + QString::fromStdString(name) + ")");
 }
 
 void frmstreams::showstreams() {

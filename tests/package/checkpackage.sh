@@ -29,15 +29,15 @@ lintian --allow-root --fail-on error,warning "$package" >lintian.txt 2>&1 &
 looking=$!
 
 dpkg-deb -x "$package" root
-(cd root && find . -type f ! -name '*.pdf' | sed 's|^\./||' | LC_ALL=C sort) >files.txt
+(cd root && find . -type f | sed 's|^\./||' | LC_ALL=C sort) >files.txt
 diff "$here/files.txt" files.txt || fault "The package doesn't hold the files above (< missing, > unforeseen)."
 version=$(dpkg-deb -f "$package" Version)
 [ "$(zcat root/usr/share/doc/*/changelog.gz | sed -n '1s/.*(\(.*\)).*/\1/p')" = "$version" ] ||
   fault "The changelog begins with another version than $version."
 [ "$(root/usr/bin/tides --version)" = "Tarvane Tides (v$version)" ] || fault "tides is of another version than $version."
 grep -q "<release version=\"$version\"" root/usr/share/metainfo/*.xml || fault "The metainfo doesn't know version $version."
-for library in libc6 libstdc++6 libqt6widgets6 libqt6printsupport6; do
-  [[ " $(dpkg-deb -f "$package" Depends)" == *" $library ("* ]] || fault "It doesn't depend on $library."
+for needed in libc6 libstdc++6 libqt6widgets6 libqt6printsupport6 libqt6pdf6 libqt6svg6 libdate-tz3 tzdata; do
+  [[ " $(dpkg-deb -f "$package" Depends)," == *" $needed"[\ ,]* ]] || fault "It doesn't depend on $needed."
 done
 
 desktop-file-validate root/usr/share/applications/*.desktop || fault "The menu entry isn't valid."

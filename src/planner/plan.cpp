@@ -43,16 +43,30 @@ long tidenumber(const HarmonicRecord& port, Moment moment, bool high) {
     return std::lround(high ? turns : turns - 0.5);
 }
 
-/// The mean share of the waters about each: of three high waters and the lows between.
-std::vector<double> smoothedshares(const std::vector<PlannedWater>& waters) {
-    constexpr std::size_t aside = 3;
-    std::vector<double> smoothed(waters.size(), 0);
-    for (std::size_t i = aside; i + aside < waters.size(); ++i) {
-        for (std::size_t j = i - aside; j <= i + aside; ++j)
-            smoothed[i] += waters[j].water.springshare;
-        smoothed[i] /= 2 * aside + 1;
+/// The range of a cosine that spreads the heights as those of the lunar day about a moment are spread: where waters
+/// double or stand, ranges from water to water tell nothing of springs. Nothing beside a day without a prediction.
+double rangeabout(const TideSpan& tides, double at) {
+    constexpr double aside = 12.42;
+    constexpr int samples = 36;
+    double sum = 0, squares = 0;
+    for (int i = 0; i < samples; ++i) {
+        const auto height = tides.height(at - aside + 2 * aside * (i + 0.5) / samples);
+        if (!height) return 0;
+        sum += *height;
+        squares += *height * *height;
     }
-    return smoothed;
+    const double mean = sum / samples;
+    return 2 * std::sqrt(2 * std::max(0.0, squares / samples - mean * mean));
+}
+
+/// The highest of the high waters that belong to one tide: those within a quarter of a lunar day.
+Moment highestabout(const std::vector<PlannedWater>& waters, const PlannedWater& high) {
+    const PlannedWater* highest = &high;
+    for (const PlannedWater& each : waters)
+        if (each.water.high && std::chrono::abs(each.moment - high.moment) < minutes(372) &&
+            each.water.height > highest->water.height)
+            highest = &each;
+    return highest->moment;
 }
 
 }  // namespace
@@ -152,7 +166,11 @@ std::vector<std::pair<Moment, Moment>> Plan::light(bool twilight) const {
 
 std::vector<SpringTide> Plan::springsandneaps() const {
     constexpr auto aside = days(5);
-    const std::vector<double> shares = smoothedshares(around_);
+    const double springrange = meanspringrange(of_.port);
+    if (springrange <= 0) return {};
+    std::vector<double> shares(around_.size(), 0);
+    for (std::size_t i = 0; i < around_.size(); ++i)
+        if (around_[i].water.high) shares[i] = rangeabout(tides_, spanhours(around_[i].moment)) / springrange;
     std::vector<SpringTide> found;
     for (std::size_t i = 0; i < around_.size(); ++i) {
         const PlannedWater& each = around_[i];
@@ -166,7 +184,7 @@ std::vector<SpringTide> Plan::springsandneaps() const {
             greatest = greatest && (j < i ? shares[j] < shares[i] : shares[j] <= shares[i]);
             least = least && (j < i ? shares[j] > shares[i] : shares[j] >= shares[i]);
         }
-        if (greatest || least) found.push_back({each.moment, greatest, shares[i]});
+        if (greatest || least) found.push_back({highestabout(waters_, each), greatest, shares[i]});
     }
     return found;
 }

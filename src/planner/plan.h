@@ -51,7 +51,7 @@ bool wished(const PortClock& clock, const PlannedWindow& window, const WindowWis
 struct SpringTide {
     Moment moment;  ///< of the high water of the greatest or the least range about it
     bool springs = false;
-    double springshare = 0;  ///< mean share of that day's waters
+    double springshare = 0;  ///< range of the lunar day about it over the mean spring range, by all its heights
 };
 
 /// What is planned.

@@ -1,7 +1,7 @@
 // Pictures of every window there is, offscreen: "shots [--out FOLDER] [--area FILE.hc] [--scale N] [--screen WxH]" with
 // a standing clock, "shots --mainwindow FILE.png" of the main window as this user would see it now, and "shots --pages
-// FOLDER [--area FILE.hc]" of every printout as a PDF, "shots --manual FOLDER" of the window that shows the built
-// manual. The screen is given in its own pixels.
+// FOLDER [--area FILE.hc]" of every printout and booklet as a PDF, "shots --manual FOLDER" of the window that shows the
+// built manual. The screen is given in its own pixels.
 #include <QApplication>
 #include <QDir>
 #include <QKeyEvent>
@@ -33,6 +33,7 @@
 #include "session/refresh.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
+#include "shots/booklets.h"
 #include "shots/diamonds.h"
 #include "shots/pages.h"
 #include "shots/planner.h"
@@ -329,7 +330,10 @@ void setscreen(const QByteArray& size, QTemporaryFile& description) {
 
 int run(const Options& options) {
     const QString area = options.area.isEmpty() ? QApplication::applicationDirPath() + "/UK.hc" : QString(options.area);
-    if (!options.pages.isEmpty()) return takepages(options.pages.toStdString(), area.toStdString()) ? 0 : 1;
+    if (!options.pages.isEmpty()) {
+        const bool taken = takepages(options.pages.toStdString(), area.toStdString());
+        return takebooklets(options.pages.toStdString(), area.toStdString()) && taken ? 0 : 1;
+    }
     if (!options.manual.isEmpty()) return takereader(options.manual.toStdString()) ? 0 : 1;
     Album album{QDir(options.out)};
     if (!options.mainwindow.isEmpty()) {

@@ -1,0 +1,243 @@
+// The planner's pages as they are laid out: what stands where, on both papers.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <regex>
+#include <set>
+
+#include "fakes/recordingcanvas.h"
+#include "fakes/scriptedlocale.h"
+#include "fakes/testport.h"
+#include "planner/almanacyear.h"
+#include "planner/planlook.h"
+#include "planner/planpages.h"
+#include "platform/systemzones/systemzones.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+using fakes::RecordingCanvas;
+
+const SystemZones systemzones;
+const ScriptedLocale english;
+
+/// What the printer leaves of A4 and Letter, upright.
+constexpr double papers[][2] = {{713.7, 1042.5}, {736, 976}};
+
+PageOf pageof(const std::string& name, const char* iana) {
+    PageOf of;
+    for (const HarmonicRecord& port : tests::shippedports())
+        if (trim(port.PortName) == name) of.port = port;
+    EXPECT_NE(of.port.Z0, 0) << name;
+    of.iana = iana;
+    of.number = 84;
+    of.area = "UK";
+    return of;
+}
+
+/// A port whose name is as long as a record holds, and whose water never turns.
+PageOf flatport() {
+    PageOf of;
+    of.port = tests::roundport();
+    of.port.PortName = "Upper Wittering Marina, Outer Basin W";
+    of.port.M2Hm = of.port.S2Hm = of.port.K1Hm = of.port.O1Hm = 0;
+    of.port.MHm2.fill(0);
+    of.port.DeltaZ0.fill(0);
+    return of;
+}
+
+std::vector<RecordingCanvas::Text> painted(const Booklet& booklet, int page, const double (&paper)[2]) {
+    RecordingCanvas canvas;
+    const double width = booklet.landscape ? paper[1] : paper[0], height = booklet.landscape ? paper[0] : paper[1];
+    booklet.paint(page, canvas, {0, 0, width, height});
+    for (const RecordingCanvas::Text& each : canvas.texts) {
+        EXPECT_TRUE(each.area.left >= -0.1 && each.area.top >= -0.1 && each.area.right <= width + 0.1 &&
+                    each.area.bottom <= height + 0.1)
+            << booklet.title << ", page " << page << ": " << each.text;
+    }
+    return canvas.texts;
+}
+
+bool overlap(const Area& one, const Area& other) {
+    constexpr double touching = 0.3;
+    return one.left < other.right - touching && other.left < one.right - touching &&
+           one.top < other.bottom - touching && other.top < one.bottom - touching;
+}
+
+/// `picture`: the labels within the page's picture, all middled, stand as that has them.
+void expectlegible(const Booklet& booklet, bool picture = false) {
+    for (const auto& paper : papers)
+        for (int page = 0; page < booklet.pages; ++page) {
+            auto texts = painted(booklet, page, paper);
+            if (picture) std::erase_if(texts, [](const auto& each) { return each.look.anchor == Anchor::middle; });
+            EXPECT_GE(texts.size(), 10U);
+            for (std::size_t i = 0; i < texts.size(); ++i) {
+                EXPECT_GE(texts[i].look.size * 0.75, 6.5) << texts[i].text;
+                for (std::size_t j = i + 1; j < texts.size(); ++j)
+                    EXPECT_FALSE(overlap(texts[i].area, texts[j].area))
+                        << booklet.title << ", page " << page << ": " << texts[i].text << " / " << texts[j].text;
+            }
+        }
+}
+
+TEST(Pages, NoTextLiesOnAnotherOrLeavesThePaper) {
+    PageOf boat = pageof("Cherbourg", "Europe/Paris");
+    boat.passage = Passage{1.5, 0.5, -2, 20.5, 18, 6.4};
+    boat.wishes = {Daylight::whole, 60};
+    const PageOf ports[] = {boat, pageof("Southampton", "Europe/London"), pageof("Swanage", ""),
+                            pageof("Avonmouth", "Europe/London"), flatport()};
+    const int months[][2] = {{2027, 2}, {2026, 3}, {2026, 8}, {2027, 10}, {1990, 1}};  // of four to six weeks
+    for (const PageOf& port : ports) {
+        for (const auto& [year, month] : months)
+            expectlegible(monthpage(port, year, month, systemzones, english));
+        expectlegible(almanac(port, 2027, systemzones, english));
+        for (const int days : {1, 7, 14, 31, 366})
+            expectlegible(spanpage(port, makedate(2027, 10, 20), days, systemzones, english), true);
+    }
+}
+
+const std::regex timeofday(R"((\d\d:\d\d)(\*?))");
+
+std::string shown(const Plan& plan, const PlannedWater& water) {
+    const std::string iso = isomoment(plan.clock().at(water.moment));
+    return iso.substr(8, 2) + " " + iso.substr(11, 5) + (water.water.high ? " high" : " low");
+}
+
+/// Day, time and kind of all waters of a month's page: a cell begins at its day's number.
+std::multiset<std::string> watersoncalendar(const std::vector<RecordingCanvas::Text>& texts) {
+    std::multiset<std::string> found;
+    for (const RecordingCanvas::Text& text : texts) {
+        std::smatch time;
+        if (!std::regex_match(text.text, time, timeofday)) continue;
+        const RecordingCanvas::Text* number = nullptr;
+        for (const RecordingCanvas::Text& each : texts) {
+            if (each.look.size != 14 || each.area.top > text.area.top || each.area.left > text.area.left + 1) continue;
+            if (!number || each.area.top > number->area.top + 1 ||
+                (each.area.top > number->area.top - 1 && each.area.left > number->area.left))
+                number = &each;
+        }
+        if (!number) ADD_FAILURE() << text.text;
+        const std::string day = number ? std::to_string(100 + std::stoi(number->text)).substr(1) : "";
+        found.insert(day + " " + time[1].str() + (text.look.bold ? " high" : " low"));
+    }
+    return found;
+}
+
+TEST(Pages, AMonthHasEachOfItsWatersOnItsDay) {
+    const struct {
+        const char *port, *zone;
+        int year;
+        unsigned month;
+    } rows[] = {{"Cherbourg", "Europe/Paris", 2026, 3},
+                {"Dover", "Europe/London", 2027, 10},
+                {"Southampton", "Europe/London", 2026, 8},
+                {"Newlyn", "America/St_Johns", 2026, 11}};
+    for (const auto& row : rows) {
+        const PageOf of = pageof(row.port, row.zone);
+        const Date first = makedate(row.year, static_cast<int>(row.month), 1);
+        const Plan plan({of.port, of.iana, first, DaysInMonth(row.year, static_cast<int>(row.month))}, systemzones);
+        std::multiset<std::string> expected;
+        for (const PlannedWater& each : plan.waters())
+            expected.insert(shown(plan, each));
+        const Booklet page = monthpage(of, row.year, static_cast<int>(row.month), systemzones, english);
+        for (const auto& paper : papers)
+            EXPECT_EQ(watersoncalendar(painted(page, 0, paper)), expected) << row.port;
+    }
+}
+
+TEST(Pages, AnAlmanacHasAllWatersOfTheYearByTheMonth) {
+    const PageOf of = pageof("Southampton", "Europe/London");
+    const Booklet booklet = almanac(of, 2028, systemzones, english);
+    ASSERT_EQ(booklet.pages, 13);
+    const Plan plan({of.port, of.iana, makedate(2028, 1, 1), 366}, systemzones);
+    std::map<int, std::multiset<std::string>> expected;
+    for (const PlannedWater& each : plan.waters())
+        expected[monthof(plan.clock().at(each.moment).date)].insert(shown(plan, each).substr(3));
+    for (int month = 1; month <= 12; ++month) {
+        std::multiset<std::string> found;
+        for (const RecordingCanvas::Text& each : painted(booklet, month - 1, papers[1])) {
+            std::smatch time;
+            if (each.look.colour == planlook(PlanLight::day).text && std::regex_match(each.text, time, timeofday))
+                found.insert(time[1].str() + (each.look.bold ? " high" : " low"));
+        }
+        EXPECT_EQ(found, expected[month]) << month;
+    }
+}
+
+std::size_t counted(const std::vector<RecordingCanvas::Text>& texts, const std::string& part) {
+    return static_cast<std::size_t>(std::count_if(
+        texts.begin(), texts.end(), [&part](const auto& each) { return each.text.find(part) != std::string::npos; }));
+}
+
+TEST(Pages, ADayWithoutAPredictionSaysSo) {
+    const PageOf port = pageof("Dover", "Europe/London");
+    for (const Booklet& page :
+         {monthpage(port, 1990, 1, systemzones, english), almanac(port, 1990, systemzones, english)}) {
+        const auto texts = painted(page, 0, papers[0]);
+        EXPECT_EQ(counted(texts, "no prediction"), 2U) << page.title;
+        EXPECT_EQ(counted(texts, "no high or low water"), 0U);
+        EXPECT_EQ(counted(texts, "The method has no constants"), 1U);
+    }
+    const auto flat = painted(monthpage(flatport(), 2026, 2, systemzones, english), 0, papers[0]);
+    EXPECT_EQ(counted(flat, "no high or low water"), 28U);
+    EXPECT_EQ(counted(flat, "prediction"), 0U);
+}
+
+/// On the page of some days, what of the picture bears no words of a list.
+TEST(Pages, ASpanTellsItsWatersAndTheAnswer) {
+    PageOf boat = pageof("Dover", "Europe/London");
+    boat.passage = Passage{1.5, 0.5, -2, std::nullopt, 0, 0};
+    const Date first = makedate(2027, 10, 28);
+    const Plan plan({boat.port, boat.iana, first, 7}, systemzones);
+    const auto texts = painted(spanpage(boat, first, 7, systemzones, english), 0, papers[0]);
+    std::multiset<std::string> found, expected;
+    for (const RecordingCanvas::Text& each : texts) {
+        std::smatch time;
+        if (std::regex_match(each.text, time, timeofday) && each.look.anchor == Anchor::left)
+            found.insert(time[1].str() + (each.look.bold ? " high" : " low"));
+    }
+    for (const PlannedWater& each : plan.waters())
+        expected.insert(shown(plan, each).substr(3));
+    EXPECT_EQ(found, expected);
+    EXPECT_EQ(counted(texts, "4.0 m of tide needed"), 1U);
+    EXPECT_EQ(counted(texts, "Sun 31 Oct 02:59 UT"), 1U);  // a window that closes behind the change of the clock
+
+    boat.passage->bottom = -20;
+    const auto never = painted(spanpage(boat, first, 7, systemzones, english), 0, papers[0]);
+    EXPECT_EQ(counted(never, "Never in these days"), 1U);
+    EXPECT_EQ(counted(never, "Opens"), 0U);
+    const auto year = painted(spanpage(boat, first, 366, systemzones, english), 0, papers[0]);
+    EXPECT_EQ(counted(year, "No room here for the waters of the last "), 1U);
+}
+
+/// The stars of a day whose hour from 01:00 to 02:00 comes twice: none before 01:00 UT, then all.
+TEST(Pages, TimesBehindAChangeOfTheClockAreMarked) {
+    const Booklet page = monthpage(pageof("Dover", "Europe/London"), 2027, 10, systemzones, english);
+    const auto texts = painted(page, 0, papers[0]);
+    EXPECT_EQ(counted(texts, "31*"), 1U);
+    EXPECT_EQ(counted(texts, "00:21*"), 0U);
+    for (const char* behind : {"06:59*", "11:38*", "19:18*"})
+        EXPECT_EQ(counted(texts, behind), 1U) << behind;
+    EXPECT_EQ(counted(texts, "*"), 5U);  // and the foot
+    EXPECT_GE(counted(texts, "goes back from UT+1 to UT at 02:00"), 1U);
+}
+
+TEST(Pages, TrustIsToldByThePortsOwnFigures) {
+    PortAbout about;
+    about.source = "A source";
+    about.recordfrom = "2006-03-31";
+    about.timemedian = 6;
+    about.timeninety = 14;
+    about.heightmedian = 0.07;
+    about.heightninety = 0.17;
+    const std::string words = trustwords(about);
+    EXPECT_NE(words.find("within 6 minutes and 0.07 m"), std::string::npos) << words;
+    EXPECT_NE(words.find("nine in ten within 14 minutes and 0.17 m"), std::string::npos) << words;
+    EXPECT_NE(words.find("record of 2006-03-31"), std::string::npos) << words;
+    EXPECT_EQ(trustwords({}).rfind("Nothing is known", 0), 0U);
+}
+
+}  // namespace
+}  // namespace tarvane

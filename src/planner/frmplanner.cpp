@@ -265,7 +265,8 @@ void frmplanner::showcursor() {
 
 void frmplanner::shownight(bool night) {
     view.settings.night = night;
-    const PlanLook& look = planlook(plannerlight(night));
+    shownlight = plannerlight(night);
+    const PlanLook& look = planlook(shownlight);
     setPalette(paletteof(look));
     // Its own style keeps it from the window's palette.
     DTPicker->arrow->setPalette(paletteof(look));
@@ -307,7 +308,10 @@ void frmplanner::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmplanner::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) shownow();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        shownow();
+        if (shownlight != plannerlight(view.settings.night)) shownight(view.settings.night);
+    }
     QMainWindow::changeEvent(event);
 }
 

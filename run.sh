@@ -9,7 +9,7 @@ tools/setup.sh run
 build=build/release
 log=$build/build.log
 mkdir -p "$build"
-[ -x "$build/bin/tarvane" ] || echo "Building (the first time takes a minute or two) ..."
+[ -x "$build/bin/tarvane" ] || echo "Building (the first time takes some minutes) ..."
 if ! { { [ -f "$build/build.ninja" ] || cmake --preset release; } && cmake --build --preset release --target program; } >"$log" 2>&1; then
   tail -n 30 "$log" >&2
   echo "The build failed: all of it stands in $log" >&2

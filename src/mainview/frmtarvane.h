@@ -53,6 +53,9 @@ class frmtarvane : public QMainWindow {
     QTimer* Timer1 = nullptr;
     QTimer* Timer2 = nullptr;
 
+    /// The planner was put into red light, or out of it.
+    std::function<void(bool night)> onnight;
+
     /// A menu or an entry by its name ("mnuNextPort"); nothing if there is none.
     QAction* menuentry(const char* name) const;
 

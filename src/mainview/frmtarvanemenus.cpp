@@ -81,11 +81,15 @@ void frmtarvane::openplanner() {
             chooseport(context, number);
             showview();
         };
+        planner->onnight = [this](bool night) {
+            if (onnight) onnight(night);
+        };
         planner->onday = [this](Date date) {
             showdate(context, date);
             showview();
         };
     }
+    if (onnight) onnight(planner->planview().settings.night);
     planner->follow();
     planner->show();
     planner->raise();

@@ -10,6 +10,7 @@
 #include "planner/plantexts.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/modaldialog.h"
+#include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"
 #include "portdata/portsearch.h"
 
@@ -45,6 +46,7 @@ PlanLight plannerlight(bool night) {
 
 frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(openplanview(maincontext)) {
     setObjectName("frmplanner");
+    setProperty(ownlight, true);
     setWindowTitle("Planner");
     QFont own = font();
     own.setPointSizeF(std::max(own.pointSizeF(), desktoplook().fontpoints));
@@ -61,6 +63,10 @@ frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(op
     fitscreen(*this);
     centreon(*this, nullptr);
     picture->setFocus();
+    // What was typed is on the screen first, and then kept.
+    keeplater = new QTimer(this);
+    keeplater->setSingleShot(true);
+    connect(keeplater, &QTimer::timeout, this, [this] { keepsettings(context, view); });
     minute = new QTimer(this);
     minute->setInterval(ticks);
     connect(minute, &QTimer::timeout, this, [this] { shownow(); });
@@ -81,13 +87,13 @@ void frmplanner::connectcontrols() {
     DTPicker->onpicked = [this](DateBox::Date date) { gotodate(date); };
     connect(cmbSpan, &QComboBox::activated, this, [this](int row) {
         showdays(context, view, view.first, spans[static_cast<std::size_t>(row)]);
-        keepsettings(context, view);
         showplan();
+        keeplater->start();
     });
     connect(cmbClock, &QComboBox::activated, this, [this](int row) {
         showclock(context, view, static_cast<ClockChoice>(row));
-        keepsettings(context, view);
         showplan();
+        keeplater->start();
     });
     connect(cmbPort, &QComboBox::activated, this, [this](int row) {
         if (onport && row >= 0) onport(static_cast<std::int16_t>(row + 1));
@@ -125,8 +131,8 @@ void frmplanner::connectquestion() {
         // None chosen asks for none: all are as good.
         view.settings.weekdays = wanted == 0 ? everyweekday : wanted;
         answeranew(view);
-        keepsettings(context, view);
         showanswer();
+        keeplater->start();
     };
     connect(fraQuestion, &QGroupBox::toggled, this, wished);
     connect(cmbDaylight, &QComboBox::activated, this, wished);
@@ -140,8 +146,8 @@ void frmplanner::ask() {
     for (std::size_t i = 0; i < planfields; ++i)
         question[i] = fields[i]->text().toStdString();
     askquestion(context, view, question);
-    if (view.refusal.empty()) keepsettings(context, view);
     showanswer();
+    if (view.refusal.empty()) keeplater->start();
 }
 
 void frmplanner::fillports() {
@@ -209,7 +215,8 @@ void frmplanner::showanswer() {
     lblAnswer->setText(screentext(answertext(view, context.services.locale)).replace("; ", "\n"));
     for (std::size_t i = 0; i < planfields; ++i) {
         const bool refused = !view.refusal.empty() && readquestion(view.question).refused == static_cast<PlanField>(i);
-        QFont font = fraQuestion->font();
+        QFont font = fields[i]->font();
+        if (font.underline() == refused) continue;
         font.setUnderline(refused);
         fields[i]->setFont(font);
     }
@@ -258,7 +265,8 @@ void frmplanner::showcursor() {
 
 void frmplanner::shownight(bool night) {
     view.settings.night = night;
-    const PlanLook& look = planlook(plannerlight(night));
+    shownlight = plannerlight(night);
+    const PlanLook& look = planlook(shownlight);
     setPalette(paletteof(look));
     // Its own style keeps it from the window's palette.
     DTPicker->arrow->setPalette(paletteof(look));
@@ -300,7 +308,10 @@ void frmplanner::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmplanner::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) shownow();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        shownow();
+        if (shownlight != plannerlight(view.settings.night)) shownight(view.settings.night);
+    }
     QMainWindow::changeEvent(event);
 }
 

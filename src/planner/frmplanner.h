@@ -66,6 +66,7 @@ class frmplanner : public QMainWindow {
     QWidget* buildpages();
     void buildmenus();
     void buildfilemenu();
+    void buildpapermenu(class QMenu* file);
     QAction* add(class QMenu* menu, const char* name, const char* caption, const QKeySequence& key,
                  std::function<void()> act);
     void connectcontrols();
@@ -91,7 +92,8 @@ class frmplanner : public QMainWindow {
     MainContext& context;
     PlanView view;
     PresentTide present;
-    QTimer* minute = nullptr;
+    QTimer *minute = nullptr, *keeplater = nullptr;
+    PlanLight shownlight = PlanLight::day;
     bool filling = false;  ///< the controls follow the view, not the user
 };
 

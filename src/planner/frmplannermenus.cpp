@@ -1,4 +1,5 @@
 // The planner's menus.
+#include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -31,7 +32,39 @@ void frmplanner::buildfilemenu() {
     add(file, "mnuSavePicture", "Save &Picture", QKeySequence::Save,
         [this] { saveplanpicture(context, view, picture->width(), picture->height()); });
     file->addSeparator();
+    QMenu* pdf = new QMenu("Save as P&DF", file);
+    const struct {
+        const char *name, *pdfname, *caption, *pdfcaption;
+        Sheet sheet;
+    } sheets[] = {
+        {"mnuPrintDays", "mnuPdfDays", "Print the &Days", "The &Days", Sheet::days},
+        {"mnuPrintMonth", "mnuPdfMonth", "Print the &Month", "The &Month", Sheet::month},
+        {"mnuPrintAlmanac", "mnuPdfAlmanac", "Print the Year's A&lmanac", "The Year's A&lmanac", Sheet::almanac}};
+    for (const auto& each : sheets) {
+        add(file, each.name, each.caption, each.sheet == Sheet::days ? QKeySequence::Print : QKeySequence(),
+            [this, sheet = each.sheet] { printsheet(context, view, sheet); });
+        add(pdf, each.pdfname, each.pdfcaption, {}, [this, sheet = each.sheet] { savesheet(context, view, sheet); });
+    }
+    file->addMenu(pdf);
+    buildpapermenu(file);
+    file->addSeparator();
     add(file, "mnuClose", "&Close", QKeySequence("Ctrl+W"), [this] { close(); });
+}
+
+void frmplanner::buildpapermenu(QMenu* file) {
+    QMenu* papers = file->addMenu("Pape&r");
+    auto* either = new QActionGroup(papers);
+    const auto paper = [&](const char* name, const char* caption, Paper wanted) {
+        QAction* action = add(papers, name, caption, {}, [this, wanted] {
+            view.settings.paper = wanted;
+            keepsettings(context, view);
+        });
+        action->setCheckable(true);
+        action->setChecked(paperof(context, view) == wanted);
+        either->addAction(action);
+    };
+    paper("mnuA4", "&A4", Paper::a4);
+    paper("mnuLetter", "&Letter", Paper::letter);
 }
 
 void frmplanner::buildmenus() {

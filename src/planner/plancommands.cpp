@@ -4,6 +4,7 @@
 #include "files/filenames.h"
 #include "planner/plancalendar.h"
 #include "planner/planfiles.h"
+#include "planner/planpages.h"
 #include "session/documents.h"
 
 namespace tarvane {
@@ -69,6 +70,28 @@ bool endswith(const std::string& path, const std::string& ending) {
     return path.size() >= ending.size() && path.compare(path.size() - ending.size(), ending.size(), ending) == 0;
 }
 
+PageOf pageof(const PlanView& view) {
+    const PlanSettings& wishes = view.settings;
+    return {.port = view.port,
+            .number = view.number,
+            .area = planport(view).area,
+            .iana = view.about ? view.about->timezone : "",
+            .clock = wishes.clock,
+            .passage = passageof(view),
+            .wishes = {wishes.daylight, wishes.leastminutes, wishes.weekdays},
+            .twilight = wishes.twilight,
+            .about = view.about};
+}
+
+Booklet bookletof(const MainContext& context, const PlanView& view, Sheet sheet) {
+    const Zones& zones = context.services.zones;
+    const Locale& locale = context.services.locale;
+    const PageOf of = pageof(view);
+    if (sheet == Sheet::month) return monthpage(of, yearof(view.first), monthof(view.first), zones, locale);
+    if (sheet == Sheet::almanac) return almanac(of, yearof(view.first), zones, locale);
+    return spanpage(of, view.first, view.settings.days, zones, locale);
+}
+
 }  // namespace
 
 void savewaterstable(MainContext& context, const PlanView& view) {
@@ -108,6 +131,27 @@ void copyplanpicture(MainContext& context, const PlanView& view, double width, d
     if (!view.plan) return answer(context, view.whynot);
     context.services.drawings.copy(drawingof(context, view, width, height));
     answer(context, "Copied: the picture");
+}
+
+Paper paperof(const MainContext& context, const PlanView& view) {
+    return view.settings.paper.value_or(context.services.drawings.usualpaper());
+}
+
+void printsheet(MainContext& context, const PlanView& view, Sheet sheet) {
+    if (!view.plan) return answer(context, view.whynot);
+    const PrintOutcome printed =
+        context.services.drawings.preview(bookletof(context, view, sheet), paperof(context, view));
+    if (!printed) tellfailure(context, "It could not be printed:", printed.whynot);
+}
+
+void savesheet(MainContext& context, const PlanView& view, Sheet sheet) {
+    constexpr const char* kinds[] = {"tides", "month", "almanac"};
+    if (!view.plan) return answer(context, view.whynot);
+    const auto path = choosefile(context, "Save As PDF", proposedname(view, kinds[static_cast<int>(sheet)], ".pdf"),
+                                 "Pages (*.pdf)|*.pdf");
+    if (path)
+        writedocument(context, *path,
+                      context.services.drawings.pdf(bookletof(context, view, sheet), paperof(context, view)));
 }
 
 void copyplantable(MainContext& context, const PlanTable& table) {

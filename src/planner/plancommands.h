@@ -17,6 +17,16 @@ void savewindowscalendar(MainContext& context, const PlanView& view);
 void saveplanpicture(MainContext& context, const PlanView& view, double width, double height);
 void copyplanpicture(MainContext& context, const PlanView& view, double width, double height);
 
+/// What is printed: the days in hand on one page, the month or the year that the first of them lies in.
+enum class Sheet { days, month, almanac };
+
+/// Shows the pages, from where they are printed; or writes them as a PDF where the user chooses.
+void printsheet(MainContext& context, const PlanView& view, Sheet sheet);
+void savesheet(MainContext& context, const PlanView& view, Sheet sheet);
+
+/// The paper that is chosen, or the usual one.
+Paper paperof(const MainContext& context, const PlanView& view);
+
 /// A table on the clipboard, tabs between its cells.
 void copyplantable(MainContext& context, const PlanTable& table);
 

@@ -269,8 +269,10 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
     for (const PlannedWindow& each : picture.access->windows) {
         const Moment opens = std::max(each.opens, scale.from), closes = std::min(each.closes, scale.to);
         if (opens >= closes) continue;
-        const std::string from = clocktext(picture.plan.clock().at(each.opens));
-        const std::string until = clocktext(picture.plan.clock().at(each.closes));
+        // Where the plan's end cuts it there is no time to tell.
+        const std::string from = each.window.cutatstart ? "" : clocktext(picture.plan.clock().at(each.opens));
+        const std::string until = each.window.cutatend ? "" : clocktext(picture.plan.clock().at(each.closes));
+        if (from.empty() && until.empty()) continue;
         const double middle = (scale.x(opens) + scale.x(closes)) / 2;
         labels.push_back({{from + "-" + until}, look, {middle, top}, 30, picture.look.paper});
         // In two lines where one is too wide for its neighbours.

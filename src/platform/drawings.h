@@ -31,6 +31,9 @@ class Drawings {
   public:
     virtual ~Drawings() = default;
 
+    /// What people write on where this computer thinks it is.
+    virtual Paper usualpaper() const = 0;
+
     /// `scale` dots to 1/96 inch.
     virtual std::string png(const Drawing& drawing, double scale) = 0;
     virtual std::string svg(const Drawing& drawing) = 0;

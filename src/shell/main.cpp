@@ -5,7 +5,9 @@
 
 #include "mainview/frmtarvane.h"
 #include "platform/qt/appearance.h"
+#include "platform/qt/nightlight.h"
 #include "platform/qt/qtservices.h"
+#include "platform/qt/windowplaces.h"
 #include "reader/frmhelpkey.h"
 #include "shell/frmconditions.h"
 
@@ -23,11 +25,15 @@ int main(int argc, char** argv) {
     Session session;
     session.folders = started->folders;
     session.conventions = started->conventions;
+    NightLight nightlight;
+    WindowPlaces places(started->folders.configfolder() + "/Windows.json");
+    application.installEventFilter(&places);
     std::unique_ptr<frmtarvane> window;
     frmConditions conditions(services.services(), started->folders);
     conditions.onaccepted = [&] {
         window = std::make_unique<frmtarvane>(session, services.services());
         window->Form_Load();
+        window->onnight = [&](bool night) { nightlight.set(night); };
         window->show();
         window->openatstart();
         conditions.hide();

@@ -66,6 +66,7 @@ struct ScriptedDrawings : Drawings {
     std::vector<Drawing> copied;
     std::vector<Booklet> previewed;
 
+    Paper usualpaper() const override { return Paper::a4; }
     std::string png(const Drawing& drawing, double) override { return "PNG of " + drawing.title; }
     std::string svg(const Drawing& drawing) override { return "SVG of " + drawing.title; }
     std::string pdf(const Booklet& booklet, Paper) override { return "PDF of " + booklet.title; }

@@ -88,6 +88,7 @@ struct QuietDrives : Drives {
 };
 
 struct QuietDrawings : Drawings {
+    Paper usualpaper() const override { return Paper::a4; }
     std::string png(const Drawing&, double) override { return {}; }
     std::string svg(const Drawing&) override { return {}; }
     std::string pdf(const Booklet&, Paper) override { return {}; }

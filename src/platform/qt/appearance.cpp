@@ -1,10 +1,14 @@
 #include "platform/qt/appearance.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusReply>
 #include <QFontDatabase>
 #include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 #include <clocale>
+#include <optional>
 
 /// The pictures that are linked in. Outside the namespace, as the macro asks.
 static void loadicons() {
@@ -39,12 +43,32 @@ QFont programfont() {
     return QFont(QApplication::font().family(), 9);
 }
 
+/// Whether the desktop asks for dark windows, where it answers that at once; the palette alone doesn't tell it
+/// everywhere.
+std::optional<bool> desktopwish() {
+    constexpr int patience = 200;  // ms
+    constexpr uint dark = 1, light = 2;
+    if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return std::nullopt;
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        "org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "Read");
+    question << "org.freedesktop.appearance"
+             << "color-scheme";
+    const QDBusReply<QDBusVariant> reply = QDBusConnection::sessionBus().call(question, QDBus::Block, patience);
+    if (!reply.isValid()) return std::nullopt;
+    QVariant scheme = reply.value().variant();
+    // A value within a value.
+    if (scheme.canConvert<QDBusVariant>()) scheme = scheme.value<QDBusVariant>().variant();
+    if (scheme.toUInt() == dark) return true;
+    return scheme.toUInt() == light ? std::optional(false) : std::nullopt;
+}
+
 }  // namespace
 
 DesktopLook desktoplook() {
     constexpr double plain = 9;
     const QVariant points = qApp->property(pointsproperty);
-    return {qApp->property(darkproperty).toBool(), points.isValid() ? points.toDouble() : plain};
+    return {desktopwish().value_or(qApp->property(darkproperty).toBool()),
+            points.isValid() ? points.toDouble() : plain};
 }
 
 void setappearance(QApplication& application) {

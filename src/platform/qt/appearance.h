@@ -15,7 +15,7 @@ struct DesktopLook {
     double fontpoints = 9;
 };
 
-/// As it was when the application was set up.
+/// Its font as it was when the application was set up, light or dark as it is now.
 DesktopLook desktoplook();
 
 /// The program's icon: a tide's curve over the marks of a staff.

@@ -1,5 +1,6 @@
 #include "platform/qt/paintercanvas.h"
 
+#include <QPaintEngine>
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
@@ -35,6 +36,7 @@ Qt::PenStyle penstyle(LineStyle style) {
 PainterCanvas::PainterCanvas(QPainter& painter, const QFont& font, double scale) : painter_(painter), font_(font) {
     painter_.save();
     painter_.scale(scale, scale);
+    onscreen_ = painter_.paintEngine()->type() == QPaintEngine::Raster;
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
 
@@ -74,7 +76,26 @@ void PainterCanvas::fill(std::span<const Place> corners, Rgb colour, double opac
     painter_.drawPolygon(polygonof(corners));
 }
 
+/// A grid's lines on a screen lie on whole pixels and needn't be smoothed. False for any other line.
+bool PainterCanvas::levelline(std::span<const Place> places, const LineLook& look) {
+    if (places.size() != 2 || look.style != LineStyle::solid || !onscreen_) return false;
+    const bool upright = places[0].x == places[1].x;
+    if (!upright && places[0].y != places[1].y) return false;
+    QColor colour = QColor::fromRgb(look.colour);
+    colour.setAlphaF(static_cast<float>(std::min(look.width, 1.0)));
+    const double width = std::max(std::round(look.width), 1.0);
+    const double left = std::min(places[0].x, places[1].x), top = std::min(places[0].y, places[1].y);
+    const double length = upright ? std::abs(places[0].y - places[1].y) : std::abs(places[0].x - places[1].x);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.fillRect(QRectF(std::round(left - (upright ? width / 2 : 0)), std::round(top - (upright ? 0 : width / 2)),
+                             upright ? width : length, upright ? length : width),
+                      colour);
+    painter_.setRenderHint(QPainter::Antialiasing);
+    return true;
+}
+
 void PainterCanvas::line(std::span<const Place> places, const LineLook& look) {
+    if (levelline(places, look)) return;
     QPen pen(QColor::fromRgb(look.colour), look.width, penstyle(look.style), Qt::RoundCap, Qt::RoundJoin);
     if (look.style != LineStyle::solid) pen.setCapStyle(Qt::FlatCap);
     painter_.setPen(pen);

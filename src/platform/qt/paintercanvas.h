@@ -32,10 +32,12 @@ class PainterCanvas : public Canvas {
         QFont font;
         QFontMetricsF metrics;
     };
+    bool levelline(std::span<const Place> places, const LineLook& look);
     const Font& fontof(const TextLook& look) const;
 
     QPainter& painter_;
     QFont font_;
+    bool onscreen_ = false;            ///< and not on paper
     mutable std::vector<Font> fonts_;  ///< those that were asked for
 };
 

@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QImage>
+#include <QLocale>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
@@ -58,6 +59,10 @@ void paintpages(const Booklet& booklet, QPagedPaintDevice& device, int first, in
 }
 
 }  // namespace
+
+Paper QtDrawings::usualpaper() const {
+    return QLocale().measurementSystem() == QLocale::ImperialUSSystem ? Paper::letter : Paper::a4;
+}
 
 std::string QtDrawings::png(const Drawing& drawing, double scale) {
     QBuffer bytes;

@@ -7,6 +7,7 @@ namespace tarvane {
 
 class QtDrawings : public Drawings {
   public:
+    Paper usualpaper() const override;
     std::string png(const Drawing& drawing, double scale) override;
     std::string svg(const Drawing& drawing) override;
     std::string pdf(const Booklet& booklet, Paper paper) override;

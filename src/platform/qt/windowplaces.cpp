@@ -1,0 +1,77 @@
+#include "platform/qt/windowplaces.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QJsonDocument>
+#include <QScreen>
+#include <QWidget>
+
+#include "files/wholefiles.h"
+
+namespace tarvane {
+namespace {
+
+constexpr const char* restored = "placerestored";
+constexpr int leastseen = 60;  // so much of a window's head lies on a screen
+
+/// The program's own windows have names; the toolkit's dialogs have none that are theirs.
+bool isours(const QWidget& window) {
+    const Qt::WindowType type = window.windowType();
+    return window.isWindow() && (type == Qt::Window || type == Qt::Dialog) &&
+           window.objectName().startsWith(QLatin1String("frm"), Qt::CaseInsensitive);
+}
+
+bool seen(const QRect& window) {
+    const QRect head(window.topLeft(), QSize(window.width(), leastseen));
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect part = screen->availableGeometry() & head;
+        if (part.width() >= leastseen && part.height() >= leastseen / 2) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+WindowPlaces::WindowPlaces(const std::string& path)
+    : path_(path), places_(QJsonDocument::fromJson(QByteArray::fromStdString(wholetext(path))).object()) {}
+
+void WindowPlaces::restore(QWidget& window) const {
+    const QJsonObject place = places_[window.objectName()].toObject();
+    const auto number = [&](const char* name) { return place[QLatin1String(name)].toInt(); };
+    QRect wanted(number("left"), number("top"), number("width"), number("height"));
+    const QScreen* screen = QGuiApplication::screenAt(wanted.center());
+    if (place.isEmpty() || !seen(wanted) || !screen) return;
+    const QSize room = screen->availableGeometry().size();
+    wanted.setSize(wanted.size().boundedTo(room).expandedTo(window.minimumSize()).boundedTo(window.maximumSize()));
+    window.setGeometry(wanted);
+    if (place["maximized"].toBool()) window.setWindowState(window.windowState() | Qt::WindowMaximized);
+}
+
+void WindowPlaces::keep(const QWidget& window) {
+    if (window.isMinimized()) return;
+    const QRect stands = window.isMaximized() ? window.normalGeometry() : window.geometry();
+    const QJsonObject place{{"left", stands.left()},
+                            {"top", stands.top()},
+                            {"width", stands.width()},
+                            {"height", stands.height()},
+                            {"maximized", window.isMaximized()}};
+    if (places_[window.objectName()] == place) return;
+    places_[window.objectName()] = place;
+    // A place that can't be kept is nothing that the user has entered.
+    replacefile(path_, QJsonDocument(places_).toJson().toStdString());
+}
+
+bool WindowPlaces::eventFilter(QObject* watched, QEvent* event) {
+    auto* window = qobject_cast<QWidget*>(watched);
+    const bool shown = event->type() == QEvent::Show, hidden = event->type() == QEvent::Hide;
+    if (window && (shown || hidden) && !event->spontaneous() && isours(*window)) {
+        if (hidden) keep(*window);
+        if (shown && !window->property(restored).toBool()) {
+            window->setProperty(restored, true);
+            restore(*window);
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace tarvane

@@ -70,14 +70,15 @@ WaterList waterlist(const Canvas& canvas, const PagePlan& pages, double size, do
     return list;
 }
 
-/// In the greatest type that has room for all of it: the greater ones only where they leave most of it to the picture.
+/// In the greatest type that has room for all of it, the greatest one only where it leaves most of that to the picture.
+/// Days side by side are worth a smaller type.
 WaterList waterlist(const Canvas& canvas, const PagePlan& pages, double width, double height) {
     WaterList list;
-    for (const double size : sizes) {
-        const double room = size > pagetype::lesser ? height / 2 : height;
-        list = waterlist(canvas, pages, size, width, room);
-        if (list.days == pages.days.size()) break;
-    }
+    for (const bool sidebyside : {true, false})
+        for (const double size : sizes) {
+            list = waterlist(canvas, pages, size, width, size > pagetype::lesser ? height / 2 : height);
+            if (list.days == pages.days.size() && (!sidebyside || list.columns.size() == list.days)) return list;
+        }
     return list;
 }
 

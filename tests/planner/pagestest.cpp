@@ -41,7 +41,7 @@ PageOf pageof(const std::string& name, const char* iana) {
 PageOf flatport() {
     PageOf of;
     of.port = tests::roundport();
-    of.port.PortName = "Upper Wittering Marina, Outer Basin W";
+    of.port.PortName = "Upper Wittering Marina, Outer Basin";
     of.port.M2Hm = of.port.S2Hm = of.port.K1Hm = of.port.O1Hm = 0;
     of.port.MHm2.fill(0);
     of.port.DeltaZ0.fill(0);
@@ -125,6 +125,20 @@ std::multiset<std::string> watersoncalendar(const std::vector<RecordingCanvas::T
     return found;
 }
 
+/// The name over the column in which a day's number stands.
+std::string weekdayover(const std::vector<RecordingCanvas::Text>& texts, int day) {
+    double left = -1;
+    for (const RecordingCanvas::Text& each : texts)
+        if (each.look.size == 14 && std::stoi(each.text) == day) left = each.area.left;
+    const RecordingCanvas::Text* over = nullptr;
+    for (const RecordingCanvas::Text& each : texts) {
+        const bool name = std::find(english.days.begin(), english.days.end(), each.text) != english.days.end();
+        const double column = (each.area.left + each.area.right) / 2 - papers[0][1] / 14;
+        if (name && std::abs(column - left) < 20) over = &each;
+    }
+    return over ? over->text : "";
+}
+
 TEST(Pages, AMonthHasEachOfItsWatersOnItsDay) {
     const struct {
         const char *port, *zone;
@@ -144,6 +158,11 @@ TEST(Pages, AMonthHasEachOfItsWatersOnItsDay) {
         const Booklet page = monthpage(of, row.year, static_cast<int>(row.month), systemzones, english);
         for (const auto& paper : papers)
             EXPECT_EQ(watersoncalendar(painted(page, 0, paper)), expected) << row.port;
+        const auto texts = painted(page, 0, papers[0]);
+        for (int day = 1; day <= plan.planof().days; ++day) {
+            const auto weekday = static_cast<std::size_t>(weekdayof(first + std::chrono::days(day - 1)));
+            EXPECT_EQ(weekdayover(texts, day), english.days[weekday]) << row.port << day;
+        }
     }
 }
 
@@ -183,24 +202,33 @@ TEST(Pages, ADayWithoutAPredictionSaysSo) {
     const auto flat = painted(monthpage(flatport(), 2026, 2, systemzones, english), 0, papers[0]);
     EXPECT_EQ(counted(flat, "no high or low water"), 28U);
     EXPECT_EQ(counted(flat, "prediction"), 0U);
+    EXPECT_EQ(counted(painted(almanac(flatport(), 2026, systemzones, english), 8, papers[0]), "Marina, Outer Basin"),
+              1U);
 }
 
-/// On the page of some days, what of the picture bears no words of a list.
 TEST(Pages, ASpanTellsItsWatersAndTheAnswer) {
     PageOf boat = pageof("Dover", "Europe/London");
     boat.passage = Passage{1.5, 0.5, -2, std::nullopt, 0, 0};
     const Date first = makedate(2027, 10, 28);
-    const Plan plan({boat.port, boat.iana, first, 7}, systemzones);
-    const auto texts = painted(spanpage(boat, first, 7, systemzones, english), 0, papers[0]);
-    std::multiset<std::string> found, expected;
-    for (const RecordingCanvas::Text& each : texts) {
-        std::smatch time;
-        if (std::regex_match(each.text, time, timeofday) && each.look.anchor == Anchor::left)
-            found.insert(time[1].str() + (each.look.bold ? " high" : " low"));
+    const struct {
+        PageOf of;
+        Date first;
+        int days;
+    } rows[] = {{boat, first, 7}, {pageof("Southampton", "Europe/London"), makedate(2027, 10, 3), 6}};
+    for (const auto& row : rows) {
+        const Plan plan({row.of.port, row.of.iana, row.first, row.days}, systemzones);
+        std::multiset<std::string> found, expected;
+        // Those of the picture are middled.
+        for (const auto& each : painted(spanpage(row.of, row.first, row.days, systemzones, english), 0, papers[0])) {
+            std::smatch time;
+            if (std::regex_match(each.text, time, timeofday) && each.look.anchor == Anchor::left)
+                found.insert(time[1].str() + (each.look.bold ? " high" : " low"));
+        }
+        for (const PlannedWater& each : plan.waters())
+            expected.insert(shown(plan, each).substr(3));
+        EXPECT_EQ(found, expected);
     }
-    for (const PlannedWater& each : plan.waters())
-        expected.insert(shown(plan, each).substr(3));
-    EXPECT_EQ(found, expected);
+    const auto texts = painted(spanpage(boat, first, 7, systemzones, english), 0, papers[0]);
     EXPECT_EQ(counted(texts, "4.0 m of tide needed"), 1U);
     EXPECT_EQ(counted(texts, "Sun 31 Oct 02:59 UT"), 1U);  // a window that closes behind the change of the clock
 

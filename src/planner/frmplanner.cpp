@@ -81,12 +81,12 @@ void frmplanner::connectcontrols() {
     DTPicker->onpicked = [this](DateBox::Date date) { gotodate(date); };
     connect(cmbSpan, &QComboBox::activated, this, [this](int row) {
         showdays(context, view, view.first, spans[static_cast<std::size_t>(row)]);
-        keepsettings(context, view);
+        keep();
         showplan();
     });
     connect(cmbClock, &QComboBox::activated, this, [this](int row) {
         showclock(context, view, static_cast<ClockChoice>(row));
-        keepsettings(context, view);
+        keep();
         showplan();
     });
     connect(cmbPort, &QComboBox::activated, this, [this](int row) {
@@ -94,6 +94,7 @@ void frmplanner::connectcontrols() {
         follow();
     });
     connect(cmbPort->lineEdit(), &QLineEdit::returnPressed, this, [this] { chooseport(cmbPort->currentText()); });
+    connect(cmbPort->lineEdit(), &QLineEdit::editingFinished, this, [this] { fillports(); });
     connect(pages, &QTabWidget::currentChanged, this, [this] { showpage(); });
     for (PlanTableBox* table : {tides, windows, sunandmoon})
         table->onmoment = [this](Moment at) { leap(at); };
@@ -101,7 +102,8 @@ void frmplanner::connectcontrols() {
     picture->onnow = [this] { gotodate(todayof(context, view)); };
     picture->onday = [this](Date date) {
         const Date shown = view.plan->clock().at(view.from).date;
-        const bool alone = shown == date && view.to - view.from <= std::chrono::hours(25);
+        const bool part = view.from > view.plan->begins() || view.to < view.plan->ends();
+        const bool alone = part && shown == date && view.to - view.from <= std::chrono::hours(25);
         if (alone)
             showwhole(view);
         else
@@ -125,7 +127,7 @@ void frmplanner::connectquestion() {
         // None chosen asks for none: all are as good.
         view.settings.weekdays = wanted == 0 ? everyweekday : wanted;
         answeranew(view);
-        keepsettings(context, view);
+        keep();
         showanswer();
     };
     connect(fraQuestion, &QGroupBox::toggled, this, wished);
@@ -140,7 +142,7 @@ void frmplanner::ask() {
     for (std::size_t i = 0; i < planfields; ++i)
         question[i] = fields[i]->text().toStdString();
     askquestion(context, view, question);
-    if (view.refusal.empty()) keepsettings(context, view);
+    if (view.refusal.empty()) keep();
     showanswer();
 }
 
@@ -174,11 +176,14 @@ void frmplanner::fillfields() {
 }
 
 void frmplanner::chooseport(const QString& text) {
+    // Several ports may share a name: the one in hand stays where its own was left standing.
+    if (text == cmbPort->itemText(cmbPort->currentIndex())) return picture->setFocus();
     const std::vector<PortHit> hits = findports(view.ports, text.toStdString());
     if (text.trimmed().isEmpty() || hits.empty()) {
         tell("No port of this sea area is called so");
         return fillports();
     }
+    tell("");
     if (onport) onport(static_cast<std::int16_t>(hits.front().place + 1));
     follow();
     picture->setFocus();
@@ -278,7 +283,7 @@ void frmplanner::stepdays(int days) {
 void frmplanner::typedate() {
     const ReadDate read = readdate(DTPicker->text().toStdString(), context.session.conventions, context.services.locale,
                                    context.services.clock.now().today);
-    if (!read.date) tell(read.refusal);
+    tell(read.refusal);
     if (read.date && *read.date != view.first) return gotodate(*read.date);
     showdate();
 }
@@ -292,6 +297,11 @@ void frmplanner::leap(Moment at) {
 
 void frmplanner::tell(const std::string& text) {
     lblSaid->setText(screentext(text));
+}
+
+/// What can't be kept is told here too, where the user looks.
+void frmplanner::keep() {
+    if (!keepsettings(context, view)) tell(context.session.view.answer);
 }
 
 void frmplanner::keyPressEvent(QKeyEvent* event) {

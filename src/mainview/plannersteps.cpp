@@ -12,7 +12,10 @@ namespace tarvane {
 
 void chooseport(MainContext& context, std::int16_t number) {
     Session& session = context.session;
+    // The number is of the area in hand, whatever another run of the program has stored meanwhile.
+    const std::string area = session.settings.hcfile;
     reloadforportlist(context);
+    session.settings.areafile = area;
     PortList list;
     list.selectedport = number;
     portconfigok(context, list, 0, session.settings.configrec.sortmode != 0);

@@ -66,7 +66,7 @@ frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(op
     // What was typed is on the screen first, and then kept.
     keeplater = new QTimer(this);
     keeplater->setSingleShot(true);
-    connect(keeplater, &QTimer::timeout, this, [this] { keepsettings(context, view); });
+    connect(keeplater, &QTimer::timeout, this, [this] { keep(); });
     minute = new QTimer(this);
     minute->setInterval(ticks);
     connect(minute, &QTimer::timeout, this, [this] { shownow(); });
@@ -100,6 +100,7 @@ void frmplanner::connectcontrols() {
         follow();
     });
     connect(cmbPort->lineEdit(), &QLineEdit::returnPressed, this, [this] { chooseport(cmbPort->currentText()); });
+    connect(cmbPort->lineEdit(), &QLineEdit::editingFinished, this, [this] { fillports(); });
     connect(pages, &QTabWidget::currentChanged, this, [this] { showpage(); });
     for (PlanTableBox* table : {tides, windows, sunandmoon})
         table->onmoment = [this](Moment at) { leap(at); };
@@ -107,7 +108,8 @@ void frmplanner::connectcontrols() {
     picture->onnow = [this] { gotodate(todayof(context, view)); };
     picture->onday = [this](Date date) {
         const Date shown = view.plan->clock().at(view.from).date;
-        const bool alone = shown == date && view.to - view.from <= std::chrono::hours(25);
+        const bool part = view.from > view.plan->begins() || view.to < view.plan->ends();
+        const bool alone = part && shown == date && view.to - view.from <= std::chrono::hours(25);
         if (alone)
             showwhole(view);
         else
@@ -180,11 +182,14 @@ void frmplanner::fillfields() {
 }
 
 void frmplanner::chooseport(const QString& text) {
+    // Several ports may share a name: the one in hand stays where its own was left standing.
+    if (text == cmbPort->itemText(cmbPort->currentIndex())) return picture->setFocus();
     const std::vector<PortHit> hits = findports(view.ports, text.toStdString());
     if (text.trimmed().isEmpty() || hits.empty()) {
         tell("No port of this sea area is called so");
         return fillports();
     }
+    tell("");
     if (onport) onport(static_cast<std::int16_t>(hits.front().place + 1));
     follow();
     picture->setFocus();
@@ -286,7 +291,7 @@ void frmplanner::stepdays(int days) {
 void frmplanner::typedate() {
     const ReadDate read = readdate(DTPicker->text().toStdString(), context.session.conventions, context.services.locale,
                                    context.services.clock.now().today);
-    if (!read.date) tell(read.refusal);
+    tell(read.refusal);
     if (read.date && *read.date != view.first) return gotodate(*read.date);
     showdate();
 }
@@ -300,6 +305,11 @@ void frmplanner::leap(Moment at) {
 
 void frmplanner::tell(const std::string& text) {
     lblSaid->setText(screentext(text));
+}
+
+/// What can't be kept is told here too, where the user looks.
+void frmplanner::keep() {
+    if (!keepsettings(context, view)) tell(context.session.view.answer);
 }
 
 void frmplanner::keyPressEvent(QKeyEvent* event) {

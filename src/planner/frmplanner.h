@@ -88,6 +88,7 @@ class frmplanner : public QMainWindow {
     void chooseport(const QString& text);
     void leap(Moment at);
     void tell(const std::string& text);
+    void keep();
 
     MainContext& context;
     PlanView view;

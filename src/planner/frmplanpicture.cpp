@@ -51,6 +51,9 @@ void PlanPictureBox::setlook(const PlanLook& wanted) {
 
 void PlanPictureBox::redraw() {
     painted = {};
+    // What the mouse does ahead of the next painting goes by the part shown already.
+    scale.from = view.from;
+    scale.to = view.to;
     update();
 }
 
@@ -106,7 +109,7 @@ void PlanPictureBox::putat(std::optional<Moment> at) {
         putcursor(view, *at);
     else
         view.cursor.reset();
-    if (view.from != before) painted = {};
+    if (view.from != before) redraw();
     update();
     if (oncursor) oncursor();
 }
@@ -120,7 +123,7 @@ void PlanPictureBox::mouseMoveEvent(QMouseEvent* event) {
         moveplan(view, std::chrono::seconds(std::llround(seconds)));
         return redraw();
     }
-    if (painted.isNull()) return;
+    if (scale.plot.width() <= 0) return;
     bymouse = true;
     const bool inside = scale.plot.holds({x, event->position().y()});
     putat(inside ? std::optional(std::chrono::round<std::chrono::minutes>(scale.moment(x))) : std::nullopt);
@@ -135,13 +138,13 @@ void PlanPictureBox::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void PlanPictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (!view.plan || painted.isNull() || event->button() != Qt::LeftButton) return;
+    if (!view.plan || scale.plot.width() <= 0 || event->button() != Qt::LeftButton) return;
     const Moment at = std::clamp(scale.moment(event->position().x()), view.from, view.to - std::chrono::seconds(1));
     if (onday) onday(view.plan->clock().at(at).date);
 }
 
 void PlanPictureBox::zoom(double factor, double x) {
-    if (!view.plan || painted.isNull()) return;
+    if (!view.plan || scale.plot.width() <= 0) return;
     zoomplan(view, factor, std::clamp(scale.moment(x), view.from, view.to));
     redraw();
 }

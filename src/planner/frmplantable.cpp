@@ -39,6 +39,16 @@ void PlanTableBox::showtable(PlanTable table) {
     resizeColumnsToContents();
 }
 
+bool PlanTableBox::event(QEvent* event) {
+    // The table's own paging comes before the stepping of days.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        const bool pages = key.key() == Qt::Key_PageDown || key.key() == Qt::Key_PageUp;
+        if (pages && key.modifiers() == Qt::NoModifier) event->accept();
+    }
+    return QTableView::event(event);
+}
+
 void PlanTableBox::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return choose(currentIndex().row());
     QTableView::keyPressEvent(event);

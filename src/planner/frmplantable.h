@@ -22,6 +22,7 @@ class PlanTableBox : public QTableView {
     const PlanTable& table() const { return model_.table; }
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

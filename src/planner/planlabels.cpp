@@ -29,6 +29,22 @@ bool LabelPlaces::isfree(const Area& area) const {
            std::none_of(taken_.begin(), taken_.end(), [&](const Area& each) { return overlap(area, each); });
 }
 
+Area LabelPlaces::takefree(const Area& wanted) {
+    const auto inway =
+        std::find_if(taken_.begin(), taken_.end(), [&](const Area& each) { return overlap(wanted, each); });
+    const auto moved = [&](double right, double down) {
+        return Area{wanted.left + right, wanted.top + down, wanted.right + right, wanted.bottom + down};
+    };
+    std::vector<Area> places{wanted};
+    if (inway != taken_.end())
+        places = {moved(inway->right + apart - wanted.left, 0), moved(0, inway->bottom - wanted.top),
+                  moved(0, inway->top - wanted.bottom)};
+    const auto place = std::find_if(places.begin(), places.end(),
+                                    [&](const Area& each) { return each.right <= within_.right && isfree(each); });
+    taken_.push_back(place == places.end() ? wanted : *place);
+    return taken_.back();
+}
+
 std::vector<PlanLabel> LabelPlaces::place(std::vector<PlanLabel> labels) {
     std::stable_sort(labels.begin(), labels.end(),
                      [](const PlanLabel& one, const PlanLabel& other) { return one.importance > other.importance; });

@@ -26,8 +26,9 @@ class LabelPlaces {
   public:
     LabelPlaces(const Canvas& canvas, const Area& within) : canvas_(canvas), within_(within) {}
 
-    /// Keeps an area free of labels.
-    void take(const Area& area) { taken_.push_back(area); }
+    /// Keeps an area free of labels: the one wanted, or where another was taken there one to the right of that, under
+    /// or over it.
+    Area takefree(const Area& wanted);
 
     /// Those of the labels that have room, each moved sideways where only that keeps it inside.
     std::vector<PlanLabel> place(std::vector<PlanLabel> labels);

@@ -40,18 +40,26 @@ void paintlight(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     fill(false, picture.look.paper);
 }
 
-/// The least step of a ladder that keeps marks so far apart.
+/// The least step of a ladder that keeps marks so far apart, or its last.
 template <std::size_t count>
 double stepof(const std::array<double, count>& ladder, double perunit, double apart) {
     const auto step = std::find_if(ladder.begin(), ladder.end(), [&](double each) { return each * perunit >= apart; });
     return step == ladder.end() ? ladder.back() : *step;
 }
 
-void paintheights(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+/// Of heights: beyond the ladder by powers of ten, for a record whose constants are out of all measure.
+double heightstep(double permetre, double apart) {
     constexpr std::array ladder{0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0};
+    double step = stepof(ladder, permetre, apart);
+    while (permetre > 0 && step * permetre < apart)
+        step *= 10;
+    return step;
+}
+
+void paintheights(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const TextLook look = textlook(picture, picture.look.faint, Anchor::right);
     const double tall = canvas.textheight(look);
-    const double step = stepof(ladder, scale.plot.height() / (scale.greatest - scale.least), 2 * tall);
+    const double step = heightstep(scale.plot.height() / (scale.greatest - scale.least), 2 * tall);
     for (double count = std::ceil(scale.least / step); count * step <= scale.greatest; ++count) {
         const double y = scale.y(count * step);
         if (y - tall / 2 < scale.plot.top + tall || y + tall / 2 > scale.plot.bottom) continue;
@@ -79,14 +87,15 @@ void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     constexpr std::array ladder{1.0, 2.0, 3.0, 6.0, 12.0, 24.0};
     const TextLook look = textlook(picture, picture.look.faint, Anchor::middle);
     const double perhour = scale.plot.width() / (static_cast<double>((scale.to - scale.from).count()) / 3600);
-    const int step = static_cast<int>(stepof(ladder, perhour, canvas.textwidth("00", look) * 1.8));
+    const double digits = canvas.textwidth("00", look);
+    const int step = static_cast<int>(stepof(ladder, perhour, digits * 1.8));
     eachhour(picture, scale, [&](Moment at, int hour) {
         const double x = scale.x(at);
         const std::array places{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
         if (hour == 0) return canvas.line(places, {picture.look.faint, 1});
         if (hour % step != 0) return;
         canvas.line(places, {picture.look.grid, 0.5});
-        if (step <= 12)
+        if (step <= 12 && x + digits / 2 <= picture.area.right)
             canvas.text({x, scale.plot.bottom + inset / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
     });
 }
@@ -150,11 +159,12 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
             break;
         }
         const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
+        // The short form where the whole word is too wide.
+        if (!head.tide.empty() && canvas.textwidth(head.tide, small) > room)
+            head.tide = head.tide == "springs" ? "sp" : "np";
         // Numbers alone need their month somewhere.
         if (form == "d" && (first || dayof(head.date) == 1)) head.tide = formatdate(picture.locale, head.date, "mmm");
         first = false;
-        // The short form where the whole word is too wide.
-        if (canvas.textwidth(head.tide, small) > room) head.tide = head.tide == "springs" ? "sp" : "np";
         const bool told = !head.tide.empty() && canvas.textwidth(head.tide, small) <= room;
         const double beside = told && head.phase >= 0 ? canvas.textwidth(head.tide, small) / 2 + radius + inset : 0;
         const double lower = top + inset / 2 + line;
@@ -236,10 +246,10 @@ void paintlevel(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     }
     const double top = inside ? std::max(y - tall, scale.plot.top) : above ? scale.plot.top : scale.plot.bottom - tall;
     const std::string text = name + (inside ? "" : above ? ", above the picture" : ", below the picture");
-    const Area area{scale.plot.left + inset, top, scale.plot.left + inset + canvas.textwidth(text, look), top + tall};
+    const double left = scale.plot.left + inset;
+    const Area area = places.takefree({left, top, left + canvas.textwidth(text, look), top + tall});
     canvas.fill(area, picture.look.paper);
     canvas.text({area.left, area.top}, text, look);
-    places.take(area);
 }
 
 void paintlevels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
@@ -274,14 +284,19 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
     for (const PlannedWindow& each : picture.access->windows) {
         const Moment opens = std::max(each.opens, scale.from), closes = std::min(each.closes, scale.to);
         if (opens >= closes) continue;
-        // Where the plan's end cuts it there is no time to tell.
-        const std::string from = each.window.cutatstart ? "" : clocktext(picture.plan.clock().at(each.opens));
-        const std::string until = each.window.cutatend ? "" : clocktext(picture.plan.clock().at(each.closes));
-        if (from.empty() && until.empty()) continue;
+        // A window that goes on beyond the plan doesn't open or close at its end.
+        const bool openbefore = each.window.cutatstart, openafter = each.window.cutatend;
+        if (openbefore && openafter) continue;
+        const std::string first = clocktext(picture.plan.clock().at(each.opens));
+        const std::string last = clocktext(picture.plan.clock().at(each.closes));
+        const std::string from = openbefore  ? "until"
+                                 : openafter ? "from"
+                                             : first + "-",
+                          until = openafter ? first : last, between = openbefore || openafter ? " " : "";
         const double middle = (scale.x(opens) + scale.x(closes)) / 2;
-        labels.push_back({{from + "-" + until}, look, {middle, top}, 30, picture.look.paper});
+        labels.push_back({{from + between + until}, look, {middle, top}, 30, picture.look.paper});
         // In two lines where one is too wide for its neighbours.
-        labels.push_back({{from + "-", until}, look, {middle, top}, 20, picture.look.paper});
+        labels.push_back({{from, until}, look, {middle, top}, 20, picture.look.paper});
     }
     return labels;
 }

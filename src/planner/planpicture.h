@@ -49,8 +49,8 @@ void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale
 void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment at,
                  const std::vector<std::string>& words);
 
-/// The curve from one moment to another, a place a unit of width, in as many pieces as days without a prediction part
-/// it.
+/// The curve from one moment to another, a place a unit of width and at each water, in as many pieces as days without a
+/// prediction part it.
 std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
 
 /// A moon of a phase, 0 new to 3 last quarter, as the north sees it.

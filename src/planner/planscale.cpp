@@ -95,9 +95,19 @@ std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const Pl
     };
     from = std::max(from, scale.from);
     to = std::min(to, scale.to);
+    const auto& waters = picture.plan.waters();
+    auto water = std::lower_bound(waters.begin(), waters.end(), from,
+                                  [](const PlannedWater& each, Moment moment) { return each.moment < moment; });
     const double first = scale.x(from), last = scale.x(to);
-    for (double x = first; x < last - leasthop; x += 1)
-        take(scale.moment(x));
+    for (double x = first; x < last - leasthop; x += 1) {
+        const Moment at = scale.moment(x);
+        // Tops and feet as high and as low as they are, also where a unit is half an hour.
+        for (; water != waters.end() && water->moment < at; ++water)
+            take(water->moment);
+        take(at);
+    }
+    for (; water != waters.end() && water->moment < to; ++water)
+        take(water->moment);
     if (from < to) take(to);
     return pieces;
 }

@@ -164,14 +164,13 @@ PlanTable accesstable(const Plan& plan, const PlannedAccess& access, const Passa
     for (const PlannedWindow& each : access.windows) {
         const double depth = each.window.greatestheight + passage.bottom;
         const auto length = static_cast<double>(each.window.minutes());
-        table.rows.push_back({each.opens,
-                              {daycell(plan, each.opens, locale) + " " + timecell(plan, each.opens, changes),
-                               daycell(plan, each.closes, locale) + " " + timecell(plan, each.closes, changes),
-                               durationtext(minutes(each.window.minutes())), metres(depth),
-                               percent(length > 0 ? static_cast<double>(each.window.daylightminutes) / length : 0),
-                               cutwords(each.window)},
-                              {keyof(each.opens), keyof(each.closes), length, depth,
-                               static_cast<double>(each.window.daylightminutes), 0}});
+        const double lit = length > 0 ? static_cast<double>(each.window.daylightminutes) / length : 0;
+        table.rows.push_back(
+            {each.opens,
+             {daycell(plan, each.opens, locale) + " " + timecell(plan, each.opens, changes),
+              daycell(plan, each.closes, locale) + " " + timecell(plan, each.closes, changes),
+              durationtext(minutes(each.window.minutes())), metres(depth), percent(lit), cutwords(each.window)},
+             {keyof(each.opens), keyof(each.closes), length, depth, lit, 0}});
     }
     return table;
 }

@@ -30,6 +30,27 @@ std::string portkey(const PlanView& view) {
     return filename(view.area) + "/" + view.portname;
 }
 
+std::vector<std::string> portnames(const std::string& area) {
+    std::vector<std::string> names;
+    for (const HarmonicRecord& each : readports(area))
+        names.push_back(trim(each.PortName));
+    return names;
+}
+
+const char* whynoport(const std::string& area, std::int16_t number, const std::vector<std::string>& names) {
+    if (!canopen(area)) return noareafile;
+    return number < 1 || static_cast<std::size_t>(number) > names.size() ? nosuchport : "";
+}
+
+/// Whether the area's file and the settings are still what the view was made from.
+bool asbefore(const Settings& settings, const PlanView& view) {
+    if (view.area != settings.hcfile || view.number != settings.currentport || view.stored != storedvalues(settings))
+        return false;
+    const std::vector<std::string> names = portnames(view.area);
+    return names == view.ports && view.whynot == whynoport(view.area, view.number, names) &&
+           (!view.whynot.empty() || encode(readport(view.area, view.number)) == encode(view.port));
+}
+
 /// Makes the plan of what is in hand.
 void replan(const MainContext& context, PlanView& view) {
     view.plan.reset();
@@ -46,19 +67,15 @@ void takeport(const MainContext& context, PlanView& view) {
     const Settings& settings = context.session.settings;
     view.area = settings.hcfile;
     view.number = settings.currentport;
-    view.ports.clear();
-    for (const HarmonicRecord& each : readports(view.area))
-        view.ports.push_back(trim(each.PortName));
-    view.whynot = !canopen(view.area)                                                            ? noareafile
-                  : view.number < 1 || static_cast<std::size_t>(view.number) > view.ports.size() ? nosuchport
-                                                                                                 : "";
+    view.ports = portnames(view.area);
+    view.whynot = whynoport(view.area, view.number, view.ports);
     view.port = view.whynot.empty() ? readport(view.area, view.number) : HarmonicRecord{};
     view.portname = trim(view.port.PortName);
     view.about = aboutport(aboutarea(context.session.folders, view.area), view.port, view.number);
     view.stored = storedvalues(settings);
     view.question = prefilledquestion(view.settings, settings, portkey(view));
-    view.refusal.clear();
     view.read = readquestion(view.question);
+    view.refusal = view.read.refusal;
 }
 
 void keepinside(PlanView& view) {
@@ -80,10 +97,7 @@ PlanView openplanview(const MainContext& context) {
 }
 
 bool followport(const MainContext& context, PlanView& view) {
-    const Settings& settings = context.session.settings;
-    const bool same = view.area == settings.hcfile && view.number == settings.currentport && view.whynot.empty() &&
-                      view.stored == storedvalues(settings);
-    if (same && encode(readport(view.area, view.number)) == encode(view.port)) return false;
+    if (asbefore(context.session.settings, view)) return false;
     takeport(context, view);
     replan(context, view);
     showwhole(view);
@@ -120,16 +134,17 @@ void askquestion(const MainContext& context, PlanView& view, const PlanQuestion&
 
 void answeranew(PlanView& view) {
     view.access = {};
-    if (!view.plan || !view.settings.asked) return;
+    const auto passage = passageof(view);
+    if (!view.plan || !passage) return;
     const PlanSettings& wishes = view.settings;
-    view.access =
-        view.plan->access(view.read.passage, {wishes.daylight, wishes.leastminutes, wishes.weekdays}, wishes.twilight);
+    view.access = view.plan->access(*passage, {wishes.daylight, wishes.leastminutes, wishes.weekdays}, wishes.twilight);
 }
 
-void keepsettings(MainContext& context, const PlanView& view) {
+bool keepsettings(MainContext& context, const PlanView& view) {
     const std::string path = plansettingspath(context.session.folders);
     const WriteOutcome written = writeplansettings(path, view.settings);
     if (!written) answer(context, "The planner's settings could not be kept: " + path + ": " + written.reason());
+    return written;
 }
 
 void zoomplan(PlanView& view, double factor, Moment about) {
@@ -172,7 +187,7 @@ void putcursor(PlanView& view, Moment at) {
 }
 
 std::optional<Passage> passageof(const PlanView& view) {
-    return view.settings.asked ? std::optional(view.read.passage) : std::nullopt;
+    return view.settings.asked && view.read.refusal.empty() ? std::optional(view.read.passage) : std::nullopt;
 }
 
 std::string plantitle(const PlanView& view, const Locale& locale) {
@@ -187,7 +202,7 @@ std::string plantitle(const PlanView& view, const Locale& locale) {
 }
 
 std::string answertext(const PlanView& view, const Locale& locale) {
-    if (!view.refusal.empty()) return "\u26A0 " + view.refusal;
+    if (view.settings.asked && !view.refusal.empty()) return "\u26A0 " + view.refusal;
     if (!view.plan) return view.whynot;
     return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale) : "";
 }

@@ -28,7 +28,7 @@ struct PlanView {
     Date first{};
     std::array<float, 3> stored{};  ///< draught, clearance and depth of the classic window
     PlanQuestion question;
-    QuestionRead read;           ///< of the last question that could be meant
+    QuestionRead read;           ///< of the last question that could be meant; refused where there was none yet
     std::string refusal;         ///< why the one that stands in the fields can't; empty when it can
     std::shared_ptr<Plan> plan;  ///< none without a port
     std::string whynot;          ///< why there is none
@@ -40,7 +40,8 @@ struct PlanView {
 /// At the session's port and its day on show.
 PlanView openplanview(const MainContext& context);
 
-/// Goes over to the session's port where that is another by now, or its constants are. True when anything changed.
+/// Goes over to the session's port where that is another by now, or its constants or the area's list are. True when
+/// anything changed.
 bool followport(const MainContext& context, PlanView& view);
 
 /// The days and the clock. A span is 1 to 31 days; years are 1 to 9999. All of the plan is shown then.
@@ -56,8 +57,8 @@ void askquestion(const MainContext& context, PlanView& view, const PlanQuestion&
 /// The wishes of the settings were changed, or the question is asked no more.
 void answeranew(PlanView& view);
 
-/// Writes the settings; a failure is told once in the answer line.
-void keepsettings(MainContext& context, const PlanView& view);
+/// Writes the settings. False when they can't be; why is told in the answer line.
+bool keepsettings(MainContext& context, const PlanView& view);
 
 /// Shows less or more of the plan about a moment that keeps its place: 2 doubles the time shown. At least 3 hours.
 void zoomplan(PlanView& view, double factor, Moment about);
@@ -72,7 +73,7 @@ void showwhole(PlanView& view);
 /// Puts the cursor at a moment of the plan, or the nearest; the part shown follows.
 void putcursor(PlanView& view, Moment at);
 
-/// What is asked of the tide; nothing when the question is not asked.
+/// What is asked of the tide; nothing when the question is not asked, or none could be meant yet.
 std::optional<Passage> passageof(const PlanView& view);
 
 /// "Cherbourg, 18 to 24 July 2026, port's clock (Europe/Paris)"

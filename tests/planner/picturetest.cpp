@@ -1,0 +1,257 @@
+// The planner's picture on a canvas that notes everything: labels apart, shapes where their times and heights are,
+// nothing outside.
+#include "planner/planpicture.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "fakes/recordingcanvas.h"
+#include "fakes/scriptedlocale.h"
+#include "fakes/testport.h"
+#include "planner/planlabels.h"
+#include "planner/plantexts.h"
+#include "platform/systemzones/systemzones.h"
+#include "text/singlebyte.h"
+
+namespace tarvane {
+namespace {
+
+using namespace std::chrono_literals;
+using fakes::RecordingCanvas;
+using std::chrono::days;
+
+const SystemZones pictureszones;
+
+HarmonicRecord named(const std::string& name) {
+    static const std::vector<HarmonicRecord> ports = tests::shippedports();
+    for (const HarmonicRecord& port : ports)
+        if (trim(port.PortName) == name) return port;
+    return tests::roundport();
+}
+
+bool near(const Area& one, const Area& other, double apart) {
+    return one.left < other.right - apart && other.left < one.right - apart && one.top < other.bottom - apart &&
+           other.top < one.bottom - apart;
+}
+
+Passage boatof(double draught, double bottom) {
+    Passage boat;
+    boat.draught = draught;
+    boat.bottom = bottom;
+    return boat;
+}
+
+/// A plan's picture painted whole; boats over a sill, under a bridge where there is a ceiling.
+struct Painted {
+    Painted(const HarmonicRecord& port, Date first, int count, double width, double height,
+            Passage boat = boatof(2.4, -2), double size = 12, const std::string& title = "")
+        : plan({port, "Europe/London", first, count}, pictureszones),
+          passage(boat),
+          access(plan.access(boat, {}, false)) {
+        picture.area = {0, 0, width, height};
+        picture.textsize = size;
+        picture.title = title;
+        show(plan.begins(), plan.ends());
+    }
+
+    void show(Moment from, Moment to) {
+        picture.from = from;
+        picture.to = to;
+        canvas = {};
+        scale = scaleof(picture, canvas);
+        paintplan(canvas, picture, scale);
+    }
+
+    /// The labels of the plot: all texts within it.
+    std::vector<RecordingCanvas::Text> labels() const {
+        std::vector<RecordingCanvas::Text> found;
+        for (const auto& each : canvas.texts)
+            if (each.area.top >= scale.plot.top && each.area.bottom <= scale.plot.bottom + 1 &&
+                each.area.left >= scale.plot.left)
+                found.push_back(each);
+        return found;
+    }
+
+    std::size_t count(const std::string& text) const {
+        return static_cast<std::size_t>(std::count_if(canvas.texts.begin(), canvas.texts.end(),
+                                                      [&](const auto& each) { return each.text == text; }));
+    }
+
+    ScriptedLocale locale;
+    Plan plan;
+    Passage passage;
+    PlannedAccess access;
+    PlanPicture picture{plan, locale, planlook(PlanLight::day), {}, {}, {}, passage, &access};
+    RecordingCanvas canvas;
+    PlanScale scale;
+};
+
+TEST(PlanPicture, NoTextsOverlapAndNothingIsPaintedOutside) {
+    for (const char* port : {"Dover", "Southampton", "Lowestoft"})
+        for (const int count : {1, 2, 3, 7, 14, 31})
+            for (const auto& [width, height] : {std::pair{420.0, 260.0}, {800, 300}, {1366, 400}, {2600, 900}})
+                for (const double size : {12.0, width < 800 ? 12.0 : 20.0}) {
+                    const Passage boat{1.9, 0.5, -2, count % 2 ? std::optional(20.0) : std::nullopt, 17, 1.5};
+                    const Painted drawn(named(port), std::chrono::year{2026} / 10 / 20, count, width, height, boat,
+                                        size, "Title");
+                    const std::string what = std::string(port) + " " + std::to_string(count) + " days, " +
+                                             std::to_string(width) + ", " + std::to_string(size);
+                    const auto texts = drawn.labels();
+                    for (std::size_t i = 0; i < texts.size(); ++i)
+                        for (std::size_t j = i + 1; j < texts.size(); ++j)
+                            // Lines of one label stand a little into each other.
+                            EXPECT_FALSE(near(texts[i].area, texts[j].area, 0.1 * size))
+                                << texts[i].text << " on " << texts[j].text << " " << what;
+                    EXPECT_TRUE(count > 3 || width < 800 || texts.size() > 5) << what;
+                    const Area& all = drawn.picture.area;
+                    for (const auto& shapes : {drawn.canvas.fills, drawn.canvas.lines})
+                        for (const auto& each : shapes)
+                            for (const Place& place : each.places)
+                                ASSERT_TRUE(all.holds(place)) << place.x << ", " << place.y << " " << what;
+                    for (const auto& each : drawn.canvas.texts)
+                        ASSERT_TRUE(all.holds({each.area.left, each.area.top}) &&
+                                    all.holds({each.area.right, each.area.bottom}))
+                            << each.text << " at " << each.area.left << ", " << each.area.top << " " << what;
+                }
+}
+
+TEST(PlanPicture, TheCurvePassesThroughTheWaters) {
+    for (const int count : {1, 7, 31}) {
+        Painted drawn(named("Dover"), std::chrono::year{2026} / 3 / 28, count, 1366, 400);
+        const auto curves = RecordingCanvas::of(drawn.canvas.lines, drawn.picture.look.curve);
+        ASSERT_EQ(curves.size(), 1U);
+        const auto& curve = curves[0].places;
+        EXPECT_EQ(curve.front().x, drawn.scale.plot.left);
+        EXPECT_EQ(curve.back().x, drawn.scale.plot.right);
+        for (const PlannedWater& water : drawn.plan.waters()) {
+            const double x = drawn.scale.x(water.moment);
+            const auto behind =
+                std::find_if(curve.begin(), curve.end(), [&](Place each) { return each.x >= x - 1e-9; });
+            ASSERT_NE(behind, curve.end());
+            EXPECT_NEAR(behind->y, drawn.scale.y(water.water.height), 0.1) << count;
+            EXPECT_EQ(drawn.scale.moment(x), water.moment);
+        }
+    }
+}
+
+TEST(PlanPicture, WindowsAndLightLieBetweenTheirTimes) {
+    // 25 October 2026, a day of 25 hours, among them.
+    for (const int count : {1, 3, 7}) {
+        Painted drawn(named("Dover"), std::chrono::year{2026} / 10 / 25, count, 1366, 400);
+        const PlanLook& look = drawn.picture.look;
+        const double foot = drawn.scale.y(drawn.passage.needed());
+        const auto shapes = RecordingCanvas::of(drawn.canvas.fills, look.passable);
+        ASSERT_EQ(shapes.size(), drawn.access.windows.size());
+        for (std::size_t i = 0; i < shapes.size(); ++i) {
+            const auto& window = drawn.access.windows[i];
+            const auto [left, right] =
+                std::minmax_element(shapes[i].places.begin(), shapes[i].places.end(),
+                                    [](const Place& one, const Place& other) { return one.x < other.x; });
+            EXPECT_EQ(left->x, drawn.scale.x(window.opens));
+            EXPECT_EQ(right->x, drawn.scale.x(window.closes));
+            for (const Place& place : shapes[i].places)
+                EXPECT_LE(place.y, foot + 1e-9) << "under the level needed";
+            const bool cut = window.window.cutatstart || window.window.cutatend;
+            const ClockTime opens = drawn.plan.clock().at(window.opens), closes = drawn.plan.clock().at(window.closes);
+            const std::string first = clocktext(opens) + "-";
+            EXPECT_EQ(drawn.count(first + clocktext(closes)) + drawn.count(first), cut ? 0U : 1U) << first;
+        }
+        const auto level = RecordingCanvas::of(drawn.canvas.lines, look.needed);
+        ASSERT_EQ(level.size(), 1U);
+        EXPECT_EQ(level[0].places[0].y, foot);
+        for (const bool twilight : {true, false}) {
+            std::vector<std::pair<double, double>> wanted;
+            for (const auto& [begins, ends] : drawn.plan.light(twilight))
+                wanted.emplace_back(drawn.scale.x(begins), drawn.scale.x(ends));
+            std::vector<std::pair<double, double>> painted;
+            for (const auto& each : RecordingCanvas::of(drawn.canvas.fills, twilight ? look.twilight : look.paper))
+                if (each.places.size() == 2 && each.places[0].y == drawn.scale.plot.top &&
+                    each.places[1].y == drawn.scale.plot.bottom)
+                    painted.emplace_back(each.places[0].x, each.places[1].x);
+            EXPECT_EQ(painted, wanted);
+            EXPECT_EQ(wanted.size(), static_cast<std::size_t>(count));
+        }
+    }
+}
+
+TEST(PlanPicture, CutWindowsAndFarLevelsAreToldAsSuch) {
+    const auto drawn = [](const Passage& boat) {
+        return Painted(named("Dover"), std::chrono::year{2026} / 7 / 14, 1, 1366, 400, boat);
+    };
+    const Painted always = drawn(boatof(1, 5));
+    EXPECT_TRUE(always.access.always);
+    for (const auto& each : always.labels())
+        EXPECT_EQ(each.text.find("00:00"), std::string::npos) << each.text;
+    std::size_t cut = 0;
+    for (double needed = 1; needed < 6; needed += 0.5)
+        for (const PlannedWindow& each : drawn(boatof(needed, 0)).access.windows) {
+            const Painted one = drawn(boatof(needed, 0));
+            const std::string opens = clocktext(one.plan.clock().at(each.opens)),
+                              closes = clocktext(one.plan.clock().at(each.closes));
+            if (each.window.cutatstart != each.window.cutatend) {
+                ++cut;
+                EXPECT_EQ(one.count(each.window.cutatstart ? "until " + closes : "from " + opens), 1U) << needed;
+            }
+        }
+    EXPECT_GT(cut, 3U);
+    const Painted far = drawn({30, 5, 0, 50.0, 1, 2});
+    EXPECT_EQ(far.count("needed 35.0 m, above the picture"), 1U);
+    EXPECT_EQ(far.count("at most 51.0 m, above the picture"), 1U);
+}
+
+TEST(PlanPicture, HeadsCallNoDayWhatItIsNot) {
+    Painted drawn(named("Dover"), std::chrono::year{2026} / 7 / 1, 31, 700, 300);
+    const auto springs = drawn.plan.springsandneaps();
+    for (std::chrono::hours at = 0h; at < 24h; at += 1h) {
+        drawn.show(drawn.plan.begins() + at, drawn.plan.ends() - 24h + at);
+        for (const auto& each : drawn.canvas.texts) {
+            if (each.text != "np" && each.text != "sp") continue;
+            const Date date = drawn.plan.clock().at(drawn.scale.moment((each.area.left + each.area.right) / 2)).date;
+            EXPECT_TRUE(std::any_of(springs.begin(), springs.end(),
+                                    [&](const SpringTide& tide) {
+                                        return drawn.plan.clock().at(tide.moment).date == date &&
+                                               tide.springs == (each.text == "sp");
+                                    }))
+                << each.text << " on " << dayof(date);
+        }
+    }
+}
+
+TEST(PlanPicture, OddPortsAndDaysArePainted) {
+    HarmonicRecord flat;
+    flat.Z0 = 2;
+    HarmonicRecord wild = tests::roundport();
+    wild.M2Hm = wild.S2Hm = 1e30F;
+    wild.MHm2.fill(1e30F);
+    for (const HarmonicRecord& port : {flat, wild, HarmonicRecord{}})
+        for (const int year : {1, 1989, 1990, 2026, 9999}) {
+            Painted drawn(port, makedate(year, 1, 2), 3, 800, 300);
+            EXPECT_LT(drawn.canvas.texts.size(), 300U) << year;
+            const bool told = drawn.count(drawn.plan.whynot()) == 1;
+            const bool curve = !RecordingCanvas::of(drawn.canvas.lines, drawn.picture.look.curve).empty();
+            EXPECT_NE(told, curve) << year;
+        }
+}
+
+TEST(PlanLabels, TheMoreImportantStay) {
+    const RecordingCanvas canvas;
+    const auto label = [](double x, double importance) {
+        return PlanLabel{{std::to_string(int(x))}, {}, {x, 10}, importance};
+    };
+    LabelPlaces places(canvas, {0, 0, 400, 100});
+    const Area kept = places.takefree({100, 0, 150, 20});
+    EXPECT_EQ(kept.left, 100);
+    EXPECT_GE(places.takefree({100, 0, 150, 20}).left, 150);
+    std::vector<std::string> told;
+    for (const PlanLabel& each :
+         places.place({label(210, 1), label(220, 3), label(230, 2), label(-5, 1), label(120, 9)}))
+        told.push_back(each.lines[0]);
+    EXPECT_EQ(told, (std::vector<std::string>{"220", "-5"}));
+    const auto edge = places.place({label(405, 1)});
+    ASSERT_EQ(edge.size(), 1U);
+    EXPECT_LE(areaof(canvas, edge[0]).right, 400) << "moved inside";
+}
+
+}  // namespace
+}  // namespace tarvane

@@ -1,0 +1,112 @@
+// What is typed for "When can I go?" and what the planner keeps between runs: how it is read, refused, and survives.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "fakes/temporaryfolder.h"
+#include "planner/planquestion.h"
+
+namespace tarvane {
+namespace {
+
+TEST(PlanQuestion, NumbersAreReadAsASailorTypesThem) {
+    const struct {
+        const char* typed;
+        std::optional<double> value;
+    } rows[] = {{"1.9", 1.9},  {"1,9", 1.9},   {" 1.9 m ", 1.9}, {"1.9m", 1.9}, {"-2", -2.0},  {"\u22122", -2.0},
+                {"+2", 2.0},   {".5", 0.5},    {"", {}},         {"m", {}},     {"1.2.3", {}}, {"1,2.3", {}},
+                {"1,2,3", {}}, {"1e3", {}},    {"nan", {}},      {"inf", {}},   {"--2", {}},   {"2-", {}},
+                {"0x10", {}},  {"1.9 ft", {}}, {"1 2", {}},      {"-", {}},     {"two", {}}};
+    for (const auto& row : rows)
+        EXPECT_EQ(typednumber(row.typed), row.value) << row.typed;
+}
+
+TEST(PlanQuestion, ARefusalNamesItsField) {
+    const PlanQuestion good{"1.9", "0.5", "-2", "20", "18", "5", "45"};
+    const QuestionRead read = readquestion(good);
+    EXPECT_EQ(read.refusal, "");
+    EXPECT_DOUBLE_EQ(read.passage.needed(), 4.4);
+    EXPECT_DOUBLE_EQ(read.passage.ceiling().value(), 7);
+    EXPECT_EQ(read.leastminutes, 45);
+    const struct {
+        PlanField field;
+        const char* typed;
+        const char* refusal;
+    } rows[] = {
+        {PlanField::draught, "", "Draught: write m from 0 to 40, not \u201C\u201D"},
+        {PlanField::clearance, "41", "Clearance: write m from 0 to 40, not \u201C41\u201D"},
+        {PlanField::bottom, "-41", "Bottom: write m from -40 to 500, not \u201C-41\u201D"},
+        {PlanField::airdraught, "", "Mast: write how high it stands above the water, in metres"},
+        {PlanField::bridgelevel, " ",
+         "Bridge's level: write how many metres above chart datum the level lies that its height is given for"},
+        {PlanField::least, "1441", "Least time: write minutes from 0 to 1440, not \u201C1441\u201D"},
+    };
+    for (const auto& row : rows) {
+        PlanQuestion question = good;
+        question[static_cast<std::size_t>(row.field)] = row.typed;
+        EXPECT_EQ(readquestion(question).refusal, row.refusal);
+        EXPECT_EQ(readquestion(question).refused, row.field) << row.refusal;
+    }
+    const QuestionRead unbridged = readquestion({"1.9", "0.5", "-2", "", "silly", "999", ""});
+    EXPECT_EQ(unbridged.refusal, "");
+    EXPECT_FALSE(unbridged.passage.ceiling());
+    EXPECT_EQ(readquestion({"0", "0", "0", "", "", "", "0.2"}).leastminutes, 1) << "a part of a minute is one";
+}
+
+TEST(PlanQuestion, WhatIsAsStoredGoesOnFollowingThat) {
+    Settings stored;
+    stored.currentdraught = 1.9F;
+    stored.currentukc = 0.5F;
+    stored.userdepth = -2;
+    PlanSettings settings;
+    EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Dover"), (PlanQuestion{"1.9", "0.5", "-2", "", "", "", ""}));
+    keepquestion(readquestion({"1.90", "0.7", "3", "20", "18", "5", "30"}), stored, "UK.hc/Dover", settings);
+    EXPECT_FALSE(settings.draught);
+    stored.currentdraught = 2.2F;
+    EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Dover"),
+              (PlanQuestion{"2.2", "0.7", "3", "20", "18", "5", "30"}));
+    EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Leith")[2], "-2") << "a bottom is of its port";
+    keepquestion(readquestion({"2.2", "0.7", "-2", "", "", "", ""}), stored, "UK.hc/Dover", settings);
+    EXPECT_TRUE(settings.bottoms.empty());
+    EXPECT_EQ(settings.airdraught, 18) << "the next bridge finds the mast as it was";
+}
+
+TEST(PlanSettings, ComeBackAsTheyWereWritten) {
+    const fakes::TemporaryFolder folder;
+    const std::string path = folder / "Planner.json";
+    const PlanSettings first = readplansettings(path);
+    EXPECT_EQ(first.days, 7);
+    PlanSettings all{
+        true, true, 31, ClockChoice::computer, Paper::letter, false, true, Daylight::whole, 90, 0x41, 1.9, 0.5, 20.0,
+        18.0, 5.0,  {}};
+    all.bottoms = {{"UK.hc/B\u00F8m\u00E5", -2}, {"UK.hc/\xFF", 3}};
+    ASSERT_TRUE(writeplansettings(path, all));
+    const PlanSettings read = readplansettings(path);
+    const auto flat = [](const PlanSettings& s) {
+        return std::tuple(s.openatstart, s.night, s.days, s.clock, s.paper, s.asked, s.twilight, s.daylight,
+                          s.leastminutes, s.weekdays, s.draught, s.clearance, s.bridge, s.airdraught, s.bridgelevel);
+    };
+    EXPECT_EQ(flat(read), flat(all));
+    EXPECT_EQ(read.bottoms.at("UK.hc/B\u00F8m\u00E5"), -2);
+    std::filesystem::create_directory(folder / "folder");
+    EXPECT_FALSE(writeplansettings(folder / "folder", all));
+    EXPECT_FALSE(writeplansettings(folder / "nowhere/Planner.json", all));
+    const char* const texts[] = {
+        "",
+        "{",
+        "[1, 2]",
+        "null",
+        "\xFF\xFE",
+        "{\"days\": 1e999}",
+        R"({"days": 0, "clock": 4, "paper": 2, "daylight": -1, "leastminutes": 1441, "weekdays": 0, "draught": 1001})",
+        R"({"days": 32, "clock": -1, "paper": 18446744073709551615, "weekdays": 128, "bottoms": {"a": 1e9}})",
+        R"({"days": 7.5, "night": 1, "asked": "no", "openatstart": null, "draught": "deep", "bottoms": [1]})"};
+    for (const char* text : texts) {
+        ASSERT_TRUE(replacefile(path, std::string(text)));
+        EXPECT_EQ(flat(readplansettings(path)), flat(first)) << text;
+        EXPECT_TRUE(readplansettings(path).bottoms.empty()) << text;
+    }
+}
+
+}  // namespace
+}  // namespace tarvane

@@ -1,0 +1,284 @@
+// The planner beside the main window, by mouse and keys.
+#include "planner/frmplanner.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCompleter>
+#include <QMouseEvent>
+#include <QWheelEvent>
+#include <filesystem>
+
+#include "fakes/mainfixture.h"
+#include "mainview/frmtarvane.h"
+#include "windows/controls.h"
+
+namespace tarvane::tests {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct FrmPlanner : testing::Test, MainFixture {
+    FrmPlanner() : main(std::make_unique<frmtarvane>(session, scripted.services())) {
+        main->Form_Load();
+        main->Timer1->stop();
+        main->Timer2->stop();
+        present(*main);
+        main->menuentry("mnuPlanner")->trigger();
+        planner = findplanner();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(planner));
+    }
+
+    static frmplanner* findplanner() {
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (auto* found = dynamic_cast<frmplanner*>(each)) return found;
+        return nullptr;
+    }
+
+    PlanView& view() { return planner->planview(); }
+    QLineEdit& field(PlanField which) { return *planner->fields[static_cast<std::size_t>(which)]; }
+    void type(QLineEdit& edit, const char* text) {
+        edit.selectAll();
+        QTest::keyClicks(&edit, text);
+    }
+    std::string answer() { return shown(*planner->lblAnswer); }
+    void key(Qt::Key key, Qt::KeyboardModifiers with = {}) { QTest::keyClick(planner->picture, key, with); }
+
+    /// Where a moment is in the picture, halfway down, as it was painted last.
+    QPoint placeof(Moment at) {
+        planner->picture->grab();
+        const double inner = planner->picture->width() - 8.0, left = inner - plotwidth();
+        return {
+            int(left + plotwidth() * double((at - view().from).count()) / double((view().to - view().from).count())),
+            planner->picture->height() / 2};
+    }
+    double plotwidth() {
+        const QFont font = planner->picture->font();
+        QFont pixels = font;
+        pixels.setPixelSize(QFontInfo(font).pixelSize());
+        return planner->picture->width() - 16 - QFontMetricsF(pixels).horizontalAdvance("-10.5");
+    }
+
+    void mouse(QEvent::Type type, QPoint place, Qt::MouseButtons buttons = Qt::LeftButton) {
+        QMouseEvent event(type, place, planner->picture->mapToGlobal(place),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, {});
+        QApplication::sendEvent(planner->picture, &event);
+    }
+    void doubleclick(Moment at) { mouse(QEvent::MouseButtonDblClick, placeof(at)); }
+    void turnwheel(int degrees, Qt::KeyboardModifiers with = {}) {
+        const QPoint place(planner->picture->width() / 2, 50);
+        QWheelEvent event(place, planner->picture->mapToGlobal(place), {}, {0, degrees}, {}, with, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(planner->picture, &event);
+    }
+
+    std::unique_ptr<frmtarvane> main;
+    frmplanner* planner = nullptr;
+};
+
+TEST_F(FrmPlanner, PortsAreFollowedBothWays) {
+    EXPECT_EQ(planner->windowTitle(), "Alder Quay - Planner");
+    planner->cmbPort->setCurrentIndex(2);
+    emit planner->cmbPort->activated(2);
+    EXPECT_EQ(main->portbox->text(), "Port    : Cedar Head");
+    EXPECT_EQ(stored().portnumber, 3);
+    EXPECT_EQ(planner->windowTitle(), "Cedar Head - Planner");
+    main->menuentry("mnuPrevPort")->trigger();
+    EXPECT_EQ(planner->windowTitle(), "Birch Sound - Planner");
+    EXPECT_EQ(planner->cmbPort->currentIndex(), 1);
+    QLineEdit* name = planner->cmbPort->lineEdit();
+    const auto enter = [&](const char* text) {
+        name->setFocus();
+        if (*text) type(*name, text);
+        planner->cmbPort->completer()->popup()->hide();
+        QTest::keyClick(name, Qt::Key_Return);
+    };
+    enter("ceder hed");
+    EXPECT_EQ(planner->cmbPort->currentIndex(), 2) << "a near miss";
+    enter("xyzzy");
+    EXPECT_EQ(shown(*planner->lblSaid), "No port of this sea area is called so");
+    EXPECT_EQ(name->text(), "Cedar Head");
+    planner->onport(4);
+    enter("");
+    EXPECT_EQ(session.settings.currentport, 4) << "of two of that name the one in hand stays";
+    enter("birch");
+    EXPECT_EQ(session.settings.currentport, 2);
+    EXPECT_EQ(shown(*planner->lblSaid), "");
+    name->setFocus();
+    type(*name, "half a na");
+    planner->cmbPort->completer()->popup()->hide();
+    planner->picture->setFocus();
+    EXPECT_EQ(name->text(), "Birch Sound") << "a text left half typed is no port";
+    std::filesystem::remove(area());
+    main->showview();
+    EXPECT_EQ(shown(*planner->lblNow), "The sea area's file can't be found");
+    planner->picture->grab();
+    key(Qt::Key_Right);
+    QTest::mouseClick(planner->cmdNextDay, Qt::LeftButton);
+    doubleclick(view().from);
+    QTest::keyClick(planner, Qt::Key_T, Qt::ControlModifier);
+}
+
+TEST_F(FrmPlanner, WhatIsTypedIsAnsweredAtOnce) {
+    planner->pages->setCurrentWidget(planner->windows);
+    type(field(PlanField::bottom), "-1");
+    type(field(PlanField::draught), "1,9");
+    const std::string answered = answer();
+    const std::size_t rows = planner->windows->table().rows.size();
+    EXPECT_EQ(rows, view().access.windows.size());
+    EXPECT_NE(answered.find(" to "), std::string::npos) << answered;
+    type(field(PlanField::draught), "2.9");
+    EXPECT_NE(answer(), answered);
+    const std::string deeper = answer();
+    const auto table = tabbedtext(planner->windows->table());
+    type(field(PlanField::draught), "x");
+    EXPECT_EQ(answer(), "\u26A0 Draught: write m from 0 to 40, not \u201Cx\u201D");
+    EXPECT_TRUE(field(PlanField::draught).font().underline());
+    EXPECT_EQ(tabbedtext(planner->windows->table()), table);
+    EXPECT_EQ(readplansettings(plansettingspath(session.folders)).draught, 2.9);
+    type(field(PlanField::draught), "2.9");
+    EXPECT_EQ(answer(), deeper);
+    planner->fraQuestion->setChecked(false);
+    EXPECT_EQ(answer() + std::to_string(planner->windows->table().rows.size()), "0");
+    planner->fraQuestion->setChecked(true);
+    planner->weekdays[5]->click();
+    EXPECT_NE(answer().find("Sat 13 Apr"), std::string::npos) << answer();
+    EXPECT_LE(view().access.windows.size(), 3U);
+    const std::string path = plansettingspath(session.folders);
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    planner->weekdays[5]->click();
+    EXPECT_EQ(shown(*planner->lblSaid).find("The planner's settings could not be kept: "), 0U);
+}
+
+TEST_F(FrmPlanner, KeysWalkTheCursor) {
+    planner->picture->setFocus();
+    const Moment now = Moment(makedate(2024, 4, 9)) + 14h + 32min;
+    const auto cursor = [&] { return view().cursor.value_or(Moment{}); };
+    key(Qt::Key_Right);
+    EXPECT_EQ(cursor(), now) << "it begins where now is";
+    key(Qt::Key_Right);
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(cursor(), now + 11min);
+    EXPECT_EQ(shown(*planner->lblCursor).find("Tue 9 Apr 15:43 UT+1: "), 0U) << shown(*planner->lblCursor);
+    key(Qt::Key_Right, Qt::ControlModifier);
+    const auto& waters = view().plan->waters();
+    const auto next = std::find_if(waters.begin(), waters.end(), [&](const auto& each) { return each.moment > now; });
+    EXPECT_EQ(cursor(), next->moment);
+    for (int i = 0; i < 60; ++i)
+        key(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(cursor(), waters.front().moment);
+    planner->picture->grab();
+    const auto whole = view().to - view().from;
+    key(Qt::Key_Plus);
+    key(Qt::Key_Plus);
+    EXPECT_NEAR(double((view().to - view().from).count()), double(whole.count()) / 1.25 / 1.25, 2)
+        << "before a repaint";
+    for (int i = 0; i < 40; ++i)
+        key(Qt::Key_Plus);
+    EXPECT_EQ(view().to - view().from, 3h);
+    key(Qt::Key_Home);
+    EXPECT_EQ(cursor(), now);
+    EXPECT_TRUE(view().from <= now && now <= view().to) << "the part shown follows";
+    QTest::mouseClick(planner->cmdNextWeek, Qt::LeftButton);
+    QTest::keyClick(planner, Qt::Key_PageDown);
+    EXPECT_EQ(view().first, makedate(2024, 4, 17));
+    key(Qt::Key_Home);
+    EXPECT_EQ(view().first, makedate(2024, 4, 9)) << "days without now give way";
+    EXPECT_EQ(cursor(), now);
+    planner->tides->setFocus();
+    planner->tides->selectRow(0);
+    QTest::keyClick(planner->tides, Qt::Key_PageDown);
+    EXPECT_EQ(view().first, makedate(2024, 4, 9)) << "a table pages itself";
+    EXPECT_GT(planner->tides->currentIndex().row(), 3);
+    QTest::keyClick(planner, Qt::Key_Escape);
+    EXPECT_EQ(infocus(*planner), "picture");
+}
+
+TEST_F(FrmPlanner, TheMouseZoomsDragsAndChoosesDays) {
+    const Date day = makedate(2024, 4, 11);
+    const Moment noon = view().plan->clock().startof(day) + 12h;
+    doubleclick(noon);
+    EXPECT_EQ(view().from, noon - 12h);
+    EXPECT_EQ(view().to, noon + 12h);
+    EXPECT_EQ(session.onshow.tidedate, day);
+    const QPoint from = placeof(noon), back(from.x() - int(plotwidth() / 4), from.y());
+    mouse(QEvent::MouseButtonPress, from);
+    mouse(QEvent::MouseMove, back);
+    mouse(QEvent::MouseButtonRelease, back, Qt::NoButton);
+    EXPECT_NEAR(double((view().from - (noon - 6h)).count()), 0, 120) << "dragged by a quarter";
+    mouse(QEvent::MouseMove, placeof(noon), Qt::NoButton);
+    EXPECT_NEAR(double((view().cursor.value_or(Moment{}) - noon).count()), 0, 120) << "let go it only points";
+    for (int i = 0; i < 3; ++i)
+        mouse(i == 0 ? QEvent::MouseButtonPress : QEvent::MouseMove, {i * 90000, 50});
+    EXPECT_EQ(view().from, view().plan->begins());
+    mouse(QEvent::MouseButtonRelease, {0, 0}, Qt::NoButton);
+    showday(view(), day);
+    planner->picture->redraw();
+    doubleclick(noon);
+    EXPECT_EQ(view().to, view().plan->ends()) << "again shows all days";
+    turnwheel(120);
+    turnwheel(120);
+    EXPECT_NEAR(double((view().to - view().from).count()), 7 * 86400 / 1.25 / 1.25, 2);
+    turnwheel(-120, Qt::ShiftModifier);
+    turnwheel(-12000);
+    EXPECT_EQ(view().to - view().from, 7 * 24h);
+    emit planner->cmbSpan->activated(0);
+    EXPECT_EQ(view().to - view().from, 24h);
+    planner->DTPicker->setFocus();
+    type(*planner->DTPicker, "31/3/2024");
+    QTest::keyClick(planner->DTPicker, Qt::Key_Return);
+    EXPECT_EQ(view().to - view().from, 23h) << "the clocks go forward";
+    doubleclick(view().from + 12h);
+    EXPECT_EQ(session.onshow.tidedate, makedate(2024, 3, 31)) << "a day alone is shown by the main window too";
+}
+
+TEST_F(FrmPlanner, RowsLeadToTheirMomentsHoweverSorted) {
+    for (auto* const table : {planner->tides, planner->windows, planner->sunandmoon}) {
+        planner->pages->setCurrentWidget(table);
+        type(field(PlanField::bottom), "-1");
+        ASSERT_GT(table->model()->rowCount(), 3);
+        for (int column = 0; column < table->model()->columnCount(); ++column)
+            for (const auto order : {Qt::DescendingOrder, Qt::AscendingOrder}) {
+                table->sortByColumn(column, order);
+                const auto& rows = table->table().rows;
+                const int row = static_cast<int>(rows.size()) - 2;
+                const PlanTable::Row& chosen = rows[static_cast<std::size_t>(row)];
+                EXPECT_EQ(table->model()->index(row, 0).data().toString().toStdString(), chosen.cells[0]);
+                QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                                  table->visualRect(table->model()->index(0, 0)).center());
+                EXPECT_EQ(view().cursor, rows[0].moment);
+                table->setCurrentIndex(table->model()->index(row, 0));
+                QTest::keyClick(table, Qt::Key_Return);
+                EXPECT_EQ(view().cursor, chosen.moment);
+                const auto key = [&](const PlanTable::Row& of) { return of.keys[static_cast<std::size_t>(column)]; };
+                EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end(), [&](const auto& one, const auto& other) {
+                    return order == Qt::AscendingOrder ? key(one) < key(other) : key(one) > key(other);
+                }));
+            }
+    }
+}
+
+TEST_F(FrmPlanner, NightIsKeptAndTheMainWindowClosesIt) {
+    planner->entry("mnuNight")->trigger();
+    planner->entry("mnuOpenAtStart")->trigger();
+    EXPECT_TRUE(view().settings.night);
+    const QColor night = planner->palette().color(QPalette::Window);
+    EXPECT_GT(night.red(), 2 * night.blue());
+    EXPECT_EQ(planner->grab().toImage().pixelColor(2, planner->height() - 2).blue(), night.blue());
+    planner->close();
+    main->menuentry("mnuPlanner")->trigger();
+    EXPECT_TRUE(planner->isVisible()) << "the same window again";
+    main->close();
+    EXPECT_FALSE(planner->isVisible());
+    main.reset();
+    EXPECT_FALSE(findplanner());
+    Session another = session;
+    frmtarvane again(another, scripted.services());
+    again.Form_Load();
+    again.openatstart();
+    ASSERT_TRUE(findplanner());
+    EXPECT_TRUE(findplanner()->isVisible() && findplanner()->entry("mnuNight")->isChecked());
+}
+
+}  // namespace
+}  // namespace tarvane::tests

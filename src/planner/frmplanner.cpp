@@ -31,6 +31,8 @@ QPalette paletteof(const PlanLook& look) {
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
         palette.setColor(role, colour(look.text));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, colour(look.grid));
     palette.setColor(QPalette::PlaceholderText, colour(look.faint));
     palette.setColor(QPalette::Highlight, colour(look.curve));
     palette.setColor(QPalette::HighlightedText, colour(look.paper));

@@ -149,7 +149,7 @@ QWidget* frmplanner::buildquestion() {
         fields[i]->setAccessibleDescription(place.hint);
         fields[i]->setPlaceholderText(place.placeholder);
         fields[i]->setMaxLength(20);
-        fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 10);
+        fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 8);
         const int row = static_cast<int>(i / 3), column = static_cast<int>(i % 3) * 2;
         grid->addWidget(captionof(place.caption, fields[i]), row, column, Qt::AlignRight | Qt::AlignVCenter);
         grid->addWidget(fields[i], row, column + 1);
@@ -160,6 +160,9 @@ QWidget* frmplanner::buildquestion() {
     rows->addLayout(grid);
     auto* days = new QHBoxLayout;
     days->setSpacing(2);
+    auto* only = new QLabel("Only on");
+    only->setToolTip("None pressed: every day is as good");
+    days->addWidget(only);
     for (std::size_t i = 0; i < weekdays.size(); ++i) {
         const int sundayfirst = static_cast<int>((i + 1) % 7);
         const QString name = QString::fromStdString(context.services.locale.dayname(sundayfirst));

@@ -254,10 +254,10 @@ void paintlevel(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
 
 void paintlevels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
     if (!picture.passage) return;
-    paintlevel(canvas, picture, scale, picture.passage->needed(), "needed " + metres(picture.passage->needed()),
+    paintlevel(canvas, picture, scale, picture.passage->needed(), "needed " + levelmetres(picture.passage->needed()),
                places);
     if (const auto ceiling = picture.passage->ceiling())
-        paintlevel(canvas, picture, scale, *ceiling, "at most " + metres(*ceiling), places);
+        paintlevel(canvas, picture, scale, *ceiling, "at most " + levelmetres(*ceiling), places);
 }
 
 std::vector<PlanLabel> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
@@ -266,7 +266,7 @@ std::vector<PlanLabel> waterlabels(const Canvas& canvas, const PlanPicture& pict
     for (const PlannedWater& each : picture.plan.waters()) {
         if (each.moment < scale.from || each.moment > scale.to) continue;
         const double y = scale.y(each.water.height);
-        PlanLabel label{{clocktext(picture.plan.clock().at(each.moment)), metres(each.water.height)},
+        PlanLabel label{{plainclock(picture.plan.clock(), each.moment), metres(each.water.height)},
                         textlook(picture, picture.look.text, Anchor::middle, each.water.high),
                         {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
                         each.water.springshare + (each.water.high ? 10 : 0) - (each.water.stand ? 5 : 0)};
@@ -287,8 +287,8 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
         // A window that goes on beyond the plan doesn't open or close at its end.
         const bool openbefore = each.window.cutatstart, openafter = each.window.cutatend;
         if (openbefore && openafter) continue;
-        const std::string first = clocktext(picture.plan.clock().at(each.opens));
-        const std::string last = clocktext(picture.plan.clock().at(each.closes));
+        const std::string first = plainclock(picture.plan.clock(), each.opens);
+        const std::string last = plainclock(picture.plan.clock(), each.closes);
         const std::string from = openbefore  ? "until"
                                  : openafter ? "from"
                                              : first + "-",
@@ -296,7 +296,7 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
         const double middle = (scale.x(opens) + scale.x(closes)) / 2;
         labels.push_back({{from + between + until}, look, {middle, top}, 30, picture.look.paper});
         // In two lines where one is too wide for its neighbours.
-        labels.push_back({{from, until}, look, {middle, top}, 20, picture.look.paper});
+        labels.push_back({{from, until}, look, {middle, top}, 20});
     }
     return labels;
 }
@@ -390,8 +390,10 @@ void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const Pla
         const double side = phase == 1 ? std::numbers::pi / 2 : -std::numbers::pi / 2, along = side + turn / 2;
         half.push_back({middle.x + radius * std::cos(along), middle.y + radius * std::sin(along)});
     }
-    canvas.fill(rim, phase == 0 ? look.faint : look.paper);
-    if (phase == 1 || phase == 3) canvas.fill(half, look.faint);
+    const bool darkpaper = contrast(look.paper, 0) < contrast(look.faint, 0);
+    const Rgb dark = darkpaper ? look.paper : look.faint, lit = darkpaper ? look.faint : look.paper;
+    canvas.fill(rim, phase == 0 ? dark : lit);
+    if (phase == 1 || phase == 3) canvas.fill(half, dark);
     canvas.line(rim, {look.faint, radius / 6});
 }
 

@@ -34,7 +34,8 @@ HeightRange heightsof(const Plan& plan) {
 /// With what the passage asks for, where that is not out of all reach.
 HeightRange withpassage(HeightRange heights, const std::optional<Passage>& passage) {
     if (!passage) return heights;
-    const double reach = heights.greatest - heights.least;
+    // Farther off it would press the tide itself flat.
+    const double reach = (heights.greatest - heights.least) / 2;
     const HeightRange tides = heights;
     const auto take = [&](double height) {
         if (height < tides.least - reach || height > tides.greatest + reach) return;

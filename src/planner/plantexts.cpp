@@ -59,13 +59,13 @@ std::string cutwords(const Window& window) {
 
 std::string windowwords(const Plan& plan, const PlannedWindow& window, const Locale& locale) {
     const ClockTime opens = plan.clock().at(window.opens), closes = plan.clock().at(window.closes);
-    const std::string from = daytext(locale, opens.date) + " " + clocktext(opens),
-                      until = daytext(locale, closes.date) + " " + clocktext(closes);
+    const std::string from = daytext(locale, opens.date) + " " + plainclock(plan.clock(), window.opens),
+                      until = daytext(locale, closes.date) + " " + plainclock(plan.clock(), window.closes);
     if (window.window.cutatstart && !window.window.cutatend) return "until " + until;
     if (window.window.cutatend && !window.window.cutatstart) return "from " + from + " on";
     std::string words = from + " to ";
     if (closes.date != opens.date) words += daytext(locale, closes.date) + " ";
-    return words + clocktext(closes);
+    return words + plainclock(plan.clock(), window.closes);
 }
 
 std::string waterwords(const Plan& plan, const char* name, const std::optional<PlannedWater>& water, Moment now) {
@@ -131,6 +131,16 @@ std::string metres(double height, int decimals) {
     std::string number = text;
     if (number.find_first_not_of("-0.") == std::string::npos && number[0] == '-') number.erase(0, 1);
     return number + " m";
+}
+
+std::string levelmetres(double height) {
+    return metres(height, std::abs(height * 10 - std::round(height * 10)) < 0.05 ? 1 : 2);
+}
+
+std::string plainclock(const PortClock& clock, Moment moment) {
+    const ClockTime time = clock.at(moment);
+    const bool changes = clock.at(clock.startof(time.date)).ahead != clock.at(clock.startof(time.date + days(1))).ahead;
+    return clocktext(time) + (changes ? " " + time.name : "");
 }
 
 std::string durationtext(minutes duration) {

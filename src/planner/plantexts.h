@@ -16,6 +16,12 @@ std::string daytext(const Locale& locale, Date date);
 /// "4.4 m"; a height that rounds to zero has no sign.
 std::string metres(double height, int decimals = 1);
 
+/// The same with centimetres where it has some: "4.4 m", "4.45 m".
+std::string levelmetres(double height);
+
+/// A moment's clock time; on a day on which the clock is changed with its name behind it: "01:30 BST".
+std::string plainclock(const PortClock& clock, Moment moment);
+
 /// "1 h 05 min", "40 min", "3 days"
 std::string durationtext(std::chrono::minutes duration);
 

@@ -137,7 +137,7 @@ TEST(PlanPicture, TheCurvePassesThroughTheWaters) {
 
 TEST(PlanPicture, WindowsAndLightLieBetweenTheirTimes) {
     // 25 October 2026, a day of 25 hours, among them.
-    for (const int count : {1, 3, 7}) {
+    for (const int count : {1, 3}) {
         Painted drawn(named("Dover"), std::chrono::year{2026} / 10 / 25, count, 1366, 400);
         const PlanLook& look = drawn.picture.look;
         const double foot = drawn.scale.y(drawn.passage.needed());
@@ -153,9 +153,11 @@ TEST(PlanPicture, WindowsAndLightLieBetweenTheirTimes) {
             for (const Place& place : shapes[i].places)
                 EXPECT_LE(place.y, foot + 1e-9) << "under the level needed";
             const bool cut = window.window.cutatstart || window.window.cutatend;
-            const ClockTime opens = drawn.plan.clock().at(window.opens), closes = drawn.plan.clock().at(window.closes);
-            const std::string first = clocktext(opens) + "-";
-            EXPECT_EQ(drawn.count(first + clocktext(closes)) + drawn.count(first), cut ? 0U : 1U) << first;
+            const PortClock& clock = drawn.plan.clock();
+            const std::string first = plainclock(clock, window.opens) + "-", last = plainclock(clock, window.closes);
+            EXPECT_EQ(first.find(" GMT-") != std::string::npos || first.find(" BST-") != std::string::npos,
+                      clock.at(window.opens).date == std::chrono::sys_days(std::chrono::year{2026} / 10 / 25));
+            EXPECT_EQ(drawn.count(first + last) + drawn.count(first), cut ? 0U : 1U) << first;
         }
         const auto level = RecordingCanvas::of(drawn.canvas.lines, look.needed);
         ASSERT_EQ(level.size(), 1U);

@@ -134,6 +134,7 @@ TEST_F(FrmPlanner, WhatIsTypedIsAnsweredAtOnce) {
     EXPECT_EQ(answer(), "\u26A0 Draught: write m from 0 to 40, not \u201Cx\u201D");
     EXPECT_TRUE(field(PlanField::draught).font().underline());
     EXPECT_EQ(tabbedtext(planner->windows->table()), table);
+    QApplication::processEvents();
     EXPECT_EQ(readplansettings(plansettingspath(session.folders)).draught, 2.9);
     type(field(PlanField::draught), "2.9");
     EXPECT_EQ(answer(), deeper);
@@ -147,6 +148,7 @@ TEST_F(FrmPlanner, WhatIsTypedIsAnsweredAtOnce) {
     std::filesystem::remove(path);
     std::filesystem::create_directory(path);
     planner->weekdays[5]->click();
+    QApplication::processEvents();
     EXPECT_EQ(shown(*planner->lblSaid).find("The planner's settings could not be kept: "), 0U);
 }
 

@@ -41,7 +41,7 @@ struct FieldPlace {
     const char* name;
     const char* caption;
     const char* hint;
-    const char* placeholder;
+    const char* example;
 };
 
 constexpr std::array<FieldPlace, planfields> fieldplaces{
@@ -147,7 +147,7 @@ QWidget* frmplanner::buildquestion() {
         fields[i] = named<QLineEdit>(place.name);
         fields[i]->setToolTip(place.hint);
         fields[i]->setAccessibleDescription(place.hint);
-        fields[i]->setPlaceholderText(place.placeholder);
+        fields[i]->setPlaceholderText(place.example);
         fields[i]->setMaxLength(20);
         fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 8);
         const int row = static_cast<int>(i / 3), column = static_cast<int>(i % 3) * 2;

@@ -167,7 +167,10 @@ std::vector<std::pair<Moment, Moment>> Plan::light(bool twilight) const {
 std::vector<SpringTide> Plan::springsandneaps() const {
     constexpr auto aside = days(5);
     const double springrange = meanspringrange(of_.port);
-    if (springrange <= 0) return {};
+    // With mainly one tide a day the greatest ranges come with the moon's declination.
+    const double twotides = double{of_.port.M2Hm} + double{of_.port.S2Hm};
+    const double onetide = double{of_.port.K1Hm} + double{of_.port.O1Hm};
+    if (!(springrange > 0) || onetide > 1.5 * twotides) return {};
     std::vector<double> shares(around_.size(), 0);
     for (std::size_t i = 0; i < around_.size(); ++i)
         if (around_[i].water.high) shares[i] = rangeabout(tides_, spanhours(around_[i].moment)) / springrange;

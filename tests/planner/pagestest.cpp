@@ -199,6 +199,7 @@ TEST(Pages, ADayWithoutAPredictionSaysSo) {
         EXPECT_EQ(counted(texts, "no high or low water"), 0U);
         EXPECT_EQ(counted(texts, "The method has no constants"), 1U);
     }
+    EXPECT_EQ(counted(painted(almanac(flatport(), 2026, systemzones, english), 12, papers[0]), "no springs"), 1U);
     const auto flat = painted(monthpage(flatport(), 2026, 2, systemzones, english), 0, papers[0]);
     EXPECT_EQ(counted(flat, "no high or low water"), 28U);
     EXPECT_EQ(counted(flat, "prediction"), 0U);
@@ -250,6 +251,9 @@ TEST(Pages, TimesBehindAChangeOfTheClockAreMarked) {
         EXPECT_EQ(counted(texts, behind), 1U) << behind;
     EXPECT_EQ(counted(texts, "*"), 5U);  // and the foot
     EXPECT_GE(counted(texts, "goes back from UT+1 to UT at 02:00"), 1U);
+    // The program's own rule changes the clock at midnight: all times of that day are behind it.
+    const auto midnight = painted(monthpage(pageof("Dover", ""), 2027, 3, systemzones, english), 0, papers[0]);
+    EXPECT_EQ(counted(midnight, "*"), 2U);
 }
 
 TEST(Pages, TrustIsToldByThePortsOwnFigures) {

@@ -164,6 +164,9 @@ TEST(Plan, SpringsFollowTheMoonAlsoWhereWatersDouble) {
         }
         EXPECT_NEAR(springs, 25, 1) << name;
     }
+    HarmonicRecord onetide = m2port(2, 0.3F);
+    onetide.K1Hm = onetide.O1Hm = 0.5F;
+    EXPECT_TRUE(planof(onetide, "", date(2026, 1, 1), 60).springsandneaps().empty());
 }
 
 TEST(Moon, PhasesStandAtTheirMoments) {

@@ -142,8 +142,13 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         const bool weekend = weekday == std::chrono::Saturday || weekday == std::chrono::Sunday;
         const TextLook look = textlook(picture, picture.look.text, Anchor::middle, weekend);
         const double room = head.right - head.left - inset, middle = (head.left + head.right) / 2;
-        const std::string name = formatdate(picture.locale, head.date, form);
-        if (canvas.textwidth(name, look) <= room) canvas.text({middle, top + inset / 2}, name, look);
+        // A day that is seen in part may have room for a shorter name alone.
+        for (const std::string& each : {form, std::string("ddd d"), std::string("d")}) {
+            const std::string name = formatdate(picture.locale, head.date, each);
+            if (canvas.textwidth(name, look) > room) continue;
+            canvas.text({middle, top + inset / 2}, name, look);
+            break;
+        }
         const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
         // Numbers alone need their month somewhere.
         if (form == "d" && (first || dayof(head.date) == 1)) head.tide = formatdate(picture.locale, head.date, "mmm");

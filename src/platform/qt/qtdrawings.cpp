@@ -10,6 +10,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QScreen>
 #include <QSvgGenerator>
 #include <cmath>
 
@@ -22,6 +23,7 @@ constexpr double unitstoinch = 96;
 constexpr int pdfdots = 1200;
 constexpr double margin = 30;  // points; most printers can't reach nearer than half of it
 constexpr double copyscale = 2;
+constexpr double previewshare = 0.85;  // of the screen
 
 QFont paperfont() {
     QFont font = QApplication::font();
@@ -113,6 +115,7 @@ PrintOutcome QtDrawings::preview(const Booklet& booklet, Paper paper) {
     printer.setPageLayout(layoutof(booklet, paper));
     QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
     dialog.setObjectName("preview");
+    dialog.resize(dialog.screen()->availableSize() * previewshare);
     dialog.setWindowTitle(QString::fromStdString(booklet.title));
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&booklet](QPrinter* device) {
         const bool part = device->printRange() == QPrinter::PageRange;

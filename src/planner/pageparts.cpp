@@ -15,12 +15,12 @@ namespace {
 using std::chrono::hours;
 using std::chrono::minutes;
 
-constexpr const char* caution =
+constexpr const char* pagecaution =
     "Predicted from a few constants; wind, air pressure and rivers are not counted. Not for navigation: official "
     "tables "
     "and charts come first.";
 
-std::string fixed(double value, int decimals) {
+std::string decimal(double value, int decimals) {
     return metres(value, decimals).substr(0, metres(value, decimals).size() - 2);
 }
 
@@ -186,7 +186,7 @@ std::string watertime(const PagePlan& pages, const DayFacts& day, Moment moment)
 }
 
 std::string waterheight(const Water& water) {
-    return fixed(water.height, 1);
+    return decimal(water.height, 1);
 }
 
 TextLook waterlook(const Water& water, double size) {
@@ -286,7 +286,7 @@ double pagefoot(Canvas& canvas, const Area& area, const PagePlan& pages, const F
         pages.of.about && !pages.of.about->datum.empty() ? " (" + pages.of.about->datum + ")" : "";
     const std::string words = clockwords(pages, foot) + missingwords(pages, foot) +
                               " Heights in metres above chart datum" + datum + ". " +
-                              (foot.more.empty() ? "" : foot.more + " ") + caution;
+                              (foot.more.empty() ? "" : foot.more + " ") + pagecaution;
     const std::string name = std::string(programname) + (foot.page.empty() ? "" : ", " + foot.page);
     const double room = area.width() - canvas.textwidth(name, maker) - 20;
     const auto lines = wrapped(canvas, words, type, room);

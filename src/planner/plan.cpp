@@ -11,7 +11,6 @@ using std::chrono::days;
 using std::chrono::floor;
 using std::chrono::hours;
 using std::chrono::minutes;
-using std::chrono::seconds;
 
 /// So many days are looked at ahead of a plan and behind it: ranges and springs are told by what lies around.
 constexpr int margin = 9;

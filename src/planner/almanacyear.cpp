@@ -12,7 +12,9 @@ namespace tarvane {
 namespace {
 
 constexpr int phases = 4;
-constexpr auto besidehigh = std::chrono::hours(10);  // a low water that belongs to a high one, at most so far off
+constexpr const char* nosprings =
+    "There are no springs and neaps to be told: they take two tides a day, and predictions for all days about them.";
+constexpr auto besidehigh = std::chrono::hours(15);  // a low water of its tide is at most so far off
 
 /// The high water of springs or neaps and the greater range on its two sides.
 struct RangeOfTide {
@@ -134,9 +136,13 @@ void paintalmanacyear(Canvas& canvas, const Area& area, const PagePlan& pages) {
     const double room = bottom - top - trust - 2 * heads - 2 * gap;
     const double line = std::min(19.0, room / (rows + lunations));
     const double middle = (area.left + area.right) / 2;
-    painttides(canvas, {area.left, top, middle - 16, bottom}, pages, tides, true, line);
-    painttides(canvas, {middle + 16, top, area.right, bottom}, pages, tides, false, line);
-    const double moons = top + heads + rows * line + gap;
+    double moons = top + heads + rows * line + gap;
+    if (tides.empty()) {
+        moons = paragraph(canvas, {area.left, top, area.right, bottom}, nosprings, body) + gap;
+    } else {
+        painttides(canvas, {area.left, top, middle - 16, bottom}, pages, tides, true, line);
+        painttides(canvas, {middle + 16, top, area.right, bottom}, pages, tides, false, line);
+    }
     const double words = paintmoons(canvas, {area.left, moons, area.right, bottom}, pages, line) + gap;
     painttablehead(canvas, {area.left, words, area.right, bottom}, "How good these tides are", "");
     paragraph(canvas, {area.left, words + heads, area.right, bottom}, trustwords(pages.of.about), body);

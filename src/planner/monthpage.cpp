@@ -10,8 +10,8 @@ namespace {
 using std::chrono::minutes;
 
 constexpr int weekdays = 7;
-constexpr double inset = 4;
-constexpr double apart = 12;       // high waters and low waters
+constexpr double cellinset = 4;
+constexpr double kindsapart = 12;  // high waters and low waters
 constexpr double dayhead = 19;     // number, moon and springs of a day
 constexpr double leastcurve = 14;  // less isn't worth its lines
 
@@ -67,7 +67,7 @@ double widestwater(const Canvas& canvas, const PagePlan& pages, double size) {
 /// The waters in the greatest type that leaves the curve its room and both kinds a column.
 MonthLayout layoutof(const Canvas& canvas, const Area& weeks, const PagePlan& pages) {
     MonthLayout layout{weeks, weeks.width() / weekdays, weeks.height() / weeksof(pages)};
-    const double column = (layout.cellwidth - 2 * inset - apart) / 2;
+    const double column = (layout.cellwidth - 2 * cellinset - kindsapart) / 2;
     for (layout.size = pagetype::body; layout.size > pagetype::least; --layout.size) {
         layout.line = canvas.textheight({0, layout.size, true});
         const double waters = static_cast<double>(mostofaday(pages)) * layout.line;
@@ -85,12 +85,12 @@ void paintdayhead(Canvas& canvas, const Area& cell, const DayFacts& day) {
     const PlanLook& look = planlook(PlanLight::day);
     const TextLook number{look.text, pagetype::heading, true};
     const std::string text = std::to_string(dayof(day.date)) + (day.change ? "*" : "");
-    canvas.text({cell.left + inset, cell.top + 1}, text, number);
+    canvas.text({cell.left + cellinset, cell.top + 1}, text, number);
     if (day.moon) paintmoon(canvas, {cell.left + 46, cell.top + dayhead / 2 + 0.5}, 5.5, *day.moon, look);
     if (!day.tide) return;
     const TextLook mark{day.tide->springs ? look.curve : look.faint, pagetype::lesser, day.tide->springs,
                         Anchor::right};
-    canvas.text({cell.right - inset, cell.top + 3}, day.tide->springs ? "springs" : "neaps", mark);
+    canvas.text({cell.right - cellinset, cell.top + 3}, day.tide->springs ? "springs" : "neaps", mark);
 }
 
 /// The curve with its nights, and a bar where she can pass.
@@ -132,10 +132,10 @@ void paintday(Canvas& canvas, const Area& cell, const MonthLayout& layout, const
     if (day.weekend()) canvas.fill(cell, look.twilight);
     paintdayhead(canvas, cell, day);
     const double top = layout.waterstop(cell);
-    const Place lows{(cell.left + cell.right + apart) / 2, top};
-    paintwaters(canvas, {cell.left + inset, top}, layout, pages, day, true);
+    const Place lows{(cell.left + cell.right + kindsapart) / 2, top};
+    paintwaters(canvas, {cell.left + cellinset, top}, layout, pages, day, true);
     paintwaters(canvas, lows, layout, pages, day, false);
-    const Area curve{cell.left + inset, cell.top + dayhead, cell.right - inset, layout.waterstop(cell) - 2};
+    const Area curve{cell.left + cellinset, cell.top + dayhead, cell.right - cellinset, layout.waterstop(cell) - 2};
     const bool words = !day.missing.empty();
     if (curve.height() >= leastcurve && day.missing != "no prediction") paintdaycurve(canvas, curve, pages, day);
     const TextLook missing{look.faint, pagetype::lesser, false, Anchor::middle};

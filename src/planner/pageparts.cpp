@@ -15,12 +15,12 @@ namespace {
 using std::chrono::hours;
 using std::chrono::minutes;
 
-constexpr const char* caution =
+constexpr const char* pagecaution =
     "Predicted from a few constants; wind, air pressure and rivers are not counted. Not for navigation: official "
     "tables "
     "and charts come first.";
 
-std::string fixed(double value, int decimals) {
+std::string decimal(double value, int decimals) {
     return metres(value, decimals).substr(0, metres(value, decimals).size() - 2);
 }
 
@@ -98,6 +98,11 @@ HeightScale heightsof(const Plan& plan) {
     return {scale.least - room, scale.greatest + room};
 }
 
+/// Whether a day has times before a change of the clock and behind it.
+bool inmidday(const DayFacts& day) {
+    return day.change && *day.change > day.begins;
+}
+
 /// "On Sun 25 Oct the clock goes back from UT+2 to UT+1 at 03:00."
 std::string changewords(const PagePlan& pages, const DayFacts& day) {
     const PortClock& clock = pages.plan.clock();
@@ -118,7 +123,9 @@ std::string clockwords(const PagePlan& pages, const FootOf& foot) {
     for (std::size_t i = foot.first; i < foot.last; ++i) {
         if (!pages.days[i].change) continue;
         words += changewords(pages, pages.days[i]);
-        words += foot.marked ? ": that day is marked *, and so are its times after it." : ".";
+        if (foot.marked) words += ": that day is marked *";
+        if (foot.marked && inmidday(pages.days[i])) words += ", and so are its times after it";
+        words += ".";
     }
     return words;
 }
@@ -131,25 +138,26 @@ std::string missingwords(const PagePlan& pages, const FootOf& foot) {
     return "";
 }
 
-/// " on Sat, Sun", from Monday on; empty for every day.
+/// "on Sat, Sun", from Monday on.
 std::string weekdaywords(const Locale& locale, Weekdays wished) {
     constexpr int sunday = 7;
-    if (wished == everyweekday) return "";
     std::string words;
     for (int day = 1; day <= sunday; ++day)
         if (wished >> (day % sunday) & 1U)
-            words += (words.empty() ? " on " : ", ") + locale.dayabbreviation(day % sunday);
+            words += (words.empty() ? "on " : ", ") + locale.dayabbreviation(day % sunday);
     return words;
 }
 
+/// " Windows of 1 h 00 min at least, wholly in daylight, on Sat, Sun."
 std::string wishwords(const PagePlan& pages) {
     const WindowWishes& wishes = pages.of.wishes;
     std::string words;
+    const auto add = [&words](const std::string& more) { words += (words.empty() ? " " : ", ") + more; };
+    if (wishes.leastminutes > 0) add("of " + durationtext(minutes(wishes.leastminutes)) + " at least");
     if (wishes.daylight != Daylight::none)
-        words = std::string(wishes.daylight == Daylight::whole ? " wholly" : " partly") + " in " +
-                (pages.of.twilight ? "daylight or twilight" : "daylight");
-    if (wishes.leastminutes > 0) words += " of " + durationtext(minutes(wishes.leastminutes)) + " at least";
-    words += weekdaywords(pages.locale, wishes.weekdays);
+        add(std::string(wishes.daylight == Daylight::whole ? "wholly" : "partly") + " in " +
+            (pages.of.twilight ? "daylight or twilight" : "daylight"));
+    if (wishes.weekdays != everyweekday) add(weekdaywords(pages.locale, wishes.weekdays));
     return words.empty() ? "" : " Windows" + words + ".";
 }
 
@@ -173,12 +181,12 @@ PagePlan::PagePlan(const PageOf& page, Date first, int count, const Zones& zones
 }
 
 std::string watertime(const PagePlan& pages, const DayFacts& day, Moment moment) {
-    const bool behind = day.change && *day.change > day.begins && moment >= *day.change;
+    const bool behind = inmidday(day) && moment >= *day.change;
     return clocktext(pages.plan.clock().at(moment)) + (behind ? "*" : "");
 }
 
 std::string waterheight(const Water& water) {
-    return fixed(water.height, 1);
+    return decimal(water.height, 1);
 }
 
 TextLook waterlook(const Water& water, double size) {
@@ -278,7 +286,7 @@ double pagefoot(Canvas& canvas, const Area& area, const PagePlan& pages, const F
         pages.of.about && !pages.of.about->datum.empty() ? " (" + pages.of.about->datum + ")" : "";
     const std::string words = clockwords(pages, foot) + missingwords(pages, foot) +
                               " Heights in metres above chart datum" + datum + ". " +
-                              (foot.more.empty() ? "" : foot.more + " ") + caution;
+                              (foot.more.empty() ? "" : foot.more + " ") + pagecaution;
     const std::string name = std::string(programname) + (foot.page.empty() ? "" : ", " + foot.page);
     const double room = area.width() - canvas.textwidth(name, maker) - 20;
     const auto lines = wrapped(canvas, words, type, room);

@@ -11,7 +11,6 @@ using std::chrono::days;
 using std::chrono::floor;
 using std::chrono::hours;
 using std::chrono::minutes;
-using std::chrono::seconds;
 
 /// So many days are looked at ahead of a plan and behind it: ranges and springs are told by what lies around.
 constexpr int margin = 9;
@@ -167,7 +166,10 @@ std::vector<std::pair<Moment, Moment>> Plan::light(bool twilight) const {
 std::vector<SpringTide> Plan::springsandneaps() const {
     constexpr auto aside = days(5);
     const double springrange = meanspringrange(of_.port);
-    if (springrange <= 0) return {};
+    // With mainly one tide a day the greatest ranges come with the moon's declination.
+    const double twotides = double{of_.port.M2Hm} + double{of_.port.S2Hm};
+    const double onetide = double{of_.port.K1Hm} + double{of_.port.O1Hm};
+    if (!(springrange > 0) || onetide > 1.5 * twotides) return {};
     std::vector<double> shares(around_.size(), 0);
     for (std::size_t i = 0; i < around_.size(); ++i)
         if (around_[i].water.high) shares[i] = rangeabout(tides_, spanhours(around_[i].moment)) / springrange;

@@ -94,6 +94,7 @@ class Plan {
     /// Light within the plan, as moments.
     std::vector<std::pair<Moment, Moment>> light(bool twilight) const;
 
+    /// None of a port with mainly one tide a day.
     std::vector<SpringTide> springsandneaps() const;
 
     /// Nothing outside the plan or on a day without a prediction.

@@ -20,7 +20,7 @@ namespace {
 
 using fakes::RecordingCanvas;
 
-const SystemZones systemzones;
+const SystemZones pagezones;
 const ScriptedLocale english;
 
 /// What the printer leaves of A4 and Letter, upright.
@@ -91,10 +91,10 @@ TEST(Pages, NoTextLiesOnAnotherOrLeavesThePaper) {
     const int months[][2] = {{2027, 2}, {2026, 3}, {2026, 8}, {2027, 10}, {1990, 1}};  // of four to six weeks
     for (const PageOf& port : ports) {
         for (const auto& [year, month] : months)
-            expectlegible(monthpage(port, year, month, systemzones, english));
-        expectlegible(almanac(port, 2027, systemzones, english));
+            expectlegible(monthpage(port, year, month, pagezones, english));
+        expectlegible(almanac(port, 2027, pagezones, english));
         for (const int days : {1, 7, 14, 31, 366})
-            expectlegible(spanpage(port, makedate(2027, 10, 20), days, systemzones, english), true);
+            expectlegible(spanpage(port, makedate(2027, 10, 20), days, pagezones, english), true);
     }
 }
 
@@ -151,11 +151,11 @@ TEST(Pages, AMonthHasEachOfItsWatersOnItsDay) {
     for (const auto& row : rows) {
         const PageOf of = pageof(row.port, row.zone);
         const Date first = makedate(row.year, static_cast<int>(row.month), 1);
-        const Plan plan({of.port, of.iana, first, DaysInMonth(row.year, static_cast<int>(row.month))}, systemzones);
+        const Plan plan({of.port, of.iana, first, DaysInMonth(row.year, static_cast<int>(row.month))}, pagezones);
         std::multiset<std::string> expected;
         for (const PlannedWater& each : plan.waters())
             expected.insert(shown(plan, each));
-        const Booklet page = monthpage(of, row.year, static_cast<int>(row.month), systemzones, english);
+        const Booklet page = monthpage(of, row.year, static_cast<int>(row.month), pagezones, english);
         for (const auto& paper : papers)
             EXPECT_EQ(watersoncalendar(painted(page, 0, paper)), expected) << row.port;
         const auto texts = painted(page, 0, papers[0]);
@@ -168,9 +168,9 @@ TEST(Pages, AMonthHasEachOfItsWatersOnItsDay) {
 
 TEST(Pages, AnAlmanacHasAllWatersOfTheYearByTheMonth) {
     const PageOf of = pageof("Southampton", "Europe/London");
-    const Booklet booklet = almanac(of, 2028, systemzones, english);
+    const Booklet booklet = almanac(of, 2028, pagezones, english);
     ASSERT_EQ(booklet.pages, 13);
-    const Plan plan({of.port, of.iana, makedate(2028, 1, 1), 366}, systemzones);
+    const Plan plan({of.port, of.iana, makedate(2028, 1, 1), 366}, pagezones);
     std::map<int, std::multiset<std::string>> expected;
     for (const PlannedWater& each : plan.waters())
         expected[monthof(plan.clock().at(each.moment).date)].insert(shown(plan, each).substr(3));
@@ -193,17 +193,17 @@ std::size_t counted(const std::vector<RecordingCanvas::Text>& texts, const std::
 TEST(Pages, ADayWithoutAPredictionSaysSo) {
     const PageOf port = pageof("Dover", "Europe/London");
     for (const Booklet& page :
-         {monthpage(port, 1990, 1, systemzones, english), almanac(port, 1990, systemzones, english)}) {
+         {monthpage(port, 1990, 1, pagezones, english), almanac(port, 1990, pagezones, english)}) {
         const auto texts = painted(page, 0, papers[0]);
         EXPECT_EQ(counted(texts, "no prediction"), 2U) << page.title;
         EXPECT_EQ(counted(texts, "no high or low water"), 0U);
         EXPECT_EQ(counted(texts, "The method has no constants"), 1U);
     }
-    const auto flat = painted(monthpage(flatport(), 2026, 2, systemzones, english), 0, papers[0]);
+    EXPECT_EQ(counted(painted(almanac(flatport(), 2026, pagezones, english), 12, papers[0]), "no springs"), 1U);
+    const auto flat = painted(monthpage(flatport(), 2026, 2, pagezones, english), 0, papers[0]);
     EXPECT_EQ(counted(flat, "no high or low water"), 28U);
     EXPECT_EQ(counted(flat, "prediction"), 0U);
-    EXPECT_EQ(counted(painted(almanac(flatport(), 2026, systemzones, english), 8, papers[0]), "Marina, Outer Basin"),
-              1U);
+    EXPECT_EQ(counted(painted(almanac(flatport(), 2026, pagezones, english), 8, papers[0]), "Marina, Outer Basin"), 1U);
 }
 
 TEST(Pages, ASpanTellsItsWatersAndTheAnswer) {
@@ -216,10 +216,10 @@ TEST(Pages, ASpanTellsItsWatersAndTheAnswer) {
         int days;
     } rows[] = {{boat, first, 7}, {pageof("Southampton", "Europe/London"), makedate(2027, 10, 3), 6}};
     for (const auto& row : rows) {
-        const Plan plan({row.of.port, row.of.iana, row.first, row.days}, systemzones);
+        const Plan plan({row.of.port, row.of.iana, row.first, row.days}, pagezones);
         std::multiset<std::string> found, expected;
         // Those of the picture are middled.
-        for (const auto& each : painted(spanpage(row.of, row.first, row.days, systemzones, english), 0, papers[0])) {
+        for (const auto& each : painted(spanpage(row.of, row.first, row.days, pagezones, english), 0, papers[0])) {
             std::smatch time;
             if (std::regex_match(each.text, time, timeofday) && each.look.anchor == Anchor::left)
                 found.insert(time[1].str() + (each.look.bold ? " high" : " low"));
@@ -228,21 +228,21 @@ TEST(Pages, ASpanTellsItsWatersAndTheAnswer) {
             expected.insert(shown(plan, each).substr(3));
         EXPECT_EQ(found, expected);
     }
-    const auto texts = painted(spanpage(boat, first, 7, systemzones, english), 0, papers[0]);
+    const auto texts = painted(spanpage(boat, first, 7, pagezones, english), 0, papers[0]);
     EXPECT_EQ(counted(texts, "4.0 m of tide needed"), 1U);
     EXPECT_EQ(counted(texts, "Sun 31 Oct 02:59 UT"), 1U);  // a window that closes behind the change of the clock
 
     boat.passage->bottom = -20;
-    const auto never = painted(spanpage(boat, first, 7, systemzones, english), 0, papers[0]);
+    const auto never = painted(spanpage(boat, first, 7, pagezones, english), 0, papers[0]);
     EXPECT_EQ(counted(never, "Never in these days"), 1U);
     EXPECT_EQ(counted(never, "Opens"), 0U);
-    const auto year = painted(spanpage(boat, first, 366, systemzones, english), 0, papers[0]);
+    const auto year = painted(spanpage(boat, first, 366, pagezones, english), 0, papers[0]);
     EXPECT_EQ(counted(year, "No room here for the waters of the last "), 1U);
 }
 
 /// The stars of a day whose hour from 01:00 to 02:00 comes twice: none before 01:00 UT, then all.
 TEST(Pages, TimesBehindAChangeOfTheClockAreMarked) {
-    const Booklet page = monthpage(pageof("Dover", "Europe/London"), 2027, 10, systemzones, english);
+    const Booklet page = monthpage(pageof("Dover", "Europe/London"), 2027, 10, pagezones, english);
     const auto texts = painted(page, 0, papers[0]);
     EXPECT_EQ(counted(texts, "31*"), 1U);
     EXPECT_EQ(counted(texts, "00:21*"), 0U);
@@ -250,6 +250,9 @@ TEST(Pages, TimesBehindAChangeOfTheClockAreMarked) {
         EXPECT_EQ(counted(texts, behind), 1U) << behind;
     EXPECT_EQ(counted(texts, "*"), 5U);  // and the foot
     EXPECT_GE(counted(texts, "goes back from UT+1 to UT at 02:00"), 1U);
+    // The program's own rule changes the clock at midnight: all times of that day are behind it.
+    const auto midnight = painted(monthpage(pageof("Dover", ""), 2027, 3, pagezones, english), 0, papers[0]);
+    EXPECT_EQ(counted(midnight, "*"), 2U);
 }
 
 TEST(Pages, TrustIsToldByThePortsOwnFigures) {

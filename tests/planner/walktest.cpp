@@ -23,10 +23,10 @@ constexpr std::size_t everyport = 12;
 constexpr int walkeddays = 366;
 constexpr std::size_t everyport = 1;
 #endif
-constexpr long day = 24 * 60;
+constexpr long minutesaday = 24 * 60;
 
 long frommidnight(long minute) {
-    return std::min(minute % day, day - minute % day);
+    return std::min(minute % minutesaday, minutesaday - minute % minutesaday);
 }
 
 /// A halt between two rows of ten minutes, of less than a millimetre.

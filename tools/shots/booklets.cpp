@@ -13,7 +13,7 @@
 namespace tarvane::shots {
 namespace {
 
-struct Press {
+struct BookletPress {
     const std::string folder, area;
     const AboutTable table;
     const SystemZones zones = {};
@@ -58,7 +58,7 @@ PageOf withpassage(PageOf of) {
 bool takebooklets(const std::string& folder, const std::string& area) {
     ProgramFolders beside;
     beside.programfolder = std::filesystem::path(area).parent_path().string();
-    Press press{folder, area, aboutarea(beside, area)};
+    BookletPress press{folder, area, aboutarea(beside, area)};
     const auto month = [&press](const PageOf& of, int year, int number, const char* name) {
         press.print(monthpage(of, year, number, press.zones, press.locale), name);
     };

@@ -224,7 +224,9 @@ TEST(PlanPicture, OddPortsAndDaysArePainted) {
     HarmonicRecord wild = tests::roundport();
     wild.M2Hm = wild.S2Hm = 1e30F;
     wild.MHm2.fill(1e30F);
-    for (const HarmonicRecord& port : {flat, wild, HarmonicRecord{}})
+    HarmonicRecord nowhere = tests::roundport();
+    nowhere.PortLat = nowhere.PortLong = NAN;
+    for (const HarmonicRecord& port : {flat, wild, nowhere, HarmonicRecord{}})
         for (const int year : {1, 1989, 1990, 2026, 9999}) {
             Painted drawn(port, makedate(year, 1, 2), 3, 800, 300);
             EXPECT_LT(drawn.canvas.texts.size(), 300U) << year;

@@ -47,7 +47,8 @@ TEST_F(PlanViewTest, FollowsPortsAndWhatIsStoredOfThem) {
                 {"a port more", [&] { writeport(area(), 5, fixtureport("Elm Reach", 4)); }, "Alder Quay", 5, ""},
                 {"a name", [&] { writeport(area(), 5, fixtureport("Elm Point", 4)); }, "Alder Quay", 5, ""},
                 {"the draught stored", [&] { session.settings.currentdraught = 2; }, "Alder Quay", 5, ""},
-                {"no such port", [&] { session.settings.currentport = 9; }, "", 5, nosuchport},
+                {"a depth of no sense", [&] { session.settings.userdepth = NAN; }, "Alder Quay", 5, ""},
+        {"no such port", [&] { session.settings.currentport = 9; }, "", 5, nosuchport},
                 {"no area", [&] { std::filesystem::rename(area(), area() + "x"); }, "", 0, noareafile},
                 {"the area again", [&] { std::filesystem::rename(area() + "x", area()); }, "", 5, nosuchport},
                 {"its port too", [&] { session.settings.currentport = 4; }, "Alder Quay", 5, ""}};

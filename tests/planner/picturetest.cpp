@@ -30,7 +30,7 @@ HarmonicRecord named(const std::string& name) {
     return tests::roundport();
 }
 
-bool near(const Area& one, const Area& other, double apart) {
+bool overlap(const Area& one, const Area& other, double apart) {
     return one.left < other.right - apart && other.left < one.right - apart && one.top < other.bottom - apart &&
            other.top < one.bottom - apart;
 }
@@ -92,7 +92,7 @@ void expectneat(const Painted& drawn, const std::string& what) {
     for (std::size_t i = 0; i < texts.size(); ++i)
         for (std::size_t j = i + 1; j < texts.size(); ++j)
             // Lines of one label stand a little into each other.
-            EXPECT_FALSE(near(texts[i].area, texts[j].area, 0.1 * drawn.picture.textsize))
+            EXPECT_FALSE(overlap(texts[i].area, texts[j].area, 0.1 * drawn.picture.textsize))
                 << texts[i].text << " on " << texts[j].text << what;
     const Area& all = drawn.picture.area;
     for (const auto& shapes : {drawn.canvas.fills, drawn.canvas.lines})

@@ -102,7 +102,8 @@ void frmplanner::connectcontrols() {
         follow();
     });
     connect(cmbPort->lineEdit(), &QLineEdit::returnPressed, this, [this] { chooseport(cmbPort->currentText()); });
-    connect(cmbPort->lineEdit(), &QLineEdit::editingFinished, this, [this] { fillports(); });
+    connect(cmbPort->lineEdit(), &QLineEdit::editingFinished, this,
+            [this] { cmbPort->setEditText(cmbPort->itemText(cmbPort->currentIndex())); });
     connect(pages, &QTabWidget::currentChanged, this, [this] { showpage(); });
     for (PlanTableBox* table : {tides, windows, sunandmoon})
         table->onmoment = [this](Moment at) { leap(at); };

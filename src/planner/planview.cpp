@@ -23,7 +23,9 @@ std::string filename(const std::string& path) {
 }
 
 std::array<float, 3> storedvalues(const Settings& settings) {
-    return {settings.currentdraught, settings.currentukc, settings.userdepth};
+    // What is no number in a broken file must not differ from itself.
+    const auto number = [](float value) { return std::isfinite(value) ? value : HUGE_VALF; };
+    return {number(settings.currentdraught), number(settings.currentukc), number(settings.userdepth)};
 }
 
 std::string portkey(const PlanView& view) {
@@ -202,8 +204,8 @@ std::string plantitle(const PlanView& view, const Locale& locale) {
 }
 
 std::string answertext(const PlanView& view, const Locale& locale) {
-    if (view.settings.asked && !view.refusal.empty()) return "\u26A0 " + view.refusal;
     if (!view.plan) return view.whynot;
+    if (view.settings.asked && !view.refusal.empty()) return "\u26A0 " + view.refusal;
     return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale) : "";
 }
 

@@ -22,6 +22,7 @@ TEST_F(PlannerSteps, APortIsChosenAsInItsList) {
     chooseport(context, 3);
     EXPECT_EQ(stored().portnumber, 3);
     EXPECT_EQ(stored().draught, 1.8F) << "what others stored survives";
+    EXPECT_EQ(session.settings.currentdraught, 1.8F) << "and comes into force";
     EXPECT_EQ(session.view.portbox, "Port    : Cedar Head");
     EXPECT_EQ(status(), "Tides of Cedar Head (3), Tuesday 9 April 2024, UT, heights above chart datum");
     // Another run of the program has gone to another area: the number is of the one in hand.

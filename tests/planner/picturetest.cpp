@@ -30,7 +30,7 @@ HarmonicRecord named(const std::string& name) {
     return tests::roundport();
 }
 
-bool near(const Area& one, const Area& other, double apart) {
+bool overlap(const Area& one, const Area& other, double apart) {
     return one.left < other.right - apart && other.left < one.right - apart && one.top < other.bottom - apart &&
            other.top < one.bottom - apart;
 }
@@ -87,32 +87,37 @@ struct Painted {
     PlanScale scale;
 };
 
+void expectneat(const Painted& drawn, const std::string& what) {
+    const auto texts = drawn.labels();
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        for (std::size_t j = i + 1; j < texts.size(); ++j)
+            // Lines of one label stand a little into each other.
+            EXPECT_FALSE(overlap(texts[i].area, texts[j].area, 0.1 * drawn.picture.textsize))
+                << texts[i].text << " on " << texts[j].text << what;
+    const Area& all = drawn.picture.area;
+    for (const auto& shapes : {drawn.canvas.fills, drawn.canvas.lines})
+        for (const auto& each : shapes)
+            for (const Place& place : each.places)
+                ASSERT_TRUE(all.holds(place)) << place.x << ", " << place.y << what;
+    for (const auto& each : drawn.canvas.texts)
+        ASSERT_TRUE(all.holds({each.area.left, each.area.top}) && all.holds({each.area.right, each.area.bottom}))
+            << each.text << " at " << each.area.left << ", " << each.area.top << what;
+}
+
 TEST(PlanPicture, NoTextsOverlapAndNothingIsPaintedOutside) {
     for (const char* port : {"Dover", "Southampton", "Lowestoft"})
         for (const int count : {1, 2, 3, 7, 14, 31})
             for (const auto& [width, height] : {std::pair{420.0, 260.0}, {800, 300}, {1366, 400}, {2600, 900}})
                 for (const double size : {12.0, width < 800 ? 12.0 : 20.0}) {
                     const Passage boat{1.9, 0.5, -2, count % 2 ? std::optional(20.0) : std::nullopt, 17, 1.5};
-                    const Painted drawn(named(port), std::chrono::year{2026} / 10 / 20, count, width, height, boat,
-                                        size, "Title");
-                    const std::string what = std::string(port) + " " + std::to_string(count) + " days, " +
+                    Painted drawn(named(port), std::chrono::year{2026} / 10 / 20, count, width, height, boat, size,
+                                  "Title");
+                    const std::string what = std::string(" ") + port + " " + std::to_string(count) + " days, " +
                                              std::to_string(width) + ", " + std::to_string(size);
-                    const auto texts = drawn.labels();
-                    for (std::size_t i = 0; i < texts.size(); ++i)
-                        for (std::size_t j = i + 1; j < texts.size(); ++j)
-                            // Lines of one label stand a little into each other.
-                            EXPECT_FALSE(near(texts[i].area, texts[j].area, 0.1 * size))
-                                << texts[i].text << " on " << texts[j].text << " " << what;
-                    EXPECT_TRUE(count > 3 || width < 800 || texts.size() > 5) << what;
-                    const Area& all = drawn.picture.area;
-                    for (const auto& shapes : {drawn.canvas.fills, drawn.canvas.lines})
-                        for (const auto& each : shapes)
-                            for (const Place& place : each.places)
-                                ASSERT_TRUE(all.holds(place)) << place.x << ", " << place.y << " " << what;
-                    for (const auto& each : drawn.canvas.texts)
-                        ASSERT_TRUE(all.holds({each.area.left, each.area.top}) &&
-                                    all.holds({each.area.right, each.area.bottom}))
-                            << each.text << " at " << each.area.left << ", " << each.area.top << " " << what;
+                    expectneat(drawn, what);
+                    EXPECT_TRUE(count > 3 || width < 800 || drawn.labels().size() > 5) << what;
+                    drawn.show(drawn.plan.begins() + 2h, drawn.plan.begins() + 8h);
+                    expectneat(drawn, what + ", an hour at the edge");
                 }
 }
 
@@ -226,7 +231,9 @@ TEST(PlanPicture, OddPortsAndDaysArePainted) {
     HarmonicRecord wild = tests::roundport();
     wild.M2Hm = wild.S2Hm = 1e30F;
     wild.MHm2.fill(1e30F);
-    for (const HarmonicRecord& port : {flat, wild, HarmonicRecord{}})
+    HarmonicRecord nowhere = tests::roundport();
+    nowhere.PortLat = nowhere.PortLong = NAN;
+    for (const HarmonicRecord& port : {flat, wild, nowhere, HarmonicRecord{}})
         for (const int year : {1, 1989, 1990, 2026, 9999}) {
             Painted drawn(port, makedate(year, 1, 2), 3, 800, 300);
             EXPECT_LT(drawn.canvas.texts.size(), 300U) << year;

@@ -76,9 +76,17 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
     const std::string path = folder / "Planner.json";
     const PlanSettings first = readplansettings(path);
     EXPECT_EQ(first.days, 7);
-    PlanSettings all{
-        true, true, 31, ClockChoice::computer, Paper::letter, false, true, Daylight::whole, 90, 0x41, 1.9, 0.5, 20.0,
-        18.0, 5.0,  {}};
+    PlanSettings all = first;
+    all.openatstart = all.night = all.twilight = true;
+    all.asked = false;
+    all.days = 31;
+    all.clock = ClockChoice::computer;
+    all.paper = Paper::letter;
+    all.daylight = Daylight::whole;
+    all.leastminutes = 90;
+    all.weekdays = 0x41;
+    all.draught = all.clearance = all.bridge = all.airdraught = all.bridgelevel = 1.9;
+    all.draught = 2.1;
     all.bottoms = {{"UK.hc/B\u00F8m\u00E5", -2}, {"UK.hc/\xFF", 3}};
     ASSERT_TRUE(writeplansettings(path, all));
     const PlanSettings read = readplansettings(path);

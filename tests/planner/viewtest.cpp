@@ -47,6 +47,7 @@ TEST_F(PlanViewTest, FollowsPortsAndWhatIsStoredOfThem) {
                 {"a port more", [&] { writeport(area(), 5, fixtureport("Elm Reach", 4)); }, "Alder Quay", 5, ""},
                 {"a name", [&] { writeport(area(), 5, fixtureport("Elm Point", 4)); }, "Alder Quay", 5, ""},
                 {"the draught stored", [&] { session.settings.currentdraught = 2; }, "Alder Quay", 5, ""},
+                {"a depth of no sense", [&] { session.settings.userdepth = NAN; }, "Alder Quay", 5, ""},
                 {"no such port", [&] { session.settings.currentport = 9; }, "", 5, nosuchport},
                 {"no area", [&] { std::filesystem::rename(area(), area() + "x"); }, "", 0, noareafile},
                 {"the area again", [&] { std::filesystem::rename(area() + "x", area()); }, "", 5, nosuchport},
@@ -126,9 +127,10 @@ TEST_F(PlanViewTest, ThePartShownStaysInside) {
                 moveplan(view, by);
                 expectinside();
                 EXPECT_EQ(view.to - view.from, shown) << "only moved";
-                putcursor(view, view.plan->begins() + by);
+                const Moment other = view.plan->ends() - by;
+                putcursor(view, other);
                 expectinside();
-                EXPECT_EQ(view.cursor, std::clamp(view.plan->begins() + by, view.plan->begins(), view.plan->ends()));
+                EXPECT_EQ(view.cursor, std::clamp(other, view.plan->begins(), view.plan->ends()));
                 EXPECT_TRUE(view.cursor >= view.from && view.cursor <= view.to);
             }
         }
@@ -185,6 +187,7 @@ TEST_F(PlanViewTest, ThePresentTideIsOfItsPortClockAndDay) {
     const auto heightat = [&](const HarmonicRecord& port, const char* zone, ClockChoice clock, Moment at) {
         const Plan& plan = present.at(port, zone, clock, scripted.zones, at);
         EXPECT_EQ(plan.clock().at(at).date, plan.planof().first);
+        EXPECT_EQ(plan.planof().clock, clock);
         EXPECT_EQ(&plan, &present.at(port, zone, clock, scripted.zones, at + 1s)) << "made once";
         return plan.now(at).value().height;
     };
@@ -192,6 +195,7 @@ TEST_F(PlanViewTest, ThePresentTideIsOfItsPortClockAndDay) {
     const double height = heightat(alder, "Europe/London", ClockChoice::port, night);
     EXPECT_NEAR(heightat(cedar, "Europe/London", ClockChoice::port, night), height + 2, 1e-5);
     EXPECT_EQ(heightat(alder, "Europe/London", ClockChoice::ut, night), height);
+    EXPECT_EQ(heightat(alder, "", ClockChoice::zone, night), height);
     EXPECT_EQ(heightat(alder, "", ClockChoice::ut, night), height);
     EXPECT_NE(heightat(alder, "", ClockChoice::ut, night + 24h), height);
 }

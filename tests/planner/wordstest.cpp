@@ -23,9 +23,9 @@ HarmonicRecord simpleport() {
     return port;
 }
 
-Plan simpleplan(Date first, int days) {
+Plan simpleplan(Date first, int count) {
     static const SystemZones zones;
-    return Plan({simpleport(), "Europe/London", first, days}, zones);
+    return Plan({simpleport(), "Europe/London", first, count}, zones);
 }
 
 Passage passage(double needed, std::optional<double> ceiling = {}) {
@@ -115,8 +115,8 @@ TEST(PlanWords, AWindowIsKeptForAnyOfItsDaysOfTheWeek) {
 
 TEST(PlanWords, OffsetsStandWhereTheClockIsChangedInBetween) {
     const ScriptedLocale locale;
-    const auto time = [&](Date first, int days) {
-        return tidestable(simpleplan(first, days), locale).rows[0].cells[1];
+    const auto time = [&](Date first, int count) {
+        return tidestable(simpleplan(first, count), locale).rows[0].cells[1];
     };
     EXPECT_EQ(time(makedate(2026, 1, 1), 30).find("UT"), std::string::npos);
     EXPECT_NE(time(makedate(2026, 1, 1), 365).find("UT"), std::string::npos) << "changed there and back";

@@ -224,6 +224,10 @@ TEST_F(FrmPlanner, TheMouseZoomsDragsAndChoosesDays) {
     turnwheel(-120, Qt::ShiftModifier);
     turnwheel(-12000);
     EXPECT_EQ(view().to - view().from, 7 * 24h);
+    const QPoint fourth = placeof(view().from + 84h);
+    QTest::mouseClick(planner->cmdNextWeek, Qt::LeftButton);
+    mouse(QEvent::MouseButtonDblClick, fourth);
+    EXPECT_EQ(session.onshow.tidedate, makedate(2024, 4, 19)) << "ahead of the next painting";
     emit planner->cmbSpan->activated(0);
     EXPECT_EQ(view().to - view().from, 24h);
     planner->DTPicker->setFocus();

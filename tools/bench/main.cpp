@@ -14,8 +14,10 @@
 #include "mainview/readouts.h"
 #include "mainview/stepping.h"
 #include "output/yeartides.h"
+#include "planner/frmplanpicture.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/imagesurface.h"
+#include "platform/qt/paintercanvas.h"
 #include "platform/qt/qtservices.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
@@ -122,6 +124,47 @@ void updatecalc(benchmark::State& state) {
     }
 }
 BENCHMARK(updatecalc)->Unit(benchmark::kMillisecond);
+
+/// The planner's picture of 31 days, its plan and its answer made anew: wanted under 16 ms.
+void plannerredraw(benchmark::State& state) {
+    Bench bench;
+    PlanView view = openplanview(bench.context);
+    askquestion(bench.context, view, {"1.9", "0.5", "-2", "", "", "", ""});
+    QImage image(1366, 400, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        showdays(bench.context, view, view.first + std::chrono::days(1), 31);
+        QPainter painter(&image);
+        PainterCanvas canvas(painter, QApplication::font());
+        const PlanPicture picture{.plan = *view.plan,
+                                  .locale = bench.context.services.locale,
+                                  .look = planlook(PlanLight::day),
+                                  .area = {0, 0, 1366, 400},
+                                  .from = view.from,
+                                  .to = view.to,
+                                  .passage = passageof(view),
+                                  .access = &view.access};
+        paintplan(canvas, picture, scaleof(picture, canvas));
+        painter.end();
+        benchmark::DoNotOptimize(image);
+    }
+}
+BENCHMARK(plannerredraw)->Unit(benchmark::kMillisecond);
+
+/// The same picture on the window, from a turn of the wheel to what is seen.
+void plannerzoom(benchmark::State& state) {
+    Bench bench;
+    PlanView view = openplanview(bench.context);
+    showdays(bench.context, view, view.first, 31);
+    PlanPictureBox box(view, bench.context.services);
+    box.resize(1366, 400);
+    box.grab();
+    for (auto _ : state) {
+        zoomplan(view, view.to - view.from < std::chrono::days(3) ? 1e9 : 0.8, view.from);
+        box.redraw();
+        benchmark::DoNotOptimize(box.grab());
+    }
+}
+BENCHMARK(plannerzoom)->Unit(benchmark::kMillisecond);
 
 void daystep(benchmark::State& state) {
     Bench bench;

@@ -71,7 +71,10 @@ frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(op
     connect(keeplater, &QTimer::timeout, this, [this] { keep(); });
     minute = new QTimer(this);
     minute->setInterval(ticks);
-    connect(minute, &QTimer::timeout, this, [this] { shownow(); });
+    connect(minute, &QTimer::timeout, this, [this] {
+        if (followmidnight(context, view)) return showplan();
+        shownow();
+    });
     minute->start();
 }
 

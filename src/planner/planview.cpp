@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "dates/dateformats.h"
 #include "planner/plantexts.h"
@@ -95,6 +96,7 @@ PlanView openplanview(const MainContext& context) {
     takeport(context, view);
     replan(context, view);
     showwhole(view);
+    view.today = todayof(context, view);
     return view;
 }
 
@@ -117,11 +119,19 @@ void showclock(const MainContext& context, PlanView& view, ClockChoice clock) {
     view.settings.clock = clock;
     replan(context, view);
     showwhole(view);
+    view.today = todayof(context, view);
 }
 
 Date todayof(const MainContext& context, const PlanView& view) {
     if (!view.plan) return context.services.clock.now().today;
     return view.plan->clock().at(context.services.clock.moment()).date;
+}
+
+bool followmidnight(const MainContext& context, PlanView& view) {
+    const Date before = std::exchange(view.today, todayof(context, view));
+    if (view.first != before || view.today != before + days(1)) return false;
+    showdays(context, view, view.today, view.settings.days);
+    return true;
 }
 
 void askquestion(const MainContext& context, PlanView& view, const PlanQuestion& question) {

@@ -26,6 +26,7 @@ struct PlanView {
     std::vector<std::string> ports;  ///< names of the area's ports, in file order
     std::optional<PortAbout> about;
     Date first{};
+    Date today{};  ///< as it was when the clock was last looked at
     std::array<float, 3> stored{};  ///< draught, clearance and depth of the classic window
     PlanQuestion question;
     QuestionRead read;           ///< of the last question that could be meant; refused where there was none yet
@@ -50,6 +51,10 @@ void showclock(const MainContext& context, PlanView& view, ClockChoice clock);
 
 /// The day of the clock in force on which it is now.
 Date todayof(const MainContext& context, const PlanView& view);
+
+/// To be asked from time to time: days that began today begin today again once midnight has passed on the clock in
+/// force. True when they were changed.
+bool followmidnight(const MainContext& context, PlanView& view);
 
 /// The question as it stands in the fields; one that can't be meant changes nothing but the refusal.
 void askquestion(const MainContext& context, PlanView& view, const PlanQuestion& question);

@@ -155,6 +155,21 @@ TEST_F(PlanViewTest, TheEndsOfTheCalendarHold) {
             }
 }
 
+TEST_F(PlanViewTest, DaysThatBeginTodayFollowOverMidnight) {
+    scripted.clock.set(2024, 4, 9, 22, 59);
+    PlanView view = opened();
+    EXPECT_FALSE(followmidnight(context, view));
+    scripted.clock.set(2024, 4, 9, 23, 0);
+    EXPECT_TRUE(followmidnight(context, view)) << "summer time";
+    EXPECT_EQ(view.first, makedate(2024, 4, 10));
+    EXPECT_FALSE(followmidnight(context, view));
+    showclock(context, view, ClockChoice::ut);
+    EXPECT_FALSE(followmidnight(context, view));
+    scripted.clock.set(2024, 4, 10, 0, 0);
+    EXPECT_FALSE(followmidnight(context, view)) << "its days begin tomorrow";
+    EXPECT_EQ(view.first, makedate(2024, 4, 10));
+}
+
 TEST_F(PlanViewTest, ARefusalChangesNothing) {
     PlanView view = opened();
     askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});

@@ -1,5 +1,8 @@
 #include "planner/plancommands.h"
 
+#include <algorithm>
+#include <cctype>
+
 #include "dates/isomoments.h"
 #include "files/filenames.h"
 #include "planner/plancalendar.h"
@@ -66,8 +69,11 @@ Drawing drawingof(const MainContext& context, const PlanView& view, double width
             }};
 }
 
+/// Whatever the case of its letters.
 bool endswith(const std::string& path, const std::string& ending) {
-    return path.size() >= ending.size() && path.compare(path.size() - ending.size(), ending.size(), ending) == 0;
+    const auto equal = [](char one, char other) { return std::tolower(static_cast<unsigned char>(one)) == other; };
+    return path.size() >= ending.size() && std::equal(ending.rbegin(), ending.rend(), path.rbegin(),
+                                                      [&](char wanted, char has) { return equal(has, wanted); });
 }
 
 PageOf pageof(const PlanView& view) {

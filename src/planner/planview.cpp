@@ -201,10 +201,10 @@ std::string plantitle(const PlanView& view, const Locale& locale) {
     return view.portname + ", " + dates + ", " + view.plan->clock().description();
 }
 
-std::string answertext(const PlanView& view, const Locale& locale) {
+std::string answertext(const PlanView& view, const Locale& locale, std::optional<Moment> now) {
     if (view.settings.asked && !view.refusal.empty()) return "\u26A0 " + view.refusal;
     if (!view.plan) return view.whynot;
-    return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale) : "";
+    return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale, now) : "";
 }
 
 std::string planfoot(const PlanView& view) {

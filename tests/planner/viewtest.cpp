@@ -160,7 +160,7 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     const std::size_t windows = view.access.windows.size();
     EXPECT_GT(windows, 5U);
     askquestion(context, view, {"deep", "9", "9", "", "", "", ""});
-    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write m from 0 to 40, not \u201Cdeep\u201D");
+    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write metres from 0 to 40, not \u201Cdeep\u201D");
     EXPECT_EQ(view.access.windows.size(), windows);
     EXPECT_EQ(passageof(view)->clearance, 0.5);
     EXPECT_EQ(view.settings.bottoms.at("UK.hc/Alder Quay"), -1);
@@ -170,7 +170,7 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     session.settings.userdepth = 600;
     view.settings.bottoms.clear();
     EXPECT_TRUE(followport(context, view));
-    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Bottom: write m from -40 to 500, not \u201C600\u201D");
+    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Bottom: write metres from -40 to 500, not \u201C600\u201D");
     EXPECT_FALSE(passageof(view)) << "no boat of nothing is answered for";
     showdays(context, view, view.first, 3);
     EXPECT_FALSE(view.access.always || view.access.never || !view.access.windows.empty());

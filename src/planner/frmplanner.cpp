@@ -245,8 +245,11 @@ void frmplanner::showanswer() {
 }
 
 void frmplanner::tellanswer() {
-    const std::string answer = answertext(view, context.services.locale, context.services.clock.moment());
-    lblAnswer->setText(screentext(answer).replace("; ", "\n"));
+    QString answer = screentext(answertext(view, context.services.locale, context.services.clock.moment()));
+    // Windows a line each; a sentence stays whole.
+    if (view.plan && view.refusal.empty() && accessverdict(view.access, view.read.passage, "").empty())
+        answer.replace("; ", "\n");
+    lblAnswer->setText(answer);
 }
 
 void frmplanner::showpage() {

@@ -179,6 +179,20 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     EXPECT_EQ(answertext(view, scripted.locale), "");
 }
 
+TEST_F(PlanViewTest, DaysChosenThatLieOutsideAreTold) {
+    PlanView view = opened();
+    askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});
+    view.settings.weekdays = 1U << 6;
+    const char* none = "None of these days is one of those chosen.";
+    showdays(context, view, makedate(2024, 4, 9), 1);
+    EXPECT_EQ(answertext(view, scripted.locale), none) << "a Tuesday alone";
+    showdays(context, view, makedate(2024, 4, 9), 5);
+    EXPECT_NE(answertext(view, scripted.locale).find("Sat 13 Apr"), std::string::npos);
+    view.settings.leastminutes = 1440;
+    answeranew(view);
+    EXPECT_NE(answertext(view, scripted.locale), none) << "a Saturday is among them";
+}
+
 TEST_F(PlanViewTest, ThePresentTideIsOfItsPortClockAndDay) {
     PresentTide present;
     const HarmonicRecord alder = readport(area(), 1), cedar = readport(area(), 3);

@@ -1,8 +1,11 @@
 #include "planner/frmplanner.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QCompleter>
+#include <QMenu>
 #include <QSignalBlocker>
+#include <QToolTip>
 #include <algorithm>
 
 #include "dates/dateformats.h"
@@ -31,9 +34,14 @@ QPalette paletteof(const PlanLook& look) {
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
         palette.setColor(role, colour(look.text));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, colour(look.grid));
     palette.setColor(QPalette::PlaceholderText, colour(look.faint));
+    // Halfway to what they stand on: to be seen as idle, and still to be read.
+    const auto half = [](int one, int other) { return (one + other) / 2; };
+    const QColor idle(half(palette.text().color().red(), palette.window().color().red()),
+                      half(palette.text().color().green(), palette.window().color().green()),
+                      half(palette.text().color().blue(), palette.window().color().blue()));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+        palette.setColor(QPalette::Disabled, role, idle);
     palette.setColor(QPalette::Highlight, colour(look.curve));
     palette.setColor(QPalette::HighlightedText, colour(look.paper));
     palette.setColor(QPalette::Link, colour(look.curve));
@@ -108,8 +116,10 @@ void frmplanner::connectcontrols() {
     connect(cmbPort->lineEdit(), &QLineEdit::editingFinished, this,
             [this] { cmbPort->setEditText(cmbPort->itemText(cmbPort->currentIndex())); });
     connect(pages, &QTabWidget::currentChanged, this, [this] { showpage(); });
-    for (PlanTableBox* table : {tides, windows, sunandmoon})
+    for (PlanTableBox* table : {tides, windows, sunandmoon}) {
         table->onmoment = [this](Moment at) { leap(at); };
+        table->oncopy = [this] { entry("mnuCopyTable")->trigger(); };
+    }
     picture->oncursor = [this] { showcursor(); };
     picture->onnow = [this] { gotodate(todayof(context, view)); };
     picture->onday = [this](Date date) {
@@ -145,8 +155,10 @@ void frmplanner::connectquestion() {
     connect(fraQuestion, &QGroupBox::toggled, this, wished);
     connect(cmbDaylight, &QComboBox::activated, this, wished);
     connect(chkTwilight, &QCheckBox::toggled, this, wished);
-    for (QToolButton* day : weekdays)
+    for (QToolButton* day : weekdays) {
         connect(day, &QToolButton::toggled, this, wished);
+        connect(day, &QToolButton::toggled, this, [this] { lightdays(); });
+    }
 }
 
 void frmplanner::ask() {
@@ -223,7 +235,8 @@ void frmplanner::showplan() {
 
 void frmplanner::showanswer() {
     picture->redraw();
-    lblAnswer->setText(screentext(answertext(view, context.services.locale)).replace("; ", "\n"));
+    lblNeeded->setText(view.read.refusal.empty() ? screentext(neededtext(view.read.passage)) : QString());
+    tellanswer();
     for (std::size_t i = 0; i < planfields; ++i) {
         const bool refused = !view.refusal.empty() && readquestion(view.question).refused == static_cast<PlanField>(i);
         QFont font = fields[i]->font();
@@ -233,6 +246,14 @@ void frmplanner::showanswer() {
     }
     showpage();
     showcursor();
+}
+
+void frmplanner::tellanswer() {
+    QString answer = screentext(answertext(view, context.services.locale, context.services.clock.moment()));
+    // Windows a line each; a sentence stays whole.
+    if (view.plan && view.refusal.empty() && accessverdict(view.access, view.read.passage, "").empty())
+        answer.replace("; ", "\n");
+    lblAnswer->setText(answer);
 }
 
 void frmplanner::showpage() {
@@ -263,6 +284,8 @@ void frmplanner::shownow() {
         screentext(view.whynot.empty()
                        ? nowtext(present.at(view.port, iana, view.settings.clock, context.services.zones, now), now)
                        : view.whynot));
+    // By now a window may have closed.
+    tellanswer();
     picture->shownow();
 }
 
@@ -280,9 +303,44 @@ void frmplanner::shownight(bool night) {
     const PlanLook& look = planlook(shownlight);
     setPalette(paletteof(look));
     // Its own style keeps it from the window's palette.
+    DTPicker->arrow->ensurePolished();
     DTPicker->arrow->setPalette(paletteof(look));
+    lightpopups(paletteof(look));
+    lightdays();
     picture->setlook(look);
     if (onnight) onnight(night);
+}
+
+/// Menus and lists are windows of their own, which don't take their owner's colours.
+void frmplanner::lightpopups(const QPalette& palette) {
+    static const QPalette ordinarytips = QToolTip::palette();
+    for (QMenu* menu : findChildren<QMenu*>())
+        menu->setPalette(palette);
+    DTPicker->setcalendarlight(palette);
+    for (QComboBox* box : findChildren<QComboBox*>()) {
+        // Its style gives the list a menu's colours when it comes up first.
+        box->ensurePolished();
+        box->view()->window()->setPalette(palette);
+        box->view()->setPalette(palette);
+    }
+    if (QAbstractItemView* names = cmbPort->completer()->popup()) names->setPalette(palette);
+    QToolTip::setPalette(view.settings.night ? palette : ordinarytips);
+}
+
+/// A day that is asked for stands out in every light.
+void frmplanner::lightdays() {
+    const PlanLook& look = planlook(shownlight);
+    QPalette chosen = paletteof(look);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        chosen.setColor(group, QPalette::Button, QColor::fromRgb(look.curve));
+        chosen.setColor(group, QPalette::ButtonText, QColor::fromRgb(look.paper));
+    }
+    for (QToolButton* day : weekdays) {
+        QFont face = font();
+        face.setBold(day->isChecked());
+        day->setFont(face);
+        day->setPalette(day->isChecked() ? chosen : paletteof(look));
+    }
 }
 
 void frmplanner::gotodate(Date date) {

@@ -41,8 +41,8 @@ class frmplanner : public QMainWindow {
     QToolButton *cmdPreviousWeek = nullptr, *cmdPreviousDay = nullptr, *cmdNextDay = nullptr, *cmdNextWeek = nullptr,
                 *cmdToday = nullptr;
     DateBox* DTPicker = nullptr;
-    QLabel *lblDayName = nullptr, *lblNow = nullptr, *lblAnswer = nullptr, *lblCursor = nullptr, *lblFoot = nullptr,
-           *lblSaid = nullptr;
+    QLabel *lblDayName = nullptr, *lblNow = nullptr, *lblNeeded = nullptr, *lblAnswer = nullptr, *lblCursor = nullptr,
+           *lblFoot = nullptr, *lblSaid = nullptr;
     QGroupBox* fraQuestion = nullptr;
     std::array<QLineEdit*, planfields> fields{};
     QCheckBox* chkTwilight = nullptr;
@@ -78,9 +78,12 @@ class frmplanner : public QMainWindow {
     void showpage();
     void showdate();
     void showanswer();
+    void tellanswer();
     void shownow();
     void showcursor();
     void shownight(bool night);
+    void lightpopups(const QPalette& palette);
+    void lightdays();
     void stepdays(int days);
     void gotodate(Date date);
     void typedate();

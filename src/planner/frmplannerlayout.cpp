@@ -6,6 +6,7 @@
 
 #include "dates/typeddate.h"
 #include "planner/frmplanner.h"
+#include "platform/qt/clickselect.h"
 #include "platform/qt/named.h"
 
 namespace tarvane {
@@ -50,13 +51,13 @@ constexpr std::array<FieldPlace, planfields> fieldplaces{
      {"txtBottom", "&Bottom, m",
       "Charted depth in metres below chart datum; negative if it dries: -2 for a sill that dries 2 m",
       "negative if it dries"},
-     {"txtBridge", "Brid&ge, m", "Height of a bridge above its level, metres; empty for none", "none"},
+     {"txtBridge", "Bri&dge, m", "Height of a bridge above its level, metres; empty for none", "none"},
      {"txtMast", "&Mast, m", "How high the mast stands above the water, metres", ""},
-     {"txtBridgeLevel", "Bridge le&vel, m",
+     {"txtBridgeLevel", "Br&idge level, m",
       "How many metres above chart datum the level lies that the bridge's height is given for, such as mean high water "
       "springs",
       "above chart datum"},
-     {"txtLeast", "At l&east, minutes", "Shorter windows are left out", "any"}}};
+     {"txtLeast", "&At least, minutes", "Shorter windows are left out", "any"}}};
 
 }  // namespace
 
@@ -64,6 +65,7 @@ void frmplanner::buildlayout() {
     picture = new PlanPictureBox(view, context.services);
     picture->setMinimumHeight(fontMetrics().height() * 11);
     lblNow = textlabel("lblNow", false);
+    lblNeeded = textlabel("lblNeeded", true);
     lblAnswer = textlabel("lblAnswer", true);
     lblCursor = textlabel("lblCursor", false);
     lblFoot = textlabel("lblFoot", false);
@@ -104,6 +106,7 @@ QLayout* frmplanner::buildchoices() {
     cmbPort->setEditable(true);
     cmbPort->setInsertPolicy(QComboBox::NoInsert);
     cmbPort->setMinimumContentsLength(18);
+    selectonclick(cmbPort->lineEdit());
     cmdPreviousWeek = stepbutton("cmdPreviousWeek", "\u00AB", "Previous week");
     cmdPreviousDay = stepbutton("cmdPreviousDay", "\u2039", "Previous day");
     cmdNextDay = stepbutton("cmdNextDay", "\u203A", "Next day");
@@ -112,6 +115,7 @@ QLayout* frmplanner::buildchoices() {
     cmdToday->setAutoRaise(false);
     DTPicker = named<DateBox>("DTPicker", makedate(firsttypedyear, 1, 1), makedate(lasttypedyear, 12, 31));
     DTPicker->setMaxLength(30);
+    selectonclick(DTPicker);
     DTPicker->setAccessibleName("First day");
     DTPicker->setFixedWidth(fontMetrics().averageCharWidth() * 16);
     lblDayName = textlabel("lblDayName", false);
@@ -149,7 +153,10 @@ QWidget* frmplanner::buildquestion() {
         fields[i]->setAccessibleDescription(place.hint);
         fields[i]->setPlaceholderText(place.example);
         fields[i]->setMaxLength(20);
+        selectonclick(fields[i]);
         fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 8);
+        // The room is for the tables, where no hint needs it.
+        if (i % 3 < 2) fields[i]->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
         const int row = static_cast<int>(i / 3), column = static_cast<int>(i % 3) * 2;
         grid->addWidget(captionof(place.caption, fields[i]), row, column, Qt::AlignRight | Qt::AlignVCenter);
         grid->addWidget(fields[i], row, column + 1);
@@ -175,6 +182,7 @@ QWidget* frmplanner::buildquestion() {
         days->addWidget(weekdays[i]);
     }
     rows->addLayout(days);
+    rows->addWidget(lblNeeded);
     rows->addWidget(lblAnswer, 1);
     lblAnswer->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     lblAnswer->setMinimumHeight(fontMetrics().height() * 4);

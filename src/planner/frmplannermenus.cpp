@@ -32,7 +32,7 @@ void frmplanner::buildfilemenu() {
     add(file, "mnuSavePicture", "Save &Picture", QKeySequence::Save,
         [this] { saveplanpicture(context, view, picture->width(), picture->height()); });
     file->addSeparator();
-    QMenu* pdf = new QMenu("Save as P&DF", file);
+    QMenu* pdf = new QMenu("Save as PD&F", file);
     const struct {
         const char *name, *pdfname, *caption, *pdfcaption;
         Sheet sheet;
@@ -48,7 +48,7 @@ void frmplanner::buildfilemenu() {
     file->addMenu(pdf);
     buildpapermenu(file);
     file->addSeparator();
-    add(file, "mnuClose", "&Close", QKeySequence("Ctrl+W"), [this] { close(); });
+    add(file, "mnuClose", "Cl&ose", QKeySequence("Ctrl+W"), [this] { close(); });
 }
 
 void frmplanner::buildpapermenu(QMenu* file) {

@@ -51,6 +51,7 @@ bool PlanTableBox::event(QEvent* event) {
 
 void PlanTableBox::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return choose(currentIndex().row());
+    if (event->matches(QKeySequence::Copy) && oncopy) return oncopy();
     QTableView::keyPressEvent(event);
 }
 

@@ -14,6 +14,7 @@ class PlanTableBox : public QTableView {
     PlanTableBox(const char* name, const char* accessiblename);
 
     std::function<void(Moment at)> onmoment;  ///< a row was clicked, or Enter pressed on it
+    std::function<void()> oncopy;             ///< the keys for copying were pressed
 
     /// Shows another table; the column that it was sorted by stays.
     void showtable(PlanTable table);

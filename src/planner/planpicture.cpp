@@ -260,6 +260,17 @@ void paintlevels(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
         paintlevel(canvas, picture, scale, *ceiling, "at most " + levelmetres(*ceiling), places);
 }
 
+/// Whether a level's line would strike a text out.
+bool onlevel(const PlanPicture& picture, const PlanScale& scale, const Area& text) {
+    if (!picture.passage) return false;
+    const auto strikes = [&](double height) {
+        const double y = scale.y(height);
+        return text.top < y && y < text.bottom;
+    };
+    const auto ceiling = picture.passage->ceiling();
+    return strikes(picture.passage->needed()) || (ceiling && strikes(*ceiling));
+}
+
 std::vector<PlanLabel> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const double tall = canvas.textheight(textlook(picture, 0));
     std::vector<PlanLabel> labels;
@@ -270,6 +281,7 @@ std::vector<PlanLabel> waterlabels(const Canvas& canvas, const PlanPicture& pict
                         textlook(picture, picture.look.text, Anchor::middle, each.water.high),
                         {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
                         each.water.springshare + (each.water.high ? 10 : 0) - (each.water.stand ? 5 : 0)};
+        if (onlevel(picture, scale, areaof(canvas, label))) label.behind = picture.look.paper;
         labels.push_back(label);
     }
     return labels;

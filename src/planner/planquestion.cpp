@@ -17,12 +17,12 @@ struct FieldRule {
     bool optional = false;
 };
 
-constexpr std::array<FieldRule, planfields> rules{{{"Draught", 0, 40, "m"},
-                                                   {"Clearance", 0, 40, "m"},
-                                                   {"Bottom", -40, 500, "m"},
-                                                   {"Bridge", 0, 200, "m", true},
-                                                   {"Mast", 0, 200, "m", true},
-                                                   {"Bridge's level", -40, 40, "m", true},
+constexpr std::array<FieldRule, planfields> rules{{{"Draught", 0, 40, "metres"},
+                                                   {"Clearance", 0, 40, "metres"},
+                                                   {"Bottom", -40, 500, "metres"},
+                                                   {"Bridge", 0, 200, "metres", true},
+                                                   {"Mast", 0, 200, "metres", true},
+                                                   {"Bridge's level", -40, 40, "metres", true},
                                                    {"Least time", 0, 1440, "minutes", true}}};
 
 std::string fieldtext(double value) {

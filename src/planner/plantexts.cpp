@@ -229,6 +229,18 @@ std::string momenttext(const Plan& plan, Moment moment, const std::optional<Pass
     return text + (depth > 0 ? ", " + metres(depth) + " over the bottom" : ", the bottom is dry");
 }
 
+std::string neededtext(const Passage& passage) {
+    const double bottom = passage.bottom;
+    std::string words = "Bottom at chart datum (write -2 for a sill that dries 2 m).";
+    if (bottom < 0) words = "Bottom dries " + levelmetres(-bottom) + ".";
+    if (bottom > 0) {
+        const std::string depth = levelmetres(bottom);
+        words = "Bottom " + depth + " below chart datum (if it dries " + depth + ", write -" +
+                depth.substr(0, depth.size() - 2) + ").";
+    }
+    return words + " Height of tide needed: " + levelmetres(passage.needed()) + ".";
+}
+
 std::string accessverdict(const PlannedAccess& access, const Passage& passage, const std::string& whynot) {
     const std::string needed = "the level needed is " + metres(passage.needed(), 2);
     if (!access.greatestheight) return "No prediction for these days: " + whynot + "; " + needed + ".";
@@ -239,14 +251,20 @@ std::string accessverdict(const PlannedAccess& access, const Passage& passage, c
     return {};
 }
 
-std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale) {
+std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale,
+                       std::optional<Moment> now) {
     constexpr std::size_t told = 3;
     const std::string verdict = accessverdict(access, passage, plan.whynot());
     if (!verdict.empty()) return verdict;
+    std::vector<PlannedWindow> windows = access.windows;
+    const auto past = now ? std::erase_if(windows, [&](const PlannedWindow& each) { return each.closes < *now; }) : 0;
+    if (windows.empty()) windows = access.windows;
     std::string text;
-    for (std::size_t i = 0; i < std::min(told, access.windows.size()); ++i)
-        text += (i > 0 ? "; " : "") + windowwords(plan, access.windows[i], locale);
-    if (access.windows.size() > told) text += "; and " + std::to_string(access.windows.size() - told) + " more";
+    for (std::size_t i = 0; i < std::min(told, windows.size()); ++i)
+        text += (i > 0 ? "; " : "") + windowwords(plan, windows[i], locale);
+    if (windows.size() > told) text += "; and " + std::to_string(windows.size() - told) + " more";
+    if (past > 0 && windows.size() < access.windows.size())
+        text += (windows.size() > told ? ", " : "; ") + std::to_string(past) + " past already";
     return text + "." + lackingwords(plan.whynot());
 }
 

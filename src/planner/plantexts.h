@@ -50,9 +50,15 @@ std::string tabbedtext(const PlanTable& table);
 /// "Sat 18 Jul 05:40: 4.42 m, rising 0.8 m/h, 6.4 m over the bottom"
 std::string momenttext(const Plan& plan, Moment moment, const std::optional<Passage>& passage, const Locale& locale);
 
+/// How the bottom's one signed number is read, and the height of tide that follows from it: "Bottom dries 2.0 m. Height
+/// of tide needed: 4.4 m."
+std::string neededtext(const Passage& passage);
+
 /// The answer: its first windows, or that there are none and whether the water or the bridge is in the way, or that she
 /// always passes, or why nothing is known. All but windows name the levels that they come from.
-std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale);
+/// Those that have closed before `now` are only counted, unless all have.
+std::string accesstext(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale,
+                       std::optional<Moment> now = {});
 
 /// The answer where there are no windows to tell: never, always, or none of them as wished; empty otherwise. `whynot`
 /// is why some days have no prediction.

@@ -81,6 +81,15 @@ void takeport(const MainContext& context, PlanView& view) {
     view.refusal = view.read.refusal;
 }
 
+/// She passes at times, and it is the days chosen that all lie outside the plan.
+bool nochosenday(const PlanView& view) {
+    const PlannedAccess& access = view.access;
+    if (!access.greatestheight || access.never || access.always || !access.windows.empty()) return false;
+    for (Date date = view.first; date < view.first + days(view.settings.days); date += days(1))
+        if (view.settings.weekdays >> std::chrono::weekday(date).c_encoding() & 1U) return false;
+    return true;
+}
+
 void keepinside(PlanView& view) {
     const auto shown = std::min(view.to - view.from, view.plan->ends() - view.plan->begins());
     view.from = std::clamp(view.from, view.plan->begins(), view.plan->ends() - shown);
@@ -213,15 +222,18 @@ std::string plantitle(const PlanView& view, const Locale& locale) {
     return view.portname + ", " + dates + ", " + view.plan->clock().description();
 }
 
-std::string answertext(const PlanView& view, const Locale& locale) {
+std::string answertext(const PlanView& view, const Locale& locale, std::optional<Moment> now) {
     if (!view.plan) return view.whynot;
     if (view.settings.asked && !view.refusal.empty()) return "\u26A0 " + view.refusal;
-    return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale) : "";
+    if (view.settings.asked && nochosenday(view)) return "None of these days is one of those chosen.";
+    return view.settings.asked ? accesstext(*view.plan, view.access, view.read.passage, locale, now) : "";
 }
 
 std::string planfoot(const PlanView& view) {
     if (!view.plan) return view.whynot;
-    return "Times by the " + view.plan->clock().description() + "; heights in metres above chart datum" +
+    const std::string clock = view.plan->clock().description();
+    const bool named = clock.starts_with("this") || clock.starts_with("universal");
+    return std::string("Times by ") + (named ? "" : "the ") + clock + "; heights in metres above chart datum" +
            (view.about && !view.about->datum.empty() ? " (" + view.about->datum + ")" : "") +
            ". Predictions: weather isn't counted.";
 }

@@ -84,8 +84,8 @@ std::optional<Passage> passageof(const PlanView& view);
 /// "Cherbourg, 18 to 24 July 2026, port's clock (Europe/Paris)"
 std::string plantitle(const PlanView& view, const Locale& locale);
 
-/// The answer to "When can I go?", or why the fields can't be meant.
-std::string answertext(const PlanView& view, const Locale& locale);
+/// The answer to "When can I go?" from `now` on, or why the fields can't be meant.
+std::string answertext(const PlanView& view, const Locale& locale, std::optional<Moment> now = {});
 
 /// What the clock is by, what heights are above and what isn't counted.
 std::string planfoot(const PlanView& view);

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "mainview/frmtarvane.h"
+#include "planner/plansettings.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/qtservices.h"
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
     NightLight nightlight;
     WindowPlaces places(started->folders.configfolder() + "/Windows.json");
     application.installEventFilter(&places);
+    nightlight.set(readplansettings(plansettingspath(session.folders)).night);
     std::unique_ptr<frmtarvane> window;
     frmConditions conditions(services.services(), started->folders);
     conditions.onaccepted = [&] {

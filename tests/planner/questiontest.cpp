@@ -33,9 +33,9 @@ TEST(PlanQuestion, ARefusalNamesItsField) {
         const char* typed;
         const char* refusal;
     } rows[] = {
-        {PlanField::draught, "", "Draught: write m from 0 to 40, not \u201C\u201D"},
-        {PlanField::clearance, "41", "Clearance: write m from 0 to 40, not \u201C41\u201D"},
-        {PlanField::bottom, "-41", "Bottom: write m from -40 to 500, not \u201C-41\u201D"},
+        {PlanField::draught, "", "Draught: write metres from 0 to 40, not \u201C\u201D"},
+        {PlanField::clearance, "41", "Clearance: write metres from 0 to 40, not \u201C41\u201D"},
+        {PlanField::bottom, "-41", "Bottom: write metres from -40 to 500, not \u201C-41\u201D"},
         {PlanField::airdraught, "", "Mast: write how high it stands above the water, in metres"},
         {PlanField::bridgelevel, " ",
          "Bridge's level: write how many metres above chart datum the level lies that its height is given for"},

@@ -177,7 +177,7 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     const std::size_t windows = view.access.windows.size();
     EXPECT_GT(windows, 5U);
     askquestion(context, view, {"deep", "9", "9", "", "", "", ""});
-    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write m from 0 to 40, not \u201Cdeep\u201D");
+    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write metres from 0 to 40, not \u201Cdeep\u201D");
     EXPECT_EQ(view.access.windows.size(), windows);
     EXPECT_EQ(passageof(view)->clearance, 0.5);
     EXPECT_EQ(view.settings.bottoms.at("UK.hc/Alder Quay"), -1);
@@ -187,13 +187,27 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     session.settings.userdepth = 600;
     view.settings.bottoms.clear();
     EXPECT_TRUE(followport(context, view));
-    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Bottom: write m from -40 to 500, not \u201C600\u201D");
+    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Bottom: write metres from -40 to 500, not \u201C600\u201D");
     EXPECT_FALSE(passageof(view)) << "no boat of nothing is answered for";
     showdays(context, view, view.first, 3);
     EXPECT_FALSE(view.access.always || view.access.never || !view.access.windows.empty());
     view.settings.asked = false;
     answeranew(view);
     EXPECT_EQ(answertext(view, scripted.locale), "");
+}
+
+TEST_F(PlanViewTest, DaysChosenThatLieOutsideAreTold) {
+    PlanView view = opened();
+    askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});
+    view.settings.weekdays = 1U << 6;
+    const char* none = "None of these days is one of those chosen.";
+    showdays(context, view, makedate(2024, 4, 9), 1);
+    EXPECT_EQ(answertext(view, scripted.locale), none) << "a Tuesday alone";
+    showdays(context, view, makedate(2024, 4, 9), 5);
+    EXPECT_NE(answertext(view, scripted.locale).find("Sat 13 Apr"), std::string::npos);
+    view.settings.leastminutes = 1440;
+    answeranew(view);
+    EXPECT_NE(answertext(view, scripted.locale), none) << "a Saturday is among them";
 }
 
 TEST_F(PlanViewTest, ThePresentTideIsOfItsPortClockAndDay) {

@@ -59,6 +59,24 @@ TEST(PlanWords, TheAnswerNamesWhatIsInTheWay) {
               "She passes at times, but not as you wish it; the level needed is 4.50 m.");
 }
 
+TEST(PlanWords, TheAnswerBeginsWithWhatIsStillToCome) {
+    const ScriptedLocale locale;
+    const Plan plan = simpleplan(makedate(2026, 7, 14), 3);
+    const Passage boat = passage(4.5);
+    const PlannedAccess access = plan.access(boat, {}, false);
+    const auto& windows = access.windows;
+    ASSERT_GE(windows.size(), 5U);
+    const auto told = [&](Moment now) { return accesstext(plan, access, boat, locale, now); };
+    const std::string whole = accesstext(plan, access, boat, locale);
+    EXPECT_EQ(told(windows[0].closes), whole) << "one that is open still counts";
+    const std::string later = told(windows[1].closes + 1min);
+    const std::string third =
+        daytext(locale, plan.clock().at(windows[2].opens).date) + " " + plainclock(plan.clock(), windows[2].opens);
+    EXPECT_EQ(later.find(third), 0U) << later;
+    EXPECT_NE(later.find("2 past already."), std::string::npos) << later;
+    EXPECT_EQ(told(plan.ends() + 1h), whole) << "days gone by are told as they were";
+}
+
 TEST(PlanWords, DaysWithoutPredictionCutWindowsAndAreTold) {
     const ScriptedLocale locale;
     const Passage boat = passage(1);

@@ -4,8 +4,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <algorithm>
 #include <filesystem>
 
 #include "fakes/mainfixture.h"
@@ -131,7 +134,7 @@ TEST_F(FrmPlanner, WhatIsTypedIsAnsweredAtOnce) {
     const std::string deeper = answer();
     const auto table = tabbedtext(planner->windows->table());
     type(field(PlanField::draught), "x");
-    EXPECT_EQ(answer(), "\u26A0 Draught: write m from 0 to 40, not \u201Cx\u201D");
+    EXPECT_EQ(answer(), "\u26A0 Draught: write metres from 0 to 40, not \u201Cx\u201D");
     EXPECT_TRUE(field(PlanField::draught).font().underline());
     EXPECT_EQ(tabbedtext(planner->windows->table()), table);
     QApplication::processEvents();
@@ -150,6 +153,45 @@ TEST_F(FrmPlanner, WhatIsTypedIsAnsweredAtOnce) {
     planner->weekdays[5]->click();
     QApplication::processEvents();
     EXPECT_EQ(shown(*planner->lblSaid).find("The planner's settings could not be kept: "), 0U);
+}
+
+TEST_F(FrmPlanner, NoTwoLettersOfOneMenuOrOfTheWindowAreTheSame) {
+    const auto expectdifferent = [](const QStringList& texts) {
+        std::vector<std::string> letters;
+        for (const QString& each : texts)
+            letters.push_back(QKeySequence::mnemonic(each).toString().toStdString());
+        std::sort(letters.begin(), letters.end());
+        const auto twice = std::adjacent_find(letters.begin(), letters.end());
+        EXPECT_TRUE(twice == letters.end()) << *twice << " in " << texts.join("|").toStdString();
+    };
+    QStringList captions{planner->fraQuestion->title(), planner->chkTwilight->text()};
+    for (const QLabel* each : planner->findChildren<QLabel*>())
+        if (each->buddy()) captions << each->text();
+    for (const QMenu* menu : planner->menuBar()->findChildren<QMenu*>()) {
+        QStringList entries;
+        for (const QAction* each : menu->actions())
+            if (!each->isSeparator()) entries << each->text();
+        expectdifferent(entries);
+    }
+    for (const QAction* each : planner->menuBar()->actions())
+        captions << each->text();
+    EXPECT_GT(captions.size(), 15);
+    expectdifferent(captions);
+}
+
+TEST_F(FrmPlanner, TheFirstClickIntoAFieldSelectsWhatStandsThere) {
+    QLineEdit& draught = field(PlanField::draught);
+    planner->picture->setFocus();
+    QTest::mouseClick(&draught, Qt::LeftButton);
+    QTest::keyClicks(&draught, "1.9");
+    EXPECT_EQ(draught.text(), "1.9");
+    QTest::mouseClick(&draught, Qt::LeftButton, {}, {3, draught.height() / 2});
+    EXPECT_FALSE(draught.hasSelectedText()) << "the second puts the caret";
+    type(field(PlanField::clearance), "0.5");
+    type(field(PlanField::bottom), "2");
+    EXPECT_NE(shown(*planner->lblNeeded).find("if it dries 2.0 m, write -2.0"), std::string::npos);
+    type(field(PlanField::bottom), "-2");
+    EXPECT_EQ(shown(*planner->lblNeeded), "Bottom dries 2.0 m. Height of tide needed: 4.4 m.");
 }
 
 TEST_F(FrmPlanner, KeysWalkTheCursor) {

@@ -38,7 +38,7 @@ TEST_F(FrmstreamsTest, KeysAndTheMouseMoveTheStrongHour) {
     const auto pixels = [&] { return form.Picture1->grab().toImage(); };
     const QImage before = pixels();
     QTest::keyClick(form.table, Qt::Key_Down);
-    EXPECT_TRUE(shown(*form.lblhour).starts_with("HW +1, 05:40"));
+    EXPECT_TRUE(shown(*form.lblhour).starts_with("HW +1, 05:40")) << shown(*form.lblhour);
     EXPECT_NE(pixels(), before);
     emit form.table->cellEntered(1, 2);
     EXPECT_TRUE(shown(*form.lblhour).starts_with("HW -5, 23:40")) << shown(*form.lblhour);

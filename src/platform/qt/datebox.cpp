@@ -3,6 +3,7 @@
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QTextCharFormat>
 #include <QWidgetAction>
 
 #include "platform/qt/qtlocale.h"
@@ -47,6 +48,18 @@ DateBox::DateBox(Date first, Date last) : arrow(new QToolButton) {
 
 void DateBox::setcalendar(Date date) {
     calendar->setSelectedDate(calendarday(date));
+}
+
+void DateBox::setcalendarlight(const QPalette& palette) {
+    calendar->ensurePolished();
+    calendar->setPalette(palette);
+    for (QWidget* part : calendar->findChildren<QWidget*>())
+        part->setPalette(palette);
+    QTextCharFormat weekend;
+    weekend.setForeground(palette.text());
+    weekend.setFontWeight(QFont::Bold);
+    calendar->setWeekdayTextFormat(Qt::Saturday, weekend);
+    calendar->setWeekdayTextFormat(Qt::Sunday, weekend);
 }
 
 void DateBox::keyPressEvent(QKeyEvent* event) {

@@ -23,6 +23,9 @@ class DateBox : public QLineEdit {
     /// The date that the calendar drops down on; one outside the first and the last is the nearest of them.
     void setcalendar(Date date);
 
+    /// The calendar's colours; its weekends are of the text's colour like other days.
+    void setcalendarlight(const QPalette& palette);
+
     QToolButton* arrow = nullptr;  ///< to be placed beside the box; Alt+Down presses it too
 
   protected:

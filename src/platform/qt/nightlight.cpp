@@ -57,8 +57,10 @@ RedLight* redlightof(const QWidget& window) {
     return nullptr;
 }
 
-/// The window itself or one that it belongs to sees to its own colours.
+/// The window sees to its own colours, or pops up from one that does. A dialog never takes those of its owner.
 bool seestoitself(const QWidget* window) {
+    if (window->property(ownlight).toBool()) return true;
+    if (window->windowType() != Qt::Popup) return false;
     for (; window; window = window->parentWidget())
         if (window->property(ownlight).toBool()) return true;
     return false;

@@ -8,7 +8,7 @@ class QWidget;
 
 namespace tarvane {
 
-/// Set on a window that paints by night itself.
+/// Set on a window that paints by night itself, with all that pops up from it.
 inline constexpr const char* ownlight = "ownlight";
 
 class NightLight : public QObject {

@@ -4,6 +4,7 @@ namespace tarvane {
 namespace {
 
 constexpr const char* firstday = "Your first day with the program";
+constexpr const char* planner = "When can I go? The planner";
 constexpr const char* curve = "The curve and what its parts mean";
 constexpr const char* heights = "Heights, depths and draught";
 constexpr const char* choosing = "Choosing a port and a date";
@@ -24,7 +25,7 @@ constexpr WindowChapter chapters[] = {
     {"FrmAdjustfileselect", creek}, {"frmAdjustSave", creek},
     {"frmWeighting", creek},        {"frmTidalDiamondsCopy", streams},
     {"frmimport", streams},         {"frmstreams", streams},
-    {"frmshowconf", files},         {"frmplanner", firstday},
+    {"frmshowconf", files},         {"frmplanner", planner},
 };
 
 }  // namespace

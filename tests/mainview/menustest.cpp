@@ -62,8 +62,8 @@ TEST_F(Menus, WindowsThatChangeTheDayAreFollowedByTheCurve) {
 TEST_F(Menus, TheKeysAreNamed) {
     const std::string text = keystext();
     EXPECT_TRUE(text.starts_with("Tarvane Tides   (v9.5.0)"));
-    for (const char* line :
-         {"\nCtrl+F: Port by Name\n", "\nF1: Help\n", "\nCtrl+C: Copy Days Tides\n", "\nPage Down, Page Up: "})
+    for (const char* line : {"\nCtrl+F: Port by Name\n", "\nCtrl+G: Planner\n", "\nF1: Help\n",
+                             "\nCtrl+C: Copy Days Tides\n", "\nPage Down, Page Up: "})
         EXPECT_NE(text.find(line), std::string::npos) << line;
 }
 

@@ -29,7 +29,7 @@ TEST_F(About, TextTellsItInASailorsWords) {
     const std::string text = run("about --port harbour --area all").out;
     for (const char* part :
          {"Harbour, port 1 of Far Coast.hc\n",
-          "How good: close, half of the high and low waters are within 6 minutes and 0.07 m",
+          "How good: close; half of the high and low waters are within 6 minutes and 0.07 m",
           "nine in ten within 14 minutes and 0.17 m; weather not counted\n", "above MLLW, mean lower low water, ",
           "Constants from A gauge, read, a gauge's record of 2006-05-31 to 2025-05-31; CC BY 4.0, modified\n",
           "The port's clock (Asia/Dubai) shows 14:00 +04 (UT+4) on Tuesday 9 April 2024\n",

@@ -39,7 +39,7 @@ void aboutrows(const ViewContext& context, RowWriter& writer, Absences&) {
 
 void knownlines(const PortAbout& about, std::ostream& out) {
     const std::string datum = datumwords(about.datum);
-    out << "How good: " << gradeword(gradeof(about)) << ", " << errorwords(about) << "\n";
+    out << "How good: " << gradeword(gradeof(about)) << "; " << errorwords(about) << "\n";
     out << "Heights are above " << plaintext(about.datum) << (datum.empty() ? "" : ", " + datum)
         << ", as the gauge's record has it: not official chart datum\n";
     out << "Constants from " << plaintext(about.source) << ", " << plaintext(recordwords(about)) << "; "

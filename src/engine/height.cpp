@@ -10,9 +10,6 @@
 namespace tarvane {
 namespace {
 
-// kept: this routine's own degrees to radians, which is not pi/180 and not that of degtorad
-constexpr double formradians = 0.017453925199433;
-
 /// One value for each of M2, S2, K1, O1.
 struct Four {
     double m2 = 0, s2 = 0, k1 = 0, o1 = 0;
@@ -118,12 +115,16 @@ HarmonicConstants seasonalconstants(const HarmonicRecord& port, int tidemonth) {
 
 std::optional<HeightInputs> heightinputs(const HarmonicRecord& port, int tidemonth, int year, int baseday,
                                          float userdepth, float currentoutput) {
-    const auto day = orbitalconstants(year, baseday);
-    const auto next = orbitalconstants(year, baseday + 1);
-    if (!day || !next) return std::nullopt;
+    const auto span = orbitalspan(year, baseday);
+    if (!span) return std::nullopt;
+    return heightinputs(port, tidemonth, *span, userdepth, currentoutput);
+}
+
+HeightInputs heightinputs(const HarmonicRecord& port, int tidemonth, const OrbitalSpan& span, float userdepth,
+                          float currentoutput) {
     const HarmonicConstants constants = seasonalconstants(port, tidemonth);
-    return HeightInputs{constants, *day,         *next, speedsandrates(*day, *next), constants.Z0 + constants.DeltaZ0,
-                        userdepth, currentoutput};
+    const double level = constants.Z0 + constants.DeltaZ0;
+    return {constants, span.day, span.next, span.rates, level, userdepth, currentoutput};
 }
 
 HeightParts heightformula(const HeightInputs& inputs, double t, std::ostream* trace) {

@@ -14,6 +14,9 @@
 
 namespace tarvane {
 
+// kept: this form's own degrees to radians, which is not pi/180 and not that of degtorad
+inline constexpr double formradians = 0.017453925199433;
+
 /// The constants of a place as one prediction takes them: phases in degrees, amplitudes and levels in metres.
 struct HarmonicConstants {
     double M2g = 0, M2Hm = 0, S2g = 0, S2Hm = 0, K1g = 0, K1Hm = 0, O1g = 0, O1Hm = 0;
@@ -49,6 +52,10 @@ struct HeightInputs {
 /// divide by zero.
 std::optional<HeightInputs> heightinputs(const HarmonicRecord& port, int tidemonth, int year, int baseday,
                                          float userdepth = 0, float currentoutput = 1);
+
+/// The same from orbital constants in hand.
+HeightInputs heightinputs(const HarmonicRecord& port, int tidemonth, const OrbitalSpan& span, float userdepth = 0,
+                          float currentoutput = 1);
 
 /// The height `t` hours after 00:00 of the base day, and its parts. With `trace` set the form's lines are written to
 /// it.

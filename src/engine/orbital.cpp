@@ -297,4 +297,11 @@ SpeedsAndRates speedsandrates(const AnglesAndFactors& day, const AnglesAndFactor
     return rates;
 }
 
+std::optional<OrbitalSpan> orbitalspan(int year, int daynumber) {
+    const auto day = orbitalconstants(year, daynumber);
+    const auto next = orbitalconstants(year, daynumber + 1);
+    if (!day || !next) return std::nullopt;
+    return OrbitalSpan{*day, *next, speedsandrates(*day, *next)};
+}
+
 }  // namespace tarvane

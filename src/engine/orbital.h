@@ -25,6 +25,13 @@ struct SpeedsAndRates {
     double dfm = 0, dfs = 0, dfk = 0, dfo = 0;
 };
 
+/// What the heights of any port stand on from a day's 00:00: its constants and those of the day after it.
+struct OrbitalSpan {
+    AnglesAndFactors day;
+    AnglesAndFactors next;
+    SpeedsAndRates rates;
+};
+
 /// Angle into 0 to 360 inclusive: 360 itself gives 0, yet a value that comes down to 360 by subtraction stays 360.
 /// Infinities and NaN come back as they are.
 double wrap360(double x);
@@ -44,6 +51,9 @@ void vectorparts(double angle, double radius, double& sinepart, double& cosinepa
 /// The constants of a day. `daynumber` is the day of `year` from 1; 0 and days past the year's end extend from its row.
 /// Nothing where the constants divide by zero (1 January 1990).
 std::optional<AnglesAndFactors> orbitalconstants(int year, int daynumber);
+
+/// The same for a day and the day after it. Nothing where either has none.
+std::optional<OrbitalSpan> orbitalspan(int year, int daynumber);
 
 /// Speeds and rates between the constants of a day and of the day after it.
 SpeedsAndRates speedsandrates(const AnglesAndFactors& day, const AnglesAndFactors& next);

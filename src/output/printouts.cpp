@@ -13,8 +13,8 @@ const char* const approximateline = "All data are derived and should therefore b
 constexpr std::array<const char*, 7> notices{
     "",
     "Harmonic constants supplied with this program are derived, with changes, from TICON-4: Hart-Davis, Dettmering,",
-    "Seitz (2025), SEANOE, https://doi.org/10.17882/109129, licence CC BY 4.0. Heights refer to levels derived from",
-    "those constants, which are not official chart datum. Predictions are not for navigation.",
+    "Seitz (2025), SEANOE, https://doi.org/10.17882/109129, and Kartverket (both CC BY 4.0), and from NOAA. Heights",
+    "refer to levels derived from them, which are not official chart datum. Predictions are not for navigation.",
     "",
     "This printout may be reproduced for use on board as long as it is whole and these notices stay on it.",
     "The source and licence of the tidal data named above are to be given with every copy.",

@@ -5,6 +5,7 @@
 
 #include "planner/planpicture.h"
 #include "planner/plantexts.h"
+#include "portdata/aboutwords.h"
 #include "sunmoon/lunarphases.h"
 #include "text/numbers.h"
 
@@ -102,25 +103,7 @@ double paintmoons(Canvas& canvas, const Area& area, const PagePlan& pages, doubl
     return y + line;
 }
 
-std::string within(double time, double height) {
-    return numbertext(time) + (time == 1 ? " minute" : " minutes") + " and " + metres(height, 2);
-}
-
 }  // namespace
-
-std::string trustwords(const std::optional<PortAbout>& about) {
-    if (!about)
-        return "Nothing is known of where this port's constants come from or how good they are. Compare some days with "
-               "an official table before you rely on them.";
-    std::string words = "The constants come from " + about->source;
-    if (!about->licence.empty()) words += " (" + about->licence + ")";
-    words += ", from a gauge's record of " + about->recordfrom + " to " + about->recordto + "; heights are above " +
-             about->datum + " as that record has it, which needn't be the chart's own datum. ";
-    words += "Half of the high and low waters are within " + within(about->timemedian, about->heightmedian) +
-             " of a full prediction from all of the gauge's constituents, nine in ten within " +
-             within(about->timeninety, about->heightninety) + "; weather not counted.";
-    return words;
-}
 
 void paintalmanacyear(Canvas& canvas, const Area& area, const PagePlan& pages) {
     const PlanLook& look = planlook(PlanLight::day);

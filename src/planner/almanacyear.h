@@ -8,7 +8,4 @@ namespace tarvane {
 
 void paintalmanacyear(Canvas& canvas, const Area& area, const PagePlan& pages);
 
-/// How good a port's waters are and what they come from, in sentences; says so when nothing is known of it.
-std::string trustwords(const std::optional<PortAbout>& about);
-
 }  // namespace tarvane

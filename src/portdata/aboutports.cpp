@@ -10,6 +10,7 @@
 #include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
 #include "text/csvrows.h"
+#include "text/numbers.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -83,6 +84,24 @@ AboutTable readabout(std::string_view csv) {
         if (!fault.empty()) return {{}, "line " + std::to_string(row->line) + ": " + fault};
     }
     return table;
+}
+
+std::vector<std::string> aboutcolumnnames() {
+    std::vector<std::string> names;
+    for (const AboutColumn& column : aboutcolumns)
+        names.emplace_back(column.name);
+    return names;
+}
+
+std::vector<std::string> aboutfields(const PortAbout& about) {
+    std::vector<std::string> fields;
+    for (const AboutColumn& column : aboutcolumns) {
+        if (column.text)
+            fields.push_back(about.*column.text);
+        else
+            fields.push_back(numbertext(column.number ? about.*column.number : static_cast<double>(about.number)));
+    }
+    return fields;
 }
 
 std::string aboutname(std::string_view areafile) {

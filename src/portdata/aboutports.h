@@ -34,6 +34,10 @@ struct AboutTable {
 /// time_error_median_min, time_error_p90_min, height_error_median_m, height_error_p90_m, mean_range_m under a header.
 AboutTable readabout(std::string_view csv);
 
+/// The names of these columns, and what they hold of a port.
+std::vector<std::string> aboutcolumnnames();
+std::vector<std::string> aboutfields(const PortAbout& about);
+
 /// The name of the table that tells of an area: "us-west-coast-about.csv" of "US West Coast.hc".
 std::string aboutname(std::string_view areafile);
 

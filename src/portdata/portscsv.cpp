@@ -162,9 +162,9 @@ std::string takefield(const Column& column, const std::string& field, std::size_
             return portnamefault(port.PortName);
         case Holds::zone:
             port.TimeZoneLetter = trim(field);
-            return port.TimeZoneLetter.size() == 1 && field.find_first_of("ABCDEFGHIJKLMNOPQRSTUVW") != field.npos
+            return port.TimeZoneLetter.size() == 1 && field.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") != field.npos
                        ? ""
-                       : "the zone is no letter from A to W";
+                       : "the zone is no letter from A to Z";
         case Holds::label:
             port.PortNo = trim(field);
             return labelfault(port.PortNo);

@@ -33,7 +33,7 @@ struct PortsTable {
 /// M2 amplitudes, which are otherwise the annual one; record, empty or the record's bytes in hexadecimal digits, for a
 /// port that the other fields can't tell. UTF-8, fields quoted or not. Refused: a wrong header, a wrong number of
 /// fields, a field that is no number or out of its range (latitude -90..90, longitude -180..180, phases 0..360,
-/// amplitudes and Z0 within sane limits), a zone that is no letter from A to W, numbers that don't run 1, 2, 3 ..., an
+/// amplitudes and Z0 within sane limits), a zone that is no letter from A to Z, numbers that don't run 1, 2, 3 ..., an
 /// empty name or one over 35 characters or outside Windows-1252, a record other than the row's fields tell it, no rows.
 PortsTable readportscsv(std::string_view text);
 

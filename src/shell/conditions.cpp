@@ -22,7 +22,7 @@ constexpr std::array<const char*, 25> conditions{
     "Data source: the UKHO simplified harmonic constants, whose form and method are",
     "followed throughout. No claim is made as to the accuracy of any tide time or height.",
     "The constants supplied are modified from: Hart-Davis, Dettmering, Seitz (2025),",
-    "TICON-4, SEANOE, https://doi.org/10.17882/109129, under the licence CC BY 4.0.",
+    "TICON-4, SEANOE, https://doi.org/10.17882/109129, CC BY 4.0; NOAA; and Kartverket.",
     "",
     "Copying: the program and its manual are the copyright of their authors. They may be",
     "copied and passed on only whole, unaltered and together with these conditions. The",

@@ -56,20 +56,32 @@ std::string CsvRows::takequoted(bool& broken) {
     return field;
 }
 
-std::string csvcell(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    std::string quoted = "\"";
-    for (const char character : text) {
-        if (character == '"') quoted += '"';
-        quoted += character;
+void appendcsvcell(std::string& line, std::string_view text) {
+    const auto quoting = [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; };
+    if (std::none_of(text.begin(), text.end(), quoting)) {
+        line += text;
+        return;
     }
-    return quoted + '"';
+    line += '"';
+    for (const char character : text) {
+        if (character == '"') line += '"';
+        line += character;
+    }
+    line += '"';
+}
+
+std::string csvcell(const std::string& text) {
+    std::string cell;
+    appendcsvcell(cell, text);
+    return cell;
 }
 
 std::string csvline(const std::vector<std::string>& fields) {
     std::string line;
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        line += (i ? "," : "") + csvcell(fields[i]);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (i) line += ',';
+        appendcsvcell(line, fields[i]);
+    }
     return line + "\n";
 }
 

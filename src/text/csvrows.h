@@ -34,6 +34,9 @@ class CsvRows {
     std::size_t line_ = 1;
 };
 
+/// Puts a field behind a line as a row holds it.
+void appendcsvcell(std::string& line, std::string_view text);
+
 /// A field as a row holds it, quoted where that is needed to read it back.
 std::string csvcell(const std::string& text);
 

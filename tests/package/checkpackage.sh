@@ -66,6 +66,7 @@ while IFS='>' read -r subcommand section; do
   done <options.txt
 done <<'END'
 >OPTIONS
+about>ABOUT A PORT
 fit>FITTING CONSTANTS
 streams>TIDAL STREAMS
 END
@@ -75,6 +76,9 @@ before=$(find root home | sort)
 root/usr/bin/tides --list >list.txt || fault "tides doesn't work from the package."
 [ "$(wc -l <list.txt)" -gt 80 ] || fault "tides doesn't list the ports of the package."
 root/usr/bin/tides dover --waters | grep -q 'Europe/London' || fault "tides doesn't know the clocks of the package's ports."
+[ "$(root/usr/bin/tides all --area all --format csv | cut -d, -f1,2,9 | sort -u | wc -l)" -gt 2300 ] ||
+  fault "tides doesn't find the areas of the package."
+root/usr/bin/tides about --port honolulu --area all | grep -q 'Pacific/Honolulu' || fault "tides doesn't know Honolulu."
 [ "$(find root home | sort)" = "$before" ] || fault "tides made files."
 
 touch mine.hc race.l20 notes.txt
@@ -84,6 +88,9 @@ while IFS='>' read -r words wanted; do
 done <<'END'
 tides --sa>--samples|
 tides fit>fit|
+tides about --format j>json|
+tides about dov>Dover|
+tides --area al>all|
 tides --format ''>text|csv|json|ics|
 tides fit --format ''>text|csv|json|
 tides --clock u>ut|

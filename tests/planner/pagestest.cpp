@@ -255,20 +255,5 @@ TEST(Pages, TimesBehindAChangeOfTheClockAreMarked) {
     EXPECT_EQ(counted(midnight, "*"), 2U);
 }
 
-TEST(Pages, TrustIsToldByThePortsOwnFigures) {
-    PortAbout about;
-    about.source = "A source";
-    about.recordfrom = "2006-03-31";
-    about.timemedian = 6;
-    about.timeninety = 14;
-    about.heightmedian = 0.07;
-    about.heightninety = 0.17;
-    const std::string words = trustwords(about);
-    EXPECT_NE(words.find("within 6 minutes and 0.07 m"), std::string::npos) << words;
-    EXPECT_NE(words.find("nine in ten within 14 minutes and 0.17 m"), std::string::npos) << words;
-    EXPECT_NE(words.find("record of 2006-03-31"), std::string::npos) << words;
-    EXPECT_EQ(trustwords({}).rfind("Nothing is known", 0), 0U);
-}
-
 }  // namespace
 }  // namespace tarvane

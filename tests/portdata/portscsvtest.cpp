@@ -98,8 +98,8 @@ TEST(PortsCsv, RefusesAFieldByItsPlace) {
           Row{"2,日本,1,2,L,3", 2, "Windows-1252"}, Row{"2,\xE9,1,2,L,3", 2, "not UTF-8"},
           Row{"2,\"a\tb\",1,2,L,3", 2, "control"},
           Row{"2,one more than thirty-five characters,1,2,L,3", 2, "longer than 35"},
-          Row{"2,B,90.01,2,L,3", 3, "outside"}, Row{"2,B,1,-180.5,L,3", 4, "outside"}, Row{"2,B,1,2,X,3", 5, "A to W"},
-          Row{"2,B,1,2,l,3", 5, "A to W"}, Row{"2,B,1,2,L,", 6, "not a number"},
+          Row{"2,B,90.01,2,L,3", 3, "outside"}, Row{"2,B,1,-180.5,L,3", 4, "outside"}, Row{"2,B,1,2,[,3", 5, "A to Z"},
+          Row{"2,B,1,2,l,3", 5, "A to Z"}, Row{"2,B,1,2,L,", 6, "not a number"},
           Row{"2,B,1,2,L,nan", 6, "not a number"}, Row{"2,B,1,2,L,1e999", 6, "not a number"},
           Row{"2,B,1,2,L,5 m", 6, "not a number"}})
         expectfault(header + "\n" + row("1,A,1,2,L,3") + "\n" + row(start), 3, column, word);

@@ -8,6 +8,7 @@
 #include <future>
 #include <thread>
 
+#include "engine/daywaters.h"
 #include "planner/plan.h"
 #include "platform/systemzones/systemzones.h"
 #include "portdata/recordfiles.h"
@@ -64,6 +65,28 @@ void windowsalone(benchmark::State& state) {
         benchmark::DoNotOptimize(plan.access(oversill(), {Daylight::part, 30}, false));
 }
 BENCHMARK(windowsalone)->Arg(31)->Arg(365)->Unit(benchmark::kMillisecond);
+
+/// The ten-minute waters of a year of every port by themselves, on one processor; and as the whole predictions have
+/// them.
+void yearofwaters(benchmark::State& state) {
+    const bool whole = state.range(0) != 0;
+    Prediction prediction;
+    for (auto _ : state)
+        for (std::int16_t number = 1; number <= 365; ++number) {
+            const TideDay day{2026, monthof(newyear + std::chrono::days(number - 1)), number, 0};
+            const auto span = spanofday(day);
+            for (const HarmonicRecord& record : ports()) {
+                if (whole) {
+                    predictday({record, 1, 0, 1}, day, prediction);
+                    findturningpoints(prediction);
+                    benchmark::DoNotOptimize(prediction);
+                } else {
+                    benchmark::DoNotOptimize(daywaters({record, 1, 0, 1}, day, span));
+                }
+            }
+        }
+}
+BENCHMARK(yearofwaters)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 /// A year of every port on all processors: wanted under 3 s.
 void allports(benchmark::State& state) {

@@ -9,16 +9,25 @@
 namespace tarvane {
 
 void Absences::note(const std::string& subject, const char* reason, Date date) {
+    add({subject, reason, date, date, 1});
+}
+
+void Absences::add(const Absences& others) {
+    for (const Absence& each : others.absences)
+        add(each);
+}
+
+void Absences::add(const Absence& more) {
     // looked for from the end, where the port in hand stands
     const auto known = std::find_if(absences.rbegin(), absences.rend(), [&](const Absence& absence) {
-        return absence.subject == subject && absence.reason == reason;
+        return absence.subject == more.subject && absence.reason == more.reason;
     });
     if (known == absences.rend()) {
-        absences.push_back({subject, reason, date, date, 1});
+        absences.push_back(more);
         return;
     }
-    known->last = date;
-    ++known->days;
+    known->last = more.last;
+    known->days += more.days;
 }
 
 int Absences::count() const {

@@ -14,6 +14,9 @@ class Absences {
     /// A day without a result. `subject` says of what there is none: "prediction for Dover, port 15,".
     void note(const std::string& subject, const char* reason, Date date);
 
+    /// Takes over what another has noted, behind what is noted here.
+    void add(const Absences& others);
+
     bool empty() const { return absences.empty(); }
 
     /// How many days in all.
@@ -30,6 +33,8 @@ class Absences {
         Date last{};
         int days = 0;
     };
+    void add(const Absence& more);
+
     std::vector<Absence> absences;
 };
 

@@ -49,19 +49,14 @@ void accessrows(const ViewContext& context, RowWriter& writer, Absences& absence
         [&](const PlanPart& part, const WindowRun&) { notelacking(absences, part); });
 }
 
-bool accesscalendar(const ViewContext& context, std::ostream& out, Absences& absences) {
-    bool events = false;
+void accesscalendar(const ViewContext& context, CalendarWriter& out, Absences& absences) {
     eachwindow(
         context,
         [&](const PlanPart& part, const PlannedWindow& window) {
-            if (!events) out << calendarstart();
-            events = true;
-            out << windowevent(planport(context, *part.port), part.port->port.record, part.plan->clock(), window,
-                               context.plan.passage, context.plan.now);
+            out.event(windowevent(planport(context, *part.port), part.port->port.record, part.plan->clock(), window,
+                                  context.plan.passage, context.plan.now));
         },
         [&](const PlanPart& part, const WindowRun&) { notelacking(absences, part); });
-    if (events) out << calendarend();
-    return events;
 }
 
 /// What the level needed is made of, and what else is asked.
@@ -133,7 +128,7 @@ void accesstext(const ViewContext& context, std::ostream& out) {
             else if (!run.whynot().empty())
                 out << "\nNo prediction for some of these days: " << run.whynot() << "\n";
         });
-    out << "\n" << heightscaution << "\n";
+    conclusion(context, heightscaution, out);
 }
 
 }  // namespace

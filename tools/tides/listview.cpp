@@ -16,13 +16,14 @@ std::vector<Column> listcolumns() {
 }
 
 void listrows(const ViewContext& context, RowWriter& writer, Absences&) {
-    for (const auto& [name, port] : context.ports) {
+    for (const auto& [name, subject, port] : context.ports) {
         writer.row({numbertext(port.number), name, shortest(port.record.PortLat), shortest(port.record.PortLong),
                     port.record.TimeZoneLetter});
     }
 }
 
 void listtext(const ViewContext& context, std::ostream& out) {
+    if (context.several) out << (context.opens ? "" : "\n") << plaintext(context.areaname) << "\n";
     std::size_t width = 4;
     for (const PortInHand& port : context.ports)
         width = std::max(width, charactercount(plaintext(port.name)));

@@ -1,5 +1,6 @@
 // The terminal companion: hands the machine's environment and the clock to `runtides`.
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -41,6 +42,7 @@ int main(int argc, char** argv) {
     const tarvane::SystemZones zones;
     environment.zones = &zones;
     std::ios::sync_with_stdio(false);
+    std::signal(SIGPIPE, SIG_IGN);  // a reader that goes away is told like a full disk
     return tarvane::runtides(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc), environment, std::cout,
                              std::cerr);
 }

@@ -94,7 +94,7 @@ void monthtext(const ViewContext& context, std::ostream& out) {
             out << "\n";
         });
     }
-    out << "\n" << heightscaution << "\n";
+    conclusion(context, heightscaution, out);
 }
 
 }  // namespace

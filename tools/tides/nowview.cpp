@@ -42,7 +42,7 @@ void nowastext(const ViewContext& context, std::ostream& out) {
         out << nowtext(*part.plan, context.plan.now) << "\n";
         if (!part.plan->height(context.plan.now)) out << "No prediction: " << part.plan->whynot() << "\n";
     });
-    out << "\n" << heightscaution << "\n";
+    conclusion(context, heightscaution, out);
 }
 
 }  // namespace

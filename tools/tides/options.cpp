@@ -66,7 +66,7 @@ std::string takeplan(const std::string& value, Options& options) {
 constexpr std::size_t boatoptions = 7;  // from here on those of a boat's passage
 
 constexpr std::array<ValueOption<Options>, 14> valueoptions{{
-    {"--area", "FILE.hc", "the sea area file, in place of the stored one", takearea},
+    {"--area", "FILE.hc|all", "the sea area file, in place of the stored one; or all of them", takearea},
     {"--port", "NUMBER|NAME|all", "a port by its number, its name or a part of its name, or every port", takeport},
     {"--date", "YYYY-MM-DD", "the first day, in place of today", takedate},
     {"--days", "N", "how many days, 1 to 3660", takedays},
@@ -107,7 +107,11 @@ constexpr const char* notes =
     "heights\n"
     "above chart datum; days are days of that clock. Metres may have a comma for the point. --format ics writes a\n"
     "calendar of --waters or --access.\n"
+    "With --area all a port is meant by its name wherever it lies, a name that several ports have being refused with\n"
+    "their areas; CSV and JSON have a column \"area\" behind the others. Depths set by the user are those of each "
+    "area.\n"
     "\"tides fit\" fits constants to heights read on the spot; tides fit --help tells how.\n"
+    "\"tides about\" tells what is known of a port and how good it is; tides about --help tells how.\n"
     "\"tides streams\" shows the streams at a tidal diamond; tides streams --help tells how.\n"
     "Exit status: 0; or 2 with one line on standard error and nothing on standard output, and when CSV or JSON would\n"
     "hold nothing because every day is without a prediction.";
@@ -167,6 +171,7 @@ std::string checkview(const CommandLine& line, const Options& options) {
     for (std::size_t i = boatoptions; i < line.values.size(); ++i)
         if (line.values[i]->count() > 0 && !view.hasboat)
             return std::string(valueoptions.at(i).option) + " goes with --access";
+    if (options.allareas() && view.needsport && !options.port) return allareasneedport;
     if (view.hasboat && !options.plan.bottom)
         return "--access needs --bottom: the depth of the shallowest place below chart datum, negative where it dries";
     return "";

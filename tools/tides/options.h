@@ -26,10 +26,15 @@ struct Options {
     bool daysgiven = false;
     PlanOptions plan;
     OutputFormat format = OutputFormat::text;
+
+    bool allareas() const { return area == "all"; }
 };
 
 /// Fills `options` from the arguments behind the program's name. The fault in one line, empty when there is none.
 std::string parseoptions(const std::vector<std::string>& arguments, Options& options);
+
+/// Said where all areas are asked for and no port.
+inline constexpr const char* allareasneedport = "--area all needs --port: a name, or all";
 
 /// A date written yyyy-mm-dd, year 0001 to 9999; nothing for any other text and for a day that its month doesn't have.
 std::optional<Date> parseisodate(std::string_view text);

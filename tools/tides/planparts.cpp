@@ -5,8 +5,8 @@
 #include <future>
 #include <thread>
 
+#include "planner/plancalendar.h"
 #include "planner/planrun.h"
-#include "text/numbers.h"
 #include "tides/textforms.h"
 
 namespace tarvane {
@@ -59,6 +59,16 @@ void eachpart(const ViewContext& context, bool withaccess, const std::function<v
     handover(0);
 }
 
+void CalendarWriter::event(const std::string& event) {
+    if (empty_) stream_ << calendarstart();
+    empty_ = false;
+    stream_ << event;
+}
+
+void CalendarWriter::finish() {
+    if (!empty_) stream_ << calendarend();
+}
+
 PlanPort planport(const ViewContext& context, const PortInHand& port) {
     return {context.areaname, port.port.number, port.name};
 }
@@ -81,8 +91,7 @@ void notelacking(Absences& absences, const PlanPart& part) {
     for (int day = 0; day < plan.planof().days; ++day) {
         const Date date = plan.planof().first + std::chrono::days(day);
         if (lacksprediction(plan, date))
-            absences.note("prediction for " + part.port->name + ", port " + numbertext(part.port->port.number) + ",",
-                          plan.whynot(), date);
+            absences.note("prediction for " + part.port->subject + ",", plan.whynot(), date);
     }
 }
 

@@ -21,6 +21,19 @@ struct PlanPart {
 /// Calls `act` for every part in turn. Only as many are kept as there are processors.
 void eachpart(const ViewContext& context, bool withaccess, const std::function<void(const PlanPart&)>& act);
 
+/// A calendar written event by event, which is nothing where there is none.
+class CalendarWriter {
+  public:
+    explicit CalendarWriter(std::ostream& out) : stream_(out) {}
+    void event(const std::string& event);
+    void finish();
+    bool empty() const { return empty_; }
+
+  private:
+    std::ostream& stream_;
+    bool empty_ = true;
+};
+
 PlanPort planport(const ViewContext& context, const PortInHand& port);
 
 std::vector<Column> plancolumns(std::span<const PlanColumn> columns);

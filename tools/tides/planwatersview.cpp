@@ -22,19 +22,13 @@ void planwatersrows(const ViewContext& context, RowWriter& writer, Absences& abs
     });
 }
 
-bool planwaterscalendar(const ViewContext& context, std::ostream& out, Absences& absences) {
-    bool events = false;
+void planwaterscalendar(const ViewContext& context, CalendarWriter& out, Absences& absences) {
     eachpart(context, false, [&](const PlanPart& part) {
         const PlanPort port = planport(context, *part.port);
         notelacking(absences, part);
-        for (const PlannedWater& each : part.plan->waters()) {
-            if (!events) out << calendarstart();
-            events = true;
-            out << waterevent(port, part.port->port.record, part.plan->clock(), each, context.plan.now);
-        }
+        for (const PlannedWater& each : part.plan->waters())
+            out.event(waterevent(port, part.port->port.record, part.plan->clock(), each, context.plan.now));
     });
-    if (events) out << calendarend();
-    return events;
 }
 
 void waterline(const Plan& plan, const PlannedWater& water, std::ostream& out) {
@@ -62,7 +56,7 @@ void planwaterstext(const ViewContext& context, std::ostream& out) {
             if (!lacks && water == before) out << "  No high or low water on this day\n";
         }
     });
-    out << "\n" << heightscaution << "\n";
+    conclusion(context, heightscaution, out);
 }
 
 }  // namespace

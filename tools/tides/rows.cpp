@@ -29,8 +29,32 @@ Json jsonnumber(const std::string& text) {
 
 }  // namespace
 
-RowWriter::RowWriter(std::ostream& out, OutputFormat format, std::vector<Column> columns)
-    : stream(out), outputformat(format), heads(std::move(columns)) {}
+void RowText::row(std::span<const std::string_view> cells) {
+    const std::size_t known = columns->size() - (lastcell ? 1 : 0);
+    assert(cells.size() == known);
+    const auto cell = [&](std::size_t i) { return i < known ? cells[i] : std::string_view(*lastcell); };
+    if (outputformat == OutputFormat::csv) {
+        for (std::size_t i = 0; i < columns->size(); ++i) {
+            if (i) text += ',';
+            appendcsvcell(text, cell(i));
+        }
+        text += '\n';
+    } else {
+        Json object;
+        for (std::size_t i = 0; i < columns->size(); ++i) {
+            const std::string value(cell(i));
+            const Column& column = (*columns)[i];
+            object[column.name] = column.isnumber ? jsonnumber(value) : Json(value);
+        }
+        text += (rowcount ? ",\n" : "") + object.dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
+    ++rowcount;
+}
+
+RowWriter::RowWriter(std::ostream& out, OutputFormat format, std::vector<Column> columns, const char* lastcolumn)
+    : stream(out), outputformat(format), heads(std::move(columns)), haslast(lastcolumn != nullptr) {
+    if (haslast) heads.push_back({lastcolumn, false});
+}
 
 void RowWriter::start() {
     if (outputformat == OutputFormat::json) {
@@ -43,18 +67,22 @@ void RowWriter::start() {
     stream << csvline(names);
 }
 
-void RowWriter::row(const std::vector<std::string>& cells) {
-    assert(cells.size() == heads.size());
+RowText RowWriter::apart() const {
+    return {outputformat, heads, haslast ? &lastcell : nullptr};
+}
+
+void RowWriter::add(const RowText& rows) {
+    if (rows.rowcount == 0) return;
     if (rowcount == 0) start();
-    if (outputformat == OutputFormat::csv) {
-        stream << csvline(cells);
-    } else {
-        Json object;
-        for (std::size_t i = 0; i < heads.size(); ++i)
-            object[heads[i].name] = heads[i].isnumber ? jsonnumber(cells[i]) : Json(cells[i]);
-        stream << (rowcount ? ",\n" : "\n") << object.dump(-1, ' ', false, Json::error_handler_t::replace);
-    }
-    ++rowcount;
+    if (outputformat == OutputFormat::json) stream << (rowcount ? ",\n" : "\n");
+    stream << rows.text;
+    rowcount += rows.rowcount;
+}
+
+void RowWriter::row(const std::vector<std::string>& cells) {
+    RowText one = apart();
+    one.row(std::vector<std::string_view>(cells.begin(), cells.end()));
+    add(one);
 }
 
 void RowWriter::finish() {

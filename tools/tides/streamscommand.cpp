@@ -72,7 +72,9 @@ std::string takereference(const StreamsOptions& options, const ProgramFolders& f
     if (!choice.fault.empty()) return choice.fault;
     if (choice.numbers.size() != 1) return "--port takes one port here, not " + inquotes(wanted);
     const auto index = static_cast<std::size_t>(choice.numbers[0] - 1);
-    streams.context.ports.push_back({area.names[index], {area.records[index], choice.numbers[0], 0, 1}});
+    const std::string& name = area.names[index];
+    streams.context.ports.push_back(
+        {name, portsubject(name, choice.numbers[0]), {area.records[index], choice.numbers[0], 0, 1}});
     return "";
 }
 

@@ -63,7 +63,7 @@ void suntext(const ViewContext& context, std::ostream& out) {
             out << (summershift(date, context.settings.summerflag2) ? "  summer time" : "") << "\n";
         });
     }
-    out << "\nAll data are derived and should therefore be considered as approximate\n";
+    conclusion(context, "All data are derived and should therefore be considered as approximate", out);
 }
 
 }  // namespace

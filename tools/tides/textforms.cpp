@@ -19,11 +19,15 @@ std::string padleft(const std::string& text, std::size_t width) {
 }
 
 void portheading(const ViewContext& context, const PortInHand& port, std::ostream& out) {
-    if (&port != &context.ports.front()) out << "\n";
+    if (!context.opens || &port != &context.ports.front()) out << "\n";
     const HarmonicRecord& record = port.port.record;
     out << plaintext(port.name) << ", port " << numbertext(port.port.number) << " of " << plaintext(context.areaname)
         << "\nPosition " << LatitudeEditText(record.PortLat) << "  " << LongitudeEditText(record.PortLong)
         << ", zone time " << universaltext(hoursahead(port, 0)) << "\n";
+}
+
+void conclusion(const ViewContext& context, const char* line, std::ostream& out) {
+    if (context.concludes) out << "\n" << line << "\n";
 }
 
 std::string timeline(const ViewContext& context, const PortInHand& port, Date date) {
@@ -77,7 +81,7 @@ void daystext(const ViewContext& context, std::ostream& out,
             if (behind) behind(port, day);
         });
     }
-    out << "\n" << heightscaution << "\n";
+    conclusion(context, heightscaution, out);
 }
 
 }  // namespace tarvane

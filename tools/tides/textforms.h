@@ -26,6 +26,9 @@ void daystext(const ViewContext& context, std::ostream& out,
 /// A port's name, place and zone in two lines, with a blank line before all but the first.
 void portheading(const ViewContext& context, const PortInHand& port, std::ostream& out);
 
+/// The last line of a text, once behind all areas.
+void conclusion(const ViewContext& context, const char* line, std::ostream& out);
+
 /// Under which time a day's clock times stand.
 std::string timeline(const ViewContext& context, const PortInHand& port, Date date);
 

@@ -18,6 +18,10 @@ std::span<const View* const> views() {
     return allviews;
 }
 
+std::string portsubject(const std::string& name, std::int16_t number) {
+    return name + ", port " + numbertext(number);
+}
+
 void predictport(const ViewContext& context, const PortInHand& port, Date date, Prediction& prediction) {
     const TideDay day{yearof(date), monthof(date), static_cast<std::int16_t>(dayofyear(date)),
                       summershift(date, context.settings.summerflag2)};
@@ -27,8 +31,7 @@ void predictport(const ViewContext& context, const PortInHand& port, Date date, 
 
 void noteabsence(Absences& absences, const PortInHand& port, const Prediction& prediction, Date date) {
     if (prediction.defined) return;
-    absences.note("prediction for " + port.name + ", port " + numbertext(port.port.number) + ",", prediction.whynot,
-                  date);
+    absences.note("prediction for " + port.subject + ",", prediction.whynot, date);
 }
 
 SunHours sunofport(const ViewContext& context, const PortInHand& port, Date date) {

@@ -24,8 +24,12 @@ namespace tarvane {
 
 struct PortInHand {
     std::string name;
-    PredictedPort port;  ///< its records as they were read, once
+    std::string subject;  ///< as a line about it names it: "Dover, port 15", with its area where there are several
+    PredictedPort port;   ///< its records as they were read, once
 };
+
+/// "Dover, port 15".
+std::string portsubject(const std::string& name, std::int16_t number);
 
 /// What is asked of the planner's views.
 struct PlanAsked {
@@ -43,11 +47,16 @@ struct ViewContext {
     Settings settings;
     std::vector<PortInHand> ports;  ///< those asked for, or all of the area's for the list
     std::string areaname;
-    Date dateonshow{};  ///< the date asked for
-    Date first{};       ///< it, or the first of its month
+    bool several = false;   ///< it is one of several areas, each with its own context
+    bool opens = true;      ///< nothing has been shown before it
+    bool concludes = true;  ///< nothing is shown behind it
+    Date dateonshow{};      ///< the date asked for
+    Date first{};           ///< it, or the first of its month
     int days = 1;
     PlanAsked plan;
 };
+
+class CalendarWriter;
 
 struct View {
     const char* option;  ///< empty for the high and low waters
@@ -61,14 +70,13 @@ struct View {
     bool planned = false;        ///< by the planner: on a clock of the port's, to the minute
     bool hasboat = false;        ///< it is about a boat's passage
     bool presentmoment = false;  ///< it is about no day
-    /// Writes a calendar; false, and nothing written, when there is no event.
-    bool (*calendar)(const ViewContext&, std::ostream&, Absences&) = nullptr;
+    void (*calendar)(const ViewContext&, CalendarWriter&, Absences&) = nullptr;
 };
 
 extern const View watersview, samplesview, monthview, sunview, orbitalview, listview, planwatersview, accessview,
-    nowview;
+    nowview, aboutview;
 
-/// Every view; the first is the one shown when none is asked for.
+/// Every view that an option asks for; the first is the one shown when none is asked for.
 std::span<const View* const> views();
 
 /// Predicts a day of a port under the context's summer choice, turning points included.

@@ -10,7 +10,7 @@
 namespace tarvane {
 namespace {
 
-constexpr double samplestep = 1.0 / 6;
+constexpr double rowstep = 1.0 / 6;
 constexpr std::size_t rows = 146;  // the last water can stand on row 145, and is told by the row behind it
 using Rows = std::array<double, rows + 1>;
 
@@ -18,9 +18,9 @@ using Rows = std::array<double, rows + 1>;
 Rows timesfrom(std::size_t first) {
     double t = 0;
     for (std::size_t j = 1; j < first; ++j)
-        t += samplestep;
+        t += rowstep;
     Rows times{};
-    for (std::size_t row = 1; row <= rows; ++row, t += samplestep)
+    for (std::size_t row = 1; row <= rows; ++row, t += rowstep)
         times[row] = t;
     return times;
 }
@@ -50,8 +50,8 @@ class Turning {
           amplitude_(amplitude),
           factor_(factor),
           factorrate_(factorrate),
-          stepsine_(std::sin(-rate * samplestep * formradians)),
-          stepcosine_(std::cos(-rate * samplestep * formradians)) {}
+          stepsine_(std::sin(-rate * rowstep * formradians)),
+          stepcosine_(std::cos(-rate * rowstep * formradians)) {}
 
     void turnto(double t) {
         const double raw = lag_ - t * rate_;

@@ -16,7 +16,7 @@ namespace tarvane {
 namespace {
 
 constexpr int heightdecimals = 4;
-constexpr int lastrow = 145;  // of the day's samples: 24:00
+constexpr int midnightrow = 145;  // of the day's samples: 24:00
 constexpr std::size_t daysofpart = 366;
 
 std::vector<Column> waterscolumns() {
@@ -52,7 +52,7 @@ std::vector<DayAsked> daysasked(const ViewContext& context) {
 const std::vector<std::string>& rowclocks() {
     static const std::vector<std::string> clocks = [] {
         std::vector<std::string> texts;
-        for (int row = 0; row <= lastrow; ++row)
+        for (int row = 0; row <= midnightrow; ++row)
             texts.push_back(row == 0 ? "" : timetext(DayWater{.row = row}.time()));
         return texts;
     }();
@@ -76,7 +76,7 @@ void takedays(const PortInHand& port, std::span<const DayAsked> days, WaterRows&
                                      .substr(asked.text.size() + 1);
         for (const DayWater& water : std::span(found.waters).first(static_cast<std::size_t>(found.count))) {
             const std::string& clock = rowclocks()[static_cast<std::size_t>(water.row)];
-            const std::string& date = water.row < lastrow ? asked.text : days[i + 1].text;
+            const std::string& date = water.row < midnightrow ? asked.text : days[i + 1].text;
             moment.assign(date).append("T").append(clock).append(zone);
             height = fixed(water.height, heightdecimals);
             made.rows.row(std::array<std::string_view, 8>{number, port.name, date, clock, height, kindof(water.high),

@@ -293,9 +293,8 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
     const TextLook look = textlook(picture, picture.look.needed, Anchor::middle, true);
     const double tall = canvas.textheight(look), foot = floorof(picture, scale);
     const double top = foot + inset + 2 * tall > scale.plot.bottom ? foot - 2 * tall - inset : foot + inset / 2;
-    // Over many days on end they would cut the curve in two.
-    const std::optional<Rgb> behind =
-        scale.to - scale.from < days(9) ? std::optional(picture.look.paper) : std::nullopt;
+    // Over many days on end they would cut the curve in two, and the table tells them all.
+    const bool fewdays = scale.to - scale.from < days(9);
     for (const PlannedWindow& each : picture.access->windows) {
         const Moment opens = std::max(each.opens, scale.from), closes = std::min(each.closes, scale.to);
         if (opens >= closes) continue;
@@ -311,7 +310,7 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
         const double middle = (scale.x(opens) + scale.x(closes)) / 2;
         labels.push_back({{from + between + until}, look, {middle, top}, 30, picture.look.paper});
         // In two lines where one is too wide for its neighbours.
-        labels.push_back({{from, until}, look, {middle, top}, 20, behind});
+        if (fewdays) labels.push_back({{from, until}, look, {middle, top}, 20, picture.look.paper});
     }
     return labels;
 }

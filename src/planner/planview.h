@@ -26,7 +26,7 @@ struct PlanView {
     std::vector<std::string> ports;  ///< names of the area's ports, in file order
     std::optional<PortAbout> about;
     Date first{};
-    Date today{};  ///< as it was when the clock was last looked at
+    Date today{};                   ///< as it was when the clock was last looked at
     std::array<float, 3> stored{};  ///< draught, clearance and depth of the classic window
     PlanQuestion question;
     QuestionRead read;           ///< of the last question that could be meant; refused where there was none yet

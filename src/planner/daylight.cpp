@@ -39,6 +39,8 @@ void addlight(Stretches& stretches, const Events& events, double latitude, doubl
 
 Light lightof(double latitude, double longitude, Date first, int days) {
     Light light;
+    // A record that can't be meant may hold any place.
+    if (!(std::abs(latitude) <= 90 && std::abs(longitude) <= 360)) return light;
     for (int i = -1; i <= days; ++i) {
         const Date date = first + std::chrono::days(i);
         const SunHours sun = SunTimes(latitude, longitude, dayof(date), monthof(date), yearof(date), 0, 0);

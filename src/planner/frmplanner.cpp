@@ -280,10 +280,13 @@ void frmplanner::showdate() {
 void frmplanner::shownow() {
     const Moment now = context.services.clock.moment();
     const std::string iana = view.about ? view.about->timezone : "";
-    lblNow->setText(
-        screentext(view.whynot.empty()
-                       ? nowtext(present.at(view.port, iana, view.settings.clock, context.services.zones, now), now)
-                       : view.whynot));
+    // In the port's own time, whatever clock the days are told by.
+    const auto told = [&] {
+        const Plan& today = present.at(view.port, iana, ClockChoice::port, context.services.zones, now);
+        const bool another = view.settings.clock != ClockChoice::port;
+        return nowtext(today, now) + (another ? " (" + today.clock().at(now).name + ")" : "");
+    };
+    lblNow->setText(screentext(view.whynot.empty() ? told() : view.whynot));
     // By now a window may have closed.
     tellanswer();
     picture->shownow();

@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace tarvane {
 namespace {
 
 constexpr double standhours = 2;
 constexpr double standmetres = 0.1;
-constexpr double nearmidnight = 1;  // hours
+constexpr double nearmidnight = 1;    // hours
+constexpr double tidehours = 12.4206;  // from one to the next, of the moon's
 
 bool rising(const TideRun& run) {
     return run.first < run.last;
@@ -56,17 +58,23 @@ void markstands(std::vector<Water>& waters) {
     }
 }
 
+/// The range from a water to those ahead of it, `step` -1, or behind: where tides double, to the one that ends the tide.
+std::optional<double> rangebeside(const std::vector<Water>& waters, std::size_t of, std::size_t step) {
+    std::optional<double> greatest;
+    for (std::size_t i = of + step; i < waters.size(); i += 2 * step) {
+        if (greatest && std::abs(waters[i].hours - waters[of].hours) > tidehours) break;
+        const double rise = waters[of].height - waters[i].height;
+        greatest = std::max(greatest.value_or(0), waters[of].high ? rise : -rise);
+    }
+    return greatest;
+}
+
 void setshares(std::vector<Water>& waters, double springrange) {
     if (springrange <= 0) return;
     for (std::size_t i = 0; i < waters.size(); ++i) {
-        double sum = 0;
-        int ranges = 0;
-        for (const std::size_t beside : {i - 1, i + 1}) {
-            if (beside >= waters.size()) continue;
-            sum += std::abs(waters[i].height - waters[beside].height);
-            ++ranges;
-        }
-        if (ranges > 0) waters[i].springshare = sum / ranges / springrange;
+        const auto ahead = rangebeside(waters, i, std::size_t(-1)), behind = rangebeside(waters, i, 1);
+        if (ahead || behind)
+            waters[i].springshare = (ahead.value_or(*behind) + behind.value_or(*ahead)) / 2 / springrange;
     }
 }
 

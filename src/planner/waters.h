@@ -14,7 +14,8 @@ struct Water {
     double height = 0;  ///< metres above chart datum
     bool high = false;
     bool stand = false;      ///< one of two of a kind less than 2 hours and 0.1 m apart, or the turn between them
-    double springshare = 0;  ///< mean of the ranges on both sides over the port's mean spring range; 0 without either
+    double springshare = 0;  ///< mean of the ranges on both sides, each the greatest to a water of the other kind within
+                             ///< 12.42 hours or else to the next, over the port's mean spring range; 0 without either
 };
 
 /// Mean ranges of the port, metres: twice the sum and the difference of M2 and S2.

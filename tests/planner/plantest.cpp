@@ -114,6 +114,28 @@ TEST(Plan, WindowsOfASimpleTideAreThoseOfItsCosine) {
         EXPECT_LE(each.window.greatestheight, 4);
 }
 
+TEST(Plan, EachOfADoubleWaterHasTheRangeOfItsTide) {
+    // Two highs of 4.60 and 4.48 m at springs, a dip of a decimetre between them, lows of 0.63 and 0.40 m.
+    const Plan plan = planof(shipped("Southampton"), "Europe/London", date(2026, 11, 24), 1);
+    std::vector<Water> highest;
+    for (const PlannedWater& each : plan.waters()) {
+        if (each.water.high && each.water.height > 4) highest.push_back(each.water);
+        if (!each.water.high && each.water.height > 4) {
+            EXPECT_LT(each.water.springshare, 0.05);
+        }
+    }
+    ASSERT_EQ(highest.size(), 3U);
+    for (const Water& each : highest)
+        EXPECT_NEAR(each.springshare, (each.height - 0.5) / meanspringrange(plan.planof().port), 0.03);
+    const std::vector<PlannedWater> simple = planof(m2port(4, 2), "Europe/London", date(2026, 7, 14), 3).waters();
+    for (const PlannedWater& each : simple)
+        EXPECT_NEAR(each.water.springshare, std::abs(each.water.height - 4) / 2, 0.01);
+    // A stand: less than 2 hours and 0.1 m between two of a kind.
+    const Plan before = planof(shipped("Southampton"), "Europe/London", date(2026, 11, 23), 1);
+    for (const PlannedWater& each : before.waters())
+        EXPECT_EQ(each.water.stand, each.water.height > 4.3 && each.moment > before.begins() + 12h);
+}
+
 TEST(Plan, WishesLeaveOutWhatIsDarkOrShort) {
     const Plan plan = planof(shipped("Newlyn"), "Europe/London", date(2026, 12, 21), 7);
     Passage passage;

@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/canvas.h"
@@ -31,6 +33,7 @@ class PainterCanvas : public Canvas {
         bool bold;
         QFont font;
         QFontMetricsF metrics;
+        mutable std::unordered_map<std::string, double> widths;  ///< measured so far: measuring is dear
     };
     bool levelline(std::span<const Place> places, const LineLook& look);
     const Font& fontof(const TextLook& look) const;

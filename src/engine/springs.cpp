@@ -63,6 +63,14 @@ std::optional<double> findspringslag(const Prediction& prediction) {
     return std::nullopt;
 }
 
+double meanspringrange(const HarmonicRecord& port) {
+    return 2 * (double{port.M2Hm} + double{port.S2Hm});
+}
+
+double meanneaprange(const HarmonicRecord& port) {
+    return 2 * (double{port.M2Hm} - double{port.S2Hm});
+}
+
 std::string springstext(double springslag) {
     for (const StatusBand& band : statusbands)
         if (springslag >= band.from && springslag <= band.to) return band.status;

@@ -12,6 +12,11 @@ namespace tarvane {
 /// lag in force then stands).
 std::optional<double> findspringslag(const Prediction& prediction);
 
+/// Mean ranges of a port, metres: twice the sum and the difference of M2 and S2. At neaps it is negative where S2 is
+/// the greater.
+double meanspringrange(const HarmonicRecord& port);
+double meanneaprange(const HarmonicRecord& port);
+
 /// The status in words; empty outside 0 to 14.
 std::string springstext(double springslag);
 

@@ -92,6 +92,9 @@ class frmtarvane : public QMainWindow {
     void opendialog(Dialog dialog);
     void openadjust();
     void openplanner();
+    void openfinder();
+    void openmap();
+    void openabout();
     void shownow();
 
     /// A menu or an entry that the view can hide or disable.

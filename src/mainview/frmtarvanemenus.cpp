@@ -48,6 +48,12 @@ void frmtarvane::opendialog(Dialog dialog) {
             return openadjust();
         case Dialog::planner:
             return openplanner();
+        case Dialog::finder:
+            return openfinder();
+        case Dialog::map:
+            return openmap();
+        case Dialog::aboutport:
+            return openabout();
         case Dialog::correctconstants:
             return openmodal<frmharmedit>(context, this);
         case Dialog::copyports:
@@ -81,6 +87,9 @@ void frmtarvane::openplanner() {
             chooseport(context, number);
             showview();
         };
+        planner->onfind = [this] { openfinder(); };
+        planner->onmap = [this] { openmap(); };
+        planner->onabout = [this] { openabout(); };
         planner->onnight = [this](bool night) {
             if (onnight) onnight(night);
         };

@@ -108,6 +108,18 @@ void openplanner(Desk& desk) {
     desk.open(Dialog::planner);
 }
 
+void findaport(Desk& desk) {
+    desk.open(Dialog::finder);
+}
+
+void openmap(Desk& desk) {
+    desk.open(Dialog::map);
+}
+
+void aboutport(Desk& desk) {
+    desk.open(Dialog::aboutport);
+}
+
 void help(Desk& desk) {
     desk.context.services.windows.showmanual("frmtarvane");
 }
@@ -145,6 +157,9 @@ constexpr MenuEntry entries[] = {
     {"mnutides", "mnuNextPort", "Next Port ", "Ctrl+PgDown", run<nextport>},
     {"mnutides", "mnuPrevPort", "Prev Port", "Ctrl+PgUp", run<previousport>},
     {"mnutides", "mnuArea", "Sea &Area", "", selectarea},
+    {"mnutides", "mnuFinder", "&Find in All Areas", "Ctrl+Shift+F", findaport},
+    {"mnutides", "mnuMap", "&Map", "Ctrl+Shift+M", openmap},
+    {"mnutides", "mnuAboutPort", "About This Port", "Ctrl+I", aboutport},
     {"mnuCalc", "mnumonth", "&Months Tide", "Ctrl+M", run<calculatemonth>, true},
     {"mnuCalc", "mnusunrise", "&Sunrise/Lunar phases", "", sunandmoon},
     {"mnuCalc", "mnuPlanner", "&Planner", "Ctrl+G", openplanner},

@@ -24,14 +24,18 @@ enum class Dialog {
     copydiamonds,
     importcharts,
     planner,
+    finder,
+    map,
+    aboutport,
     adjust
 };
 
 /// What a menu command works with: the session's context, and what only the window itself can do.
 struct Desk {
     MainContext& context;
-    std::function<void(Dialog)> open;  ///< shows a window, modal but for `adjust` and `planner`: back when it is closed
-    std::function<void()> leave;       ///< closes the main window
+    std::function<void(Dialog)>
+        open;  ///< shows a window, modal but for `adjust`, `planner` and `map`: back when it is closed
+    std::function<void()> leave;  ///< closes the main window
 };
 
 /// A menu on the bar or in another menu, in order.

@@ -11,9 +11,12 @@
 namespace tarvane {
 
 void chooseport(MainContext& context, std::int16_t number) {
-    Session& session = context.session;
     // The number is of the area in hand, whatever another run of the program has stored meanwhile.
-    const std::string area = session.settings.hcfile;
+    chooseport(context, std::string(context.session.settings.hcfile), number);
+}
+
+void chooseport(MainContext& context, const std::string& area, std::int16_t number) {
+    Session& session = context.session;
     reloadforportlist(context);
     session.settings.areafile = area;
     PortList list;

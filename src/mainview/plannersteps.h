@@ -1,5 +1,5 @@
-// What the main window does when the planner asks for it, and the present tide in its status bar. Must not know any
-// control.
+// What the main window does when a window beside it asks for it, and the present tide in its status bar. Must not know
+// any control.
 #pragma once
 
 #include "planner/presenttide.h"
@@ -9,6 +9,10 @@ namespace tarvane {
 
 /// Makes a port of the sea area current, by its number, as choosing it in the list of ports does.
 void chooseport(MainContext& context, std::int16_t number);
+
+/// Makes a port of any sea area current, by the path of the area's file, as choosing that area and then the port in its
+/// list does.
+void chooseport(MainContext& context, const std::string& area, std::int16_t number);
 
 /// Shows a day, as entering its date does.
 void showdate(MainContext& context, Date date);

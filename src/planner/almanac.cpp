@@ -77,7 +77,7 @@ void paintrowwaters(Canvas& canvas, const AlmanacTable& table, double top, const
 }
 
 void paintsun(Canvas& canvas, const AlmanacTable& table, double y, const PagePlan& pages, const DayFacts& day) {
-    const TextLook look{planlook(PlanLight::day).faint, pagetype::lesser, false, Anchor::right};
+    const TextLook look{coloursof(Lighting::day).faint, pagetype::lesser, false, Anchor::right};
     if (!day.sunrise && !day.sunset)
         return canvas.text({table.sunset, y}, day.sunatnoon ? "up all day" : "down all day", look);
     if (day.sunrise) canvas.text({table.sunrise, y}, watertime(pages, day, *day.sunrise), look);
@@ -91,7 +91,7 @@ std::string tidewords(const SpringTide& tide) {
 
 void paintrow(Canvas& canvas, const Area& area, const AlmanacTable& table, double top, const PagePlan& pages,
               const DayFacts& day) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     if (day.weekend()) canvas.fill({area.left, top, area.right, top + table.row}, look.twilight);
     const bool monday = weekdayof(day.date) == 1;
     hairline(canvas, {area.left, top}, {area.right, top}, monday ? look.faint : look.grid);
@@ -116,7 +116,7 @@ void paintrow(Canvas& canvas, const Area& area, const AlmanacTable& table, doubl
 }
 
 void paintheadings(Canvas& canvas, const Area& area, const AlmanacTable& table) {
-    const TextLook left{planlook(PlanLight::day).faint, pagetype::least};
+    const TextLook left{coloursof(Lighting::day).faint, pagetype::least};
     TextLook right = left;
     right.anchor = Anchor::right;
     const double y = table.top - canvas.textheight(left) - 2;
@@ -128,7 +128,7 @@ void paintheadings(Canvas& canvas, const Area& area, const AlmanacTable& table) 
 
 /// The month's tides, on the year's scale, with its weekends, moons, springs and neaps.
 void paintstrip(Canvas& canvas, const Area& area, const PagePlan& pages, std::size_t first, std::size_t last) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const TextLook number{look.faint, pagetype::least, false, Anchor::middle};
     const double day = area.width() / static_cast<double>(last - first);
     const double numbers = area.bottom - canvas.textheight(number);
@@ -165,7 +165,7 @@ void paintalmanacmonth(Canvas& canvas, const Area& area, const PagePlan& pages, 
     for (std::size_t i = first; i < last; ++i)
         paintrow(canvas, rows, table, table.top + static_cast<double>(i - first) * table.row, pages, pages.days[i]);
     const double end = table.top + static_cast<double>(last - first) * table.row;
-    hairline(canvas, {rows.left, end}, {rows.right, end}, planlook(PlanLight::day).faint);
+    hairline(canvas, {rows.left, end}, {rows.right, end}, coloursof(Lighting::day).faint);
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ std::string timewords(const ClockTime& time, bool offset) {
 }
 
 void painttablehead(Canvas& canvas, const Area& area, const std::string& title, const std::string& note) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const TextLook head{look.text, pagetype::heading, true};
     canvas.text({area.left, area.top}, title, head);
     const double left = area.left + canvas.textwidth(title, head) + 8;
@@ -53,7 +53,7 @@ void painttablehead(Canvas& canvas, const Area& area, const std::string& title, 
 /// One column of dates: day, high water, range and its share of mean springs.
 void painttides(Canvas& canvas, const Area& area, const PagePlan& pages, const std::vector<SpringTide>& tides,
                 bool springs, double line) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     painttablehead(canvas, area, springs ? "Springs" : "Neaps", "high water, range, of mean springs");
     const TextLook left{look.text, pagetype::lesser};
     const TextLook right{look.text, pagetype::lesser, false, Anchor::right};
@@ -77,7 +77,7 @@ void painttides(Canvas& canvas, const Area& area, const PagePlan& pages, const s
 
 /// A row a lunation, from new moon to last quarter.
 double paintmoons(Canvas& canvas, const Area& area, const PagePlan& pages, double line) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     static constexpr const char* names[phases] = {"New moon", "First quarter", "Full moon", "Last quarter"};
     painttablehead(canvas, area, "Moon", "");
     const double width = area.width() / phases;
@@ -106,7 +106,7 @@ double paintmoons(Canvas& canvas, const Area& area, const PagePlan& pages, doubl
 }  // namespace
 
 void paintalmanacyear(Canvas& canvas, const Area& area, const PagePlan& pages) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const double top = pagehead(canvas, area, pages, std::to_string(yearof(pages.days.front().date)));
     const double bottom = pagefoot(canvas, area, pages, {0, pages.days.size(), "", "page 13 of 13"});
     const std::vector<SpringTide> tides = pages.plan.springsandneaps();

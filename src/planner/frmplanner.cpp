@@ -12,45 +12,18 @@
 #include "dates/typeddate.h"
 #include "planner/plantexts.h"
 #include "platform/qt/appearance.h"
+#include "platform/qt/lightpalette.h"
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"
 #include "portdata/portsearch.h"
+#include "world/frmtrusticon.h"
 
 namespace tarvane {
 namespace {
 
 constexpr std::array spans{1, 2, 3, 7, 14, 31};
 constexpr int ticks = 5000;
-
-QPalette paletteof(const PlanLook& look) {
-    const auto colour = [](Rgb rgb) { return QColor::fromRgb(rgb); };
-    QPalette palette(colour(look.band));
-    palette.setColor(QPalette::Window, colour(look.band));
-    palette.setColor(QPalette::Base, colour(look.field));
-    palette.setColor(QPalette::AlternateBase, colour(look.band));
-    palette.setColor(QPalette::Button, colour(look.band));
-    palette.setColor(QPalette::ToolTipBase, colour(look.band));
-    for (const auto role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
-        palette.setColor(role, colour(look.text));
-    palette.setColor(QPalette::PlaceholderText, colour(look.faint));
-    // Halfway to what they stand on: to be seen as idle, and still to be read.
-    const auto half = [](int one, int other) { return (one + other) / 2; };
-    const QColor idle(half(palette.text().color().red(), palette.window().color().red()),
-                      half(palette.text().color().green(), palette.window().color().green()),
-                      half(palette.text().color().blue(), palette.window().color().blue()));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
-        palette.setColor(QPalette::Disabled, role, idle);
-    palette.setColor(QPalette::Highlight, colour(look.curve));
-    palette.setColor(QPalette::HighlightedText, colour(look.paper));
-    palette.setColor(QPalette::Link, colour(look.curve));
-    return palette;
-}
-
-PlanLight plannerlight(bool night) {
-    return night ? PlanLight::night : desktoplook().dark ? PlanLight::dark : PlanLight::day;
-}
 
 }  // namespace
 
@@ -95,6 +68,8 @@ void frmplanner::connectcontrols() {
     onstep(cmdNextDay, 1);
     onstep(cmdNextWeek, 7);
     connect(cmdToday, &QToolButton::clicked, this, [this] { gotodate(todayof(context, view)); });
+    for (const auto& [button, name] : {std::pair(cmdAbout, "mnuAboutPort"), {cmdFind, "mnuFind"}, {cmdMap, "mnuMap"}})
+        connect(button, &QToolButton::clicked, entry(name), &QAction::trigger);
     connect(DTPicker, &QLineEdit::editingFinished, this, [this] { typedate(); });
     DTPicker->onstep = [this](int days) { stepdays(days); };
     DTPicker->onpicked = [this](DateBox::Date date) { gotodate(date); };
@@ -225,9 +200,17 @@ void frmplanner::showall() {
     showcursor();
 }
 
+/// The mark beside the port's name.
+void frmplanner::showtrust() {
+    const Trust trust = trustof(view.about, false);
+    cmdAbout->setIcon(trusticon(trust, coloursof(shownlight), cmdAbout->iconSize().width()));
+    cmdAbout->setToolTip(QStringLiteral("How good this port is: %1 (Ctrl+I)").arg(trustword(trust)));
+}
+
 void frmplanner::showplan() {
     setWindowTitle(screentext(view.portname.empty() ? "Planner" : view.portname + " - Planner"));
     showdate();
+    showtrust();
     lblFoot->setText(screentext(planfoot(view)));
     showanswer();
     shownow();
@@ -302,8 +285,8 @@ void frmplanner::showcursor() {
 
 void frmplanner::shownight(bool night) {
     view.settings.night = night;
-    shownlight = plannerlight(night);
-    const PlanLook& look = planlook(shownlight);
+    shownlight = lightingof(night);
+    const Colours& look = coloursof(shownlight);
     setPalette(paletteof(look));
     // Its own style keeps it from the window's palette.
     DTPicker->arrow->ensurePolished();
@@ -311,6 +294,7 @@ void frmplanner::shownight(bool night) {
     lightpopups(paletteof(look));
     lightdays();
     picture->setlook(look);
+    showtrust();
     if (onnight) onnight(night);
 }
 
@@ -332,7 +316,7 @@ void frmplanner::lightpopups(const QPalette& palette) {
 
 /// A day that is asked for stands out in every light.
 void frmplanner::lightdays() {
-    const PlanLook& look = planlook(shownlight);
+    const Colours& look = coloursof(shownlight);
     QPalette chosen = paletteof(look);
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         chosen.setColor(group, QPalette::Button, QColor::fromRgb(look.curve));
@@ -387,7 +371,7 @@ void frmplanner::keyPressEvent(QKeyEvent* event) {
 void frmplanner::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         shownow();
-        if (shownlight != plannerlight(view.settings.night)) shownight(view.settings.night);
+        if (shownlight != lightingof(view.settings.night)) shownight(view.settings.night);
     }
     QMainWindow::changeEvent(event);
 }

@@ -33,13 +33,16 @@ class frmplanner : public QMainWindow {
     std::function<void(Date date)> onday;
     std::function<void(bool night)> onnight;
 
+    /// Other windows that it asks for: the finder, the map, what is known of the port.
+    std::function<void()> onfind, onmap, onabout;
+
     /// The session may have another port by now.
     void follow();
 
     PlanPictureBox* picture = nullptr;
     QComboBox *cmbPort = nullptr, *cmbSpan = nullptr, *cmbClock = nullptr, *cmbDaylight = nullptr;
     QToolButton *cmdPreviousWeek = nullptr, *cmdPreviousDay = nullptr, *cmdNextDay = nullptr, *cmdNextWeek = nullptr,
-                *cmdToday = nullptr;
+                *cmdToday = nullptr, *cmdFind = nullptr, *cmdMap = nullptr, *cmdAbout = nullptr;
     DateBox* DTPicker = nullptr;
     QLabel *lblDayName = nullptr, *lblNow = nullptr, *lblNeeded = nullptr, *lblAnswer = nullptr, *lblCursor = nullptr,
            *lblFoot = nullptr, *lblSaid = nullptr;
@@ -75,6 +78,7 @@ class frmplanner : public QMainWindow {
     void fillfields();
     void showall();
     void showplan();
+    void showtrust();
     void showpage();
     void showdate();
     void showanswer();
@@ -97,7 +101,7 @@ class frmplanner : public QMainWindow {
     PlanView view;
     PresentTide present;
     QTimer *minute = nullptr, *keeplater = nullptr;
-    PlanLight shownlight = PlanLight::day;
+    Lighting shownlight = Lighting::day;
     bool filling = false;  ///< the controls follow the view, not the user
 };
 

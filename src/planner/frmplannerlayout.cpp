@@ -126,6 +126,13 @@ QLayout* frmplanner::buildchoices() {
     auto* row = new QHBoxLayout;
     row->addWidget(captionof("&Port", cmbPort));
     row->addWidget(cmbPort, 1);
+    cmdAbout = stepbutton("cmdAbout", "", "About this port");
+    cmdFind = stepbutton("cmdFind", "Find", "Find a port in all areas (Ctrl+F)");
+    cmdMap = stepbutton("cmdMap", "Map", "Choose a port on the map (Ctrl+M)");
+    for (QToolButton* button : {cmdAbout, cmdFind, cmdMap}) {
+        button->setAutoRaise(button == cmdAbout);
+        row->addWidget(button);
+    }
     auto* date = new QHBoxLayout;
     date->setSpacing(0);
     for (QWidget* each : {static_cast<QWidget*>(cmdPreviousWeek), static_cast<QWidget*>(cmdPreviousDay),

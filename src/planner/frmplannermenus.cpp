@@ -81,10 +81,17 @@ void frmplanner::buildmenus() {
     add(go, "mnuNextDay", "&Next Day", QKeySequence("PgDown"), [this] { stepdays(1); });
     add(go, "mnuPreviousWeek", "Pre&vious Week", QKeySequence("Shift+PgUp"), [this] { stepdays(-7); });
     add(go, "mnuNextWeek", "Ne&xt Week", QKeySequence("Shift+PgDown"), [this] { stepdays(7); });
-    add(go, "mnuPort", "Choose P&ort", QKeySequence("Ctrl+F"), [this] {
+    go->addSeparator();
+    add(go, "mnuPort", "P&ort of This Area", QKeySequence("Ctrl+L"), [this] {
         cmbPort->setFocus();
         cmbPort->lineEdit()->selectAll();
     });
+    const auto call = [](const std::function<void()>& other) {
+        if (other) other();
+    };
+    add(go, "mnuFind", "&Find a Port", QKeySequence::Find, [this, call] { call(onfind); });
+    add(go, "mnuMap", "&Map", QKeySequence("Ctrl+M"), [this, call] { call(onmap); });
+    add(go, "mnuAboutPort", "&About This Port", QKeySequence("Ctrl+I"), [this, call] { call(onabout); });
 
     QMenu* show = menuBar()->addMenu("&View");
     add(show, "mnuZoomIn", "Zoom &In", QKeySequence::ZoomIn, [this] {

@@ -35,7 +35,7 @@ std::vector<std::string> bubblelines(const std::string& text) {
 }  // namespace
 
 PlanPictureBox::PlanPictureBox(PlanView& owner, const Services& all, QWidget* parent)
-    : QWidget(parent), view(owner), services(all), look(&planlook(PlanLight::day)) {
+    : QWidget(parent), view(owner), services(all), look(&coloursof(Lighting::day)) {
     setObjectName("picture");
     setAccessibleName("Tides of the days, with the windows of passage");
     setFocusPolicy(Qt::StrongFocus);
@@ -44,7 +44,7 @@ PlanPictureBox::PlanPictureBox(PlanView& owner, const Services& all, QWidget* pa
     grabGesture(Qt::PinchGesture);
 }
 
-void PlanPictureBox::setlook(const PlanLook& wanted) {
+void PlanPictureBox::setlook(const Colours& wanted) {
     look = &wanted;
     redraw();
 }

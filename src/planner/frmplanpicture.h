@@ -20,7 +20,7 @@ class PlanPictureBox : public QWidget {
     std::function<void(Date date)> onday;  ///< a day was double clicked
     std::function<void()> onnow;           ///< Home was pressed while now isn't in the plan
 
-    void setlook(const PlanLook& wanted);
+    void setlook(const Colours& wanted);
 
     /// The plan, its answer or the part shown were changed.
     void redraw();
@@ -52,7 +52,7 @@ class PlanPictureBox : public QWidget {
 
     PlanView& view;
     const Services services;
-    const PlanLook* look;
+    const Colours* look;
     PlanScale scale;
     QPixmap painted;  ///< null when it is to be painted anew
     std::optional<double> draggedfrom;

@@ -82,7 +82,7 @@ MonthLayout layoutof(const Canvas& canvas, const Area& weeks, const PagePlan& pa
 }
 
 void paintdayhead(Canvas& canvas, const Area& cell, const DayFacts& day) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const TextLook number{look.text, pagetype::heading, true};
     const std::string text = std::to_string(dayof(day.date)) + (day.change ? "*" : "");
     canvas.text({cell.left + cellinset, cell.top + 1}, text, number);
@@ -95,7 +95,7 @@ void paintdayhead(Canvas& canvas, const Area& cell, const DayFacts& day) {
 
 /// The curve with its nights, and a bar where she can pass.
 void paintdaycurve(Canvas& canvas, const Area& area, const PagePlan& pages, const DayFacts& day) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const double length = static_cast<double>((day.ends - day.begins).count());
     const auto x = [&](Moment moment) {
         const Moment within = std::clamp(moment, day.begins, day.ends);
@@ -128,7 +128,7 @@ void paintwaters(Canvas& canvas, Place top, const MonthLayout& layout, const Pag
 }
 
 void paintday(Canvas& canvas, const Area& cell, const MonthLayout& layout, const PagePlan& pages, const DayFacts& day) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     if (day.weekend()) canvas.fill(cell, look.twilight);
     paintdayhead(canvas, cell, day);
     const double top = layout.waterstop(cell);
@@ -143,7 +143,7 @@ void paintday(Canvas& canvas, const Area& cell, const MonthLayout& layout, const
 }
 
 void paintgrid(Canvas& canvas, const MonthLayout& layout, double top, const PagePlan& pages) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     for (int i = 0; i < weekdays; ++i) {
         const TextLook name{look.text, pagetype::body, i >= 5, Anchor::middle};
         const double middle = layout.weeks.left + (i + 0.5) * layout.cellwidth;

@@ -190,7 +190,7 @@ std::string waterheight(const Water& water) {
 }
 
 TextLook waterlook(const Water& water, double size) {
-    return {planlook(PlanLight::day).text, size, water.high, Anchor::left};
+    return {coloursof(Lighting::day).text, size, water.high, Anchor::left};
 }
 
 std::string passagewords(const PagePlan& pages) {
@@ -261,7 +261,7 @@ void hairline(Canvas& canvas, Place from, Place to, Rgb colour, double width) {
 }
 
 double pagehead(Canvas& canvas, const Area& area, const PagePlan& pages, const std::string& what) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const TextLook title{look.text, pagetype::title, true};
     TextLook right{look.curve, pagetype::title, true, Anchor::right};
     const TextLook lesser{look.faint, pagetype::lesser};
@@ -279,7 +279,7 @@ double pagehead(Canvas& canvas, const Area& area, const PagePlan& pages, const s
 }
 
 double pagefoot(Canvas& canvas, const Area& area, const PagePlan& pages, const FootOf& foot) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const TextLook type{look.faint, pagetype::least};
     const TextLook maker{look.faint, pagetype::least, false, Anchor::right};
     const std::string datum =
@@ -298,7 +298,7 @@ double pagefoot(Canvas& canvas, const Area& area, const PagePlan& pages, const F
 }
 
 void smallcurve(Canvas& canvas, const Area& area, const PagePlan& pages, Moment from, Moment to, minutes step) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const double length = static_cast<double>((to - from).count());
     const double span = pages.heights.greatest - pages.heights.least;
     std::vector<Place> curve;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "planner/planlook.h"
+#include "paint/colours.h"
 #include "planner/planpages.h"
 
 namespace tarvane {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "dates/portclock.h"
 #include "planner/access.h"
 #include "planner/daylight.h"
-#include "planner/portclock.h"
 #include "planner/waters.h"
 
 namespace tarvane {

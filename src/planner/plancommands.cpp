@@ -58,7 +58,7 @@ Drawing drawingof(const MainContext& context, const PlanView& view, double width
     return {plantitle(view, locale), width, height, [&view, &locale, width, height](Canvas& canvas) {
                 const PlanPicture picture{.plan = *view.plan,
                                           .locale = locale,
-                                          .look = planlook(PlanLight::day),
+                                          .look = coloursof(Lighting::day),
                                           .area = {0, 0, width, height},
                                           .from = view.from,
                                           .to = view.to,

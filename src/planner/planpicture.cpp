@@ -6,7 +6,7 @@
 #include <numbers>
 
 #include "dates/dateformats.h"
-#include "planner/planlabels.h"
+#include "paint/labels.h"
 #include "planner/plantexts.h"
 #include "sunmoon/lunarphases.h"
 
@@ -271,24 +271,24 @@ bool onlevel(const PlanPicture& picture, const PlanScale& scale, const Area& tex
     return strikes(picture.passage->needed()) || (ceiling && strikes(*ceiling));
 }
 
-std::vector<PlanLabel> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+std::vector<Label> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const double tall = canvas.textheight(textlook(picture, 0));
-    std::vector<PlanLabel> labels;
+    std::vector<Label> labels;
     for (const PlannedWater& each : picture.plan.waters()) {
         if (each.moment < scale.from || each.moment > scale.to) continue;
         const double y = scale.y(each.water.height);
-        PlanLabel label{{plainclock(picture.plan.clock(), each.moment), metres(each.water.height)},
-                        textlook(picture, picture.look.text, Anchor::middle, each.water.high),
-                        {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
-                        each.water.springshare + (each.water.high ? 10 : 0) - (each.water.stand ? 5 : 0)};
+        Label label{{plainclock(picture.plan.clock(), each.moment), metres(each.water.height)},
+                    textlook(picture, picture.look.text, Anchor::middle, each.water.high),
+                    {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
+                    each.water.springshare + (each.water.high ? 10 : 0) - (each.water.stand ? 5 : 0)};
         if (onlevel(picture, scale, areaof(canvas, label))) label.behind = picture.look.paper;
         labels.push_back(label);
     }
     return labels;
 }
 
-std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
-    std::vector<PlanLabel> labels;
+std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    std::vector<Label> labels;
     if (!picture.passage || !picture.access) return labels;
     const TextLook look = textlook(picture, picture.look.needed, Anchor::middle, true);
     const double tall = canvas.textheight(look), foot = floorof(picture, scale);
@@ -316,24 +316,24 @@ std::vector<PlanLabel> windowlabels(const Canvas& canvas, const PlanPicture& pic
 }
 
 /// Each window's times once: the wide labels when all of them have room, else those of two lines.
-std::vector<PlanLabel> oneform(const Canvas& canvas, std::vector<PlanLabel> labels, double room) {
+std::vector<Label> oneform(const Canvas& canvas, std::vector<Label> labels, double room) {
     bool wide = true;
     double behind = -HUGE_VAL;
-    for (const PlanLabel& each : labels) {
+    for (const Label& each : labels) {
         if (each.lines.size() != 1) continue;
         const double half = canvas.textwidth(each.lines[0], each.look) / 2;
         wide = wide && each.middle.x - half > behind;
         behind = each.middle.x + half + room;
     }
-    std::erase_if(labels, [&](const PlanLabel& each) { return (each.lines.size() == 1) != wide; });
+    std::erase_if(labels, [&](const Label& each) { return (each.lines.size() == 1) != wide; });
     return labels;
 }
 
 void paintlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
-    std::vector<PlanLabel> labels = oneform(canvas, windowlabels(canvas, picture, scale), inset);
-    for (const PlanLabel& each : waterlabels(canvas, picture, scale))
+    std::vector<Label> labels = oneform(canvas, windowlabels(canvas, picture, scale), inset);
+    for (const Label& each : waterlabels(canvas, picture, scale))
         labels.push_back(each);
-    for (const PlanLabel& each : places.place(labels))
+    for (const Label& each : places.place(labels))
         paintlabel(canvas, each);
 }
 
@@ -395,7 +395,7 @@ void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
         canvas.text({bubble.left + inset, bubble.top + inset + tall * static_cast<double>(i)}, words[i], look);
 }
 
-void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const PlanLook& look) {
+void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const Colours& look) {
     std::vector<Place> rim, half;
     for (int i = 0; i <= 36; ++i) {
         const double turn = i * std::numbers::pi / 18;

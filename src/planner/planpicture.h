@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "paint/colours.h"
 #include "planner/plan.h"
-#include "planner/planlook.h"
 #include "platform/canvas.h"
 #include "platform/locale.h"
 
@@ -17,7 +17,7 @@ namespace tarvane {
 struct PlanPicture {
     const Plan& plan;
     const Locale& locale;
-    const PlanLook& look;
+    const Colours& look;
     Area area;                              ///< of the canvas; all of it is painted
     Moment from, to;                        ///< of the part that is shown
     std::optional<Passage> passage = {};    ///< when the level needed and the bottom are shown
@@ -54,6 +54,6 @@ void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
 std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
 
 /// A moon of a phase, 0 new to 3 last quarter, as the north sees it.
-void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const PlanLook& look);
+void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const Colours& look);
 
 }  // namespace tarvane

@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "dates/portclock.h"
 #include "files/wholefiles.h"
 #include "planner/access.h"
-#include "planner/portclock.h"
 #include "platform/drawings.h"
 #include "portdata/configuration.h"
 

@@ -83,7 +83,7 @@ WaterList waterlist(const Canvas& canvas, const PagePlan& pages, double width, d
 }
 
 void paintcolumn(Canvas& canvas, Place top, const WaterList& list, const WaterColumn& column, const PagePlan& pages) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     const TextLook head{look.curve, list.size, true}, lesser{look.faint, list.size};
     const double line = canvas.textheight(head);
     const double heightend = canvas.textwidth("00:00*  -00.0", head);
@@ -117,7 +117,7 @@ void paintlist(Canvas& canvas, const Area& area, const WaterList& list, const Pa
         left += list.width;
     }
     if (list.days == pages.days.size()) return;
-    const TextLook look{planlook(PlanLight::day).faint, pagetype::lesser};
+    const TextLook look{coloursof(Lighting::day).faint, pagetype::lesser};
     const std::string words =
         "No room here for the waters of the last " + std::to_string(pages.days.size() - list.days) + " days.";
     canvas.text({area.left, area.bottom - gap - canvas.textheight(look)}, words, look);
@@ -170,7 +170,7 @@ WindowList windowlist(const Canvas& canvas, const PagePlan& pages, double width,
 }
 
 double paintwindows(Canvas& canvas, const Area& area, const WindowList& list, const PagePlan& pages) {
-    const PlanLook& look = planlook(PlanLight::day);
+    const Colours& look = coloursof(Lighting::day);
     double y = paragraph(canvas, area, passagewords(pages), {look.text, pagetype::body, true}) + 4;
     if (!list.answer.empty())
         return paragraph(canvas, {area.left, y, area.right, area.bottom}, list.answer,
@@ -220,7 +220,7 @@ void paintspan(Canvas& canvas, const Area& area, const PagePlan& pages) {
     const double list = bottom - heightof(canvas, waters, pages);
     paintlist(canvas, {area.left, list, area.right, bottom}, waters, pages);
     const PlanPicture picture{
-        pages.plan,          pages.locale,      planlook(PlanLight::day), {area.left, top, area.right, list - gap},
+        pages.plan,          pages.locale,      coloursof(Lighting::day), {area.left, top, area.right, list - gap},
         pages.plan.begins(), pages.plan.ends(), pages.of.passage,         pages.access ? &*pages.access : nullptr,
         pagetype::lesser};
     paintplan(canvas, picture, scaleof(picture, canvas));

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double standhours = 2;
 constexpr double standmetres = 0.1;
-constexpr double nearmidnight = 1;    // hours
+constexpr double nearmidnight = 1;     // hours
 constexpr double tidehours = 12.4206;  // from one to the next, of the moon's
 
 bool rising(const TideRun& run) {
@@ -58,7 +58,8 @@ void markstands(std::vector<Water>& waters) {
     }
 }
 
-/// The range from a water to those ahead of it, `step` -1, or behind: where tides double, to the one that ends the tide.
+/// The range from a water to those ahead of it, `step` -1, or behind: where tides double, to the one that ends the
+/// tide.
 std::optional<double> rangebeside(const std::vector<Water>& waters, std::size_t of, std::size_t step) {
     std::optional<double> greatest;
     for (std::size_t i = of + step; i < waters.size(); i += 2 * step) {
@@ -79,14 +80,6 @@ void setshares(std::vector<Water>& waters, double springrange) {
 }
 
 }  // namespace
-
-double meanspringrange(const HarmonicRecord& port) {
-    return 2 * (double{port.M2Hm} + double{port.S2Hm});
-}
-
-double meanneaprange(const HarmonicRecord& port) {
-    return 2 * (double{port.M2Hm} - double{port.S2Hm});
-}
 
 std::vector<Water> watersof(const TideSpan& span, double springrange) {
     std::vector<Water> waters;

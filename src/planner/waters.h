@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "engine/springs.h"
 #include "planner/tidespan.h"
 #include "portdata/records.h"
 
@@ -13,14 +14,11 @@ struct Water {
     double hours = 0;   ///< of zone time from 00:00 of the span's first day
     double height = 0;  ///< metres above chart datum
     bool high = false;
-    bool stand = false;      ///< one of two of a kind less than 2 hours and 0.1 m apart, or the turn between them
-    double springshare = 0;  ///< mean of the ranges on both sides, each the greatest to a water of the other kind within
-                             ///< 12.42 hours or else to the next, over the port's mean spring range; 0 without either
+    bool stand = false;  ///< one of two of a kind less than 2 hours and 0.1 m apart, or the turn between them
+    double springshare =
+        0;  ///< mean of the ranges on both sides, each the greatest to a water of the other kind within
+            ///< 12.42 hours or else to the next, over the port's mean spring range; 0 without either
 };
-
-/// Mean ranges of the port, metres: twice the sum and the difference of M2 and S2.
-double meanspringrange(const HarmonicRecord& port);
-double meanneaprange(const HarmonicRecord& port);
 
 /// The waters of `days` days from `first` on, in order of time. The day ahead and the day behind are looked at for
 /// their ranges and for what turns at midnight.

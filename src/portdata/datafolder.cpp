@@ -58,6 +58,13 @@ std::string datafile(const ProgramFolders& folders, const std::string& name) {
     return folders.programfolder + "/" + name;
 }
 
+std::vector<std::string> everyarea(const ProgramFolders& folders) {
+    std::vector<std::string> paths;
+    for (const std::string& name : datafiles(folders, ".hc"))
+        if (areanamefault(namebeforepoint(name)).empty()) paths.push_back(datafile(folders, name));
+    return paths;
+}
+
 WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& name) {
     const std::string standing = datafile(folders, name);
     if (folders.ownfolder.empty() || standing.starts_with(folders.ownfolder + "/")) return {standing, {}};

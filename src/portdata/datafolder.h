@@ -22,6 +22,10 @@ std::vector<std::string> datafiles(const ProgramFolders& folders, std::string_vi
 /// file whose name differs in the case of letters alone is meant when there is none of the very name.
 std::string datafile(const ProgramFolders& folders, const std::string& name);
 
+/// The paths of every area that lies where the program keeps them, by name, the user's own in the place of one that
+/// ships; without the program's own work file.
+std::vector<std::string> everyarea(const ProgramFolders& folders);
+
 struct WritableFile {
     std::string path;
     WriteOutcome prepared;  ///< an error when the folder or the copy couldn't be made

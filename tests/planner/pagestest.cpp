@@ -9,8 +9,8 @@
 #include "fakes/recordingcanvas.h"
 #include "fakes/scriptedlocale.h"
 #include "fakes/testport.h"
+#include "paint/colours.h"
 #include "planner/almanacyear.h"
-#include "planner/planlook.h"
 #include "planner/planpages.h"
 #include "platform/systemzones/systemzones.h"
 #include "text/singlebyte.h"
@@ -178,7 +178,7 @@ TEST(Pages, AnAlmanacHasAllWatersOfTheYearByTheMonth) {
         std::multiset<std::string> found;
         for (const RecordingCanvas::Text& each : painted(booklet, month - 1, papers[1])) {
             std::smatch time;
-            if (each.look.colour == planlook(PlanLight::day).text && std::regex_match(each.text, time, timeofday))
+            if (each.look.colour == coloursof(Lighting::day).text && std::regex_match(each.text, time, timeofday))
                 found.insert(time[1].str() + (each.look.bold ? " high" : " low"));
         }
         EXPECT_EQ(found, expected[month]) << month;

@@ -9,7 +9,7 @@
 #include "fakes/recordingcanvas.h"
 #include "fakes/scriptedlocale.h"
 #include "fakes/testport.h"
-#include "planner/planlabels.h"
+#include "paint/labels.h"
 #include "planner/plantexts.h"
 #include "platform/systemzones/systemzones.h"
 #include "text/singlebyte.h"
@@ -82,7 +82,7 @@ struct Painted {
     Plan plan;
     Passage passage;
     PlannedAccess access;
-    PlanPicture picture{plan, locale, planlook(PlanLight::day), {}, {}, {}, passage, &access};
+    PlanPicture picture{plan, locale, coloursof(Lighting::day), {}, {}, {}, passage, &access};
     RecordingCanvas canvas;
     PlanScale scale;
 };
@@ -144,7 +144,7 @@ TEST(PlanPicture, WindowsAndLightLieBetweenTheirTimes) {
     // 25 October 2026, a day of 25 hours, among them.
     for (const int count : {1, 3}) {
         Painted drawn(named("Dover"), std::chrono::year{2026} / 10 / 25, count, 1366, 400);
-        const PlanLook& look = drawn.picture.look;
+        const Colours& look = drawn.picture.look;
         const double foot = drawn.scale.y(drawn.passage.needed());
         const auto shapes = RecordingCanvas::of(drawn.canvas.fills, look.passable);
         ASSERT_EQ(shapes.size(), drawn.access.windows.size());
@@ -246,15 +246,14 @@ TEST(PlanPicture, OddPortsAndDaysArePainted) {
 TEST(PlanLabels, TheMoreImportantStay) {
     const RecordingCanvas canvas;
     const auto label = [](double x, double importance) {
-        return PlanLabel{{std::to_string(int(x))}, {}, {x, 10}, importance};
+        return Label{{std::to_string(int(x))}, {}, {x, 10}, importance};
     };
     LabelPlaces places(canvas, {0, 0, 400, 100});
     const Area kept = places.takefree({100, 0, 150, 20});
     EXPECT_EQ(kept.left, 100);
     EXPECT_GE(places.takefree({100, 0, 150, 20}).left, 150);
     std::vector<std::string> told;
-    for (const PlanLabel& each :
-         places.place({label(210, 1), label(220, 3), label(230, 2), label(-5, 1), label(120, 9)}))
+    for (const Label& each : places.place({label(210, 1), label(220, 3), label(230, 2), label(-5, 1), label(120, 9)}))
         told.push_back(each.lines[0]);
     EXPECT_EQ(told, (std::vector<std::string>{"220", "-5"}));
     const auto edge = places.place({label(405, 1)});

@@ -4,7 +4,7 @@
 
 #include "fakes/scriptedlocale.h"
 #include "fakes/testport.h"
-#include "planner/planlook.h"
+#include "paint/colours.h"
 #include "planner/plantexts.h"
 #include "platform/systemzones/systemzones.h"
 
@@ -155,11 +155,11 @@ TEST(PlanWords, NowTellsTheNextWatersInTheirOrder) {
     EXPECT_STREQ(tendencyword(0.049), "standing");
 }
 
-TEST(PlanLook, WhatIsWrittenCanBeRead) {
+TEST(Colours, WhatIsWrittenCanBeRead) {
     EXPECT_NEAR(contrast(0xFFFFFF, 0x000000), 21, 1e-9);
     EXPECT_NEAR(contrast(0x777777, 0xFFFFFF), 4.48, 0.005);
-    for (const PlanLight light : {PlanLight::day, PlanLight::dark, PlanLight::night}) {
-        const PlanLook& look = planlook(light);
+    for (const Lighting light : {Lighting::day, Lighting::dark, Lighting::night}) {
+        const Colours& look = coloursof(light);
         for (const Rgb written : {look.text, look.faint, look.needed, look.now, look.cursor})
             for (const Rgb behind : {look.paper, look.twilight, look.night, look.band, look.field, look.passable})
                 EXPECT_GE(contrast(written, behind), 4.5) << std::hex << written << " on " << behind;
@@ -168,7 +168,7 @@ TEST(PlanLook, WhatIsWrittenCanBeRead) {
             EXPECT_GE(contrast(look.curve, behind), 3) << std::hex << behind;
         EXPECT_GE(contrast(look.hatch, look.passable), 1.5);
     }
-    const PlanLook& night = planlook(PlanLight::night);
+    const Colours& night = coloursof(Lighting::night);
     for (const Rgb colour : {night.text, night.faint, night.needed, night.now, night.cursor, night.curve, night.paper})
         EXPECT_GT(colour >> 16, 2 * (colour & 0xFF)) << std::hex << colour;
 }

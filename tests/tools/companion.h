@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "dates/portclock.h"
 #include "fakes/temporaryfolder.h"
 #include "fakes/testport.h"
-#include "planner/portclock.h"
 #include "platform/systemzones/systemzones.h"
 #include "portdata/configuration.h"
 #include "portdata/recordfiles.h"

@@ -137,7 +137,7 @@ void plannerredraw(benchmark::State& state) {
         PainterCanvas canvas(painter, QApplication::font());
         const PlanPicture picture{.plan = *view.plan,
                                   .locale = bench.context.services.locale,
-                                  .look = planlook(PlanLight::day),
+                                  .look = coloursof(Lighting::day),
                                   .area = {0, 0, 1366, 400},
                                   .from = view.from,
                                   .to = view.to,

@@ -82,13 +82,6 @@ std::string readsettings(const ProgramFolders& folders, Settings& settings) {
     return "";
 }
 
-std::vector<std::string> everyarea(const ProgramFolders& folders) {
-    std::vector<std::string> paths;
-    for (const std::string& name : datafiles(folders, ".hc"))
-        if (areanamefault(namebeforepoint(name)).empty()) paths.push_back(datafile(folders, name));
-    return paths;
-}
-
 std::string readarea(const std::string& path, AreaInHand& area) {
     if (path.empty()) return "the stored configuration names no sea area file; give one with --area";
     if (!canopen(path)) return "the sea area file " + path + " can't be read";

@@ -36,10 +36,6 @@ struct AreaInHand {
     std::vector<std::string> names;  ///< of the ports, trimmed, in file order
 };
 
-/// The paths of every area that lies where the program keeps them, by name, the user's own in the place of one that
-/// ships; without the program's own work file.
-std::vector<std::string> everyarea(const ProgramFolders& folders);
-
 /// Reads the area file at `path`, which a configuration may leave empty. The fault, empty when there is none.
 std::string readarea(const std::string& path, AreaInHand& area);
 

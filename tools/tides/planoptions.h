@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "dates/portclock.h"
 #include "planner/access.h"
-#include "planner/portclock.h"
 #include "portdata/configuration.h"
 
 namespace tarvane {

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "files/wholefiles.h"
+#include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
 #include "text/numbers.h"

@@ -102,7 +102,8 @@ void PainterCanvas::line(std::span<const Place> places, const LineLook& look) {
     painter_.setPen(QPen(QColor::fromRgb(look.colour), look.width, penstyle(look.style), Qt::FlatCap, Qt::BevelJoin));
     painter_.setBrush(Qt::NoBrush);
     // The toolkit has a far faster way for single lines without round ends.
-    if (places.size() == 2) return painter_.drawLine(QPointF(places[0].x, places[0].y), QPointF(places[1].x, places[1].y));
+    if (places.size() == 2)
+        return painter_.drawLine(QPointF(places[0].x, places[0].y), QPointF(places[1].x, places[1].y));
     // A long line is a hundred times slower than its pieces. Each begins a step back, so that every bend is within one.
     constexpr std::size_t piece = 16;
     const std::size_t most = look.style == LineStyle::solid ? piece : places.size();

@@ -1,4 +1,4 @@
-#include "planner/planlabels.h"
+#include "paint/labels.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +15,7 @@ bool overlap(const Area& one, const Area& other) {
 
 }  // namespace
 
-Area areaof(const Canvas& canvas, const PlanLabel& label) {
+Area areaof(const Canvas& canvas, const Label& label) {
     double width = 0;
     for (const std::string& line : label.lines)
         width = std::max(width, canvas.textwidth(line, label.look));
@@ -45,11 +45,11 @@ Area LabelPlaces::takefree(const Area& wanted) {
     return taken_.back();
 }
 
-std::vector<PlanLabel> LabelPlaces::place(std::vector<PlanLabel> labels) {
+std::vector<Label> LabelPlaces::place(std::vector<Label> labels) {
     std::stable_sort(labels.begin(), labels.end(),
-                     [](const PlanLabel& one, const PlanLabel& other) { return one.importance > other.importance; });
-    std::vector<PlanLabel> placed;
-    for (PlanLabel& label : labels) {
+                     [](const Label& one, const Label& other) { return one.importance > other.importance; });
+    std::vector<Label> placed;
+    for (Label& label : labels) {
         Area area = areaof(canvas_, label);
         const double inside = std::max(within_.left - area.left, 0.0) + std::min(within_.right - area.right, 0.0);
         label.middle.x += inside;
@@ -62,7 +62,7 @@ std::vector<PlanLabel> LabelPlaces::place(std::vector<PlanLabel> labels) {
     return placed;
 }
 
-void paintlabel(Canvas& canvas, const PlanLabel& label) {
+void paintlabel(Canvas& canvas, const Label& label) {
     TextLook look = label.look;
     look.anchor = Anchor::middle;
     Place place = label.middle;

@@ -1,11 +1,12 @@
-// The colours of the planner, by day, in the dark and at the chart table by night. Must not paint.
+// The colours of painted pictures and the windows about them, by day, in the dark and at the chart table by night. Must
+// not paint.
 #pragma once
 
 #include "platform/canvas.h"
 
 namespace tarvane {
 
-struct PlanLook {
+struct Colours {
     Rgb paper;     ///< behind the curve by day
     Rgb twilight;  ///< behind it in civil twilight
     Rgb night;
@@ -23,9 +24,9 @@ struct PlanLook {
     Rgb cursor;
 };
 
-enum class PlanLight { day, dark, night };
+enum class Lighting { day, dark, night };
 
-const PlanLook& planlook(PlanLight light);
+const Colours& coloursof(Lighting light);
 
 /// The contrast of two colours, 1 to 21, as the web's accessibility guidelines reckon it.
 double contrast(Rgb first, Rgb second);

@@ -1,4 +1,4 @@
-// Labels of the planner's picture, of which none may lie on another: the more important take their places first, and
+// Labels of a picture, of which none may lie on another: the more important take their places first, and
 // one that finds none is left out. Must not paint.
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace tarvane {
 
 /// Lines of text, one under the other, each middled.
-struct PlanLabel {
+struct Label {
     std::vector<std::string> lines;
     TextLook look;
     Place middle;                    ///< of its upper edge
@@ -20,7 +20,7 @@ struct PlanLabel {
 };
 
 /// What a label covers.
-Area areaof(const Canvas& canvas, const PlanLabel& label);
+Area areaof(const Canvas& canvas, const Label& label);
 
 class LabelPlaces {
   public:
@@ -31,7 +31,7 @@ class LabelPlaces {
     Area takefree(const Area& wanted);
 
     /// Those of the labels that have room, each moved sideways where only that keeps it inside.
-    std::vector<PlanLabel> place(std::vector<PlanLabel> labels);
+    std::vector<Label> place(std::vector<Label> labels);
 
   private:
     bool isfree(const Area& area) const;
@@ -41,6 +41,6 @@ class LabelPlaces {
     std::vector<Area> taken_;
 };
 
-void paintlabel(Canvas& canvas, const PlanLabel& label);
+void paintlabel(Canvas& canvas, const Label& label);
 
 }  // namespace tarvane

@@ -1,4 +1,4 @@
-#include "planner/portclock.h"
+#include "dates/portclock.h"
 
 #include <cstdio>
 #include <cstdlib>

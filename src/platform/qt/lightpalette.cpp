@@ -1,0 +1,37 @@
+#include "platform/qt/lightpalette.h"
+
+#include "platform/qt/appearance.h"
+
+namespace tarvane {
+
+QPalette paletteof(const Colours& colours) {
+    const auto colour = [](Rgb rgb) { return QColor::fromRgb(rgb); };
+    QPalette palette(colour(colours.band));
+    palette.setColor(QPalette::Window, colour(colours.band));
+    palette.setColor(QPalette::Base, colour(colours.field));
+    palette.setColor(QPalette::AlternateBase, colour(colours.band));
+    palette.setColor(QPalette::Button, colour(colours.band));
+    palette.setColor(QPalette::ToolTipBase, colour(colours.band));
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
+        palette.setColor(role, colour(colours.text));
+    palette.setColor(QPalette::PlaceholderText, colour(colours.faint));
+    // Halfway to what they stand on: to be seen as idle, and still to be read.
+    const auto half = [](int one, int other) { return (one + other) / 2; };
+    const QColor idle(half(palette.text().color().red(), palette.window().color().red()),
+                      half(palette.text().color().green(), palette.window().color().green()),
+                      half(palette.text().color().blue(), palette.window().color().blue()));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+        palette.setColor(QPalette::Disabled, role, idle);
+    palette.setColor(QPalette::Highlight, colour(colours.curve));
+    palette.setColor(QPalette::HighlightedText, colour(colours.paper));
+    palette.setColor(QPalette::Link, colour(colours.curve));
+    return palette;
+}
+
+Lighting lightingof(bool night) {
+    if (night) return Lighting::night;
+    return desktoplook().dark ? Lighting::dark : Lighting::day;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,87 @@
+#include "world/worldports.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+
+#include "portdata/datafolder.h"
+#include "portdata/recordfiles.h"
+
+namespace tarvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Of a file's size and last change; empty when there is none.
+std::string stampof(const std::string& path) {
+    std::error_code odd;
+    const auto size = fs::file_size(path, odd);
+    if (odd) return "";
+    const auto written = fs::last_write_time(path, odd);
+    return std::to_string(size) + " " + std::to_string(written.time_since_epoch().count());
+}
+
+std::vector<WorldArea> findareas(const ProgramFolders& folders, const std::string& another) {
+    std::vector<std::string> paths = everyarea(folders);
+    if (!another.empty() && std::find(paths.begin(), paths.end(), another) == paths.end()) paths.push_back(another);
+    std::vector<WorldArea> areas;
+    for (const std::string& path : paths) {
+        const std::string file = fs::path(path).filename().string();
+        areas.push_back(
+            {path, namebeforepoint(file), stampof(path) + ", " + stampof(datafile(folders, aboutname(file)))});
+    }
+    return areas;
+}
+
+void readarea(const ProgramFolders& folders, const WorldArea& area, std::size_t place, std::vector<WorldPort>& ports) {
+    const AboutTable table = aboutarea(folders, area.path);
+    std::int16_t number = 0;
+    for (const HarmonicRecord& record : readports(area.path)) {
+        ++number;
+        ports.push_back({place, number, trimmedname(record), record.PortLat, record.PortLong, record.TimeZoneLetter,
+                         aboutport(table, record, number), false});
+    }
+}
+
+}  // namespace
+
+World readworld(const ProgramFolders& folders, const std::string& another) {
+    World world;
+    rereadworld(folders, world, another);
+    return world;
+}
+
+bool rereadworld(const ProgramFolders& folders, World& world, const std::string& another) {
+    std::vector<WorldArea> areas = findareas(folders, another);
+    const auto same = [](const WorldArea& one, const WorldArea& other) {
+        return one.path == other.path && one.stamp == other.stamp;
+    };
+    if (std::equal(areas.begin(), areas.end(), world.areas.begin(), world.areas.end(), same)) return false;
+    std::vector<WorldPort> ports;
+    for (std::size_t place = 0; place < areas.size(); ++place) {
+        const auto known = std::find_if(world.areas.begin(), world.areas.end(),
+                                        [&](const WorldArea& each) { return same(each, areas[place]); });
+        if (known == world.areas.end()) {
+            readarea(folders, areas[place], place, ports);
+            continue;
+        }
+        const auto before = static_cast<std::size_t>(known - world.areas.begin());
+        for (const WorldPort& port : world.ports) {
+            if (port.area != before) continue;
+            ports.push_back(port);
+            ports.back().area = place;
+        }
+    }
+    world = {std::move(areas), std::move(ports)};
+    return true;
+}
+
+std::optional<std::size_t> worldplace(const World& world, const std::string& area, int number) {
+    const auto port = std::find_if(world.ports.begin(), world.ports.end(), [&](const WorldPort& each) {
+        return each.number == number && world.areas[each.area].path == area;
+    });
+    if (port == world.ports.end()) return std::nullopt;
+    return static_cast<std::size_t>(port - world.ports.begin());
+}
+
+}  // namespace tarvane

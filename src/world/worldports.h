@@ -1,0 +1,44 @@
+// The ports of all sea areas at once, with what is known of each. Must not choose one or change a file.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "portdata/aboutports.h"
+
+namespace tarvane {
+
+struct WorldPort {
+    std::size_t area = 0;               ///< its place in `World::areas`
+    std::int16_t number = 0;            ///< in that area, from 1
+    std::string name;                   ///< UTF-8, without blanks at its ends
+    float latitude = 0, longitude = 0;  ///< degrees, north and east positive
+    std::string zoneletter;
+    std::optional<PortAbout> about;  ///< what the area's table tells of it
+    bool own = false;                ///< the user entered or changed it
+};
+
+struct WorldArea {
+    std::string path;
+    std::string name;   ///< "US West Coast"
+    std::string stamp;  ///< changes when the area's file or its table does
+};
+
+struct World {
+    std::vector<WorldArea> areas;  ///< by name
+    std::vector<WorldPort> ports;  ///< area by area, in file order
+};
+
+/// Reads every area that lies where the program keeps them, and `another` where that is none of them. Files that can't
+/// be read are passed over.
+World readworld(const ProgramFolders& folders, const std::string& another = "");
+
+/// Looks at the files and reads what has changed. True when anything had.
+bool rereadworld(const ProgramFolders& folders, World& world, const std::string& another = "");
+
+/// The place of an area's port; nothing when it is none of these.
+std::optional<std::size_t> worldplace(const World& world, const std::string& area, int number);
+
+}  // namespace tarvane

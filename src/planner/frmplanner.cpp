@@ -218,7 +218,9 @@ void frmplanner::showplan() {
 
 void frmplanner::showanswer() {
     picture->redraw();
-    lblNeeded->setText(view.read.refusal.empty() ? screentext(neededtext(view.read.passage)) : QString());
+    lblNeeded->setText(view.read.refusal.empty()
+                           ? screentext(neededtext(view.read.passage, view.about ? view.about->datum : ""))
+                           : QString());
     tellanswer();
     for (std::size_t i = 0; i < planfields; ++i) {
         const bool refused = !view.refusal.empty() && readquestion(view.question).refused == static_cast<PlanField>(i);

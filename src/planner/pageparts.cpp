@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "planner/plantexts.h"
+#include "portdata/aboutwords.h"
 #include "portdata/recordfiles.h"
 #include "sunmoon/lunarphases.h"
 #include "text/programcaption.h"
@@ -199,7 +200,8 @@ std::string passagewords(const PagePlan& pages) {
     std::string words = "Draught " + metres(passage.draught);
     if (passage.clearance > 0) words += " and " + metres(passage.clearance) + " under the keel";
     words += passage.bottom < 0 ? " over a bottom that dries " + metres(-passage.bottom)
-                                : " over a bottom " + metres(passage.bottom) + " below chart datum";
+                                : " over a bottom " + metres(passage.bottom) + " below " +
+                                      chartdatum(pages.of.about ? pages.of.about->datum : "");
     words += ": " + metres(passage.needed()) + " of tide needed";
     if (const auto ceiling = passage.ceiling())
         words += ", and no more than " + metres(*ceiling) + " for a mast of " + metres(passage.airdraught) +

@@ -5,6 +5,7 @@
 
 #include "dates/isomoments.h"
 #include "planner/plantexts.h"
+#include "portdata/aboutwords.h"
 #include "text/numbers.h"
 
 namespace tarvane {
@@ -122,7 +123,8 @@ std::string waterevent(const PlanPort& port, const HarmonicRecord& record, const
                        const PlannedWater& water, Moment stamp) {
     const std::string what =
         std::string(water.water.high ? "High" : "Low") + " water " + metres(water.water.height) + ", " + port.name;
-    std::string words = clockwords(clock, water.moment) + ": " + metres(water.water.height, 2) + " above chart datum";
+    std::string words =
+        clockwords(clock, water.moment) + ": " + metres(water.water.height, 2) + " above " + chartdatum(port.datum);
     if (water.water.springshare > 0)
         words += ", " + std::to_string(std::lround(100 * water.water.springshare)) + " % of the mean spring range";
     return eventtext({identifier(tidename(water.name), port), water.moment, water.moment + std::chrono::minutes(1),
@@ -135,7 +137,7 @@ std::string windowevent(const PlanPort& port, const HarmonicRecord& record, cons
     const Window& found = window.window;
     std::string words = clockwords(clock, window.opens) + " to " + clockwords(clock, window.closes) + ", " +
                         durationtext(std::chrono::minutes(found.minutes())) + ".\nLevel needed " +
-                        metres(passage.needed(), 2) + " above chart datum";
+                        metres(passage.needed(), 2) + " above " + chartdatum(port.datum);
     if (const auto ceiling = passage.ceiling()) words += ", not above " + metres(*ceiling, 2);
     words += "; greatest height " + metres(found.greatestheight, 2) + ".";
     if (found.cutatstart) words += "\nIt was open before: the days looked at begin there.";

@@ -16,7 +16,8 @@ namespace {
 constexpr double pngscale = 2;
 
 PlanPort planport(const PlanView& view) {
-    return {view.area.substr(view.area.find_last_of('/') + 1), view.number, view.portname};
+    return {view.area.substr(view.area.find_last_of('/') + 1), view.number, view.portname,
+            view.about ? view.about->datum : ""};
 }
 
 /// "Cherbourg tides 2026-07-18.csv"

@@ -14,6 +14,7 @@ struct PlanPort {
     std::string area;
     int number = 0;
     std::string name;
+    std::string datum = {};  ///< its letters, "MLLW"; empty when it isn't known
 };
 
 struct PlanColumn {

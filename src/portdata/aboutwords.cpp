@@ -47,6 +47,11 @@ std::string datumwords(std::string_view datum) {
     return known == datums.end() ? "" : known->words;
 }
 
+std::string chartdatum(std::string_view datum) {
+    const bool usual = datum.empty() || datum == "LAT";
+    return usual ? "chart datum" : "chart datum (" + std::string(datum) + ")";
+}
+
 std::string errorwords(const PortAbout& about) {
     return "half of the high and low waters are within " + within(about.timemedian, about.heightmedian) +
            " of a full prediction from all of the gauge's constituents, nine in ten within " +

@@ -20,6 +20,10 @@ const char* gradeword(Grade grade);
 /// "mean lower low water" of "MLLW"; empty for letters that aren't known.
 std::string datumwords(std::string_view datum);
 
+/// What heights at a port are above, by the letters of its datum: "chart datum", "chart datum (MLLW)" where that isn't
+/// the lowest astronomical tide.
+std::string chartdatum(std::string_view datum);
+
 /// "half of the high and low waters are within 6 minutes and 0.07 m of a full prediction from all of the gauge's
 /// constituents, nine in ten within 14 minutes and 0.17 m; weather not counted"
 std::string errorwords(const PortAbout& about);

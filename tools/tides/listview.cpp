@@ -16,7 +16,7 @@ std::vector<Column> listcolumns() {
 }
 
 void listrows(const ViewContext& context, RowWriter& writer, Absences&) {
-    for (const auto& [name, subject, port] : context.ports) {
+    for (const auto& [name, subject, port, datum, iana] : context.ports) {
         writer.row({numbertext(port.number), name, shortest(port.record.PortLat), shortest(port.record.PortLong),
                     port.record.TimeZoneLetter});
     }

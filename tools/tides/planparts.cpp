@@ -7,6 +7,7 @@
 
 #include "planner/plancalendar.h"
 #include "planner/planrun.h"
+#include "portdata/aboutwords.h"
 #include "tides/textforms.h"
 
 namespace tarvane {
@@ -70,7 +71,7 @@ void CalendarWriter::finish() {
 }
 
 PlanPort planport(const ViewContext& context, const PortInHand& port) {
-    return {context.areaname, port.port.number, port.name};
+    return {context.areaname, port.port.number, port.name, port.datum};
 }
 
 std::vector<Column> plancolumns(std::span<const PlanColumn> columns) {
@@ -98,7 +99,7 @@ void notelacking(Absences& absences, const PlanPart& part) {
 void planheading(const ViewContext& context, const PlanPart& part, std::ostream& out) {
     portheading(context, *part.port, out);
     out << "Times are " << (part.plan->planof().clock == ClockChoice::port ? "on the " : "in ")
-        << part.plan->clock().description() << ", heights in metres above chart datum\n";
+        << part.plan->clock().description() << ", heights in metres above " << chartdatum(part.port->datum) << "\n";
 }
 
 }  // namespace tarvane

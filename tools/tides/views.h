@@ -24,8 +24,10 @@ namespace tarvane {
 
 struct PortInHand {
     std::string name;
-    std::string subject;  ///< as a line about it names it: "Dover, port 15", with its area where there are several
-    PredictedPort port;   ///< its records as they were read, once
+    std::string subject;     ///< as a line about it names it: "Dover, port 15", with its area where there are several
+    PredictedPort port;      ///< its records as they were read, once
+    std::string datum = {};  ///< its letters, "MLLW"; empty when it isn't known or nobody will read it
+    std::string iana = {};   ///< the zone whose clocks it keeps; empty as the datum is
 };
 
 /// "Dover, port 15".

@@ -30,7 +30,9 @@ std::array<float, 3> storedvalues(const Settings& settings) {
 }
 
 std::string portkey(const PlanView& view) {
-    return filename(view.area) + "/" + view.portname;
+    const bool shared = std::count(view.ports.begin(), view.ports.end(), view.portname) > 1;
+    // Several of a name are told apart by where they stand.
+    return filename(view.area) + "/" + view.portname + (shared ? "#" + std::to_string(view.number) : "");
 }
 
 std::vector<std::string> portnames(const std::string& area) {

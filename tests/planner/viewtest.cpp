@@ -180,7 +180,7 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write metres from 0 to 40, not \u201Cdeep\u201D");
     EXPECT_EQ(view.access.windows.size(), windows);
     EXPECT_EQ(passageof(view)->clearance, 0.5);
-    EXPECT_EQ(view.settings.bottoms.at("UK.hc/Alder Quay"), -1);
+    EXPECT_EQ(view.settings.bottoms.at("UK.hc/Alder Quay#1"), -1);
     askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});
     EXPECT_EQ(answertext(view, scripted.locale), answered);
     // As is what was stored before.

@@ -1,6 +1,7 @@
 #include "planner/plantexts.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 
@@ -263,6 +264,7 @@ std::string accesstext(const Plan& plan, const PlannedAccess& access, const Pass
     std::string text;
     for (std::size_t i = 0; i < std::min(told, windows.size()); ++i)
         text += (i > 0 ? "; " : "") + windowwords(plan, windows[i], locale);
+    text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
     if (windows.size() > told) text += "; and " + std::to_string(windows.size() - told) + " more";
     if (past > 0 && windows.size() < access.windows.size())
         text += (windows.size() > told ? ", " : "; ") + std::to_string(past) + " past already";

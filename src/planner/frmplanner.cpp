@@ -202,7 +202,7 @@ void frmplanner::showall() {
 
 /// The mark beside the port's name.
 void frmplanner::showtrust() {
-    const Trust trust = trustof(view.about, false);
+    const Trust trust = trustof(view.known);
     cmdAbout->setIcon(trusticon(trust, coloursof(shownlight), cmdAbout->iconSize().width()));
     cmdAbout->setToolTip(QStringLiteral("How good this port is: %1 (Ctrl+I)").arg(trustword(trust)));
 }
@@ -262,7 +262,7 @@ void frmplanner::showdate() {
 
 void frmplanner::shownow() {
     const Moment now = context.services.clock.moment();
-    const std::string iana = view.about ? view.about->timezone : "";
+    const std::string iana = view.known.iana();
     // In the port's own time, whatever clock the days are told by.
     const auto told = [&] {
         const Plan& today = present.at(view.port, iana, ClockChoice::port, context.services.zones, now);

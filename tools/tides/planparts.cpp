@@ -7,6 +7,7 @@
 
 #include "planner/plancalendar.h"
 #include "planner/planrun.h"
+#include "portdata/aboutwords.h"
 #include "tides/textforms.h"
 
 namespace tarvane {
@@ -22,8 +23,8 @@ struct PartAsked {
 
 PlanOf planof(const ViewContext& context, const PortInHand& port) {
     const PlanAsked& plan = context.plan;
-    const auto about = aboutport(plan.about, port.port.record, port.port.number);
-    PlanOf of{port.port.record, about ? about->timezone : "", Date{}, context.days, plan.clock};
+    const PortKnown known = whatisknown(plan.known, port.port.record, port.port.number);
+    PlanOf of{port.port.record, known.iana(), Date{}, context.days, plan.clock};
     const PortClock clock(of.clock, zonehoursof(of.port), of.iana, *plan.zones);
     of.first = plan.date.value_or(clock.at(plan.now).date);
     return of;
@@ -70,7 +71,8 @@ void CalendarWriter::finish() {
 }
 
 PlanPort planport(const ViewContext& context, const PortInHand& port) {
-    return {context.areaname, port.port.number, port.name};
+    return {context.areaname, port.port.number, port.name,
+            trustclause(whatisknown(context.plan.known, port.port.record, port.port.number))};
 }
 
 std::vector<Column> plancolumns(std::span<const PlanColumn> columns) {

@@ -60,7 +60,7 @@ std::string takeplan(const Options& options, const TidesEnvironment& environment
     plan.date = options.date;
     plan.now = environment.now;
     plan.zones = environment.zones;
-    plan.about = aboutarea(folders, context.settings.hcfile);
+    plan.known = knownarea(folders, context.settings.hcfile);
     return options.view->hasboat ? takepassage(options.plan, context.settings, plan.passage, plan.wishes) : "";
 }
 

@@ -14,8 +14,8 @@
 #include "dates/isomoments.h"
 #include "engine/prediction.h"
 #include "planner/plan.h"
-#include "portdata/aboutports.h"
 #include "portdata/configuration.h"
+#include "portdata/portknown.h"
 #include "sunmoon/suntimes.h"
 #include "tides/absences.h"
 #include "tides/rows.h"
@@ -37,7 +37,7 @@ struct PlanAsked {
     std::optional<Date> date;  ///< the day that the clock shows at each port when left out
     Moment now;
     const Zones* zones = nullptr;
-    AboutTable about;  ///< of the area: which zones the ports keep
+    AreaKnown known;  ///< of the area: which zones the ports keep, and who made them
     Passage passage;
     WindowWishes wishes;
 };

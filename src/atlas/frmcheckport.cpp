@@ -123,6 +123,12 @@ frmcheckport::frmcheckport(MainContext& maincontext, const std::string& hcfile, 
     table->setCurrentCell(table->rowCount() - 1, datecolumn);
 }
 
+frmcheckport::~frmcheckport() {
+    // An editor that goes with the window would tell of it once more.
+    table->disconnect(this);
+    if (keeplater->isActive()) keep();
+}
+
 void frmcheckport::buildlayout() {
     auto* words = named<QLabel>("lblIntro", intro);
     words->setTextFormat(Qt::PlainText);
@@ -253,14 +259,17 @@ void frmcheckport::type(int row, int column, const QString& text) {
 void frmcheckport::tidyline(int row) {
     if (static_cast<std::size_t>(row) >= of.check.waters.size()) return;
     TableWater& water = of.check.waters[static_cast<std::size_t>(row)];
+    const std::string before = water.date;
     const Services& services = context.services;
     water.date = tidydate(water.date, context.session.conventions, services.locale, services.clock.now().today);
     if (water.date.empty() && !isempty(water) && row > 0)
         water.date = of.check.waters[static_cast<std::size_t>(row - 1)].date;
+    if (water.date == before) return;
     filling = true;
     table->item(row, datecolumn)->setText(screentext(water.date));
     filling = false;
     showresult();
+    keeplater->start();
 }
 
 void frmcheckport::showresult() {
@@ -343,7 +352,8 @@ std::string frmcheckport::copytext() const {
 }
 
 void frmcheckport::done(int result) {
-    // An editor that is open has told what stands in it already.
+    // An open editor is left first: its line may get its date then.
+    table->setFocus();
     if (keeplater->isActive()) keep();
     ModalDialog::done(result);
 }

@@ -31,6 +31,7 @@ class CheckTable : public QTableWidget {
 class frmcheckport : public ModalDialog {
   public:
     frmcheckport(MainContext& context, const std::string& hcfile, int number, QWidget* parent = nullptr);
+    ~frmcheckport() override;
 
     /// The columns of the table; those before `predictedcolumn` are typed.
     enum Column {

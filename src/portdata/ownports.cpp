@@ -131,11 +131,15 @@ WriteOutcome notecopies(const ProgramFolders& folders, const std::string& hcfile
                         const std::vector<HarmonicRecord>& added, const std::vector<std::string>& from, int ports,
                         const std::string& date) {
     return changenotes(folders, hcfile, [&](AreaNotes& notes) {
+        bool any = false;
         for (std::size_t i = 0; i < added.size(); ++i) {
+            // Within one area the port that was copied has this very record too, and is no copy.
+            if (i < from.size() && filenameof(hcfile) == from[i] + ".hc") continue;
+            any = true;
             OwnMade made{OwnHow::copied, date, i < from.size() ? from[i] : "", {}, markof(added[i])};
             notes.push_back({trimmedname(added[i]), ports + static_cast<int>(i) + 1, made, {}});
         }
-        return !added.empty();
+        return any;
     });
 }
 

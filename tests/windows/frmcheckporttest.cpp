@@ -21,6 +21,11 @@ class FrmCheckPort : public testing::Test, protected MainFixture {
     static std::string cell(const frmcheckport& form, int row, int column) {
         return form.table->item(row, column)->text().toStdString();
     }
+    /// The first key opens the cell's editor, which takes the others.
+    static void type(const char* text) {
+        for (; *text; ++text)
+            QTest::keyClick(QApplication::focusWidget(), *text);
+    }
     TableCheck kept() const { return checkof(areanotes(session.folders, area()), area(), readport(area(), 2), 2); }
 };
 
@@ -33,9 +38,8 @@ TEST_F(FrmCheckPort, WhatIsTypedIsComparedKeptAndShownAgain) {
         EXPECT_EQ(infocus(form), "table");
         form.table->setCurrentCell(0, frmcheckport::datecolumn);
         for (const char* text : {"2026-07-14", "0612", "3,1", "", "", "12:20", "1.9"}) {
-            if (*text) QTest::keyClicks(form.table, text);
-            QWidget* editor = QApplication::focusWidget();
-            QTest::keyClick(editor ? editor : form.table, Qt::Key_Tab);
+            type(text);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
         EXPECT_EQ(form.check().waters.size(), 2U);
         EXPECT_EQ(cell(form, 1, frmcheckport::datecolumn), "2026-07-14") << "of the line before";
@@ -46,7 +50,7 @@ TEST_F(FrmCheckPort, WhatIsTypedIsComparedKeptAndShownAgain) {
         EXPECT_NE(cell(form, 0, frmcheckport::predictedcolumn), "");
         // A key in an open editor is kept before the cell is left.
         form.table->setCurrentCell(2, frmcheckport::timecolumn);
-        QTest::keyClicks(form.table, "9");
+        type("9");
         QTest::qWait(900);
         EXPECT_EQ(kept().waters.size(), 3U);
         EXPECT_EQ(kept().waters.back().time, "9");
@@ -88,11 +92,11 @@ TEST_F(FrmCheckPort, AboutThisPortShowsTheCheckOfAnyPort) {
     EXPECT_EQ(about.windowTitle(), "About This Port");
     EXPECT_EQ(shown(*about.lblName), "Birch Sound");
     EXPECT_EQ(about.constants->rowCount(), 7);
-    scripted.windows.expect("frmcheckport", [&](ModalWindow& window) {
-        static_cast<frmcheckport&>(window).table->item(0, frmcheckport::datecolumn)->setText("14/7/2026");
-        static_cast<frmcheckport&>(window).table->item(0, frmcheckport::timecolumn)->setText("06:12");
-        static_cast<frmcheckport&>(window).table->item(0, frmcheckport::heightcolumn)->setText("3");
-        static_cast<frmcheckport&>(window).cmdClose->click();
+    scripted.windows.expect("frmcheckport", [&](ModalWindow& opened) {
+        static_cast<frmcheckport&>(opened).table->item(0, frmcheckport::datecolumn)->setText("14/7/2026");
+        static_cast<frmcheckport&>(opened).table->item(0, frmcheckport::timecolumn)->setText("06:12");
+        static_cast<frmcheckport&>(opened).table->item(0, frmcheckport::heightcolumn)->setText("3");
+        static_cast<frmcheckport&>(opened).cmdClose->click();
     });
     about.cmdCheck->click();
     EXPECT_EQ(kept().waters.at(0).date, "2026-07-14");

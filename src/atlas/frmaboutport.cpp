@@ -62,6 +62,7 @@ void frmaboutport::buildlayout() {
     lblSaid = plainlabel("lblSaid");
     cmdCheck = named<QPushButton>("cmdCheck", "C&heck This Port");
     cmdCheck->setToolTip("Compare the prediction with the waters of an official table");
+    cmdCheck->setMinimumWidth(cmdCheck->sizeHint().width() + 2 * fontMetrics().averageCharWidth());
     cmdCopy = named<QPushButton>("cmdCopy", "&Copy");
     cmdClose = named<QPushButton>("cmdClose", "Close");
 

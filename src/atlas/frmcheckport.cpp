@@ -73,6 +73,7 @@ CheckTable::CheckTable() {
         setHorizontalHeaderItem(column, new QTableWidgetItem(headings[column]));
         setColumnWidth(column, fontMetrics().averageCharWidth() * widths[static_cast<std::size_t>(column)]);
     }
+    setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setHighlightSections(false);
@@ -81,6 +82,13 @@ CheckTable::CheckTable() {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                     QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
+}
+
+QSize CheckTable::sizeHint() const {
+    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < columnCount(); ++column)
+        width += columnWidth(column);
+    return {width, QTableWidget::sizeHint().height()};
 }
 
 QModelIndex CheckTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
@@ -141,10 +149,6 @@ void frmcheckport::buildlayout() {
     }
     cmbClock->setCurrentIndex(static_cast<int>(of.check.clock));
     table = new CheckTable;
-    int width = 2 * table->frameWidth() + table->verticalScrollBar()->sizeHint().width();
-    for (int column = 0; column < columns; ++column)
-        width += table->columnWidth(column);
-    table->setMinimumWidth(width);
     setrowsinview(*table, rowsseen);
     lblResult = named<QLabel>("lblResult");
     lblHint = named<QLabel>("lblHint");

@@ -23,6 +23,9 @@ class CheckTable : public QTableWidget {
 
     std::function<void()> onpaste;
 
+    /// All columns are in view, where there is room.
+    QSize sizeHint() const override;
+
   protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent* event) override;

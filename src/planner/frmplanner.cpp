@@ -16,6 +16,7 @@
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"
+#include "portdata/aboutwords.h"
 #include "portdata/portsearch.h"
 #include "world/frmtrusticon.h"
 
@@ -204,7 +205,9 @@ void frmplanner::showall() {
 void frmplanner::showtrust() {
     const Trust trust = trustof(view.known);
     cmdAbout->setIcon(trusticon(trust, coloursof(shownlight), cmdAbout->iconSize().width()));
-    cmdAbout->setToolTip(QStringLiteral("How good this port is: %1 (Ctrl+I)").arg(trustword(trust)));
+    const std::string clause = trust == Trust::own ? "" : trustclause(view.known);
+    cmdAbout->setToolTip(screentext("How good this port is: " + std::string(trustword(trust)) +
+                                    (clause.empty() ? "" : ", " + clause) + " (Ctrl+I)"));
 }
 
 void frmplanner::showplan() {

@@ -233,7 +233,8 @@ std::string answertext(const PlanView& view, const Locale& locale, std::optional
 std::string planfoot(const PlanView& view) {
     if (!view.plan) return view.whynot;
     const std::string clock = view.plan->clock().description();
-    const std::string datum = view.known.datum(), trust = trustclause(view.known);
+    // How good a port is that ships its mark tells, beside the name.
+    const std::string datum = view.known.datum(), trust = view.known.own ? trustclause(view.known) : "";
     const bool named = clock.starts_with("this") || clock.starts_with("universal");
     return std::string("Times by ") + (named ? "" : "the ") + clock + "; heights in metres above chart datum" +
            (datum.empty() ? "" : " (" + datum + ")") + (trust.empty() ? "" : "; " + trust) +

@@ -22,6 +22,7 @@ namespace {
 constexpr int typedcolumns = frmcheckport::predictedcolumn;
 constexpr int keepdelay = 500;  // milliseconds
 constexpr int rowsseen = 10;
+constexpr std::size_t mostlines = 400;  // compared with every key
 
 constexpr std::array typedfields{&TableWater::date, &TableWater::time, &TableWater::height, &TableWater::kind};
 static_assert(typedfields.size() == typedcolumns);
@@ -313,6 +314,8 @@ void frmcheckport::paste() {
     if (lines.size() == 1 && (lines[0].time.empty() || lines[0].height.empty()) && row >= 0 && column < typedcolumns)
         return table->item(row, column)->setText(screentext(text));
     if (lines.empty()) return lblSaid->setText("No waters are on the clipboard");
+    if (of.check.waters.size() + lines.size() > mostlines)
+        return lblSaid->setText(QStringLiteral("These are too many: %1 lines have room here").arg(mostlines));
     const Services& services = context.services;
     const Date today = services.clock.now().today;
     std::vector<TableWater>& waters = of.check.waters;

@@ -119,10 +119,16 @@ json jsonof(const OwnMade& made) {
                 {"date", made.date},
                 {"from", made.from},
                 {"record", made.mark}};
+    // What is no number would make the file one that isn't understood.
+    const auto finite = [](double value) { return std::isfinite(value) ? value : 0; };
     if (const auto& fit = made.fit)
-        object["fit"] = {
-            {"readings", fit->readings}, {"leftout", fit->leftout}, {"before", fit->before}, {"after", fit->after},
-            {"greatest", fit->greatest}, {"hours", fit->hours},     {"day", fit->day}};
+        object["fit"] = {{"readings", fit->readings},
+                         {"leftout", fit->leftout},
+                         {"before", finite(fit->before)},
+                         {"after", finite(fit->after)},
+                         {"greatest", finite(fit->greatest)},
+                         {"hours", finite(fit->hours)},
+                         {"day", fit->day}};
     return object;
 }
 

@@ -7,6 +7,7 @@
 
 #include "dates/calendar.h"
 #include "fakes/mainfixture.h"
+#include "world/worldports.h"
 
 namespace tarvane::tests {
 namespace {
@@ -71,6 +72,20 @@ TEST_F(AboutLinesTest, APortOfTheUsersOwnHasNoneOfThoseFigures) {
     const std::string text = sheettext(birch);
     for (const char* foreign : {"A gauge", "full prediction", "LAT"})
         EXPECT_EQ(text.find(foreign), std::string::npos) << foreign << "\n" << text;
+}
+
+TEST_F(AboutLinesTest, TheWorldsPortsAreReadAnewWhenOneBecomesTheUsersOwn) {
+    World world = readworld(session.folders, area());
+    const std::size_t birch = worldplace(world, area(), 2).value();
+    EXPECT_FALSE(world.ports[birch].own);
+    const HarmonicRecord port = readport(area(), 2);
+    keepcheck(session.folders, area(), port, 2, {TableClock::ut, {{"", "", "1", ""}}});
+    EXPECT_FALSE(rereadworld(session.folders, world, area())) << "a check makes no port another";
+    EXPECT_TRUE(noteport(session.folders, area(), 2, {}, port, {}));
+    EXPECT_TRUE(rereadworld(session.folders, world, area()));
+    EXPECT_TRUE(world.ports[birch].own);
+    EXPECT_FALSE(world.ports[birch - 1].own);
+    EXPECT_EQ(trustof(world.ports[birch].about, world.ports[birch].own), Trust::own);
 }
 
 TEST_F(AboutLinesTest, TidesAreOfTheCharacterOfTheirConstants) {

@@ -122,6 +122,7 @@ TEST_F(PortCheckTest, WhatAllWatersShareIsNamed) {
     EXPECT_EQ(hint(60, 0, 4), "The table's times are 60 minutes ahead of the prediction's on average: another clock?");
     EXPECT_EQ(hint(0, 0.12, 2), "") << "too few to tell";
     EXPECT_EQ(hint(5, 0.03, 4), "");
+    EXPECT_EQ(checked({typed(0, 0, -0.3), typed(1), typed(2, 0, -0.3), typed(3)}).hint, "") << "not common to all";
 }
 
 TEST(PastedWaters, LinesAreReadAsTablesHaveThem) {

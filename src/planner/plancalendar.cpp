@@ -71,7 +71,12 @@ std::string clockwords(const PortClock& clock, Moment moment) {
     return isodate(time.date) + " " + clocktext(time) + " " + time.name;
 }
 
-constexpr const char* caution = "Approximate, not for navigation.";
+/// What stands under every event: how far its port is to be trusted.
+std::string caution(const PlanPort& port) {
+    std::string words = port.trust;
+    if (!words.empty() && words[0] >= 'a' && words[0] <= 'z') words[0] = static_cast<char>(words[0] - 'a' + 'A');
+    return words + (words.empty() ? "" : ".\n") + "Approximate, not for navigation.";
+}
 
 }  // namespace
 
@@ -128,7 +133,7 @@ std::string waterevent(const PlanPort& port, const HarmonicRecord& record, const
     if (water.water.springshare > 0)
         words += ", " + std::to_string(std::lround(100 * water.water.springshare)) + " % of the mean spring range";
     return eventtext({identifier(tidename(water.name), port), water.moment, water.moment + std::chrono::minutes(1),
-                      what, words + ".\n" + caution},
+                      what, words + ".\n" + caution(port)},
                      port, record, stamp);
 }
 
@@ -144,7 +149,7 @@ std::string windowevent(const PlanPort& port, const HarmonicRecord& record, cons
     if (found.cutatend) words += "\nIt stays open: the days looked at end there.";
     const std::string part = window.part > 0 ? "-" + std::to_string(window.part) : "";
     return eventtext({identifier("passage-" + tidename(window.opening) + part, port), window.opens, window.closes,
-                      "Passable, " + port.name, words + "\n" + caution},
+                      "Passable, " + port.name, words + "\n" + caution(port)},
                      port, record, stamp);
 }
 

@@ -15,6 +15,7 @@ struct PlanPort {
     int number = 0;
     std::string name;
     std::string datum = {};  ///< its letters, "MLLW"; empty when it isn't known
+    std::string trust = {};  ///< in one clause, for calendars: a table's columns have no place for it
 };
 
 struct PlanColumn {

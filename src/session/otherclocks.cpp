@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "portdata/aboutports.h"
+#include "portdata/portknown.h"
 #include "session/statusline.h"
 #include "text/numbers.h"
 
@@ -52,10 +52,9 @@ std::string otherclocks(Date day, seconds shownahead, const std::string& iana, c
 
 PlaceOf placeof(const MainContext& context, const Prediction& prediction, const std::string& area) {
     const HarmonicRecord& port = prediction.port.record;
-    const auto about = aboutport(aboutarea(context.session.folders, area), port, prediction.port.number);
-    if (!about) return {};
+    const PortKnown known = whatisknown(knownarea(context.session.folders, area), port, prediction.port.number);
     const seconds ahead = std::chrono::hours(-zonehoursof(port) + (prediction.day.summer == -1 ? 1 : 0));
-    return {about->datum, otherclocks(dateof(prediction.day), ahead, about->timezone, context.services.zones)};
+    return {known.datum(), otherclocks(dateof(prediction.day), ahead, known.iana(), context.services.zones)};
 }
 
 }  // namespace tarvane

@@ -74,6 +74,22 @@ TEST_F(PlanViewTest, FollowsPortsAndWhatIsStoredOfThem) {
     }
 }
 
+TEST_F(PlanViewTest, APortOfTheUsersOwnIsToldAsHisOnItsOwnClock) {
+    const HarmonicRecord before = readport(area(), 1);
+    HarmonicRecord record = before;
+    record.Z0 += 1;
+    writeport(area(), 1, record);
+    OwnMade made;
+    made.how = OwnHow::corrected;
+    made.date = "2026-03-03";
+    ASSERT_TRUE(noteport(session.folders, area(), 1, before, record, made));
+    const PlanView view = opened();
+    EXPECT_EQ(plantitle(view, scripted.locale), "Alder Quay, 9 to 15 April 2024, port's clock (Europe/London)");
+    EXPECT_EQ(planfoot(view),
+              "Times by the port's clock (Europe/London); heights in metres above chart datum; entered by you on 3 "
+              "March 2026. Predictions: weather isn't counted.");
+}
+
 TEST_F(PlanViewTest, SpansHaveTheHoursOfTheirDays) {
     PlanView view = opened();
     const struct {

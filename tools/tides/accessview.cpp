@@ -107,7 +107,7 @@ void accesstext(const ViewContext& context, std::ostream& out) {
         port = part.port;
         headed.reset();
         planheading(context, part, out);
-        passagelines(context, part.port->datum, out);
+        passagelines(context, part.port->known.datum(), out);
     };
     eachwindow(
         context,

@@ -33,13 +33,11 @@ void takeports(const Options& options, const AreaInHand& area, const std::vector
             options.view->needsport ? readdepth(context.settings.depfile, number) : UserDepthRecord{};
         const std::string& name = area.names[index];
         const std::string subject = portsubject(name, number) + (context.several ? " of " + area.name : "");
-        const auto about = aboutport(context.plan.about, area.records[index], number);
         context.ports.push_back(
             {name,
              subject,
              {area.records[index], number, depth.UserDepth, context.settings.currentoutput, trim(depth.DepthPortName)},
-             about ? about->datum : "",
-             about ? about->timezone : ""});
+             whatisknown(context.plan.known, area.records[index], number)});
     }
 }
 
@@ -99,7 +97,7 @@ std::string takearea(const Options& options, const TidesEnvironment& environment
     context.settings.hcfile = area.path;
     context.settings.depfile = depfileof(folders, area.path);
     if (options.view->planned || options.format == OutputFormat::text)
-        context.plan.about = aboutarea(folders, context.settings.hcfile);
+        context.plan.known = knownarea(folders, context.settings.hcfile);
     context.plan.zones = environment.zones;
     takeports(options, area, numbers, context);
     return options.view->planned ? takeplan(options, environment, context) : checkdepths(context.settings);

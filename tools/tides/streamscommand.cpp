@@ -4,7 +4,6 @@
 
 #include "dates/isomoments.h"
 #include "diamonds/daystreams.h"
-#include "portdata/aboutports.h"
 #include "portdata/coordinates.h"
 #include "portdata/datafolder.h"
 #include "text/numbers.h"
@@ -74,12 +73,11 @@ std::string takereference(const StreamsOptions& options, const ProgramFolders& f
     if (choice.numbers.size() != 1) return "--port takes one port here, not " + inquotes(wanted);
     const auto index = static_cast<std::size_t>(choice.numbers[0] - 1);
     const std::string& name = area.names[index];
-    const auto about = aboutport(aboutarea(folders, area.path), area.records[index], choice.numbers[0]);
-    streams.context.ports.push_back({name,
-                                     portsubject(name, choice.numbers[0]),
-                                     {area.records[index], choice.numbers[0], 0, 1},
-                                     about ? about->datum : "",
-                                     about ? about->timezone : ""});
+    streams.context.ports.push_back(
+        {name,
+         portsubject(name, choice.numbers[0]),
+         {area.records[index], choice.numbers[0], 0, 1},
+         whatisknown(knownarea(folders, area.path), area.records[index], choice.numbers[0])});
     return "";
 }
 

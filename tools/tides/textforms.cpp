@@ -40,14 +40,14 @@ std::string timeline(const ViewContext& context, const PortInHand& port, Date da
 std::string dayline(const ViewContext& context, const PortInHand& port, Date date) {
     const std::chrono::hours ahead(hoursahead(port, summershift(date, context.settings.summerflag2)));
     const std::string clocks =
-        context.plan.zones ? otherclocks(date, ahead, port.iana, *context.plan.zones) : std::string();
+        context.plan.zones ? otherclocks(date, ahead, port.known.iana(), *context.plan.zones) : std::string();
     return timeline(context, port, date) + (clocks.empty() ? "" : "; " + clocks);
 }
 
 std::string datumline(const PortInHand& port) {
-    if (port.port.currentoutput == 1) return "Heights are above " + chartdatum(port.datum);
+    if (port.port.currentoutput == 1) return "Heights are above " + chartdatum(port.known.datum());
     if (port.port.userdepth == 0)
-        return "Heights are above " + chartdatum(port.datum) + ", no charted depth being set for this port";
+        return "Heights are above " + chartdatum(port.known.datum()) + ", no charted depth being set for this port";
     const std::string other = depthofanother(port.port);
     return "Heights include the charted depth of " + format(port.port.userdepth, "0.00") +
            (other.empty() ? " m set for this port" : " m, which stands under the name of " + plaintext(other));

@@ -14,8 +14,8 @@
 #include "dates/isomoments.h"
 #include "engine/prediction.h"
 #include "planner/plan.h"
-#include "portdata/aboutports.h"
 #include "portdata/configuration.h"
+#include "portdata/portknown.h"
 #include "sunmoon/suntimes.h"
 #include "tides/absences.h"
 #include "tides/rows.h"
@@ -24,10 +24,11 @@ namespace tarvane {
 
 struct PortInHand {
     std::string name;
-    std::string subject;     ///< as a line about it names it: "Dover, port 15", with its area where there are several
-    PredictedPort port;      ///< its records as they were read, once
-    std::string datum = {};  ///< its letters, "MLLW"; empty when it isn't known or nobody will read it
-    std::string iana = {};   ///< the zone whose clocks it keeps; empty as the datum is
+    std::string subject;   ///< as a line about it names it: "Dover, port 15", with its area where there are several
+    PredictedPort port;    ///< its records as they were read, once
+    PortKnown known = {};  ///< nothing where nobody will read it
+};                         ///< its letters, "MLLW"; empty when it isn't known or nobody will read it
+std::string iana = {};     ///< the zone whose clocks it keeps; empty as the datum is
 };
 
 /// "Dover, port 15".
@@ -39,7 +40,7 @@ struct PlanAsked {
     std::optional<Date> date;  ///< the day that the clock shows at each port when left out
     Moment now;
     const Zones* zones = nullptr;
-    AboutTable about;  ///< of the area: which zones the ports keep
+    AreaKnown known;  ///< of the area: which zones the ports keep, and who made them
     Passage passage;
     WindowWishes wishes;
 };

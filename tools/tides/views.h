@@ -27,8 +27,6 @@ struct PortInHand {
     std::string subject;   ///< as a line about it names it: "Dover, port 15", with its area where there are several
     PredictedPort port;    ///< its records as they were read, once
     PortKnown known = {};  ///< nothing where nobody will read it
-};                         ///< its letters, "MLLW"; empty when it isn't known or nobody will read it
-std::string iana = {};     ///< the zone whose clocks it keeps; empty as the datum is
 };
 
 /// "Dover, port 15".

@@ -19,6 +19,7 @@
 #include "mainview/stepping.h"
 #include "portdata/depthmatch.h"
 #include "portdata/heightfiles.h"
+#include "portdata/ownports.h"
 #include "portdata/portscsv.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"

@@ -132,6 +132,9 @@ void frmaboutport::fill() {
         text->setAccessibleName(screentext(line.caption));
         lines->addWidget(caption, row, 0, Qt::AlignTop | Qt::AlignRight);
         lines->addWidget(text, row++, 1, Qt::AlignTop);
+        // At once in a window that is up, so that it can be measured.
+        for (QLabel* each : {caption, text})
+            each->setVisible(true);
     }
 }
 
@@ -153,6 +156,9 @@ void frmaboutport::cmdCheck_Click() {
     frmcheckport check(context, hcfile, number, this);
     context.services.windows.showmodal(check);
     fill();
+    // A line more may need the room.
+    layout()->activate();
+    if (const int tall = heightForWidth(width()); tall > height()) resize(width(), tall);
 }
 
 }  // namespace tarvane

@@ -1,5 +1,6 @@
 #include "atlas/frmcheckport.h"
 
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -149,6 +150,10 @@ void frmcheckport::buildlayout() {
         cmbClock->addItem(name);
     }
     cmbClock->setCurrentIndex(static_cast<int>(of.check.clock));
+    // The style gives the list a menu's colours when it comes up first.
+    cmbClock->ensurePolished();
+    cmbClock->view()->window()->setPalette(palette());
+    cmbClock->view()->setPalette(palette());
     table = new CheckTable;
     setrowsinview(*table, rowsseen);
     lblResult = named<QLabel>("lblResult");

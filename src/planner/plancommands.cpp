@@ -66,7 +66,8 @@ Drawing drawingof(const MainContext& context, const PlanView& view, double width
                                           .to = view.to,
                                           .passage = passageof(view),
                                           .access = &view.access,
-                                          .title = plantitle(view, locale)};
+                                          .title = plantitle(view, locale),
+                                          .trust = trustclause(view.known)};
                 paintplan(canvas, picture, scaleof(picture, canvas));
             }};
 }

@@ -100,9 +100,13 @@ TEST_F(PortCheckTest, ALineThatCantBeMeantSaysWhyAndIsLeftOut) {
         EXPECT_EQ(result.waters[0].fault, fault) << line.date << " " << line.time << " " << line.height;
         EXPECT_EQ(result.compared, 1);
     }
-    TableWater high = typed(0);
-    high.kind = checked({high}).waters[0].high ? "LW" : "H";
-    EXPECT_TRUE(checked({high}).waters[0].fault.ends_with("water is predicted within 3 hours"));
+    for (const std::size_t place : {0, 1}) {
+        TableWater other = typed(place);
+        const bool high = checked({other}).waters[0].high;
+        other.kind = high ? "LW" : "H";
+        EXPECT_EQ(checked({other}).waters[0].fault,
+                  std::string("No ") + (high ? "low" : "high") + " water is predicted within 3 hours");
+    }
     // A line without a date is of the day of the one before; times and heights as they are written elsewhere.
     TableWater later = typed(1, 7);
     later.date.clear();

@@ -48,6 +48,8 @@ TEST_F(FrmCheckPort, WhatIsTypedIsComparedKeptAndShownAgain) {
         EXPECT_EQ(shown(*form.lblResult), checkwords(result) + ".");
         EXPECT_NE(cell(form, 0, frmcheckport::minutescolumn), "");
         EXPECT_NE(cell(form, 0, frmcheckport::predictedcolumn), "");
+        QTest::qWait(900);
+        EXPECT_EQ(kept().waters.size(), 2U);
         // A key in an open editor is kept before the cell is left.
         form.table->setCurrentCell(2, frmcheckport::timecolumn);
         type("9");
@@ -99,6 +101,11 @@ TEST_F(FrmCheckPort, AboutThisPortShowsTheCheckOfAnyPort) {
         static_cast<frmcheckport&>(opened).cmdClose->click();
     });
     about.cmdCheck->click();
+    QApplication::processEvents();
+    for (const auto* label : about.findChildren<QLabel*>())
+        if (label->wordWrap()) {
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
+        }
     EXPECT_EQ(kept().waters.at(0).date, "2026-07-14");
     about.cmdCopy->click();
     EXPECT_NE(scripted.clipboard.contents.find("Check: Checked by you against 1 water of 2026"), std::string::npos)

@@ -21,6 +21,7 @@
 #include "mainview/readouts.h"
 #include "platform/qt/picturebox.h"
 #include "session/session.h"
+#include "world/worldports.h"
 
 namespace tarvane {
 
@@ -95,6 +96,7 @@ class frmtarvane : public QMainWindow {
     void openfinder();
     void openmap();
     void openabout();
+    World& worldports();
     void shownow();
 
     /// A menu or an entry that the view can hide or disable.
@@ -118,6 +120,7 @@ class frmtarvane : public QMainWindow {
     bool layingout = false;                 ///< the controls are being placed: resized pictures wait
     std::unique_ptr<frmHarmAdjust> adjust;  ///< once it was opened
     std::unique_ptr<frmplanner> planner;    ///< once it was opened
+    std::unique_ptr<World> world;           ///< once a window asked for the ports of all areas
     PresentTide present;
     bool resized = false;  ///< a picture is empty and waits to be drawn anew
 };

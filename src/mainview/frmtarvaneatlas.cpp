@@ -4,6 +4,13 @@
 
 namespace tarvane {
 
+/// The ports of all areas as their files are now, the area in hand among them wherever it lies.
+World& frmtarvane::worldports() {
+    if (!world) world = std::make_unique<World>();
+    rereadworld(session.folders, *world, session.settings.hcfile);
+    return *world;
+}
+
 void frmtarvane::openfinder() {}
 
 void frmtarvane::openmap() {}

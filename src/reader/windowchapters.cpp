@@ -5,6 +5,7 @@ namespace {
 
 constexpr const char* firstday = "Your first day with the program";
 constexpr const char* planner = "When can I go? The planner";
+constexpr const char* world = "The ports of the world";
 constexpr const char* curve = "The curve and what its parts mean";
 constexpr const char* heights = "Heights, depths and draught";
 constexpr const char* choosing = "Choosing a port and a date";
@@ -26,6 +27,7 @@ constexpr WindowChapter chapters[] = {
     {"frmWeighting", creek},        {"frmTidalDiamondsCopy", streams},
     {"frmimport", streams},         {"frmstreams", streams},
     {"frmshowconf", files},         {"frmplanner", planner},
+    {"frmfinder", world},
 };
 
 }  // namespace

@@ -84,9 +84,6 @@ void frmfinder::buildlayout() {
     cancel->setAutoDefault(false);
     buttons->addWidget(cancel);
     rows->addLayout(buttons);
-    constexpr int rowsseen = 14;
-    setrowsinview(*ports, rowsseen);
-    ports->setMinimumWidth(fontMetrics().averageCharWidth() * 120);
 }
 
 void frmfinder::connectcontrols() {

@@ -1,6 +1,7 @@
 #include "atlas/frmfindertable.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "world/frmtrusticon.h"
@@ -90,6 +91,7 @@ QVariant FinderTable::Model::data(const QModelIndex& index, int role) const {
 QVariant FinderTable::Model::headerData(int section, Qt::Orientation orientation, int role) const {
     constexpr std::array heads{"\u2605", "Port", "Sea area", "Country", "Distance", "Time zone, now"};
     if (orientation != Qt::Horizontal) return {};
+    if (section == star && role == Qt::TextAlignmentRole) return Qt::AlignCenter;
     if (role == Qt::DisplayRole) return QString::fromUtf8(heads.at(static_cast<std::size_t>(section)));
     if (section == star && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
         return QStringLiteral("Favourites");
@@ -135,6 +137,13 @@ void FinderTable::sizecolumns() {
     header()->resizeSection(country, widthof("Papua New Guinea") + blank);
     header()->resizeSection(distance, widthof("10000 nm NW") + blank);
     header()->resizeSection(zone, widthof("America/Los_Angeles, UT-08:00") + blank);
+}
+
+QSize FinderTable::sizeHint() const {
+    constexpr int rowsseen = 16;
+    const int row = std::max(fontMetrics().height(), marksize) + 2;
+    return {header()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
+            header()->sizeHint().height() + rowsseen * row + 2 * frameWidth()};
 }
 
 void FinderTable::show(Found found) {

@@ -32,6 +32,9 @@ class FinderTable : public QTreeView {
     std::function<void(std::size_t place)> onstar;    ///< its star was clicked
     std::function<void(std::size_t place)> onchoice;  ///< double-clicked
 
+    /// All columns and some rows.
+    QSize sizeHint() const override;
+
     /// Other rows, the first one current.
     void show(Found found);
 

@@ -30,6 +30,8 @@ constexpr const char* whatnear =
     "Near what? A place such as \u201Cnear 50.1 N 1.4 W\u201D, \u201Cnear 50 06.2 N 1 24 "
     "W\u201D or \u201Cnear -33.85, 151.2\u201D, or a port";
 
+constexpr std::size_t mostwords = 5;
+
 std::string countryof(const WorldPort& port) {
     if (!port.about) return "";
     const auto known = std::find_if(shortnames.begin(), shortnames.end(),
@@ -97,10 +99,17 @@ struct Finder::Fitted {
 };
 
 Finder::Finder(const World& ports, std::optional<std::size_t> porthand) : world(ports), inhand(porthand) {
+    std::map<std::string, std::size_t> known;
     for (const WorldPort& port : world.ports) {
-        const FoldedName name(port.name), all(port.name + " " + world.areas[port.area].name + " " + countryof(port));
-        names.push_back(name);
-        entries.push_back({name, all, U' ' + all.typed + U' ' + all.othersaints, placeof(port)});
+        const FoldedName& name = names.emplace_back(port.name);
+        const std::string text = world.areas[port.area].name + " " + countryof(port);
+        const auto [region, fresh] = known.try_emplace(text, regions.size());
+        if (fresh) regions.emplace_back(text);
+        const FoldedName& place = regions[region->second];
+        std::u32string words;
+        for (const std::u32string* each : {&name.typed, &name.othersaints, &place.typed, &place.othersaints})
+            words += U' ' + *each;
+        entries.push_back({words, region->second, placeof(port)});
     }
     inhandmiles = inhand ? milesfrom(entries[*inhand].at) : std::vector<double>(entries.size());
     grades.assign(entries.size(), other);
@@ -124,12 +133,21 @@ std::vector<double> Finder::milesfrom(EarthPlace from) const {
     return miles;
 }
 
+/// In another area than the port in hand.
+bool Finder::elsewhere(std::size_t place) const {
+    return inhand && world.ports[place].area != world.ports[*inhand].area;
+}
+
 std::vector<FoundPort> Finder::bydistance(const std::vector<double>& miles) const {
     std::vector<FoundPort> ports(entries.size());
     for (std::size_t place = 0; place < ports.size(); ++place)
         ports[place].place = place;
+    // What two areas have as one port lies within a tenth of a mile: that of the area in hand comes first.
+    const auto rankof = [&](const FoundPort& each) {
+        return std::pair(std::round(10 * miles[each.place]), elsewhere(each.place));
+    };
     std::stable_sort(ports.begin(), ports.end(),
-                     [&](const FoundPort& a, const FoundPort& b) { return miles[a.place] < miles[b.place]; });
+                     [&](const FoundPort& a, const FoundPort& b) { return rankof(a) < rankof(b); });
     return ports;
 }
 
@@ -149,8 +167,10 @@ std::vector<Finder::Fitted> Finder::fits(std::string_view text) const {
     const auto typed = wordsof(wanted.typed), saints = wordsof(wanted.saints());
     for (std::size_t place = 0; place < entries.size(); ++place) {
         const Entry& entry = entries[place];
-        if (placed[place] || (!hasall(entry.words, typed) && !hasall(entry.words, saints))) continue;
-        const bool name = hasbeginning(entry.name.typed, typed) || hasbeginning(entry.name.saints(), saints);
+        const bool all = hasall(entry.words, typed) || (!wanted.othersaints.empty() && hasall(entry.words, saints));
+        if (placed[place] || !all) continue;
+        const FoldedName& folded = names[place];
+        const bool name = hasbeginning(folded.typed, typed) || hasbeginning(folded.saints(), saints);
         add({place}, name ? Fit::word : Fit::words);
     }
     const bool any = !found.empty();
@@ -163,30 +183,54 @@ std::vector<Finder::Fitted> Finder::fits(std::string_view text) const {
 /// Misses of what is left of the text without the words that a port has.
 std::vector<Finder::Fitted> Finder::misses(const FoldedName& text) const {
     const auto words = wordsof(text.saints());
-    std::map<std::u32string, std::vector<std::size_t>> places;
+    // So many words are no port, and each may be left out or not.
+    if (words.size() > mostwords) return {};
+    // By the words that are left, a bit each.
+    std::array<std::vector<std::size_t>, 1U << mostwords> groups;
     for (std::size_t place = 0; place < entries.size(); ++place) {
-        std::u32string rest;
-        for (const std::u32string& word : words)
-            if (entries[place].words.find(word) == std::u32string::npos) rest += word;
-        places[rest].push_back(place);
+        std::size_t left = 0;
+        for (std::size_t i = 0; i < words.size(); ++i)
+            if (entries[place].words.find(words[i]) == std::u32string::npos) left |= std::size_t{1} << i;
+        groups[left].push_back(place);
     }
     std::vector<Fitted> found;
-    for (const auto& [rest, group] : places) {
-        std::vector<FoldedName> texts;
-        for (const std::size_t place : group)
-            texts.push_back(entries[place].all);
-        for (const PortHit& hit : findports(texts, FoldedName(plain(rest))))
-            found.push_back({group[hit.place], Fit::nearmiss, hit.distance, hit.shape});
+    for (std::size_t left = 1; left < groups.size(); ++left) {
+        std::u32string rest;
+        for (std::size_t i = 0; i < words.size(); ++i)
+            if ((left >> i & 1U) != 0) rest += words[i];
+        if (!groups[left].empty()) addmisses(FoldedName(plain(rest)), groups[left], found);
     }
     return found;
+}
+
+/// The misses in the names of some ports, or else in what their areas and countries are called.
+void Finder::addmisses(const FoldedName& rest, const std::vector<std::size_t>& group,
+                       std::vector<Fitted>& found) const {
+    std::map<std::size_t, PortHit> regionhits;
+    for (const PortHit& hit : findports(regions, rest))
+        if (hit.rank == PortHit::nearmiss) regionhits[hit.place] = hit;
+    // The whole text was looked for in all the names before.
+    std::vector<FoldedName> texts;
+    if (group.size() < entries.size())
+        for (const std::size_t place : group)
+            texts.push_back(names[place]);
+    std::vector<char> added(entries.size(), false);
+    for (const PortHit& hit : findports(texts, rest)) {
+        found.push_back({group[hit.place], Fit::nearmiss, hit.distance, hit.shape});
+        added[group[hit.place]] = true;
+    }
+    for (const std::size_t place : group) {
+        const auto hit = regionhits.find(entries[place].region);
+        if (hit != regionhits.end() && !added[place])
+            found.push_back({place, Fit::nearmiss, hit->second.distance, hit->second.shape});
+    }
 }
 
 std::vector<FoundPort> Finder::search(std::string_view text) const {
     std::vector<Fitted> found = fits(text);
     const auto rankof = [&](const Fitted& each) {
-        const bool another = inhand && world.ports[each.place].area != world.ports[*inhand].area;
         return std::tuple(each.fit, each.distance, each.shape, grades[each.place], std::round(inhandmiles[each.place]),
-                          another, each.place);
+                          elsewhere(each.place), each.place);
     };
     std::sort(found.begin(), found.end(), [&](const Fitted& a, const Fitted& b) { return rankof(a) < rankof(b); });
     std::vector<FoundPort> ports;

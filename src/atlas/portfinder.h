@@ -57,10 +57,10 @@ class Finder {
     Found find(std::string_view text) const;
 
   private:
-    /// A port's texts folded, and where it is.
+    /// What a port is known by, folded, and where it is.
     struct Entry {
-        FoldedName name, all;
-        std::u32string words;  ///< each with a blank before it, in both spellings
+        std::u32string words;  ///< of its name, its area and its country, a blank before each, in both spellings
+        std::size_t region;    ///< its place in `regions`
         EarthPlace at;
     };
     struct Fitted;
@@ -70,14 +70,17 @@ class Finder {
     Found everything() const;
     std::vector<Fitted> fits(std::string_view text) const;
     std::vector<Fitted> misses(const FoldedName& text) const;
+    void addmisses(const FoldedName& rest, const std::vector<std::size_t>& group, std::vector<Fitted>& found) const;
     std::vector<FoundPort> search(std::string_view text) const;
+    bool elsewhere(std::size_t place) const;
     std::vector<FoundPort> bydistance(const std::vector<double>& miles) const;
     std::vector<double> milesfrom(EarthPlace from) const;
 
     const World& world;
     std::optional<std::size_t> inhand;
     std::vector<Entry> entries;
-    std::vector<FoldedName> names;
+    std::vector<FoldedName> names;    ///< one an entry
+    std::vector<FoldedName> regions;  ///< each area with each country of its ports
     std::vector<double> inhandmiles;  ///< from the port in hand; noughts without one
     std::vector<std::size_t> favourites, recents;
     std::vector<char> grades;  ///< a Grade each

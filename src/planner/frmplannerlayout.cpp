@@ -133,6 +133,7 @@ QLayout* frmplanner::buildchoices() {
         button->setAutoRaise(button == cmdAbout);
         row->addWidget(button);
     }
+    row->addSpacing(fontMetrics().averageCharWidth());
     auto* date = new QHBoxLayout;
     date->setSpacing(0);
     for (QWidget* each : {static_cast<QWidget*>(cmdPreviousWeek), static_cast<QWidget*>(cmdPreviousDay),

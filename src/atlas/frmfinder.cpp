@@ -168,6 +168,14 @@ void frmfinder::choose(std::size_t place) {
 }
 
 bool frmfinder::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == txtFind && event->type() == QEvent::ShortcutOverride) {
+        // Where the box would delete a letter by it.
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_D && key.modifiers() == Qt::ControlModifier) {
+            event->ignore();
+            return true;
+        }
+    }
     if (watched == txtFind && event->type() == QEvent::KeyPress && movesinlist(static_cast<QKeyEvent&>(*event))) {
         QCoreApplication::sendEvent(ports, event);
         return true;

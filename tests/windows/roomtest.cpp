@@ -7,6 +7,7 @@
 #include "almanac/frmriseresults.h"
 #include "almanac/frmsunrise.h"
 #include "almanac/sunview.h"
+#include "atlas/frmfinder.h"
 #include "diamonds/diamondofstreams.h"
 #include "diamonds/frmimport.h"
 #include "diamonds/frmstreams.h"
@@ -45,6 +46,8 @@ struct Room : LoadedMain {
         putdiamonds(session.folders.programfolder + "/solent.l20", {rounddiamond()});
     }
 
+    World world = readworld(session.folders);
+
     template <class... Dialogs>
     void add(Windows& windows) {
         (windows.push_back(std::make_unique<Dialogs>(context)), ...);
@@ -54,6 +57,9 @@ struct Room : LoadedMain {
         Windows windows;
         add<frmconfig, frmChartdepth, frmoutoptions, frmshowconf, frmHCcopy, frmharmedit, Frmtimdat, Frmsunrise,
             Frmriseresults, frmTidalDiamondsCopy, frmimport, frmstreams>(windows);
+        auto finder = std::make_unique<frmfinder>(context, world, Lighting::day);
+        finder->onabout = finder->onmap = [](std::size_t) {};
+        windows.push_back(std::move(finder));
         windows.push_back(std::make_unique<Form1>(scripted.locale));
         windows.push_back(std::make_unique<frmConditions>(context.services, session.folders));
         return windows;

@@ -37,6 +37,8 @@ TEST_F(FinderKeepsFile, WhatIsKeptComesBack) {
     for (int i = 0; i < 20; ++i)
         EXPECT_TRUE(noterecent(path, {"UK.hc", std::to_string(i)}));
     EXPECT_EQ(recents(), "19 18 17 16 15 14 13 12 11 10 9 8 ");
+    EXPECT_TRUE(noterecent(path, {"UK.hc", "10"}));
+    EXPECT_EQ(recents(), "10 19 18 17 16 15 14 13 12 11 9 8 ");
     EXPECT_EQ(readfinderkeeps(path).favourites.size(), 2U);
     EXPECT_FALSE(noterecent(folder / "not/there/Finder.json", sydney));
 }

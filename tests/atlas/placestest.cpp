@@ -82,6 +82,7 @@ TEST(Places, AreReadAsPersonsTypeThem) {
                               "1.2.3 4",
                               "--5 6",
                               "50 N 1 W 3",
+                              "50 N 1 W 3 E",
                               "1 2 3 4 N 1 W",
                               "inf 3",
                               "1e1 2",

@@ -142,10 +142,8 @@ std::vector<FoundPort> Finder::bydistance(const std::vector<double>& miles) cons
     std::vector<FoundPort> ports(entries.size());
     for (std::size_t place = 0; place < ports.size(); ++place)
         ports[place].place = place;
-    // What two areas have as one port lies within a tenth of a mile: that of the area in hand comes first.
-    const auto rankof = [&](const FoundPort& each) {
-        return std::pair(std::round(10 * miles[each.place]), elsewhere(each.place));
-    };
+    // Of a port that two areas have, that of the area in hand comes first.
+    const auto rankof = [&](const FoundPort& each) { return std::pair(miles[each.place], elsewhere(each.place)); };
     std::stable_sort(ports.begin(), ports.end(),
                      [&](const FoundPort& a, const FoundPort& b) { return rankof(a) < rankof(b); });
     return ports;

@@ -153,6 +153,9 @@ void frmplanner::fillports() {
     cmbPort->clear();
     cmbPort->addItems(names);
     cmbPort->setCurrentIndex(view.whynot.empty() ? view.number - 1 : -1);
+    // A long name is read from its beginning.
+    cmbPort->lineEdit()->home(false);
+    cmbPort->setToolTip(screentext(view.portname));
     QCompleter* completer = cmbPort->completer();
     completer->setFilterMode(Qt::MatchContains);
     completer->setCompletionMode(QCompleter::PopupCompletion);

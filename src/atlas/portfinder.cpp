@@ -72,7 +72,7 @@ std::string plain(std::u32string_view folded) {
     return text;
 }
 
-std::string portcount(std::size_t count) {
+std::string portstext(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " port" : " ports");
 }
 
@@ -254,7 +254,7 @@ Found Finder::everything() const {
     if (!favourites.empty()) order.push_back("your favourites");
     if (kept > favourites.size()) order.push_back("recent ones");
     if (inhand) order.push_back("the nearest to " + world.ports[*inhand].name);
-    found.told = portcount(found.ports.size());
+    found.told = portstext(found.ports.size());
     for (std::size_t i = 0; i < order.size(); ++i)
         found.told += (i == 0 ? ": " : i + 1 < order.size() ? ", " : ", then ") + order[i];
     return found;
@@ -273,7 +273,7 @@ Found Finder::findnear(std::string_view text) const {
     if (!from) return {{}, {}, whatnear};
     found.ports = bydistance(milesfrom(*from));
     found.from = from;
-    found.told = portcount(found.ports.size()) + ", the nearest to " + where + " first";
+    found.told = portstext(found.ports.size()) + ", the nearest to " + where + " first";
     return found;
 }
 
@@ -288,7 +288,7 @@ Found Finder::find(std::string_view text) const {
         found.told = "No port is called so; " + std::to_string(found.ports.size()) +
                      (found.ports.size() == 1 ? " has a name like it" : " have names like it");
     else
-        found.told = portcount(found.ports.size());
+        found.told = portstext(found.ports.size());
     return found;
 }
 

@@ -25,7 +25,7 @@ bool isdigit(char32_t letter) {
 }
 
 /// Marks of degrees, minutes and seconds, and what parts latitude from longitude.
-bool parts(char32_t letter) {
+bool isbetween(char32_t letter) {
     return std::u32string_view(U" \t\u00A0\u202F,;/°º˚'′’´\"″”").find(letter) != std::u32string_view::npos;
 }
 
@@ -42,7 +42,7 @@ std::optional<std::vector<Part>> partsof(std::string_view utf8) {
     const std::u32string text = pointed(codepoints(lowercase(utf8)));
     std::vector<Part> found;
     for (std::size_t i = 0; i < text.size();) {
-        if (parts(text[i])) {
+        if (isbetween(text[i])) {
             ++i;
             continue;
         }

@@ -12,9 +12,11 @@ QPixmap trustpicture(Trust trust, const Colours& colours, int size, int ratio) {
     QPixmap picture(size * ratio, size * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    PainterCanvas canvas(painter, QApplication::font());
-    painttrust(canvas, {size / 2.0, size / 2.0}, size * 0.36, trust, colours);
+    {
+        QPainter painter(&picture);
+        PainterCanvas canvas(painter, QApplication::font());
+        painttrust(canvas, {size / 2.0, size / 2.0}, size * 0.36, trust, colours);
+    }
     return picture;
 }
 

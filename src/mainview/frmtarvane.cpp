@@ -56,6 +56,7 @@ void frmtarvane::showview() {
     refreshstatus(context);
     copyview();
     shownow();
+    followrecent();
     if (planner && planner->isVisible()) planner->follow();
 }
 
@@ -112,6 +113,10 @@ void frmtarvane::connectcontrols() {
     Timer2 = new QTimer(this);
     Timer2->setInterval(60000);
     connect(Timer2, &QTimer::timeout, this, &frmtarvane::Timer2_Timer);
+    recentlater = new QTimer(this);
+    recentlater->setSingleShot(true);
+    recentlater->setInterval(3000);
+    connect(recentlater, &QTimer::timeout, this, &frmtarvane::keeprecent);
     hitelabel->installEventFilter(this);
     hiteval->installEventFilter(this);
     layers.Label1->installEventFilter(this);

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "adjust/frmharmadjust.h"
+#include "atlas/finderkeeps.h"
 #include "planner/frmplanner.h"
 
 #include "mainview/frmlayerspanel.h"
@@ -21,6 +22,7 @@
 #include "mainview/readouts.h"
 #include "platform/qt/picturebox.h"
 #include "session/session.h"
+#include "world/worldports.h"
 
 namespace tarvane {
 
@@ -92,9 +94,12 @@ class frmtarvane : public QMainWindow {
     void opendialog(Dialog dialog);
     void openadjust();
     void openplanner();
-    void openfinder();
+    void openfinder(const std::string& text = "");
     void openmap();
     void openabout();
+    World& worldports();
+    void followrecent();
+    void keeprecent();
     void shownow();
 
     /// A menu or an entry that the view can hide or disable.
@@ -118,6 +123,9 @@ class frmtarvane : public QMainWindow {
     bool layingout = false;                 ///< the controls are being placed: resized pictures wait
     std::unique_ptr<frmHarmAdjust> adjust;  ///< once it was opened
     std::unique_ptr<frmplanner> planner;    ///< once it was opened
+    std::unique_ptr<World> world;           ///< once a window asked for the ports of all areas
+    KeptPort shownport;                     ///< the port that was on show last
+    QTimer* recentlater = nullptr;          ///< until it becomes a recent one
     PresentTide present;
     bool resized = false;  ///< a picture is empty and waits to be drawn anew
 };

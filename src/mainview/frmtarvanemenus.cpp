@@ -87,7 +87,7 @@ void frmtarvane::openplanner() {
             chooseport(context, number);
             showview();
         };
-        planner->onfind = [this] { openfinder(); };
+        planner->onfind = [this](const std::string& text) { openfinder(text); };
         planner->onmap = [this] { openmap(); };
         planner->onabout = [this] { openabout(); };
         planner->onnight = [this](bool night) {
@@ -112,6 +112,7 @@ void frmtarvane::openatstart() {
 void frmtarvane::closeEvent(QCloseEvent* event) {
     if (adjust && adjust->isVisible() && !adjust->close()) return event->ignore();
     if (planner) planner->close();
+    keeprecent();
     QMainWindow::closeEvent(event);
 }
 

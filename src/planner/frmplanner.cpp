@@ -154,6 +154,9 @@ void frmplanner::fillports() {
     cmbPort->clear();
     cmbPort->addItems(names);
     cmbPort->setCurrentIndex(view.whynot.empty() ? view.number - 1 : -1);
+    // A long name is read from its beginning.
+    cmbPort->lineEdit()->home(false);
+    cmbPort->setToolTip(screentext(view.portname));
     QCompleter* completer = cmbPort->completer();
     completer->setFilterMode(Qt::MatchContains);
     completer->setCompletionMode(QCompleter::PopupCompletion);
@@ -180,8 +183,11 @@ void frmplanner::chooseport(const QString& text) {
     if (text == cmbPort->itemText(cmbPort->currentIndex())) return picture->setFocus();
     const std::vector<PortHit> hits = findports(view.ports, text.toStdString());
     if (text.trimmed().isEmpty() || hits.empty()) {
-        tell("No port of this sea area is called so");
-        return fillports();
+        fillports();
+        const bool elsewhere = onfind && !text.trimmed().isEmpty();
+        tell(elsewhere ? "" : "No port of this sea area is called so");
+        if (elsewhere) onfind(text.toStdString());
+        return;
     }
     tell("");
     if (onport) onport(static_cast<std::int16_t>(hits.front().place + 1));

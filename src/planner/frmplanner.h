@@ -33,8 +33,9 @@ class frmplanner : public QMainWindow {
     std::function<void(Date date)> onday;
     std::function<void(bool night)> onnight;
 
-    /// Other windows that it asks for: the finder, the map, what is known of the port.
-    std::function<void()> onfind, onmap, onabout;
+    /// Other windows that it asks for: the finder, with a text to begin with, the map, what is known of the port.
+    std::function<void(const std::string& text)> onfind;
+    std::function<void()> onmap, onabout;
 
     /// The session may have another port by now.
     void follow();

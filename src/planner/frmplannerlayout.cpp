@@ -105,7 +105,7 @@ QLayout* frmplanner::buildchoices() {
     cmbPort = choicebox("cmbPort", {}, "Port");
     cmbPort->setEditable(true);
     cmbPort->setInsertPolicy(QComboBox::NoInsert);
-    cmbPort->setMinimumContentsLength(18);
+    cmbPort->setMinimumContentsLength(17);
     selectonclick(cmbPort->lineEdit());
     cmdPreviousWeek = stepbutton("cmdPreviousWeek", "\u00AB", "Previous week");
     cmdPreviousDay = stepbutton("cmdPreviousDay", "\u2039", "Previous day");
@@ -133,6 +133,7 @@ QLayout* frmplanner::buildchoices() {
         button->setAutoRaise(button == cmdAbout);
         row->addWidget(button);
     }
+    row->addSpacing(fontMetrics().averageCharWidth());
     auto* date = new QHBoxLayout;
     date->setSpacing(0);
     for (QWidget* each : {static_cast<QWidget*>(cmdPreviousWeek), static_cast<QWidget*>(cmdPreviousDay),

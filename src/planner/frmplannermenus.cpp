@@ -89,7 +89,9 @@ void frmplanner::buildmenus() {
     const auto call = [](const std::function<void()>& other) {
         if (other) other();
     };
-    add(go, "mnuFind", "&Find a Port", QKeySequence::Find, [this, call] { call(onfind); });
+    add(go, "mnuFind", "&Find a Port", QKeySequence::Find, [this] {
+        if (onfind) onfind("");
+    });
     add(go, "mnuMap", "&Map", QKeySequence("Ctrl+M"), [this, call] { call(onmap); });
     add(go, "mnuAboutPort", "&About This Port", QKeySequence("Ctrl+I"), [this, call] { call(onabout); });
 

@@ -114,8 +114,15 @@ PlanView openplanview(const MainContext& context) {
 
 bool followport(const MainContext& context, PlanView& view) {
     if (asbefore(context.session.settings, view)) return false;
+    const Date before = view.today;
     takeport(context, view);
     replan(context, view);
+    // Where the other port keeps another date.
+    view.today = todayof(context, view);
+    if (view.first == before && view.today != before) {
+        view.first = view.today;
+        replan(context, view);
+    }
     showwhole(view);
     return true;
 }

@@ -41,8 +41,8 @@ struct PlanView {
 /// At the session's port and its day on show.
 PlanView openplanview(const MainContext& context);
 
-/// Goes over to the session's port where that is another by now, or its constants or the area's list are. True when
-/// anything changed.
+/// Goes over to the session's port where that is another by now, or its constants or the area's list are; days that
+/// began today begin today there. True when anything changed.
 bool followport(const MainContext& context, PlanView& view);
 
 /// The days and the clock. A span is 1 to 31 days; years are 1 to 9999. All of the plan is shown then.

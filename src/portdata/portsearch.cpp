@@ -122,16 +122,6 @@ std::u32string foldsaints(std::u32string_view folded) {
     return result;
 }
 
-/// A text in both spellings: as it is typed, since "st" may be the beginning of any word, and with its saints folded.
-struct FoldedText {
-    explicit FoldedText(std::string_view utf8) : typed(foldletters(utf8)), othersaints(foldsaints(typed)) {}
-
-    const std::u32string& saints() const { return othersaints.empty() ? typed : othersaints; }
-
-    std::u32string typed;
-    std::u32string othersaints;  ///< empty when they are the same
-};
-
 /// Where `wanted` ends in `name` when it stands there from `from` on, whatever the blanks in both.
 std::optional<std::size_t> endofmatch(std::u32string_view name, std::size_t from, std::u32string_view wanted) {
     for (const char32_t letter : wanted) {
@@ -231,7 +221,7 @@ struct RankedMiss {
 };
 
 /// How far the text is from every name, nearest first; right up to the limit.
-std::vector<RankedMiss> missesof(const std::vector<FoldedText>& names, const FoldedText& wanted, int limit) {
+std::vector<RankedMiss> missesof(std::span<const FoldedName> names, const FoldedName& wanted, int limit) {
     MissFinder finder(wanted.saints(), limit);
     std::vector<RankedMiss> misses;
     for (std::size_t place = 0; place < names.size(); ++place)
@@ -241,11 +231,11 @@ std::vector<RankedMiss> missesof(const std::vector<FoldedText>& names, const Fol
     return misses;
 }
 
-std::vector<FoldedText> foldedof(std::span<const std::string> names) {
+std::vector<FoldedName> foldedof(std::span<const std::string> names) {
     return {names.begin(), names.end()};
 }
 
-std::optional<int> rankof(const FoldedText& name, const FoldedText& wanted) {
+std::optional<int> rankof(const FoldedName& name, const FoldedName& wanted) {
     if (wanted.typed.empty()) return PortHit::begins;
     const auto typed = rankof(name.typed, wanted.typed);
     if (name.othersaints.empty() && wanted.othersaints.empty()) return typed;
@@ -255,27 +245,32 @@ std::optional<int> rankof(const FoldedText& name, const FoldedText& wanted) {
 
 }  // namespace
 
+FoldedName::FoldedName(std::string_view utf8) : typed(foldletters(utf8)), othersaints(foldsaints(typed)) {}
+
 std::u32string foldname(std::string_view utf8) {
-    return FoldedText(utf8).saints();
+    return FoldedName(utf8).saints();
 }
 
 std::vector<PortHit> findports(std::span<const std::string> names, std::string_view wanted) {
-    const std::vector<FoldedText> folded = foldedof(names);
-    const FoldedText text(wanted);
+    return findports(foldedof(names), FoldedName(wanted));
+}
+
+std::vector<PortHit> findports(std::span<const FoldedName> names, const FoldedName& wanted) {
     std::vector<PortHit> hits;
-    for (std::size_t place = 0; place < folded.size(); ++place) {
-        if (const auto rank = rankof(folded[place], text)) hits.push_back({place, *rank, 0});
+    for (std::size_t place = 0; place < names.size(); ++place) {
+        if (const auto rank = rankof(names[place], wanted)) hits.push_back({place, *rank, 0});
     }
     std::stable_sort(hits.begin(), hits.end(), [](const PortHit& a, const PortHit& b) { return a.rank < b.rank; });
-    const int limit = misslimit(text.typed);
+    const int limit = misslimit(wanted.typed);
     if (!hits.empty() || limit == 0) return hits;
-    for (const RankedMiss& row : missesof(folded, text, limit))
-        if (row.miss.distance <= limit) hits.push_back({row.place, PortHit::nearmiss, row.miss.distance});
+    for (const RankedMiss& row : missesof(names, wanted, limit))
+        if (row.miss.distance <= limit)
+            hits.push_back({row.place, PortHit::nearmiss, row.miss.distance, 2 * row.miss.unfinished + row.miss.inner});
     return hits;
 }
 
 std::vector<std::size_t> nearestports(std::span<const std::string> names, std::string_view wanted, std::size_t most) {
-    const FoldedText text(wanted);
+    const FoldedName text(wanted);
     std::vector<std::size_t> places;
     for (const RankedMiss& row : missesof(foldedof(names), text, static_cast<int>(text.saints().size())))
         if (places.size() < most) places.push_back(row.place);

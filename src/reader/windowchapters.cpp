@@ -28,6 +28,7 @@ constexpr WindowChapter chapters[] = {
     {"frmimport", streams},         {"frmstreams", streams},
     {"frmshowconf", files},         {"frmplanner", planner},
     {"frmaboutport", world},        {"frmcheckport", world},
+    {"frmfinder", world},
 };
 
 }  // namespace

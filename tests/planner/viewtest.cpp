@@ -186,6 +186,24 @@ TEST_F(PlanViewTest, DaysThatBeginTodayFollowOverMidnight) {
     EXPECT_EQ(view.first, makedate(2024, 4, 10));
 }
 
+TEST_F(PlanViewTest, DaysThatBeginTodayDoSoAtAPortWithAnotherDate) {
+    // Auckland's clocks, or as near as a zone letter comes: a day ahead of London's in the afternoon.
+    writeport(area(), 5, fixtureport("Far Cove", 4, "W"));
+    scripted.clock.set(2024, 1, 9, 14, 0);
+    PlanView view = opened();
+    showdays(context, view, makedate(2024, 1, 9), 7);
+    for (const auto& [port, date] : {std::pair(5, 10U), {1, 9U}}) {
+        session.settings.currentport = static_cast<std::int16_t>(port);
+        EXPECT_TRUE(followport(context, view));
+        EXPECT_EQ(view.first, makedate(2024, 1, date)) << port;
+        EXPECT_EQ(view.plan->begins(), view.from) << port;
+    }
+    showdays(context, view, makedate(2024, 1, 12), 7);
+    session.settings.currentport = 5;
+    EXPECT_TRUE(followport(context, view));
+    EXPECT_EQ(view.first, makedate(2024, 1, 12)) << "days that were chosen stay";
+}
+
 TEST_F(PlanViewTest, ARefusalChangesNothing) {
     PlanView view = opened();
     askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});

@@ -97,6 +97,10 @@ TEST_F(FrmPlanner, PortsAreFollowedBothWays) {
     };
     enter("ceder hed");
     EXPECT_EQ(planner->cmbPort->currentIndex(), 2) << "a near miss";
+    scripted.windows.expect("frmfinder");
+    enter("xyzzy");
+    EXPECT_EQ(name->text(), "Cedar Head") << "none was found elsewhere either";
+    planner->onfind = nullptr;
     enter("xyzzy");
     EXPECT_EQ(shown(*planner->lblSaid), "No port of this sea area is called so");
     EXPECT_EQ(name->text(), "Cedar Head");

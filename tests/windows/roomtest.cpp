@@ -9,6 +9,7 @@
 #include "almanac/sunview.h"
 #include "atlas/frmaboutport.h"
 #include "atlas/frmcheckport.h"
+#include "atlas/frmfinder.h"
 #include "diamonds/diamondofstreams.h"
 #include "diamonds/frmimport.h"
 #include "diamonds/frmstreams.h"
@@ -47,6 +48,8 @@ struct Room : LoadedMain {
         putdiamonds(session.folders.programfolder + "/solent.l20", {rounddiamond()});
     }
 
+    World world = readworld(session.folders);
+
     template <class... Dialogs>
     void add(Windows& windows) {
         (windows.push_back(std::make_unique<Dialogs>(context)), ...);
@@ -58,6 +61,9 @@ struct Room : LoadedMain {
             Frmriseresults, frmTidalDiamondsCopy, frmimport, frmstreams>(windows);
         windows.push_back(std::make_unique<frmaboutport>(context, area(), 1));
         windows.push_back(std::make_unique<frmcheckport>(context, area(), 1));
+        auto finder = std::make_unique<frmfinder>(context, world, Lighting::day);
+        finder->onabout = finder->onmap = [](std::size_t) {};
+        windows.push_back(std::move(finder));
         windows.push_back(std::make_unique<Form1>(scripted.locale));
         windows.push_back(std::make_unique<frmConditions>(context.services, session.folders));
         return windows;

@@ -5,9 +5,12 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <array>
+#include <chrono>
+#include <ctime>
 #include <memory>
 
 #include "adjust/workspace.h"
+#include "atlas/frmfinder.h"
 #include "files/wholefiles.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/monthcommand.h"
@@ -228,6 +231,45 @@ void windowmousemove(benchmark::State& state) {
     }
 }
 BENCHMARK(windowmousemove)->Unit(benchmark::kMicrosecond);
+
+/// The finder over all areas, from a key to what is seen, for texts typed letter by letter: the mean of a key, and the
+/// slowest one of all, by the clock and by what the processor spent on it. Wanted under 16 ms.
+void finderkeystroke(benchmark::State& state) {
+    using Clock = std::chrono::steady_clock;
+    Bench bench;
+    ProgramFolders shipped = bench.folders;
+    shipped.programfolder = QApplication::applicationDirPath().toStdString();
+    World world = readworld(shipped);
+    if (world.areas.size() < 2) return state.SkipWithError("the areas aren't beside the program");
+    frmfinder window(bench.context, world, Lighting::day);
+    window.show();
+    QApplication::processEvents();
+    double worst = 0, worstcpu = 0, spent = 0;
+    std::size_t keys = 0;
+    for (auto _ : state) {
+        const double before = spent;
+        for (const char* text : {"sydney", "san francisco", "newport us", "st malo france", "near 50.1 n 1.4 w",
+                                 "near brest", "nagasky", "sydny australia", "halifx cnada", "xyzzy qwert yuiop"}) {
+            window.txtFind->clear();
+            for (const char* letter = text; *letter != 0; ++letter, ++keys) {
+                const auto pressed = Clock::now();
+                const auto cpu = std::clock();
+                window.txtFind->insert(QString(QLatin1Char(*letter)));
+                benchmark::DoNotOptimize(window.grab());
+                const double took = std::chrono::duration<double>(Clock::now() - pressed).count();
+                worst = std::max(worst, took);
+                worstcpu = std::max(worstcpu, static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC);
+                spent += took;
+            }
+        }
+        state.SetIterationTime(spent - before);
+    }
+    state.counters["ports"] = static_cast<double>(world.ports.size());
+    state.counters["worst_ms"] = worst * 1000;
+    state.counters["worst_cpu_ms"] = worstcpu * 1000;
+    state.counters["key_ms"] = spent * 1000 / static_cast<double>(keys);
+}
+BENCHMARK(finderkeystroke)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 }  // namespace
 

@@ -36,6 +36,7 @@
 #include "shots/about.h"
 #include "shots/booklets.h"
 #include "shots/diamonds.h"
+#include "shots/finder.h"
 #include "shots/pages.h"
 #include "shots/planner.h"
 #include "shots/reader.h"
@@ -297,6 +298,8 @@ void takeeverything(Album& album, const std::string& area) {
     takediamonds(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     takeabout(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     takeplanner(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
+    takefinder(stage, QFileInfo(QString::fromStdString(area)).path().toStdString(),
+               [&album](QWidget& window, const QString& name) { album.take(window, name); });
     preparesunview(stage.sessiononstage());
     album.takedialog<Frmsunrise>(stage, "Frmsunrise");
     calculatesun(context, portsuninput(stage.sessiononstage()));

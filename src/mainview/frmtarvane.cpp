@@ -57,6 +57,7 @@ void frmtarvane::showview() {
     copyview();
     shownow();
     if (planner && planner->isVisible()) planner->follow();
+    if (map && map->isVisible()) map->follow();
 }
 
 void frmtarvane::shownow() {

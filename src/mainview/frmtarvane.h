@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "adjust/frmharmadjust.h"
+#include "atlas/frmmap.h"
 #include "planner/frmplanner.h"
 
 #include "mainview/frmlayerspanel.h"
@@ -118,6 +119,7 @@ class frmtarvane : public QMainWindow {
     bool layingout = false;                 ///< the controls are being placed: resized pictures wait
     std::unique_ptr<frmHarmAdjust> adjust;  ///< once it was opened
     std::unique_ptr<frmplanner> planner;    ///< once it was opened
+    std::unique_ptr<frmmap> map;            ///< once it was opened
     PresentTide present;
     bool resized = false;  ///< a picture is empty and waits to be drawn anew
 };

@@ -6,7 +6,22 @@ namespace tarvane {
 
 void frmtarvane::openfinder() {}
 
-void frmtarvane::openmap() {}
+/// The map stands beside the main window, and each follows the other to another port.
+void frmtarvane::openmap() {
+    if (!map) {
+        map = std::make_unique<frmmap>(context);
+        map->onport = [this](const std::string& area, std::int16_t number) {
+            chooseport(context, area, number);
+            showview();
+        };
+    }
+    map->shownight(planner ? planner->planview().settings.night
+                           : readplansettings(plansettingspath(session.folders)).night);
+    map->follow();
+    map->show();
+    map->raise();
+    map->activateWindow();
+}
 
 void frmtarvane::openabout() {}
 

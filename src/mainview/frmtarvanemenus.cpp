@@ -92,6 +92,7 @@ void frmtarvane::openplanner() {
         planner->onabout = [this] { openabout(); };
         planner->onnight = [this](bool night) {
             if (onnight) onnight(night);
+            if (map) map->shownight(night);
         };
         planner->onday = [this](Date date) {
             showdate(context, date);
@@ -112,6 +113,7 @@ void frmtarvane::openatstart() {
 void frmtarvane::closeEvent(QCloseEvent* event) {
     if (adjust && adjust->isVisible() && !adjust->close()) return event->ignore();
     if (planner) planner->close();
+    if (map) map->close();
     QMainWindow::closeEvent(event);
 }
 

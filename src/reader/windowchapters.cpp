@@ -26,6 +26,7 @@ constexpr WindowChapter chapters[] = {
     {"frmWeighting", creek},        {"frmTidalDiamondsCopy", streams},
     {"frmimport", streams},         {"frmstreams", streams},
     {"frmshowconf", files},         {"frmplanner", planner},
+    {"frmmap", choosing},
 };
 
 }  // namespace

@@ -21,15 +21,17 @@ std::string stampof(const std::string& path) {
     return std::to_string(size) + " " + std::to_string(written.time_since_epoch().count());
 }
 
+WorldArea areaat(const ProgramFolders& folders, const std::string& path) {
+    const std::string file = fs::path(path).filename().string();
+    return {path, namebeforepoint(file), stampof(path) + ", " + stampof(datafile(folders, aboutname(file)))};
+}
+
 std::vector<WorldArea> findareas(const ProgramFolders& folders, const std::string& another) {
     std::vector<std::string> paths = everyarea(folders);
     if (!another.empty() && std::find(paths.begin(), paths.end(), another) == paths.end()) paths.push_back(another);
     std::vector<WorldArea> areas;
-    for (const std::string& path : paths) {
-        const std::string file = fs::path(path).filename().string();
-        areas.push_back(
-            {path, namebeforepoint(file), stampof(path) + ", " + stampof(datafile(folders, aboutname(file)))});
-    }
+    for (const std::string& path : paths)
+        areas.push_back(areaat(folders, path));
     return areas;
 }
 
@@ -48,6 +50,12 @@ void readarea(const ProgramFolders& folders, const WorldArea& area, std::size_t 
 World readworld(const ProgramFolders& folders, const std::string& another) {
     World world;
     rereadworld(folders, world, another);
+    return world;
+}
+
+World readoneworld(const ProgramFolders& folders, const std::string& path) {
+    World world{{areaat(folders, path)}, {}};
+    readarea(folders, world.areas.front(), 0, world.ports);
     return world;
 }
 

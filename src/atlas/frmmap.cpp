@@ -40,7 +40,7 @@ frmmap::frmmap(MainContext& maincontext) : context(maincontext) {
     connectcontrols();
     shownight(false);
     follow();
-    resize(sizeHint());
+    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 44);
     fitscreen(*this);
     centreon(*this, nullptr);
     map->setFocus();
@@ -98,8 +98,8 @@ void frmmap::connectcontrols() {
     map->onport = [this](std::size_t place) {
         const WorldPort& port = map->world().ports[place];
         // The list of ports may be read anew before this comes back.
-        const std::string area = map->world().areas[port.area].path;
-        if (onport && place != map->inhand()) onport(area, port.number);
+        const std::string path = map->world().areas[port.area].path;
+        if (onport && place != map->inhand()) onport(path, port.number);
     };
     connect(cmdZoomIn, &QPushButton::clicked, this, [this] { map->zoom(zoomstep); });
     connect(cmdZoomOut, &QPushButton::clicked, this, [this] { map->zoom(1 / zoomstep); });
@@ -112,7 +112,9 @@ void frmmap::connectcontrols() {
 
 void frmmap::follow() {
     const Settings& settings = context.session.settings;
-    if (rereadworld(context.session.folders, files, settings.hcfile)) map->setports(files);
+    const bool changed = rereadworld(context.session.folders, files, settings.hcfile);
+    if (changed || area != settings.hcfile) map->setports(files, settings.hcfile);
+    area = settings.hcfile;
     map->setinhand(worldplace(files, settings.hcfile, settings.currentport));
     const bool known = map->inhand().has_value();
     setWindowTitle(known ? screentext(files.ports[*map->inhand()].name + " - Map") : QStringLiteral("Map"));

@@ -46,7 +46,8 @@ class frmmap : public QWidget {
     void showlegend();
 
     MainContext& context;
-    World files;  ///< as they were read last
+    World files;       ///< as they were read last
+    std::string area;  ///< in hand
     bool night_ = false;
     bool shownbefore_ = false;
 };

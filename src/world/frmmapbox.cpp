@@ -38,9 +38,9 @@ void MapBox::setlook(const Colours& wanted) {
     redraw();
 }
 
-void MapBox::setports(World world, const std::string& area) {
+void MapBox::setports(World world, const std::string& first) {
     world_ = std::move(world);
-    ports_ = mapports(world_, area);
+    ports_ = mapports(world_, first);
     pointed_.reset();
     inhand_.reset();
     redraw();
@@ -73,7 +73,7 @@ void MapBox::redraw() {
 }
 
 QSize MapBox::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 36};
+    return {fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 30};
 }
 
 MapPicture MapBox::picture() const {

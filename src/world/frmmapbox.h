@@ -21,8 +21,8 @@ class MapBox : public QWidget {
 
     void setlook(const Colours& wanted);
 
-    /// The ports of all areas, or those of one alone.
-    void setports(World world, const std::string& area = "");
+    /// Those of the area with the path `first` are shown before others that are as good.
+    void setports(World world, const std::string& first = "");
 
     /// Marks a port, by its place in `World::ports`, and where it was another goes to it if it isn't in view.
     void setinhand(std::optional<std::size_t> place);

@@ -13,10 +13,11 @@ QIcon trusticon(Trust trust, const Colours& colours, int size) {
         QPixmap picture(size * ratio, size * ratio);
         picture.setDevicePixelRatio(ratio);
         picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        PainterCanvas canvas(painter, QApplication::font());
-        painttrust(canvas, {size / 2.0, size / 2.0}, size * 0.36, trust, colours);
-        painter.end();
+        {
+            QPainter painter(&picture);
+            PainterCanvas canvas(painter, QApplication::font());
+            painttrust(canvas, {size / 2.0, size / 2.0}, size * 0.36, trust, colours);
+        }
         icon.addPixmap(picture);
     }
     return icon;

@@ -31,7 +31,7 @@ std::string angletext(double degrees, const char* hemispheres) {
     const long minutes = std::lround(std::abs(degrees) * 60);
     std::string text = std::to_string(minutes / 60) + "\u00B0";
     if (minutes % 60 != 0) text += (minutes % 60 < 10 ? "0" : "") + std::to_string(minutes % 60) + "'";
-    if (minutes != 0) text += degrees > 0 ? hemispheres[0] : hemispheres[1];
+    if (minutes != 0 && minutes != 180 * 60) text += degrees > 0 ? hemispheres[0] : hemispheres[1];
     return text;
 }
 
@@ -60,6 +60,15 @@ class MapPainter {
         return {look_.faint, picture_.textsize * smalltext, false, anchor};
     }
 
+    /// A text of the grid, to be read over land and coast alike.
+    void gridnote(Place place, const std::string& text) {
+        const double width = canvas_.textwidth(text, small()), height = canvas_.textheight(small());
+        const std::array corners{Place{place.x - 2, place.y}, Place{place.x + width + 2, place.y},
+                                 Place{place.x + width + 2, place.y + height}, Place{place.x - 2, place.y + height}};
+        canvas_.fill(corners, look_.sea, 0.7);
+        note(place, text, small());
+    }
+
     /// A text that names keep clear of.
     void note(Place place, const std::string& text, const TextLook& look) {
         const double width = canvas_.textwidth(text, look);
@@ -82,13 +91,12 @@ class MapPainter {
             const double x = (line * degrees - west) / 360 * view_.scale;
             canvas_.line(std::array{Place{x, 0}, Place{x, view_.height}}, {look_.grid, 0.6});
             const double longitude = line * degrees - 360 * std::floor((line * degrees + 180) / 360);
-            if (x > edge && x + 4 * high < view_.width) note({x + 3, 2}, longitudetext(longitude), small());
+            if (x > edge && x + 4 * high < view_.width) gridnote({x + 3, 2}, longitudetext(longitude));
         }
         for (double line = std::ceil(south / degrees); line * degrees <= north; ++line) {
             const double y = view_.placeof(mappoint(line * degrees, 0)).y;
             canvas_.line(std::array{Place{0, y}, Place{view_.width, y}}, {look_.grid, 0.6});
-            if (y - high > high && y < view_.height - 3 * high)
-                note({3, y - high}, latitudetext(line * degrees), small());
+            if (y - high > high && y < view_.height - 3 * high) gridnote({3, y - high}, latitudetext(line * degrees));
         }
     }
 
@@ -145,7 +153,14 @@ class MapPainter {
         std::size_t tried = 0;
         for (const MapPort* port : shown_) {
             if (++tried > mostnames) break;
-            if (const auto label = places_.placefirst(labelsof(*port))) paintlabel(canvas_, *label);
+            const std::vector<Label> choices = labelsof(*port);
+            std::optional<Label> label = places_.placefirst(choices);
+            if (!label && isinhand(*port)) {
+                label = choices.front();
+                label->behind = look_.paper;
+                places_.take(tarvane::areaof(canvas_, *label));
+            }
+            if (label) paintlabel(canvas_, *label);
         }
     }
 
@@ -184,6 +199,9 @@ void paintpointed(Canvas& canvas, const MapPicture& picture, std::size_t pointed
     const MapPort& port = picture.ports[pointed];
     const Colours& look = picture.look;
     const Place mark = picture.view.placeof(port.point);
+    if (!areaof(picture).holds(mark)) return;
+    // It may be one that is too near another to be shown.
+    painttrust(canvas, mark, inhandradius, port.trust, look);
     paintring(canvas, mark, inhandradius + 4, {look.cursor, 2});
     Label label{porttexts(picture.world, port), {look.text, picture.textsize}, mark, 0, {}};
     const Area size = areaof(canvas, label);

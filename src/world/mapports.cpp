@@ -39,17 +39,19 @@ int depthamong(const MapPort& port, const std::vector<MapPort>& before) {
 
 }  // namespace
 
-std::vector<MapPort> mapports(const World& world, const std::string& area) {
+std::vector<MapPort> mapports(const World& world, const std::string& first) {
     std::vector<MapPort> all, placed;
     for (std::size_t place = 0; place < world.ports.size(); ++place) {
         const WorldPort& port = world.ports[place];
         // What a damaged file tells needn't be a place.
         if (!std::isfinite(port.latitude) || !(std::abs(port.longitude) <= 360)) continue;
-        if (!area.empty() && world.areas[port.area].path != area) continue;
         all.push_back({place, mappoint(port.latitude, port.longitude), trustof(port.about, port.own), 0});
     }
+    const auto later = [&](const MapPort& port) {
+        return 2 * rankof(port.trust) + (world.areas[world.ports[port.place].area].path == first ? 0 : 1);
+    };
     std::stable_sort(all.begin(), all.end(),
-                     [](const MapPort& one, const MapPort& other) { return rankof(one.trust) < rankof(other.trust); });
+                     [&](const MapPort& one, const MapPort& other) { return later(one) < later(other); });
     for (MapPort& each : all) {
         each.depth = depthamong(each, placed);
         placed.push_back(each);
@@ -73,7 +75,8 @@ std::optional<std::size_t> hitport(const std::vector<MapPort>& ports, const MapV
         if (ports[i].depth > depth && ports[i].place != inhand) continue;
         const Place mark = view.placeof(ports[i].point);
         const double right = mark.x - place.x, down = mark.y - place.y, apart = right * right + down * down;
-        if (apart > least) continue;
+        // Where several lie on one place the first of them is shown.
+        if (apart >= least) continue;
         least = apart;
         nearest = i;
     }

@@ -21,8 +21,8 @@ struct MapPort {
 
 inline constexpr int deepestmap = 17;  ///< here every port is shown
 
-/// Of all areas, or of the one with this path; by depth.
-std::vector<MapPort> mapports(const World& world, const std::string& area = "");
+/// By depth. Of ports that are as good those of the area with this path come first: several areas may have one port.
+std::vector<MapPort> mapports(const World& world, const std::string& first = "");
 
 /// A depth shows ports that are a 2^depth'th of the world's width apart: 16 units of the canvas or more.
 int depthof(const MapView& view);

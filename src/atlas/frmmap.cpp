@@ -64,10 +64,9 @@ void frmmap::buildlayout() {
 
     auto* told = new QHBoxLayout;
     told->addWidget(lblPointed, 1);
-    told->addWidget(lblPosition);
+    told->addLayout(buildlegend());
     auto* foot = new QHBoxLayout;
-    foot->addLayout(buildlegend());
-    foot->addStretch(1);
+    foot->addWidget(lblPosition, 1);
     for (QPushButton* each : {cmdZoomIn, cmdZoomOut, cmdThisPort, cmdArea, cmdAll, cmdClose})
         foot->addWidget(each);
     auto* whole = new QVBoxLayout(this);

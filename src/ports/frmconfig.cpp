@@ -84,7 +84,7 @@ void frmconfig::buildlayout() {
     // The keys have the list; the picture follows it.
     picture = new MapBox(context.session.folders.programfolder);
     picture->setFocusPolicy(Qt::NoFocus);
-    picture->setMinimumWidth(twips(4800));
+    picture->setMinimumWidth(twips(1200));
     auto* both = new QHBoxLayout(this);
     both->addLayout(whole);
     both->addWidget(picture, 1);

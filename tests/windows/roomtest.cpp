@@ -7,6 +7,7 @@
 #include "almanac/frmriseresults.h"
 #include "almanac/frmsunrise.h"
 #include "almanac/sunview.h"
+#include "atlas/frmmap.h"
 #include "diamonds/diamondofstreams.h"
 #include "diamonds/frmimport.h"
 #include "diamonds/frmstreams.h"
@@ -54,6 +55,7 @@ struct Room : LoadedMain {
         Windows windows;
         add<frmconfig, frmChartdepth, frmoutoptions, frmshowconf, frmHCcopy, frmharmedit, Frmtimdat, Frmsunrise,
             Frmriseresults, frmTidalDiamondsCopy, frmimport, frmstreams>(windows);
+        windows.push_back(std::make_unique<frmmap>(context));
         windows.push_back(std::make_unique<Form1>(scripted.locale));
         windows.push_back(std::make_unique<frmConditions>(context.services, session.folders));
         return windows;

@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
     try {
         std::ifstream in(argv[1]);
         const makecoast::Land land = makecoast::readland(nlohmann::json::parse(in));
-        const std::string file = makecoast::coastbytes(land, {0, 14, 45, 150, 500});
+        const std::string file = makecoast::coastbytes(land, {0, 20, 45, 100, 220, 500});
         const WriteOutcome written = replacefile(argv[2], file);
         if (!written) throw std::runtime_error(written.reason());
         const Coast coast = decodecoast(std::as_bytes(std::span(file)));

@@ -28,7 +28,7 @@ constexpr WindowChapter chapters[] = {
     {"frmimport", streams},         {"frmstreams", streams},
     {"frmshowconf", files},         {"frmplanner", planner},
     {"frmaboutport", world},        {"frmcheckport", world},
-    {"frmfinder", world},
+    {"frmfinder", world},           {"frmmap", world},
 };
 
 }  // namespace

@@ -19,6 +19,8 @@ constexpr std::size_t headsize = sizeof mark - 1 + 4;
 constexpr double offbypixels = 0.7;         // no more of a level can be seen
 constexpr double southernmost = 1.3;        // y: no coast lies so far south
 constexpr double meridiannear = 1e-7;       // x: on the date line
+constexpr std::size_t leastring = 7;        // bytes: a number and three points
+constexpr double leaststep = 1e-4;          // of a grid, degrees
 constexpr std::int64_t farthest = 1 << 24;  // steps of the grid
 
 std::uint32_t sumof(std::span<const std::byte> bytes) {
@@ -79,8 +81,32 @@ struct Grid {
 
     bool sound() const {
         return std::abs(longitude) <= 360 && std::abs(latitude) <= 90 && eaststep > 0 && eaststep <= 1 &&
-               northstep > 0 && northstep <= 1;
+               northstep >= leaststep && northstep <= 1;
     }
+};
+
+/// The projected latitudes of a grid, each reckoned once: that is what takes time.
+class Rows {
+  public:
+    explicit Rows(const Grid& grid)
+        : grid_(grid), known_(static_cast<std::size_t>(180 / grid.northstep) + 2, unknown) {}
+
+    float operator[](std::int64_t north) {
+        if (north < 0 || north >= static_cast<std::int64_t>(known_.size())) return projected(north);
+        float& y = known_[static_cast<std::size_t>(north)];
+        if (y == unknown) y = projected(north);
+        return y;
+    }
+
+  private:
+    static constexpr float unknown = -1000;
+
+    float projected(std::int64_t north) const {
+        return static_cast<float>(mappoint(grid_.latitude + grid_.northstep * static_cast<double>(north), 0).y);
+    }
+
+    Grid grid_;
+    std::vector<float> known_;
 };
 
 void widen(CoastBox& box, const CoastPoint& point) {
@@ -100,11 +126,12 @@ CoastBox boxof(std::span<const CoastPoint> points) {
 void boxpieces(CoastRing& ring) {
     const std::span<const CoastPoint> points = ring.points;
     ring.box = boxof(points);
+    ring.pieces.reserve(points.size() / coastpiece + 1);
     for (std::size_t first = 0; first + 1 < points.size(); first += coastpiece)
         ring.pieces.push_back(boxof(points.subspan(first, std::min(coastpiece + 1, points.size() - first))));
 }
 
-std::optional<CoastRing> readring(Bytes& bytes, const Grid& grid) {
+std::optional<CoastRing> readring(Bytes& bytes, const Grid& grid, Rows& rows) {
     const std::uint64_t head = bytes.count(), points = head / 2;
     // A point takes two bytes at least.
     if (bytes.bad || points < 3 || points > bytes.size() / 2) return std::nullopt;
@@ -116,23 +143,23 @@ std::optional<CoastRing> readring(Bytes& bytes, const Grid& grid) {
         east += bytes.step();
         north += bytes.step();
         if (bytes.bad || std::abs(east) > farthest || std::abs(north) > farthest) return std::nullopt;
-        const MapPoint point = mappoint(grid.latitude + grid.northstep * static_cast<double>(north),
-                                        grid.longitude + grid.eaststep * static_cast<double>(east));
-        if (std::abs(point.x) > 4) return std::nullopt;
-        ring.points.push_back({static_cast<float>(point.x), static_cast<float>(point.y)});
+        const double x = (grid.longitude + grid.eaststep * static_cast<double>(east)) / 360 + 0.5;
+        if (std::abs(x) > 4) return std::nullopt;
+        ring.points.push_back({static_cast<float>(x), rows[north]});
     }
     ring.points.push_back(ring.points.front());
     boxpieces(ring);
     return ring;
 }
 
-std::optional<CoastLevel> readlevel(Bytes& bytes, const Grid& grid) {
+std::optional<CoastLevel> readlevel(Bytes& bytes, const Grid& grid, Rows& rows) {
     CoastLevel level;
     level.tolerance = static_cast<double>(bytes.count()) / 1e6;
     const std::uint64_t rings = bytes.count();
-    if (bytes.bad || rings > bytes.size()) return std::nullopt;
+    if (bytes.bad || rings > bytes.size() / leastring) return std::nullopt;
+    level.rings.reserve(rings);
     for (std::uint64_t i = 0; i < rings; ++i) {
-        std::optional<CoastRing> ring = readring(bytes, grid);
+        std::optional<CoastRing> ring = readring(bytes, grid, rows);
         if (!ring) return std::nullopt;
         level.rings.push_back(std::move(*ring));
     }
@@ -152,13 +179,15 @@ Coast decodelevels(std::span<const std::byte> body) {
         *each = bytes.number();
     const std::uint64_t levels = bytes.count();
     if (bytes.bad || !grid.sound() || levels < 1 || levels > 16) return broken();
+    Rows rows(grid);
     Coast coast;
     for (std::uint64_t i = 0; i < levels; ++i) {
-        std::optional<CoastLevel> level = readlevel(bytes, grid);
+        std::optional<CoastLevel> level = readlevel(bytes, grid, rows);
         if (!level) return broken();
         coast.levels.push_back(std::move(*level));
     }
-    return bytes.size() == 0 ? coast : broken();
+    if (bytes.size() != 0) return broken();
+    return coast;
 }
 
 Coast decodecoast(std::span<const std::byte> file) {

@@ -7,8 +7,10 @@
 namespace tarvane {
 namespace {
 
-constexpr double speck = 2.5;  // units of the canvas: an island that is all coast
-constexpr double beyond = 4;   // units of the canvas: what is clipped there isn't seen
+// Units of the canvas: islands that are all coast.
+constexpr double speck = 2.5;
+constexpr double islet = 5;
+constexpr double beyond = 4;  // units of the canvas: what is clipped there isn't seen
 
 /// The world moved by whole turns, on the canvas.
 struct Onto {
@@ -60,8 +62,10 @@ class LandPainter {
     void paint(const CoastRing& ring, const Onto& onto) {
         const Area all = onto(ring.box);
         if (beside(all, frame_)) return;
-        if (std::max(all.width(), all.height()) < speck) return canvas_.fill(all, look_.shore);
+        const double size = std::max(all.width(), all.height());
+        if (size < speck) return canvas_.fill(all, look_.shore);
         collect(ring, onto);
+        if (size < islet) return canvas_.fill(shape_, look_.shore, 1);
         if (!within(all, frame_)) {
             clip(shape_, &Place::x, frame_.left, -1, room_);
             clip(shape_, &Place::x, frame_.right, 1, room_);

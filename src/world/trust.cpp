@@ -50,10 +50,11 @@ void painttrust(Canvas& canvas, Place middle, double radius, Trust trust, const 
                                  Place{middle.x, middle.y + radius}, Place{middle.x - radius, middle.y}};
         return canvas.fill(diamond, colours.curve);
     }
-    const std::vector<Place> rim = arc(middle, inner, 0, 2);
-    canvas.fill(rim, trust == Trust::close ? colours.curve : colours.paper);
-    if (trust == Trust::fair) canvas.fill(arc(middle, inner, 0.5, 1.5), colours.curve);
-    canvas.line(rim, {colours.curve, width});
+    // Shapes over one another: a line's rim would cost more than all of them.
+    canvas.fill(arc(middle, radius, 0, 2), colours.curve);
+    const double hole = radius - width;
+    if (trust == Trust::fair) canvas.fill(arc(middle, hole, -0.5, 0.5), colours.paper);
+    if (trust == Trust::rough) canvas.fill(arc(middle, hole, 0, 2), colours.paper);
 }
 
 void paintring(Canvas& canvas, Place middle, double radius, const LineLook& look) {

@@ -89,7 +89,8 @@ void frmAdjustSave::cmdSave_Click() {
     const std::string listed = File1->currentItem() ? File1->currentItem()->text().toStdString() : "";
     const LocationSaved saved = savelocation(workspace, context.session,
                                              {txtAreaName->text().toStdString(), Text1->text().toStdString(),
-                                              Option1->isChecked(), List1->currentRow(), listed});
+                                              Option1->isChecked(), List1->currentRow(), listed},
+                                             context.services.clock.now().today);
     if (!saved.message.empty()) return context.services.messages.show(saved.message, "Tarvane");
     workspace.answer = saved.answer;
     accept();

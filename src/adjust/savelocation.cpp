@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "dates/isomoments.h"
 #include "portdata/areaedits.h"
 #include "portdata/datafolder.h"
+#include "portdata/ownports.h"
 #include "portdata/recordfiles.h"
 #include "session/refresh.h"
 #include "text/numbers.h"
@@ -41,9 +43,19 @@ std::string whynot(const AdjustWorkspace& workspace, const SaveChoice& choice, c
     return "";
 }
 
+/// How the boxes came about.
+OwnMade madein(const AdjustWorkspace& workspace, Date today) {
+    OwnMade made{OwnHow::derived, isodate(today), workspace.madefrom, {}, ""};
+    if (workspace.fitted && workspace.fitted->boxes == workspace.boxes) {
+        made.how = OwnHow::fitted;
+        made.fit = workspace.fitted->figures;
+    }
+    return made;
+}
+
 }  // namespace
 
-LocationSaved savelocation(AdjustWorkspace& workspace, Session& session, const SaveChoice& choice) {
+LocationSaved savelocation(AdjustWorkspace& workspace, Session& session, const SaveChoice& choice, Date today) {
     const std::string name = trim(choice.areaname);
     LocationSaved saved{whynot(workspace, choice, name), ""};
     if (!saved.message.empty()) return saved;
@@ -53,8 +65,10 @@ LocationSaved savelocation(AdjustWorkspace& workspace, Session& session, const S
     const HarmonicBytes bytes = bytesof(record, workspace.place);
     const WritableFile target = datafiletowrite(session.folders, file);
     AreaEdit edit{target.prepared, 0, 0};
+    std::optional<HarmonicRecord> before;
     if (target.prepared) {
         const auto number = static_cast<std::int16_t>(choice.highlighted + 1);
+        if (choice.replace) before = readport(target.path, number);
         edit = choice.replace ? changeport(session.backups, target.path, number, bytes)
                               : addport(session.backups, target.path, bytes);
     }
@@ -67,6 +81,9 @@ LocationSaved savelocation(AdjustWorkspace& workspace, Session& session, const S
     saved.answer = file + ": " + std::to_string(edit.ports) + (edit.ports == 1 ? " port; " : " ports; ") +
                    (choice.replace ? "port " + std::to_string(edit.newport) + " is now " + record.PortName
                                    : "the new port stands last");
+    const WriteOutcome noted =
+        noteport(session.folders, target.path, edit.newport, before, decodeharmonic(bytes), madein(workspace, today));
+    if (!noted) saved.answer += "; that it is yours could not be noted: " + noted.reason();
     if (!workspace.place) saved.answer += ". Give it its position and zone in Correct Port Constants.";
     return saved;
 }

@@ -21,7 +21,7 @@ struct LocationSaved {
 };
 
 /// Writes the boxes' constants: the monthly levels 0, the monthly M2 amplitudes alike. Number, position and zone stay
-/// zero bytes, but for what the place was given.
-LocationSaved savelocation(AdjustWorkspace& workspace, Session& session, const SaveChoice& choice);
+/// zero bytes, but for what the place was given. That the port is the user's own is noted as of today.
+LocationSaved savelocation(AdjustWorkspace& workspace, Session& session, const SaveChoice& choice, Date today);
 
 }  // namespace tarvane

@@ -93,6 +93,7 @@ PlaceUnderstood understandplace(const AdjustWorkspace& workspace, const PlaceTex
 void weighbydistance(AdjustWorkspace& workspace, const GivenPlace& place) {
     workspace.place = place;
     fillboxes(workspace, distancemeans(workspace.first, workspace.second, place.latitude, place.longitude));
+    workspace.madefrom = workspace.name1 + " and " + workspace.name2;
 }
 
 std::string circlemeantext(const AdjustWorkspace& workspace, const ConstantRow& row) {

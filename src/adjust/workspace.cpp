@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "dates/dateformats.h"
+#include "dates/isomoments.h"
 #include "output/curvepicture.h"
 #include "portdata/recordfiles.h"
 #include "session/tidecurve.h"
@@ -81,6 +82,20 @@ std::string known(double value, double error, const char* pattern, const char* u
     return format(value, pattern) + unit + " (+/- " + format(error, pattern) + ")";
 }
 
+FitFigures figuresof(const HeightFit& fit, const std::vector<Reading>& readings, Date day) {
+    const auto [first, last] = std::minmax_element(readings.begin(), readings.end(),
+                                                   [](const Reading& a, const Reading& b) { return a.time < b.time; });
+    FitFigures figures;
+    figures.leftout = static_cast<int>(fit.rejected.size());
+    figures.readings = static_cast<int>(readings.size()) - figures.leftout;
+    figures.before = fit.before.rms;
+    figures.after = fit.after.rms;
+    figures.greatest = fit.after.greatest;
+    figures.hours = last->time - first->time;
+    figures.day = isodate(day);
+    return figures;
+}
+
 std::string missestext(const FitMisses& misses) {
     return format(misses.rms, "0.00") + " m RMS, greatest miss " + format(misses.greatest, "0.00") + " m at " +
            timetext(misses.time);
@@ -114,6 +129,7 @@ AdjustWorkspace openworkspace(MainContext& context) {
         workspace.answer =
             workspace.name1 + " is the last port of its area: load a Port 2 with File, Load Port Constants.";
     fillboxes(workspace, workspace.name2.empty() ? workspace.port1 : plainmeans(workspace.first, workspace.second));
+    workspace.madefrom = workspace.name2.empty() ? workspace.name1 : workspace.name1 + " and " + workspace.name2;
     workspace.undo.reset();
     workspace.saved = workspace.boxes;
     updatecalc(workspace, context);
@@ -237,6 +253,7 @@ void loadintermediate(AdjustWorkspace& workspace, const HarmonicRecord& record) 
     // kept: the step controls stay where they are until the next step
     workspace.undo = workspace.boxes;
     workspace.boxes = textsof(record);
+    workspace.madefrom = trimmedname(record);
 }
 
 void chooseheights(AdjustWorkspace& workspace, const std::string& path) {
@@ -260,6 +277,7 @@ HeightFit fitworkspace(AdjustWorkspace& workspace, MainContext& context) {
     for (std::size_t i = 0; i < texts.size(); ++i)
         texts[i] = format(values[i], constantrows[i].phase ? "0.0#" : "0.000#");
     fillboxes(workspace, texts);
+    workspace.fitted = {figuresof(fit, readings, onshow.tidedate), texts};
     updatecalc(workspace, context);
     return fit;
 }

@@ -10,6 +10,7 @@
 #include "adjust/constantrows.h"
 #include "engine/heightfit.h"
 #include "portdata/heightfiles.h"
+#include "portdata/ownports.h"
 #include "session/session.h"
 
 namespace tarvane {
@@ -30,6 +31,12 @@ struct GivenPlace {
     std::string zoneletter;              ///< empty when not given
 };
 
+/// What a fit said of itself, and the boxes that it filled.
+struct FittedBoxes {
+    FitFigures figures;
+    ConstantTexts boxes;
+};
+
 struct AdjustWorkspace {
     HarmonicRecord first, second;                  ///< the ports as read, for their positions
     std::string name1, name2;                      ///< of Port 1 and Port 2; empty when there is none
@@ -46,6 +53,8 @@ struct AdjustWorkspace {
     int freezecount = 0;                 ///< 0 while the readouts follow the mouse
     std::optional<GivenPlace> place;     ///< where the intermediate location lies, when it was told
     std::optional<ConstantTexts> undo;   ///< the boxes before they were last filled by a fit or by distance
+    std::string madefrom;                ///< the ports that the boxes were filled from: "Alder Quay and Birch Sound"
+    std::optional<FittedBoxes> fitted;   ///< by the last fit
     ConstantTexts saved;                 ///< the boxes as they were opened with or saved last
     std::string answer;                  ///< what the last command did, or why not
 };

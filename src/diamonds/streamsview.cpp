@@ -11,6 +11,7 @@
 #include "portdata/datafolder.h"
 #include "portdata/recordfiles.h"
 #include "session/documents.h"
+#include "session/otherclocks.h"
 #include "session/refresh.h"
 #include "session/statusline.h"
 #include "text/csvrows.h"
@@ -85,7 +86,8 @@ void reckon(const MainContext& context, StreamsView& view) {
     const auto diamond = static_cast<std::size_t>(view.diamond);
     view.streams = daystreams(view.records[diamond], prediction);
     view.about = "Diamond " + view.diamonds[diamond] + ". " +
-                 statusline(prediction, context.session.areaorigin, context.services.locale);
+                 statusline(prediction, context.session.areaorigin,
+                            placeof(context, prediction, context.session.settings.hcfile), context.services.locale);
     view.note = view.streams.whynot;
     if (view.note.empty()) view.note = rangenote(view.streams) + " " + caution + brokennote(view.streams);
 }

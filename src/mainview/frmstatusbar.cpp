@@ -1,6 +1,7 @@
 #include "mainview/frmstatusbar.h"
 
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 #include "platform/qt/named.h"
@@ -21,6 +22,8 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
     statusnotes = namedlabel("statusnotes", rows);
     statusline->setAccessibleName("Tides on show");
     statusnotes->setAccessibleName("Notes on what is shown");
+    statusline->setCursor(Qt::PointingHandCursor);
+    statusline->installEventFilter(this);
     QFont bold = font();
     bold.setBold(true);
     statusnotes->setFont(bold);
@@ -43,13 +46,14 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
 }
 
 void StatusBar::show(const MainView& view) {
-    const QString line = screentext(view.statusline);
+    const QString tides = screentext(view.statusline);
     QStringList clauses;
     for (const std::string& note : view.notes)
         clauses << screentext(note);
     const QString said = screentext(view.answer);
-    if (line == statusline->toolTip() && clauses == notes && said == answer) return;
-    statusline->setToolTip(line);
+    if (tides == line && clauses == notes && said == answer) return;
+    line = tides;
+    statusline->setToolTip(line + "\nClick here for what is known of this port (Ctrl+I)");
     notes = clauses;
     answer = said;
     fill();
@@ -69,7 +73,7 @@ void StatusBar::fill() {
     const int room = width() - 2 * sidemargin - 8;
     const int lower = room - (statusnow->text().isEmpty() ? 0 : statusnow->sizeHint().width() + sidemargin);
     const QFontMetrics plain = statusline->fontMetrics();
-    statusline->setText(plain.elidedText(statusline->toolTip(), Qt::ElideMiddle, room));
+    statusline->setText(plain.elidedText(line, Qt::ElideMiddle, room));
     const QFontMetrics bold = statusnotes->fontMetrics();
     const auto joined = [&](qsizetype count) {
         QString text = answer;
@@ -87,6 +91,14 @@ void StatusBar::fill() {
         --count;
     statusnotes->setText(bold.elidedText(joined(count), Qt::ElideMiddle, lower));
     statusnotes->setToolTip(joined(notes.size()));
+}
+
+bool StatusBar::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != statusline || event->type() != QEvent::MouseButtonRelease) return false;
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const bool here = mouse->button() == Qt::LeftButton && statusline->rect().contains(mouse->position().toPoint());
+    if (here && onclick) onclick();
+    return here;
 }
 
 void StatusBar::resizeEvent(QResizeEvent* event) {

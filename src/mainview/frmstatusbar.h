@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QStatusBar>
+#include <functional>
 
 #include "session/session.h"
 
@@ -18,17 +19,21 @@ class StatusBar : public QStatusBar {
     /// The present tide, in few words.
     void shownow(const std::string& text);
 
+    /// The line of what tides are on show was clicked.
+    std::function<void()> onclick;
+
     QLabel* statusline = nullptr;
     QLabel* statusnotes = nullptr;
     QLabel* statusnow = nullptr;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void fill();
 
-    QString answer;
+    QString line, answer;
     QStringList notes;
 };
 

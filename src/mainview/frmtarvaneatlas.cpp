@@ -2,10 +2,12 @@
 #include <QApplication>
 #include <filesystem>
 
+#include "atlas/frmaboutport.h"
 #include "atlas/frmfinder.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/plannersteps.h"
 #include "platform/qt/lightpalette.h"
+#include "portdata/recordfiles.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -24,6 +26,11 @@ void frmtarvane::openfinder(const std::string& text) {
     const bool night = planner && planner->planview().settings.night;
     QWidget* over = QApplication::activeWindow();
     frmfinder window(context, ports, lightingof(night), over ? over : this);
+    window.onabout = [&](std::size_t place) {
+        const WorldPort& port = ports.ports[place];
+        frmaboutport about(context, ports.areas[port.area].path, port.number, &window);
+        context.services.windows.showmodal(about);
+    };
     window.type(text);
     context.services.windows.showmodal(window);
     if (!window.chosen()) return;
@@ -51,6 +58,15 @@ void frmtarvane::keeprecent() {
 
 void frmtarvane::openmap() {}
 
-void frmtarvane::openabout() {}
+void frmtarvane::openabout() {
+    const Settings& settings = session.settings;
+    if (settings.currentport < 1 || settings.currentport > portcount(settings.hcfile)) {
+        session.view.answer = "There is no port in hand: select one";
+        return showview();
+    }
+    QWidget* over = planner && planner->isActiveWindow() ? static_cast<QWidget*>(planner.get()) : this;
+    frmaboutport window(context, settings.hcfile, settings.currentport, over);
+    context.services.windows.showmodal(window);
+}
 
 }  // namespace tarvane

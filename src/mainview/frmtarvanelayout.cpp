@@ -59,6 +59,7 @@ void frmtarvane::buildlayout() {
     daystide2->setMargin(6);
     statusbar = new StatusBar(this);
     setStatusBar(statusbar);
+    statusbar->onclick = [this] { menuentry("mnuAboutPort")->trigger(); };
     QFont bold = font();
     bold.setBold(true);
     for (QLabel* label : {portbox, tidedatebox, timeval, hiteval})

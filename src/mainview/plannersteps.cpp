@@ -2,7 +2,7 @@
 
 #include "mainview/dateentry.h"
 #include "planner/plantexts.h"
-#include "portdata/aboutports.h"
+#include "portdata/portknown.h"
 #include "portdata/recordfiles.h"
 #include "ports/portselection.h"
 #include "session/refresh.h"
@@ -38,10 +38,9 @@ std::string presenttidetext(const MainContext& context, PresentTide& present) {
     const Settings& settings = session.settings;
     if (settings.currentport < 1 || settings.currentport > portcount(settings.hcfile)) return "";
     const HarmonicRecord port = readport(settings.hcfile, settings.currentport);
-    const auto about = aboutport(aboutarea(session.folders, settings.hcfile), port, settings.currentport);
+    const PortKnown known = whatisknown(knownarea(session.folders, settings.hcfile), port, settings.currentport);
     const Moment now = context.services.clock.moment();
-    return shortnowtext(present.at(port, about ? about->timezone : "", ClockChoice::port, context.services.zones, now),
-                        now);
+    return shortnowtext(present.at(port, known.iana(), ClockChoice::port, context.services.zones, now), now);
 }
 
 }  // namespace tarvane

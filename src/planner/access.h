@@ -5,8 +5,8 @@
 #include <optional>
 #include <vector>
 
+#include "engine/tidespan.h"
 #include "planner/stretches.h"
-#include "planner/tidespan.h"
 
 namespace tarvane {
 

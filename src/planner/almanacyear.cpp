@@ -128,7 +128,7 @@ void paintalmanacyear(Canvas& canvas, const Area& area, const PagePlan& pages) {
     }
     const double words = paintmoons(canvas, {area.left, moons, area.right, bottom}, pages, line) + gap;
     painttablehead(canvas, {area.left, words, area.right, bottom}, "How good these tides are", "");
-    paragraph(canvas, {area.left, words + heads, area.right, bottom}, trustwords(pages.of.about), body);
+    paragraph(canvas, {area.left, words + heads, area.right, bottom}, trustwords(pages.of.known), body);
 }
 
 }  // namespace tarvane

@@ -16,6 +16,7 @@
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"
+#include "portdata/aboutwords.h"
 #include "portdata/portsearch.h"
 #include "world/frmtrusticon.h"
 
@@ -208,9 +209,11 @@ void frmplanner::showall() {
 
 /// The mark beside the port's name.
 void frmplanner::showtrust() {
-    const Trust trust = trustof(view.about, false);
+    const Trust trust = trustof(view.known);
     cmdAbout->setIcon(trusticon(trust, coloursof(shownlight), cmdAbout->iconSize().width()));
-    cmdAbout->setToolTip(QStringLiteral("How good this port is: %1 (Ctrl+I)").arg(trustword(trust)));
+    const std::string clause = trust == Trust::own ? "" : trustclause(view.known);
+    cmdAbout->setToolTip(screentext("How good this port is: " + std::string(trustword(trust)) +
+                                    (clause.empty() ? "" : ", " + clause) + " (Ctrl+I)"));
 }
 
 void frmplanner::showplan() {
@@ -224,7 +227,8 @@ void frmplanner::showplan() {
 
 void frmplanner::showanswer() {
     picture->redraw();
-    lblNeeded->setText(view.read.refusal.empty() ? screentext(neededtext(view.read.passage)) : QString());
+    lblNeeded->setText(view.read.refusal.empty() ? screentext(neededtext(view.read.passage, view.known.datum()))
+                                                 : QString());
     tellanswer();
     for (std::size_t i = 0; i < planfields; ++i) {
         const bool refused = !view.refusal.empty() && readquestion(view.question).refused == static_cast<PlanField>(i);
@@ -268,7 +272,7 @@ void frmplanner::showdate() {
 
 void frmplanner::shownow() {
     const Moment now = context.services.clock.moment();
-    const std::string iana = view.about ? view.about->timezone : "";
+    const std::string iana = view.known.iana();
     // In the port's own time, whatever clock the days are told by.
     const auto told = [&] {
         const Plan& today = present.at(view.port, iana, ClockChoice::port, context.services.zones, now);

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <algorithm>
+#include <numeric>
 
 #include "platform/qt/screentext.h"
 
@@ -74,20 +75,34 @@ QVariant PlanTableBox::Model::headerData(int section, Qt::Orientation orientatio
     return screentext(table.headings[static_cast<std::size_t>(section)]);
 }
 
-void PlanTableBox::Model::arrange() {
+std::vector<int> PlanTableBox::Model::arrange() {
     const auto column = static_cast<std::size_t>(std::max(sortedby, 0));
-    std::stable_sort(table.rows.begin(), table.rows.end(), [&](const PlanTable::Row& one, const PlanTable::Row& other) {
+    std::vector<std::size_t> places(table.rows.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
+    std::stable_sort(places.begin(), places.end(), [&](std::size_t first, std::size_t second) {
+        const PlanTable::Row &one = table.rows[first], &other = table.rows[second];
         if (column >= one.keys.size()) return false;
         return order == Qt::AscendingOrder ? one.keys[column] < other.keys[column]
                                            : one.keys[column] > other.keys[column];
     });
+    std::vector<PlanTable::Row> rows;
+    std::vector<int> moved(places.size());
+    for (std::size_t row = 0; row < places.size(); ++row) {
+        rows.push_back(std::move(table.rows[places[row]]));
+        moved[places[row]] = static_cast<int>(row);
+    }
+    table.rows = std::move(rows);
+    return moved;
 }
 
 void PlanTableBox::Model::sort(int column, Qt::SortOrder wanted) {
     emit layoutAboutToBeChanged();
     sortedby = column;
     order = wanted;
-    arrange();
+    const std::vector<int> moved = arrange();
+    // What is selected stays selected, wherever it goes.
+    for (const QModelIndex& each : persistentIndexList())
+        changePersistentIndex(each, index(moved[static_cast<std::size_t>(each.row())], each.column()));
     emit layoutChanged();
 }
 

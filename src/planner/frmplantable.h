@@ -35,7 +35,7 @@ class PlanTableBox : public QTableView {
         QVariant data(const QModelIndex& index, int role) const override;
         QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
         void sort(int column, Qt::SortOrder order) override;
-        void arrange();
+        std::vector<int> arrange();  ///< puts the rows in order; where each of them went
         void replace(PlanTable another);
         int sortedby = 0;
         Qt::SortOrder order = Qt::AscendingOrder;

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "planner/plantexts.h"
+#include "portdata/aboutwords.h"
 #include "portdata/recordfiles.h"
 #include "sunmoon/lunarphases.h"
 #include "text/programcaption.h"
@@ -198,8 +199,9 @@ std::string passagewords(const PagePlan& pages) {
     const Passage& passage = *pages.of.passage;
     std::string words = "Draught " + metres(passage.draught);
     if (passage.clearance > 0) words += " and " + metres(passage.clearance) + " under the keel";
-    words += passage.bottom < 0 ? " over a bottom that dries " + metres(-passage.bottom)
-                                : " over a bottom " + metres(passage.bottom) + " below chart datum";
+    words += passage.bottom < 0
+                 ? " over a bottom that dries " + metres(-passage.bottom)
+                 : " over a bottom " + metres(passage.bottom) + " below " + chartdatum(pages.of.known.datum());
     words += ": " + metres(passage.needed()) + " of tide needed";
     if (const auto ceiling = passage.ceiling())
         words += ", and no more than " + metres(*ceiling) + " for a mast of " + metres(passage.airdraught) +
@@ -282,11 +284,11 @@ double pagefoot(Canvas& canvas, const Area& area, const PagePlan& pages, const F
     const Colours& look = coloursof(Lighting::day);
     const TextLook type{look.faint, pagetype::least};
     const TextLook maker{look.faint, pagetype::least, false, Anchor::right};
-    const std::string datum =
-        pages.of.about && !pages.of.about->datum.empty() ? " (" + pages.of.about->datum + ")" : "";
+    const std::string datum = pages.of.known.datum(), trust = trustclause(pages.of.known);
     const std::string words = clockwords(pages, foot) + missingwords(pages, foot) +
-                              " Heights in metres above chart datum" + datum + ". " +
-                              (foot.more.empty() ? "" : foot.more + " ") + pagecaution;
+                              " Heights in metres above chart datum" + (datum.empty() ? "" : " (" + datum + ")") +
+                              (trust.empty() ? "" : "; " + trust) + ". " + (foot.more.empty() ? "" : foot.more + " ") +
+                              pagecaution;
     const std::string name = std::string(programname) + (foot.page.empty() ? "" : ", " + foot.page);
     const double room = area.width() - canvas.textwidth(name, maker) - 20;
     const auto lines = wrapped(canvas, words, type, room);

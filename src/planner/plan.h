@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "dates/portclock.h"
+#include "engine/waters.h"
 #include "planner/access.h"
 #include "planner/daylight.h"
-#include "planner/waters.h"
 
 namespace tarvane {
 

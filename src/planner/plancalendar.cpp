@@ -5,6 +5,7 @@
 
 #include "dates/isomoments.h"
 #include "planner/plantexts.h"
+#include "portdata/aboutwords.h"
 #include "text/numbers.h"
 
 namespace tarvane {
@@ -70,7 +71,12 @@ std::string clockwords(const PortClock& clock, Moment moment) {
     return isodate(time.date) + " " + clocktext(time) + " " + time.name;
 }
 
-constexpr const char* caution = "Approximate, not for navigation.";
+/// What stands under every event: how far its port is to be trusted.
+std::string caution(const PlanPort& port) {
+    std::string words = port.trust;
+    if (!words.empty() && words[0] >= 'a' && words[0] <= 'z') words[0] = static_cast<char>(words[0] - 'a' + 'A');
+    return words + (words.empty() ? "" : ".\n") + "Approximate, not for navigation.";
+}
 
 }  // namespace
 
@@ -122,11 +128,12 @@ std::string waterevent(const PlanPort& port, const HarmonicRecord& record, const
                        const PlannedWater& water, Moment stamp) {
     const std::string what =
         std::string(water.water.high ? "High" : "Low") + " water " + metres(water.water.height) + ", " + port.name;
-    std::string words = clockwords(clock, water.moment) + ": " + metres(water.water.height, 2) + " above chart datum";
+    std::string words =
+        clockwords(clock, water.moment) + ": " + metres(water.water.height, 2) + " above " + chartdatum(port.datum);
     if (water.water.springshare > 0)
         words += ", " + std::to_string(std::lround(100 * water.water.springshare)) + " % of the mean spring range";
     return eventtext({identifier(tidename(water.name), port), water.moment, water.moment + std::chrono::minutes(1),
-                      what, words + ".\n" + caution},
+                      what, words + ".\n" + caution(port)},
                      port, record, stamp);
 }
 
@@ -135,14 +142,14 @@ std::string windowevent(const PlanPort& port, const HarmonicRecord& record, cons
     const Window& found = window.window;
     std::string words = clockwords(clock, window.opens) + " to " + clockwords(clock, window.closes) + ", " +
                         durationtext(std::chrono::minutes(found.minutes())) + ".\nLevel needed " +
-                        metres(passage.needed(), 2) + " above chart datum";
+                        metres(passage.needed(), 2) + " above " + chartdatum(port.datum);
     if (const auto ceiling = passage.ceiling()) words += ", not above " + metres(*ceiling, 2);
     words += "; greatest height " + metres(found.greatestheight, 2) + ".";
     if (found.cutatstart) words += "\nIt was open before: the days looked at begin there.";
     if (found.cutatend) words += "\nIt stays open: the days looked at end there.";
     const std::string part = window.part > 0 ? "-" + std::to_string(window.part) : "";
     return eventtext({identifier("passage-" + tidename(window.opening) + part, port), window.opens, window.closes,
-                      "Passable, " + port.name, words + "\n" + caution},
+                      "Passable, " + port.name, words + "\n" + caution(port)},
                      port, record, stamp);
 }
 

@@ -8,6 +8,7 @@
 #include "planner/plancalendar.h"
 #include "planner/planfiles.h"
 #include "planner/planpages.h"
+#include "portdata/aboutwords.h"
 #include "session/documents.h"
 
 namespace tarvane {
@@ -16,7 +17,8 @@ namespace {
 constexpr double pngscale = 2;
 
 PlanPort planport(const PlanView& view) {
-    return {view.area.substr(view.area.find_last_of('/') + 1), view.number, view.portname};
+    return {view.area.substr(view.area.find_last_of('/') + 1), view.number, view.portname, view.known.datum(),
+            trustclause(view.known)};
 }
 
 /// "Cherbourg tides 2026-07-18.csv"
@@ -64,7 +66,8 @@ Drawing drawingof(const MainContext& context, const PlanView& view, double width
                                           .to = view.to,
                                           .passage = passageof(view),
                                           .access = &view.access,
-                                          .title = plantitle(view, locale)};
+                                          .title = plantitle(view, locale),
+                                          .trust = trustclause(view.known)};
                 paintplan(canvas, picture, scaleof(picture, canvas));
             }};
 }
@@ -81,12 +84,12 @@ PageOf pageof(const PlanView& view) {
     return {.port = view.port,
             .number = view.number,
             .area = planport(view).area,
-            .iana = view.about ? view.about->timezone : "",
+            .iana = view.known.iana(),
             .clock = wishes.clock,
             .passage = passageof(view),
             .wishes = {wishes.daylight, wishes.leastminutes, wishes.weekdays},
             .twilight = wishes.twilight,
-            .about = view.about};
+            .known = view.known};
 }
 
 Booklet bookletof(const MainContext& context, const PlanView& view, Sheet sheet) {

@@ -14,6 +14,8 @@ struct PlanPort {
     std::string area;
     int number = 0;
     std::string name;
+    std::string datum = {};  ///< its letters, "MLLW"; empty when it isn't known
+    std::string trust = {};  ///< in one clause, for calendars: a table's columns have no place for it
 };
 
 struct PlanColumn {

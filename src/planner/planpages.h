@@ -8,7 +8,7 @@
 #include "planner/plan.h"
 #include "platform/drawings.h"
 #include "platform/locale.h"
-#include "portdata/aboutports.h"
+#include "portdata/portknown.h"
 
 namespace tarvane {
 
@@ -21,8 +21,8 @@ struct PageOf {
     ClockChoice clock = ClockChoice::port;
     std::optional<Passage> passage = {};  ///< windows of passage are told
     WindowWishes wishes = {};
-    bool twilight = false;                ///< daylight is wished with civil twilight
-    std::optional<PortAbout> about = {};  ///< what is known of the port's constants
+    bool twilight = false;  ///< daylight is wished with civil twilight
+    PortKnown known = {};   ///< what is known of the port's constants
 };
 
 // Zones and locale are to outlive the booklet.

@@ -337,6 +337,17 @@ void paintlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
         paintlabel(canvas, each);
 }
 
+/// Beside the title, which ends at `from`, as large as it can be.
+void painttrustline(Canvas& canvas, const PlanPicture& picture, double from) {
+    constexpr double least = 0.65, gap = 12;
+    TextLook look{picture.look.faint, picture.textsize, false, Anchor::right};
+    const double right = picture.area.right - 2 * inset;
+    while (look.size > least * picture.textsize && canvas.textwidth(picture.trust, look) > right - from - gap)
+        look.size -= 0.05 * picture.textsize;
+    if (!picture.trust.empty() && canvas.textwidth(picture.trust, look) <= right - from - gap)
+        canvas.text({right, picture.area.top + inset}, picture.trust, look);
+}
+
 }  // namespace
 
 void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
@@ -344,6 +355,7 @@ void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scal
     if (!picture.title.empty()) {
         const TextLook look{picture.look.text, picture.textsize * 1.25, true, Anchor::left};
         canvas.text({scale.plot.left, picture.area.top + inset}, picture.title, look);
+        painttrustline(canvas, picture, scale.plot.left + canvas.textwidth(picture.title, look));
     }
     LabelPlaces places(canvas, scale.plot);
     paintlight(canvas, picture, scale);

@@ -24,6 +24,7 @@ struct PlanPicture {
     const PlannedAccess* access = nullptr;  ///< windows that are shown
     double textsize = 12;                   ///< of most of its texts
     std::string title = {};                 ///< above it; empty for none
+    std::string trust = {};                 ///< how good the port is, in a clause, beside a title where it has room
 };
 
 /// Which moment and height lie where.

@@ -1,10 +1,12 @@
 #include "planner/plantexts.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 
 #include "dates/dateformats.h"
+#include "portdata/aboutwords.h"
 #include "sunmoon/lunarphases.h"
 
 namespace tarvane {
@@ -229,13 +231,13 @@ std::string momenttext(const Plan& plan, Moment moment, const std::optional<Pass
     return text + (depth > 0 ? ", " + metres(depth) + " over the bottom" : ", the bottom is dry");
 }
 
-std::string neededtext(const Passage& passage) {
+std::string neededtext(const Passage& passage, const std::string& datum) {
     const double bottom = passage.bottom;
-    std::string words = "Bottom at chart datum (write -2 for a sill that dries 2 m).";
+    std::string words = "Bottom at " + chartdatum(datum) + " (write -2 for a sill that dries 2 m).";
     if (bottom < 0) words = "Bottom dries " + levelmetres(-bottom) + ".";
     if (bottom > 0) {
         const std::string depth = levelmetres(bottom);
-        words = "Bottom " + depth + " below chart datum (if it dries " + depth + ", write -" +
+        words = "Bottom " + depth + " below " + chartdatum(datum) + " (if it dries " + depth + ", write -" +
                 depth.substr(0, depth.size() - 2) + ").";
     }
     return words + " Height of tide needed: " + levelmetres(passage.needed()) + ".";
@@ -262,6 +264,7 @@ std::string accesstext(const Plan& plan, const PlannedAccess& access, const Pass
     std::string text;
     for (std::size_t i = 0; i < std::min(told, windows.size()); ++i)
         text += (i > 0 ? "; " : "") + windowwords(plan, windows[i], locale);
+    text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
     if (windows.size() > told) text += "; and " + std::to_string(windows.size() - told) + " more";
     if (past > 0 && windows.size() < access.windows.size())
         text += (windows.size() > told ? ", " : "; ") + std::to_string(past) + " past already";

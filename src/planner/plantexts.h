@@ -52,7 +52,7 @@ std::string momenttext(const Plan& plan, Moment moment, const std::optional<Pass
 
 /// How the bottom's one signed number is read, and the height of tide that follows from it: "Bottom dries 2.0 m. Height
 /// of tide needed: 4.4 m."
-std::string neededtext(const Passage& passage);
+std::string neededtext(const Passage& passage, const std::string& datum);
 
 /// The answer: its first windows, or that there are none and whether the water or the bridge is in the way, or that she
 /// always passes, or why nothing is known. All but windows name the levels that they come from.

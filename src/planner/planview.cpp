@@ -6,6 +6,7 @@
 
 #include "dates/dateformats.h"
 #include "planner/plantexts.h"
+#include "portdata/aboutwords.h"
 #include "portdata/recordfiles.h"
 #include "session/documents.h"
 #include "session/refresh.h"
@@ -30,7 +31,9 @@ std::array<float, 3> storedvalues(const Settings& settings) {
 }
 
 std::string portkey(const PlanView& view) {
-    return filename(view.area) + "/" + view.portname;
+    const bool shared = std::count(view.ports.begin(), view.ports.end(), view.portname) > 1;
+    // Several of a name are told apart by where they stand.
+    return filename(view.area) + "/" + view.portname + (shared ? "#" + std::to_string(view.number) : "");
 }
 
 std::vector<std::string> portnames(const std::string& area) {
@@ -61,7 +64,7 @@ void replan(const MainContext& context, PlanView& view) {
     if (!view.whynot.empty()) return;
     view.first = std::clamp(view.first, makedate(leastyear, 1, 2), makedate(mostyear, 11, 1));
     view.plan = std::make_shared<Plan>(
-        PlanOf{view.port, view.about ? view.about->timezone : "", view.first, view.settings.days, view.settings.clock},
+        PlanOf{view.port, view.known.iana(), view.first, view.settings.days, view.settings.clock},
         context.services.zones);
     answeranew(view);
 }
@@ -74,7 +77,7 @@ void takeport(const MainContext& context, PlanView& view) {
     view.whynot = whynoport(view.area, view.number, view.ports);
     view.port = view.whynot.empty() ? readport(view.area, view.number) : HarmonicRecord{};
     view.portname = trim(view.port.PortName);
-    view.about = aboutport(aboutarea(context.session.folders, view.area), view.port, view.number);
+    view.known = whatisknown(knownarea(context.session.folders, view.area), view.port, view.number);
     view.stored = storedvalues(settings);
     view.question = prefilledquestion(view.settings, settings, portkey(view));
     view.read = readquestion(view.question);
@@ -239,9 +242,11 @@ std::string answertext(const PlanView& view, const Locale& locale, std::optional
 std::string planfoot(const PlanView& view) {
     if (!view.plan) return view.whynot;
     const std::string clock = view.plan->clock().description();
+    // How good a port is that ships its mark tells, beside the name.
+    const std::string datum = view.known.datum(), trust = view.known.own ? trustclause(view.known) : "";
     const bool named = clock.starts_with("this") || clock.starts_with("universal");
     return std::string("Times by ") + (named ? "" : "the ") + clock + "; heights in metres above chart datum" +
-           (view.about && !view.about->datum.empty() ? " (" + view.about->datum + ")" : "") +
+           (datum.empty() ? "" : " (" + datum + ")") + (trust.empty() ? "" : "; " + trust) +
            ". Predictions: weather isn't counted.";
 }
 

@@ -12,7 +12,7 @@
 #include "planner/planpicture.h"
 #include "planner/planquestion.h"
 #include "planner/plansettings.h"
-#include "portdata/aboutports.h"
+#include "portdata/portknown.h"
 #include "session/session.h"
 
 namespace tarvane {
@@ -24,7 +24,7 @@ struct PlanView {
     HarmonicRecord port;
     std::string portname;
     std::vector<std::string> ports;  ///< names of the area's ports, in file order
-    std::optional<PortAbout> about;
+    PortKnown known;
     Date first{};
     Date today{};                   ///< as it was when the clock was last looked at
     std::array<float, 3> stored{};  ///< draught, clearance and depth of the classic window

@@ -10,6 +10,7 @@ class Clipboard {
     virtual ~Clipboard() = default;
     virtual void clear() = 0;
     virtual void settext(const std::string& text) = 0;
+    virtual std::string text() const = 0;  ///< empty when it holds none
 };
 
 }  // namespace tarvane

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "portdata/aboutports.h"
+#include "portdata/portknown.h"
 
 namespace tarvane {
 
@@ -20,6 +20,10 @@ const char* gradeword(Grade grade);
 /// "mean lower low water" of "MLLW"; empty for letters that aren't known.
 std::string datumwords(std::string_view datum);
 
+/// What heights at a port are above, by the letters of its datum: "chart datum", "chart datum (MLLW)" where that isn't
+/// the lowest astronomical tide.
+std::string chartdatum(std::string_view datum);
+
 /// "half of the high and low waters are within 6 minutes and 0.07 m of a full prediction from all of the gauge's
 /// constituents, nine in ten within 14 minutes and 0.17 m; weather not counted"
 std::string errorwords(const PortAbout& about);
@@ -29,5 +33,18 @@ std::string recordwords(const PortAbout& about);
 
 /// How good a port's waters are and what they come from, in sentences; says so when nothing is known of it.
 std::string trustwords(const std::optional<PortAbout>& about);
+
+/// The same, or how the user made it himself.
+std::string trustwords(const PortKnown& known);
+
+/// The same in one short clause without a full stop: "nine waters in ten within 14 minutes and 0.17 m of a full
+/// prediction", "entered by you on 3 March 2026"; empty when nothing is known.
+std::string trustclause(const PortKnown& known);
+
+/// "Entered by you on 3 March 2026, fitted to 24 readings over 11.5 hours of 1 March 2026: ..."
+std::string ownwords(const OwnMade& made);
+
+/// "3 March 2026" of "2026-03-03"; another text as it is.
+std::string daywords(const std::string& day);
 
 }  // namespace tarvane

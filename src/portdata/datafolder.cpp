@@ -26,12 +26,11 @@ std::vector<std::string> namesin(const std::string& folder) {
     return names;
 }
 
-/// The copy of what a file in the user's own folder was made of.
+}  // namespace
+
 std::string shippedcopy(const std::string& own) {
     return own + ".shipped";
 }
-
-}  // namespace
 
 std::vector<std::string> datafolders(const ProgramFolders& folders) {
     if (folders.ownfolder.empty()) return {folders.programfolder};

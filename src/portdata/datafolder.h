@@ -35,6 +35,9 @@ struct WritableFile {
 /// so that a change to a part of it leaves the rest; it stands there once more as "UK.hc.shipped".
 WritableFile datafiletowrite(const ProgramFolders& folders, const std::string& name);
 
+/// Where the file as shipped stands beside the user's own that was made of it.
+std::string shippedcopy(const std::string& own);
+
 /// Whose a file in use is.
 struct FileOrigin {
     std::string path;

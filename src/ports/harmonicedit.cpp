@@ -2,9 +2,11 @@
 
 #include <optional>
 
+#include "dates/isomoments.h"
 #include "files/wholefiles.h"
 #include "portdata/coordinates.h"
 #include "portdata/datafolder.h"
+#include "portdata/ownports.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
 #include "session/documents.h"
@@ -107,6 +109,20 @@ bool finished(MainContext& context, HarmonicEdit& edit, const AreaEdit& made, co
     return true;
 }
 
+/// What couldn't be noted of the change is told behind it: the change itself stands.
+void noted(HarmonicEdit& edit, const WriteOutcome& written) {
+    if (!written)
+        edit.status += "\nThat it is yours could not be noted: " + std::string(ownportsname) + ": " + written.reason();
+}
+
+/// The note on a port that the boxes have made.
+OwnMade madeby(const MainContext& context, OwnHow how) {
+    OwnMade made;
+    made.how = how;
+    made.date = isodate(context.services.clock.now().today);
+    return made;
+}
+
 /// Adds what a port that came or went has done to the area's depths.
 void warnofdepths(const MainContext& context, HarmonicEdit& edit) {
     const std::string depths = depfileof(context.session.folders, edit.editfilename);
@@ -153,8 +169,11 @@ bool acceptchanges(MainContext& context, HarmonicEdit& edit) {
     const auto record = typedrecord(context, edit);
     if (!record || !porthighlighted(context, edit) || !preparearea(context, edit)) return false;
     const std::int16_t number = recordnumber(edit);
+    const HarmonicRecord before = readport(edit.editfilepath, number);
     const AreaEdit made = changeport(context.session.backups, edit.editfilepath, number, encode(*record));
     if (!finished(context, edit, made, "; " + portnumbered(number) + " was changed")) return false;
+    noted(edit, noteport(context.session.folders, edit.editfilepath, number, before, *record,
+                         madeby(context, OwnHow::corrected)));
     // kept: the list goes on showing the name that the port had
     edit.stored = edit.texts;
     return true;
@@ -166,6 +185,8 @@ bool addnewport(MainContext& context, HarmonicEdit& edit) {
     if (!record || !arearead(context, edit) || !preparearea(context, edit)) return false;
     const AreaEdit made = addport(context.session.backups, edit.editfilepath, encode(*record));
     if (!finished(context, edit, made, "; the new port stands last")) return false;
+    noted(edit, noteport(context.session.folders, edit.editfilepath, made.newport, {}, *record,
+                         madeby(context, OwnHow::entered)));
     reloadlist(edit, made.newport - 1);
     edit.stored = edit.texts;
     return true;
@@ -183,6 +204,11 @@ bool insertnewport(MainContext& context, HarmonicEdit& edit) {
     const bool keptport = made.newport != 0;
     const char* const what = keptport ? "the new port stands last" : "the new port was not kept: use Add Port";
     if (!finished(context, edit, made, twice + what)) return false;
+    const ProgramFolders& folders = context.session.folders;
+    WriteOutcome kept = noteinserted(folders, edit.editfilepath, p);
+    if (kept && keptport)
+        kept = noteport(folders, edit.editfilepath, made.newport, {}, *record, madeby(context, OwnHow::entered));
+    noted(edit, kept);
     reloadlist(edit, p);
     if (keptport) edit.stored = edit.texts;
     warnofdepths(context, edit);
@@ -198,6 +224,7 @@ bool deletehighlighted(MainContext& context, HarmonicEdit& edit) {
     const AreaEdit made =
         deleteport(context.session.backups, edit.editfilepath, workfile(context.session.folders).path, p);
     if (!finished(context, edit, made, "; " + name + " was deleted")) return false;
+    noted(edit, notedeleted(context.session.folders, edit.editfilepath, p));
     reloadlist(edit, p - 1);
     warnofdepths(context, edit);
     return true;

@@ -1,7 +1,9 @@
 #include "ports/portscopy.h"
 
+#include "dates/isomoments.h"
 #include "files/wholefiles.h"
 #include "portdata/datafolder.h"
+#include "portdata/ownports.h"
 #include "portdata/recordfiles.h"
 #include "ports/harmonicedit.h"
 #include "session/documents.h"
@@ -46,6 +48,7 @@ bool gather(MainContext& context, PortsCopy& copy, int index) {
         return false;
     }
     ++copy.gathered;
+    copy.from.push_back(namebeforepoint(copy.source.substr(copy.source.rfind('/') + 1)));
     const std::string& name = copy.ports[static_cast<std::size_t>(index)];
     // kept: copies and files are named after this port from now on, while the tides stay those of the current one
     context.session.port.portname = name;
@@ -65,6 +68,7 @@ bool saveports(MainContext& context, const PortsCopy& copy) {
     const std::string name = trim(copy.name);
     if (const std::string fault = areanamefault(name); !fault.empty()) return refuse(context, fault + ".");
     const std::string work = workfile(folders).path;
+    const std::vector<HarmonicRecord> added = readports(work);
     if (portcount(work) != copy.gathered)
         return refuse(context, "The work file no longer holds the ports that were gathered: " + work +
                                    ". Nothing was written; open this window again and gather them anew.");
@@ -77,7 +81,11 @@ bool saveports(MainContext& context, const PortsCopy& copy) {
         return false;
     }
     followarea(context.session);
-    answer(context, holds(area.path.substr(area.path.rfind('/') + 1), made.ports));
+    const int before = made.ports - static_cast<int>(added.size());
+    const WriteOutcome noted =
+        notecopies(folders, area.path, added, copy.from, before, isodate(context.services.clock.now().today));
+    answer(context, holds(area.path.substr(area.path.rfind('/') + 1), made.ports) +
+                        (noted ? "" : "; where the ports come from could not be noted: " + noted.reason()));
     return true;
 }
 

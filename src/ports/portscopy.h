@@ -16,6 +16,7 @@ struct PortsCopy {
     std::vector<std::string> listed;  ///< ports of the destination as it is, and those gathered since it was chosen
     std::string name;                 ///< to save as, without ".hc"
     int gathered = 0;                 ///< ports in the work file
+    std::vector<std::string> from;    ///< the areas that those came from, by name
     int notedindex = -1;              ///< of the gathered list, by a double click
 };
 

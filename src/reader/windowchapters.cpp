@@ -27,7 +27,8 @@ constexpr WindowChapter chapters[] = {
     {"frmWeighting", creek},        {"frmTidalDiamondsCopy", streams},
     {"frmimport", streams},         {"frmstreams", streams},
     {"frmshowconf", files},         {"frmplanner", planner},
-    {"frmfinder", world},
+    {"frmfinder", world},           {"frmaboutport", world},
+    {"frmcheckport", world},
 };
 
 }  // namespace

@@ -61,6 +61,21 @@ struct SunOf {
     bool operator==(const SunOf&) const = default;
 };
 
+/// What is known of a predicted port beside its record.
+struct PlaceOf {
+    std::string datum;        ///< its letters, "MLLW"
+    std::string otherclocks;  ///< where the clocks there read otherwise than the prediction's times
+};
+
+/// The prediction that a place was looked up for.
+struct PlaceFor {
+    std::string area;
+    std::int16_t port = 0;
+    TideDay day;
+    std::string name;
+    bool operator==(const PlaceFor&) const = default;
+};
+
 struct Session {
     ProgramFolders folders;
     Settings settings;
@@ -94,6 +109,8 @@ struct Session {
     std::int16_t layersport = 0;
     std::string layersarea;
     FileOrigin areaorigin;  ///< of the area that the prediction is of
+    PlaceOf place;          ///< of the prediction's port
+    PlaceFor placefor;      ///< and what it was looked up for
 };
 
 /// The surfaces that the main window is drawn on. The window's own surface is scaled in twips; the picture's place on

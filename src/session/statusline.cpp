@@ -2,18 +2,15 @@
 
 #include "dates/dateformats.h"
 #include "dates/summertime.h"
+#include "portdata/aboutwords.h"
 #include "portdata/recordfiles.h"
+#include "session/otherclocks.h"
 #include "session/refresh.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
 namespace {
-
-/// The day that the samples are of, by what the prediction was asked for.
-Date dateof(const TideDay& day) {
-    return makedate(day.tideyear, 1, 1) + std::chrono::days{day.dayofyear - 1};
-}
 
 bool shifted(const Prediction& prediction) {
     return prediction.day.summer == -1;
@@ -27,15 +24,15 @@ std::string portof(const PredictedPort& port) {
 
 std::string zoneof(const Prediction& prediction) {
     const std::string& letter = prediction.port.record.TimeZoneLetter;
-    const bool known = letter.size() == 1 && letter[0] >= 'A' && letter[0] <= 'W';
+    const bool known = letter.size() == 1 && letter[0] >= 'A' && letter[0] <= 'Z';
     const int ahead = -zonehoursof(prediction.port.record) + (shifted(prediction) ? 1 : 0);
     std::string text = "the port's zone time";
     if (known) text = ahead == 0 ? "UT" : (ahead > 0 ? "UT+" : "UT") + numbertext(ahead);
     return text + (shifted(prediction) ? " (summer time)" : "");
 }
 
-std::string heightsof(const PredictedPort& port) {
-    if (port.currentoutput == 1 || port.userdepth == 0) return "heights above chart datum";
+std::string heightsof(const PredictedPort& port, const std::string& datum) {
+    if (port.currentoutput == 1 || port.userdepth == 0) return "heights above " + chartdatum(datum);
     return "heights over your depth of " + format(port.userdepth, "0.0#") + " m";
 }
 
@@ -127,12 +124,18 @@ void notetime(const Session& session, std::vector<std::string>& notes) {
 
 }  // namespace
 
-std::string statusline(const Prediction& prediction, const FileOrigin& area, const Locale& locale) {
+Date dateof(const TideDay& day) {
+    return makedate(day.tideyear, 1, 1) + std::chrono::days{day.dayofyear - 1};
+}
+
+std::string statusline(const Prediction& prediction, const FileOrigin& area, const PlaceOf& place,
+                       const Locale& locale) {
     const std::string what =
         portof(prediction.port) + ", " + formatdate(locale, dateof(prediction.day), "dddd d mmmm yyyy");
     if (!prediction.defined) return "No tides of " + what + ": " + prediction.whynot;
-    return "Tides of " + what + ", " + zoneof(prediction) + ", " + heightsof(prediction.port) +
-           (area.own ? ", your own " + nameof(area) : "");
+    return "Tides of " + what + ", " + zoneof(prediction) +
+           (place.otherclocks.empty() ? "" : ", " + place.otherclocks) + ", " +
+           heightsof(prediction.port, place.datum) + (area.own ? ", your own " + nameof(area) : "");
 }
 
 std::vector<std::string> statusnotes(const Session& session, const Locale& locale) {
@@ -156,7 +159,14 @@ void refreshstatus(MainContext& context) {
     // Asked at every move of the mouse: the disk is looked at for another area alone.
     const std::string& area = session.prediction.port.area;
     if (session.areaorigin.path != area) session.areaorigin = originof(session.folders, area);
-    session.view.statusline = statusline(session.prediction, session.areaorigin, context.services.locale);
+    const PlaceFor wanted{area, session.prediction.port.number, session.prediction.day,
+                          trimmedname(session.prediction.port.record)};
+    if (session.placefor != wanted) {
+        session.placefor = wanted;
+        session.place = placeof(context, session.prediction, area);
+    }
+    session.view.statusline =
+        statusline(session.prediction, session.areaorigin, session.place, context.services.locale);
     session.view.notes = statusnotes(session, context.services.locale);
 }
 

@@ -28,6 +28,10 @@ Trust trustof(const std::optional<PortAbout>& about, bool own) {
     return trusts.at(static_cast<std::size_t>(gradeof(*about)));
 }
 
+Trust trustof(const PortKnown& known) {
+    return trustof(known.about, known.own.has_value());
+}
+
 const char* trustword(Trust trust) {
     constexpr std::array words{"close", "fair", "rough", "entered by you", "not known"};
     return words.at(static_cast<std::size_t>(trust));

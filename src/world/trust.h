@@ -13,6 +13,7 @@ namespace tarvane {
 enum class Trust { close, fair, rough, own, unknown };
 
 Trust trustof(const std::optional<PortAbout>& about, bool own);
+Trust trustof(const PortKnown& known);
 
 /// "close", "fair", "rough", "entered by you" or "not known".
 const char* trustword(Trust trust);

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "portdata/datafolder.h"
+#include "portdata/portknown.h"
 #include "portdata/recordfiles.h"
 
 namespace tarvane {
@@ -21,25 +22,36 @@ std::string stampof(const std::string& path) {
     return std::to_string(size) + " " + std::to_string(written.time_since_epoch().count());
 }
 
+/// Of what the notes tell of the making of an area's ports.
+std::string stampof(const AreaNotes& notes) {
+    std::string stamp;
+    for (const PortNote& note : notes)
+        if (note.made) stamp += " " + note.made->mark;
+    return stamp;
+}
+
 std::vector<WorldArea> findareas(const ProgramFolders& folders, const std::string& another) {
     std::vector<std::string> paths = everyarea(folders);
     if (!another.empty() && std::find(paths.begin(), paths.end(), another) == paths.end()) paths.push_back(another);
     std::vector<WorldArea> areas;
+    OwnPorts own = readownports(ownportspath(folders));
     for (const std::string& path : paths) {
         const std::string file = fs::path(path).filename().string();
         areas.push_back(
-            {path, namebeforepoint(file), stampof(path) + ", " + stampof(datafile(folders, aboutname(file)))});
+            {path, namebeforepoint(file),
+             stampof(path) + ", " + stampof(datafile(folders, aboutname(file))) + "," + stampof(own.areas[file])});
     }
     return areas;
 }
 
 void readarea(const ProgramFolders& folders, const WorldArea& area, std::size_t place, std::vector<WorldPort>& ports) {
-    const AboutTable table = aboutarea(folders, area.path);
+    const AreaKnown known = knownarea(folders, area.path);
     std::int16_t number = 0;
     for (const HarmonicRecord& record : readports(area.path)) {
         ++number;
+        const PortKnown port = whatisknown(known, record, number);
         ports.push_back({place, number, trimmedname(record), record.PortLat, record.PortLong, record.TimeZoneLetter,
-                         aboutport(table, record, number), false});
+                         port.about, port.own.has_value()});
     }
 }
 

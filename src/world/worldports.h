@@ -17,13 +17,13 @@ struct WorldPort {
     float latitude = 0, longitude = 0;  ///< degrees, north and east positive
     std::string zoneletter;
     std::optional<PortAbout> about;  ///< what the area's table tells of it
-    bool own = false;                ///< the user entered or changed it
+    bool own = false;                ///< the user entered or changed it: nothing that `about` measures holds
 };
 
 struct WorldArea {
     std::string path;
     std::string name;   ///< "US West Coast"
-    std::string stamp;  ///< changes when the area's file or its table does
+    std::string stamp;  ///< changes when the area's file, its table or the user's notes on its ports do
 };
 
 struct World {

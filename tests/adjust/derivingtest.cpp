@@ -11,6 +11,8 @@
 namespace tarvane::tests {
 namespace {
 
+const Date today = makedate(2026, 3, 3);
+
 struct Deriving : LoadedMain {
     const ProgramFolders& folders() { return session.folders; }
 };
@@ -98,14 +100,14 @@ TEST_F(Deriving, TheLocationIsSavedBehindOrInPlaceOfAnother) {
     AdjustWorkspace workspace = openworkspace(context);
     for (std::size_t i = 0; i < constantrows.size(); ++i)
         workspace.boxes[i] = numbertext(static_cast<double>(i + 1) / 8);
-    const auto said = [&](const SaveChoice& choice) { return savelocation(workspace, session, choice).message; };
+    const auto said = [&](const SaveChoice& choice) { return savelocation(workspace, session, choice, today).message; };
     EXPECT_EQ(said({" ", "Creek", false, -1, ""}), "Area must have a name");
     EXPECT_EQ(said({"UK", "Creek", true, -1, "UK.hc"}), "Select the location to replace");
     EXPECT_EQ(said({"West", "Creek", true, 0, "UK.hc"}), "The highlighted location is one of UK.hc, not of West.hc");
     EXPECT_NE(said({"a/b", "Creek", false, -1, ""}), "");
     EXPECT_EQ(said({"Scratch.hc", "Creek", false, -1, ""}),
               "scratch.hc is the program's own work file, which is emptied again");
-    EXPECT_EQ(savelocation(workspace, session, {"Mine.x", " Creek", false, -1, ""}).answer,
+    EXPECT_EQ(savelocation(workspace, session, {"Mine.x", " Creek", false, -1, ""}, today).answer,
               "Mine.hc: 1 port; the new port stands last. Give it its position and zone in Correct Port Constants.");
     const std::string mine = folders().programfolder + "/Mine.hc";
     const HarmonicRecord record = readport(mine, 1);
@@ -118,7 +120,7 @@ TEST_F(Deriving, TheLocationIsSavedBehindOrInPlaceOfAnother) {
     for (const std::size_t zero : {0u, 4u, 40u, 47u, 48u})
         EXPECT_EQ(bytes[zero], std::byte{0}) << "number, position and zone: byte " << zero;
     workspace.place = GivenPlace{"Creek", 50.25, -2, "M"};
-    EXPECT_EQ(savelocation(workspace, session, {"Mine", "Mill", true, 0, "Mine.hc"}).answer,
+    EXPECT_EQ(savelocation(workspace, session, {"Mine", "Mill", true, 0, "Mine.hc"}, today).answer,
               "Mine.hc: 1 port; port 1 is now Mill");
     EXPECT_EQ(readport(mine, 1).PortLat, 50.25F);
     EXPECT_EQ(readport(mine, 1).TimeZoneLetter, "M");
@@ -131,7 +133,7 @@ TEST_F(Deriving, AnAreaSavedInTheUsersOwnFolderIsTheOneOnShowFromThenOn) {
     session.folders.ownfolder = folder / "own";
     const auto shipped = readwhole(area());
     AdjustWorkspace workspace = openworkspace(context);
-    EXPECT_EQ(savelocation(workspace, session, {"UK", "Creek", true, 0, "UK.hc"}).message, "");
+    EXPECT_EQ(savelocation(workspace, session, {"UK", "Creek", true, 0, "UK.hc"}, today).message, "");
     EXPECT_EQ(readwhole(area()), shipped);
     EXPECT_EQ(session.settings.hcfile, folder / "own/UK.hc");
     EXPECT_EQ(trimmedname(readport(session.settings.hcfile, 1)), "Creek");

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "adjust/savelocation.h"
 #include "fakes/mainfixture.h"
 #include "text/numbers.h"
 #include "text/timetext.h"
@@ -155,9 +156,29 @@ TEST_F(Workspace, AFitFillsTheBoxesAndOneUndoBringsThemBack) {
         << fittext(fit, workspace.readings);
     const auto& sample = workspace.curves[intermediatecurve].curvesamples[23];
     EXPECT_NEAR(sample.height, workspace.readings[0].obsheight, 0.02);
+    // What is saved carries the fit's own figures, as long as the boxes are those that it filled.
+    const auto saved = [&](const char* name) {
+        const SaveChoice choice{"Mine", name, false, -1, ""};
+        EXPECT_EQ(savelocation(workspace, session, choice, makedate(2026, 3, 3)).message, "");
+        const std::string mine = session.folders.programfolder + "/Mine.hc";
+        return *madeof(areanotes(session.folders, mine), readports(mine).back());
+    };
+    const OwnMade fitted = saved("Creek");
+    EXPECT_EQ(fitted.how, OwnHow::fitted);
+    EXPECT_EQ(fitted.date, "2026-03-03");
+    ASSERT_TRUE(fitted.fit);
+    EXPECT_EQ(fitted.fit->readings + fitted.fit->leftout, static_cast<int>(workspace.readings.size()));
+    EXPECT_EQ(fitted.fit->after, fit.after.rms);
+    EXPECT_EQ(fitted.fit->day, "2024-04-09");
+    EXPECT_NEAR(fitted.fit->hours, workspace.readings.back().obstime - workspace.readings.front().obstime, 1e-6);
     undoboxes(workspace);
     EXPECT_EQ(workspace.boxes, before);
     EXPECT_FALSE(workspace.undo.has_value());
+    const OwnMade derived = saved("Pool");
+    EXPECT_EQ(derived.how, OwnHow::derived);
+    EXPECT_EQ(derived.from, workspace.name1 + " and " + workspace.name2);
+    loadintermediate(workspace, readport(area(), 3));
+    EXPECT_EQ(saved("Head").from, "Cedar Head");
 }
 
 }  // namespace

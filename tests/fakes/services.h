@@ -25,6 +25,7 @@ struct ScriptedClipboard : Clipboard {
         ++clears;
     }
     void settext(const std::string& text) override { contents = text; }
+    std::string text() const override { return contents; }
 };
 
 /// A clock that stands where a test puts it: noon of 22 November 2026 until told otherwise.

@@ -28,7 +28,7 @@ struct ExportCommands : LoadedMain {
         return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
     }
 
-    std::string line() const { return statusline(session.prediction, session.areaorigin, scripted.locale); }
+    std::string line() const { return statusline(session.prediction, session.areaorigin, {}, scripted.locale); }
 };
 
 TEST_F(ExportCommands, DayConstantsOfThreeYearsTheOtherEntryOverTheFirst) {

@@ -47,6 +47,23 @@ TEST_F(StatusLine, TellsThePredictionAndNothingElse) {
     EXPECT_EQ(line(), told);
 }
 
+TEST_F(StatusLine, TellsWhatTheClocksThereReadAndAnotherDatum) {
+    replacefile(session.folders.programfolder + "/uk-about.csv",
+                std::string("number,name,country,timezone,datum,record_from,record_to,licence,source,"
+                            "time_error_median_min,time_error_p90_min,height_error_median_m,height_error_p90_m,"
+                            "mean_range_m\n1,Alder Quay,US,Africa/Lagos,MLLW,,,,,1,1,1,1,1\n"));
+    load();
+    EXPECT_EQ(line(),
+              "Tides of Alder Quay (1), Tuesday 9 April 2024, UT, clocks there read one hour more (WAT), heights above "
+              "chart datum (MLLW)");
+    session.settings.summerflag2 = session.settings.currentsummer = -1;
+    refreshday(context);
+    EXPECT_EQ(line(),
+              "Tides of Alder Quay (1), Tuesday 9 April 2024, UT+1 (summer time), heights above chart datum (MLLW)");
+    nextport(context);
+    EXPECT_EQ(line().find("clocks"), std::string::npos);
+}
+
 TEST_F(StatusLine, ADayWithoutTidesSaysWhy) {
     scripted.clock.reading.today = makedate(1990, 1, 2);
     load();

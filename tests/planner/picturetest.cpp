@@ -121,6 +121,24 @@ TEST(PlanPicture, NoTextsOverlapAndNothingIsPaintedOutside) {
                 }
 }
 
+TEST(PlanPicture, HowGoodThePortIsStandsBesideTheTitleWhereItHasRoom) {
+    const std::string title = "Cherbourg, 18 to 24 July 2026", trust = "entered by you on 3 March 2026";
+    for (const auto& [width, told] : {std::pair(1200.0, 1), {500.0, 1}, {300.0, 0}}) {
+        Painted painted(named("Cherbourg"), makedate(2026, 7, 18), 7, width, 400, boatof(2.4, -2), 12, title);
+        painted.picture.trust = trust;
+        painted.show(painted.plan.begins(), painted.plan.ends());
+        ASSERT_EQ(painted.count(trust), static_cast<std::size_t>(told)) << width;
+        const auto at = [&](const std::string& text) {
+            return *std::find_if(painted.canvas.texts.begin(), painted.canvas.texts.end(),
+                                 [&](const auto& each) { return each.text == text; });
+        };
+        if (told == 0) continue;
+        EXPECT_FALSE(overlap(at(title).area, at(trust).area, 0)) << width;
+        EXPECT_LE(at(trust).area.right, width);
+        EXPECT_EQ(at(trust).look.size < 12, width < 1000) << width;
+    }
+}
+
 TEST(PlanPicture, TheCurvePassesThroughTheWaters) {
     for (const int count : {1, 7, 31}) {
         Painted drawn(named("Dover"), std::chrono::year{2026} / 3 / 28, count, 1366, 400);

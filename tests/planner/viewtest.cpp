@@ -74,6 +74,22 @@ TEST_F(PlanViewTest, FollowsPortsAndWhatIsStoredOfThem) {
     }
 }
 
+TEST_F(PlanViewTest, APortOfTheUsersOwnIsToldAsHisOnItsOwnClock) {
+    const HarmonicRecord before = readport(area(), 1);
+    HarmonicRecord record = before;
+    record.Z0 += 1;
+    writeport(area(), 1, record);
+    OwnMade made;
+    made.how = OwnHow::corrected;
+    made.date = "2026-03-03";
+    ASSERT_TRUE(noteport(session.folders, area(), 1, before, record, made));
+    const PlanView view = opened();
+    EXPECT_EQ(plantitle(view, scripted.locale), "Alder Quay, 9 to 15 April 2024, port's clock (Europe/London)");
+    EXPECT_EQ(planfoot(view),
+              "Times by the port's clock (Europe/London); heights in metres above chart datum; entered by you on 3 "
+              "March 2026. Predictions: weather isn't counted.");
+}
+
 TEST_F(PlanViewTest, SpansHaveTheHoursOfTheirDays) {
     PlanView view = opened();
     const struct {
@@ -198,7 +214,7 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write metres from 0 to 40, not \u201Cdeep\u201D");
     EXPECT_EQ(view.access.windows.size(), windows);
     EXPECT_EQ(passageof(view)->clearance, 0.5);
-    EXPECT_EQ(view.settings.bottoms.at("UK.hc/Alder Quay"), -1);
+    EXPECT_EQ(view.settings.bottoms.at("UK.hc/Alder Quay#1"), -1);
     askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});
     EXPECT_EQ(answertext(view, scripted.locale), answered);
     // As is what was stored before.

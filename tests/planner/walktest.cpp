@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/waters.h"
 #include "fakes/testport.h"
 #include "planner/access.h"
 #include "planner/minutewalk.h"
-#include "planner/waters.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {

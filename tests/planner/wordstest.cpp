@@ -100,7 +100,7 @@ TEST(PlanWords, CutWindowsTellNoOpeningAndNoClosing) {
         const Plan plan = simpleplan(makedate(2026, 7, day), 1);
         const PlannedAccess access = plan.access(boat, {}, false);
         const std::string text = accesstext(plan, access, boat, locale);
-        EXPECT_EQ(text.starts_with("until "), access.windows.front().window.cutatstart) << text;
+        EXPECT_EQ(text.starts_with("Until "), access.windows.front().window.cutatstart) << text;
         EXPECT_EQ(text.ends_with(" on."), access.windows.back().window.cutatend) << text;
     }
 }

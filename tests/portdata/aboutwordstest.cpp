@@ -18,7 +18,7 @@ TEST(AboutWords, TrustIsToldByThePortsOwnFigures) {
     about.datum = "MLLW";
     about.timemedian = 1;
     about.heightmedian = 0.07;
-    const std::string words = trustwords(about);
+    const std::string words = trustwords(PortKnown{about, {}});
     for (const char* part : {"A source, from a gauge's record; ", "MLLW (mean lower low water)", ". Half of",
                              "within 1 minute and 0.07 m", "nine in ten within 14 minutes and 0.17 m; weather"})
         EXPECT_NE(words.find(part), std::string::npos) << part << ": " << words;
@@ -26,10 +26,10 @@ TEST(AboutWords, TrustIsToldByThePortsOwnFigures) {
     about.recordfrom = "2006-03-31";
     about.recordto = "2010-01-01";
     about.datum = "GAUGE";
-    EXPECT_TRUE(
-        trustwords(about).starts_with("The constants come from A source (a licence), from a gauge's record of "
-                                      "2006-03-31 to 2010-01-01; heights are above GAUGE as that record"));
-    EXPECT_TRUE(trustwords({}).starts_with("Nothing is known"));
+    EXPECT_TRUE(trustwords(PortKnown{about, {}})
+                    .starts_with("The constants come from A source (a licence), from a gauge's record of "
+                                 "2006-03-31 to 2010-01-01; heights are above GAUGE as that record"));
+    EXPECT_TRUE(trustwords(PortKnown{}).starts_with("Nothing is known"));
 }
 
 TEST(AboutWords, GradesGoByTheWorseOfTimesAndHeights) {

@@ -7,6 +7,7 @@
 
 #include "fakes/mainfixture.h"
 #include "files/wholefiles.h"
+#include "portdata/ownports.h"
 #include "session/refresh.h"
 
 namespace tarvane::tests {
@@ -208,6 +209,40 @@ TEST_F(HarmonicEditTest, EachCommandWritesAsToldAndSaysWhatTheFileHolds) {
     EXPECT_EQ(session.settings.currentport, 5);
     EXPECT_EQ(names(session.folders.programfolder + "/scratch.hc"), "ANCCNNX");
     EXPECT_EQ(names(area() + ".bak"), kept);
+}
+
+TEST_F(HarmonicEditTest, EachPortThatIsTheUsersOwnIsNotedAsHis) {
+    const auto how = [&](std::int16_t number) {
+        const AreaNotes notes = areanotes(session.folders, area());
+        const OwnMade* made = madeof(notes, readport(area(), number));
+        return made ? static_cast<int>(made->how) : -1;
+    };
+    pickarea(context, edit, "UK.hc");
+    pickport(context, edit, 1);
+    EXPECT_TRUE(acceptchanges(context, edit));
+    EXPECT_TRUE(areanotes(session.folders, area()).empty()) << "nothing was changed";
+    type("txtm2hm", "2");
+    EXPECT_TRUE(acceptchanges(context, edit));
+    EXPECT_EQ(how(2), static_cast<int>(OwnHow::corrected));
+    EXPECT_EQ(areanotes(session.folders, area()).at(0).made->date, "2024-04-09");
+    typenewport();
+    EXPECT_TRUE(addnewport(context, edit));
+    EXPECT_EQ(how(5), static_cast<int>(OwnHow::entered));
+    EXPECT_EQ(how(1), -1);
+    pickport(context, edit, 0);
+    EXPECT_TRUE(deletehighlighted(context, edit));
+    EXPECT_EQ(how(1), static_cast<int>(OwnHow::corrected));
+    EXPECT_EQ(how(4), static_cast<int>(OwnHow::entered));
+    pickport(context, edit, 3);
+    EXPECT_TRUE(deletehighlighted(context, edit));
+    ASSERT_EQ(areanotes(session.folders, area()).size(), 1U);
+    EXPECT_EQ(areanotes(session.folders, area()).at(0).number, 1);
+    std::filesystem::remove(ownportspath(session.folders));
+    std::filesystem::create_directories(ownportspath(session.folders));
+    typenewport();
+    EXPECT_TRUE(addnewport(context, edit));
+    EXPECT_EQ(portcount(area()), 4) << "the port is stored all the same";
+    EXPECT_NE(edit.status.find("\nThat it is yours could not be noted: Ports.json: "), std::string::npos);
 }
 
 TEST_F(HarmonicEditTest, WhatCannotBeWrittenStaysInTheBoxes) {

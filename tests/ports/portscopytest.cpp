@@ -6,6 +6,7 @@
 
 #include "fakes/mainfixture.h"
 #include "files/wholefiles.h"
+#include "portdata/ownports.h"
 
 namespace tarvane::tests {
 namespace {
@@ -44,6 +45,12 @@ TEST_F(PortsCopyTest, GatheredPortsMakeAFileOrGoBehindAnothers) {
     EXPECT_TRUE(saveports(context, copy));
     EXPECT_EQ(readwhole(file("Mine.hc")), records({3, 1, 3}));
     EXPECT_EQ(session.view.answer, "Mine.hc: 3 ports");
+    const AreaNotes notes = areanotes(session.folders, file("Mine.hc"));
+    ASSERT_EQ(notes.size(), 3U);
+    const OwnMade* made = madeof(notes, readport(area(), 1));
+    ASSERT_TRUE(made);
+    EXPECT_EQ(made->how, OwnHow::copied);
+    EXPECT_EQ(made->from + " " + made->date, "UK 2024-04-09");
 
     // The next opening has nothing gathered; a file can be copied into itself.
     startgathering(context);
@@ -61,6 +68,7 @@ TEST_F(PortsCopyTest, GatheredPortsMakeAFileOrGoBehindAnothers) {
     EXPECT_EQ(readwhole(area()), wanted);
     EXPECT_EQ(session.view.answer, "UK.hc: 6 ports");
     EXPECT_EQ(portcount(area() + ".bak"), 4);
+    EXPECT_TRUE(areanotes(session.folders, area()).empty()) << "the ports that were copied are what they were";
     EXPECT_FALSE(canopen(file("scratch.hc.bak")));
 }
 

@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "portdata/ownports.h"
 #include "tools/companion.h"
 
 namespace tarvane::tests {
@@ -29,15 +30,40 @@ TEST_F(About, TextTellsItInASailorsWords) {
     const std::string text = run("about --port harbour --area all").out;
     for (const char* part :
          {"Harbour, port 1 of Far Coast.hc\n",
-          "How good: close; half of the high and low waters are within 6 minutes and 0.07 m",
-          "nine in ten within 14 minutes and 0.17 m; weather not counted\n", "above MLLW, mean lower low water, ",
-          "Constants from A gauge, read, a gauge's record of 2006-05-31 to 2025-05-31; CC BY 4.0, modified\n",
-          "The port's clock (Asia/Dubai) shows 14:00 +04 (UT+4) on Tuesday 9 April 2024\n",
-          "prediction for 2026: 3.63 m\n", "Mean range at springs ", "\n  M2 (g "})
+          "How good: close: half of the high and low waters are within 6 minutes and 0.07 m",
+          "nine in ten within 14 minutes and 0.17 m; weather not counted\n",
+          "Heights above: MLLW, mean lower low water, ", "Source: A gauge, read\nLicence: CC BY 4.0, modified\n",
+          "Gauge's record: 31 May 2006 to 31 May 2025\n",
+          "Clock: The port's clock (Asia/Dubai) shows 14:00 +04 (UT+4) on Tuesday 9 April 2024; it isn't changed",
+          "; 3.63 m in a full prediction for 2026\n", "Mean range: ", "\n  M2 (g "})
         EXPECT_TRUE(has(text, part)) << part << "\n" << text;
     const std::string unknown = run("about creek").out;
     EXPECT_TRUE(has(unknown, "Nothing is known of where this port's constants come from")) << unknown;
-    EXPECT_FALSE(has(unknown, "How good"));
+}
+
+TEST_F(About, AnOwnPortHasNoFigureOfTheShippedOne) {
+    HarmonicRecord harbour = portnamed("Harbour"), before = harbour;
+    harbour.TimeZoneLetter = before.TimeZoneLetter = "P";
+    harbour.Z0 += 1;
+    store({harbour, portnamed("Creek")}, "Far Coast.hc");
+    const ProgramFolders folders = foldersof(environment);
+    std::filesystem::create_directories(folders.configfolder());
+    OwnMade made;
+    made.how = OwnHow::corrected;
+    made.date = "2026-03-03";
+    const std::string area = areapath("Far Coast.hc");
+    ASSERT_TRUE(noteport(folders, area, 1, before, harbour, made));
+    ASSERT_TRUE(keepcheck(folders, area, harbour, 1, {TableClock::zone, {{"2026-07-14", "06:12", "3", ""}}}));
+    const std::string text = run("about --port harbour --area all").out;
+    for (const char* part :
+         {"How good: Entered by you on 3 March 2026", "Check: Checked by you against 1 water of 2026", "(Asia/Dubai)"})
+        EXPECT_TRUE(has(text, part)) << part << "\n" << text;
+    EXPECT_FALSE(has(text, "A gauge"));
+    const std::string row = linesof(csv("about harbour --area all")).at(1);
+    EXPECT_TRUE(row.starts_with("1,Harbour,,Asia/Dubai,,,,,\"Entered by you on 3 March 2026") ||
+                row.starts_with("1,Harbour,,Asia/Dubai,,,,,Entered by you on 3 March 2026"))
+        << row;
+    EXPECT_TRUE(row.ends_with(",,,,,,Far Coast")) << row;
 }
 
 TEST_F(About, TablesHoldTheColumnsOfTheAreasTable) {

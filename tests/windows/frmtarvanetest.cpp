@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QScrollBar>
 
+#include "atlas/frmaboutport.h"
 #include "fakes/mainfixture.h"
 #include "platform/qt/twips.h"
 #include "ports/frmchartdepth.h"
@@ -51,6 +52,22 @@ struct FrmTarvane : testing::Test, MainFixture {
     bool timersran = false;
     frmtarvane window;
 };
+
+TEST_F(FrmTarvane, AClickOnTheStatusLineTellsAboutThePort) {
+    for (const bool byclick : {true, false}) {
+        scripted.windows.expect("frmaboutport", [](ModalWindow& opened) {
+            EXPECT_EQ(static_cast<frmaboutport&>(opened).sheet().name, "Alder Quay");
+        });
+        if (byclick)
+            QTest::mouseClick(window.statusbar->statusline, Qt::LeftButton);
+        else
+            QTest::keyClick(&window, Qt::Key_I, Qt::ControlModifier);
+    }
+    EXPECT_TRUE(window.statusbar->statusline->toolTip().endsWith("Click here for what is known of this port (Ctrl+I)"));
+    session.settings.currentport = 9;
+    choose("mnuAboutPort");
+    EXPECT_EQ(session.view.answer, "There is no port in hand: select one");
+}
 
 TEST_F(FrmTarvane, ComesUpWhole) {
     EXPECT_EQ(window.portbox->text(), "Port    : Alder Quay");

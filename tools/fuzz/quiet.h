@@ -55,6 +55,7 @@ struct QuietPrinter : Printer {
 struct QuietClipboard : Clipboard {
     void clear() override {}
     void settext(const std::string&) override {}
+    std::string text() const override { return {}; }
 };
 
 /// Noon of 22 November 2026, for ever.

@@ -7,6 +7,7 @@
 #include "adjust/workspace.h"
 #include "almanac/sunoutput.h"
 #include "almanac/sunview.h"
+#include "atlas/aboutlines.h"
 #include "diamonds/diamondcopy.h"
 #include "diamonds/streamsview.h"
 #include "files/wholefiles.h"
@@ -19,6 +20,7 @@
 #include "mainview/stepping.h"
 #include "portdata/depthmatch.h"
 #include "portdata/heightfiles.h"
+#include "portdata/ownnotesjson.h"
 #include "portdata/portscsv.h"
 #include "portdata/recordfiles.h"
 #include "portdata/userdepths.h"
@@ -164,6 +166,19 @@ void readreadings(const std::string& folder, Random&) {
     readingsof(wholetext(folder + "/readings.csv"));
 }
 
+/// What is told of a port by the notes, and a check that is kept among them.
+void readownnotes(const std::string& folder, Random&) {
+    const ProgramFolders folders{folder, folder, folder, folder};
+    QuietServices quiet;
+    const Services services = quiet.services();
+    const AboutOf of = aboutof(folders, folder + "/UK.hc", 1);
+    TableCheck check = of.check;
+    for (const TableWater& water : pastedwaters(wholetext(ownportspath(folders))))
+        check.waters.push_back(water);
+    sheettext(aboutsheet(of, services.clock.moment(), services.zones, services.locale));
+    keepcheck(folders, of.hcfile, of.port, of.number, check);
+}
+
 std::string areasample(const std::string& area) {
     return area.substr(0, portsinsample * harmonicrecordsize);
 }
@@ -227,6 +242,19 @@ std::string readingssample(const std::string&) {
     return sample;
 }
 
+std::string ownnotessample(const std::string& area) {
+    const HarmonicRecord port = decodeharmonic(bytesof(area));
+    const FitFigures fit{24, 1, 0.21, 0.04, -0.09, 12.3, "2026-03-01"};
+    const OwnMade made{OwnHow::fitted, "2026-03-03", "a table", fit, markof(port)};
+    OwnPorts ports;
+    ports.areas["UK.hc"].push_back(
+        {trimmedname(port),
+         1,
+         made,
+         {TableClock::port, {{"2026-07-14", "06:12", "5.4", "high"}, {"", "12:20", "1", ""}}}});
+    return ownportstext(ports);
+}
+
 constexpr Kind allkinds[] = {
     {"area", "UK.hc", areasample, mutatedbytes, readarea},
     {"depths", "TarvaneTides/UserDepths/UK.DEP", depthssample, mutatedbytes, readdepths},
@@ -235,6 +263,7 @@ constexpr Kind allkinds[] = {
     {"diamonds", "channel.l20", diamondssample, mutatedbytes, readdiamondfile},
     {"ports table", "ports.csv", tablesample, mutatedtext, readtable},
     {"readings", "readings.csv", readingssample, mutatedtext, readreadings},
+    {"own ports", "TarvaneTides/Ports.json", ownnotessample, mutatedtext, readownnotes},
 };
 
 }  // namespace

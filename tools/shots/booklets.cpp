@@ -15,7 +15,7 @@ namespace {
 
 struct BookletPress {
     const std::string folder, area;
-    const AboutTable table;
+    const AreaKnown known;
     const SystemZones zones = {};
     const QtLocale locale = QtLocale();
     QtDrawings drawings = {};
@@ -26,8 +26,8 @@ struct BookletPress {
         of.port = readport(area, number);
         of.number = number;
         of.area = "UK";
-        of.about = aboutport(table, of.port, number);
-        of.iana = of.about ? of.about->timezone : "";
+        of.known = whatisknown(known, of.port, number);
+        of.iana = of.known.iana();
         return of;
     }
 
@@ -58,7 +58,7 @@ PageOf withpassage(PageOf of) {
 bool takebooklets(const std::string& folder, const std::string& area) {
     ProgramFolders beside;
     beside.programfolder = std::filesystem::path(area).parent_path().string();
-    BookletPress press{folder, area, aboutarea(beside, area)};
+    BookletPress press{folder, area, knownarea(beside, area)};
     const auto month = [&press](const PageOf& of, int year, int number, const char* name) {
         press.print(monthpage(of, year, number, press.zones, press.locale), name);
     };

@@ -33,6 +33,7 @@
 #include "session/refresh.h"
 #include "shell/form1.h"
 #include "shell/frmconditions.h"
+#include "shots/about.h"
 #include "shots/booklets.h"
 #include "shots/diamonds.h"
 #include "shots/finder.h"
@@ -295,6 +296,7 @@ void takeeverything(Album& album, const std::string& area) {
     takestreams(album, stage);
     takeprogress(album, stage);
     takediamonds(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
+    takeabout(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     takeplanner(stage, [&album](QWidget& window, const QString& name) { album.take(window, name); });
     takefinder(stage, QFileInfo(QString::fromStdString(area)).path().toStdString(),
                [&album](QWidget& window, const QString& name) { album.take(window, name); });

@@ -1,12 +1,9 @@
 // What is known of ports: where their constants come from, how good they are, what heights are above and which clocks
 // they keep.
-#include <cmath>
-
-#include "engine/constituents.h"
-#include "planner/plantexts.h"
-#include "planner/waters.h"
+#include "atlas/aboutlines.h"
 #include "portdata/aboutwords.h"
 #include "text/numbers.h"
+#include "tides/englishlocale.h"
 #include "tides/textforms.h"
 #include "tides/views.h"
 
@@ -23,50 +20,42 @@ std::vector<Column> aboutcolumns() {
     return columns;
 }
 
-std::optional<PortAbout> knownof(const ViewContext& context, const PortInHand& port) {
-    return aboutport(context.plan.about, port.port.record, port.port.number);
+/// The cells of a port of the user's own: no figure of the one that ships is his.
+std::vector<std::string> owncells(const PortKnown& known) {
+    PortAbout own;
+    own.timezone = known.iana();
+    own.source = ownwords(*known.own);
+    std::vector<std::string> cells = aboutfields(own);
+    for (std::size_t i = textcolumns; i < cells.size(); ++i)
+        cells[i].clear();
+    return cells;
 }
 
 void aboutrows(const ViewContext& context, RowWriter& writer, Absences&) {
     for (const PortInHand& port : context.ports) {
-        const auto about = knownof(context, port);
-        std::vector<std::string> cells = about ? aboutfields(*about) : std::vector<std::string>(aboutcolumns().size());
+        const PortKnown& known = port.known;
+        std::vector<std::string> cells(aboutcolumnnames().size());
+        if (known.own)
+            cells = owncells(known);
+        else if (known.about)
+            cells = aboutfields(*known.about);
         cells[0] = numbertext(port.port.number);
         cells[1] = port.name;
         writer.row(cells);
     }
 }
 
-void knownlines(const PortAbout& about, std::ostream& out) {
-    const std::string datum = datumwords(about.datum);
-    out << "How good: " << gradeword(gradeof(about)) << "; " << errorwords(about) << "\n";
-    out << "Heights are above " << plaintext(about.datum) << (datum.empty() ? "" : ", " + datum)
-        << ", as the gauge's record has it: not official chart datum\n";
-    out << "Constants from " << plaintext(about.source) << ", " << plaintext(recordwords(about)) << "; "
-        << plaintext(about.licence) << ", modified\n";
-    if (!about.country.empty()) out << "Country, as the source has it: " << plaintext(about.country) << "\n";
-    if (about.meanrange > 0) out << "Mean range of a full prediction for 2026: " << metres(about.meanrange, 2) << "\n";
-}
-
 void abouttext(const ViewContext& context, std::ostream& out) {
     for (const PortInHand& port : context.ports) {
-        const auto about = knownof(context, port);
-        const HarmonicRecord& record = port.port.record;
+        AboutOf of{context.settings.hcfile, context.areaname, port.port.number, port.port.record, port.known, {}};
+        of.check = checkof(context.plan.known.notes, of.hcfile, of.port, of.number);
+        const AboutSheet sheet = aboutsheet(of, context.plan.now, *context.plan.zones, EnglishLocale());
         portheading(context, port, out);
         out << "\n";
-        if (about)
-            knownlines(*about, out);
-        else
-            out << trustwords(about) << "\n";
-        const PortClock clock(ClockChoice::port, zonehoursof(record), about ? about->timezone : "",
-                              *context.plan.zones);
-        const ClockTime now = clock.at(context.plan.now);
-        out << "The " << clock.description() << " shows " << clocktext(now) << " " << now.name << " ("
-            << utname(now.ahead) << ") on " << longdate(now.date) << "\n";
-        out << "Mean range at springs " << metres(meanspringrange(record), 2) << ", at neaps "
-            << metres(std::abs(meanneaprange(record)), 2) << ", by M2 and S2\n";
-        for (const Constituent& constituent : constituents)
-            out << "  " << constituent.name << constituent.constant(record) << "\n";
+        for (const AboutLine& line : sheet.lines)
+            out << line.caption << ": " << plaintext(line.text) << "\n";
+        for (const AboutLine& line : sheet.constants)
+            out << "  " << line.caption << " (" << line.text << ")\n";
     }
     conclusion(context, "All data are derived and should therefore be considered as approximate", out);
 }

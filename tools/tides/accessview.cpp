@@ -5,6 +5,7 @@
 #include "planner/plancalendar.h"
 #include "planner/planrun.h"
 #include "planner/plantexts.h"
+#include "portdata/aboutwords.h"
 #include "text/numbers.h"
 #include "tides/englishlocale.h"
 #include "tides/planparts.h"
@@ -60,13 +61,13 @@ void accesscalendar(const ViewContext& context, CalendarWriter& out, Absences& a
 }
 
 /// What the level needed is made of, and what else is asked.
-void passagelines(const ViewContext& context, std::ostream& out) {
+void passagelines(const ViewContext& context, const std::string& datum, std::ostream& out) {
     const Passage& passage = context.plan.passage;
     const WindowWishes& wishes = context.plan.wishes;
     out << "Draught " << metres(passage.draught, 2) << ", " << metres(passage.clearance, 2)
         << " under the keel, bottom " << (passage.bottom < 0 ? "dries " : "") << metres(std::abs(passage.bottom), 2)
-        << (passage.bottom < 0 ? "" : " below chart datum") << ": the level needed is " << metres(passage.needed(), 2)
-        << "\n";
+        << (passage.bottom < 0 ? "" : " below " + chartdatum(datum)) << ": the level needed is "
+        << metres(passage.needed(), 2) << "\n";
     if (const auto ceiling = passage.ceiling()) out << "The tide must not be above " << metres(*ceiling, 2) << "\n";
     if (wishes.daylight == Daylight::part) out << "Only windows with some daylight\n";
     if (wishes.daylight == Daylight::whole) out << "Only windows wholly in daylight\n";
@@ -106,7 +107,7 @@ void accesstext(const ViewContext& context, std::ostream& out) {
         port = part.port;
         headed.reset();
         planheading(context, part, out);
-        passagelines(context, out);
+        passagelines(context, part.port->known.datum(), out);
     };
     eachwindow(
         context,

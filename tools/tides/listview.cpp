@@ -16,9 +16,10 @@ std::vector<Column> listcolumns() {
 }
 
 void listrows(const ViewContext& context, RowWriter& writer, Absences&) {
-    for (const auto& [name, subject, port] : context.ports) {
-        writer.row({numbertext(port.number), name, shortest(port.record.PortLat), shortest(port.record.PortLong),
-                    port.record.TimeZoneLetter});
+    for (const PortInHand& each : context.ports) {
+        const HarmonicRecord& record = each.port.record;
+        writer.row({numbertext(each.port.number), each.name, shortest(record.PortLat), shortest(record.PortLong),
+                    record.TimeZoneLetter});
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include "planner/plancalendar.h"
 #include "planner/planrun.h"
+#include "portdata/aboutwords.h"
 #include "tides/textforms.h"
 
 namespace tarvane {
@@ -22,8 +23,7 @@ struct PartAsked {
 
 PlanOf planof(const ViewContext& context, const PortInHand& port) {
     const PlanAsked& plan = context.plan;
-    const auto about = aboutport(plan.about, port.port.record, port.port.number);
-    PlanOf of{port.port.record, about ? about->timezone : "", Date{}, context.days, plan.clock};
+    PlanOf of{port.port.record, port.known.iana(), Date{}, context.days, plan.clock};
     const PortClock clock(of.clock, zonehoursof(of.port), of.iana, *plan.zones);
     of.first = plan.date.value_or(clock.at(plan.now).date);
     return of;
@@ -70,7 +70,7 @@ void CalendarWriter::finish() {
 }
 
 PlanPort planport(const ViewContext& context, const PortInHand& port) {
-    return {context.areaname, port.port.number, port.name};
+    return {context.areaname, port.port.number, port.name, port.known.datum(), trustclause(port.known)};
 }
 
 std::vector<Column> plancolumns(std::span<const PlanColumn> columns) {
@@ -98,7 +98,8 @@ void notelacking(Absences& absences, const PlanPart& part) {
 void planheading(const ViewContext& context, const PlanPart& part, std::ostream& out) {
     portheading(context, *part.port, out);
     out << "Times are " << (part.plan->planof().clock == ClockChoice::port ? "on the " : "in ")
-        << part.plan->clock().description() << ", heights in metres above chart datum\n";
+        << part.plan->clock().description() << ", heights in metres above " << chartdatum(part.port->known.datum())
+        << "\n";
 }
 
 }  // namespace tarvane

@@ -33,10 +33,11 @@ void takeports(const Options& options, const AreaInHand& area, const std::vector
             options.view->needsport ? readdepth(context.settings.depfile, number) : UserDepthRecord{};
         const std::string& name = area.names[index];
         const std::string subject = portsubject(name, number) + (context.several ? " of " + area.name : "");
-        context.ports.push_back({name,
-                                 subject,
-                                 {area.records[index], number, depth.UserDepth, context.settings.currentoutput,
-                                  trim(depth.DepthPortName)}});
+        context.ports.push_back(
+            {name,
+             subject,
+             {area.records[index], number, depth.UserDepth, context.settings.currentoutput, trim(depth.DepthPortName)},
+             whatisknown(context.plan.known, area.records[index], number)});
     }
 }
 
@@ -52,15 +53,12 @@ std::string takedays(const Options& options, Date today, ViewContext& context) {
     return last > makedate(9999, 12, 31) ? "the days run past 9999-12-31" : "";
 }
 
-/// The zones of the ports, and the boat. A table of zones that can't be read leaves the ports to their zone letters.
-std::string takeplan(const Options& options, const TidesEnvironment& environment, const ProgramFolders& folders,
-                     ViewContext& context) {
+/// The clock, and the boat.
+std::string takeplan(const Options& options, const TidesEnvironment& environment, ViewContext& context) {
     PlanAsked& plan = context.plan;
     plan.clock = options.plan.clock.value_or(ClockChoice::port);
     plan.date = options.date;
     plan.now = environment.now;
-    plan.zones = environment.zones;
-    plan.about = aboutarea(folders, context.settings.hcfile);
     return options.view->hasboat ? takepassage(options.plan, context.settings, plan.passage, plan.wishes) : "";
 }
 
@@ -95,10 +93,14 @@ AreasChoice pickports(const Options& options, const Settings& settings, const st
 std::string takearea(const Options& options, const TidesEnvironment& environment, const AreaInHand& area,
                      const std::vector<std::int16_t>& numbers, ViewContext& context) {
     const ProgramFolders folders = foldersof(environment);
+    // A table of what is known that can't be read leaves the ports to their zone letters.
     context.settings.hcfile = area.path;
     context.settings.depfile = depfileof(folders, area.path);
+    if (options.view->planned || options.format == OutputFormat::text)
+        context.plan.known = knownarea(folders, context.settings.hcfile);
+    context.plan.zones = environment.zones;
     takeports(options, area, numbers, context);
-    return options.view->planned ? takeplan(options, environment, folders, context) : checkdepths(context.settings);
+    return options.view->planned ? takeplan(options, environment, context) : checkdepths(context.settings);
 }
 
 std::string prepareareas(const Options& options, const TidesEnvironment& environment,

@@ -47,9 +47,9 @@ int showtable(const Options& options, const Contexts& contexts, std::ostream& ou
 /// Writes the result. The exit status: days without one are no fault as long as there are others.
 int show(const Options& options, const Contexts& contexts, std::ostream& out, std::ostream& err) {
     for (const ViewContext& context : contexts)
-        if (!context.plan.about.fault.empty())
-            err << "tides: " << plaintext(aboutname(context.areaname) + " isn't read: " + context.plan.about.fault)
-                << "\n";
+        if (!context.plan.known.table.fault.empty())
+            err << "tides: "
+                << plaintext(aboutname(context.areaname) + " isn't read: " + context.plan.known.table.fault) << "\n";
     if (options.format == OutputFormat::ics) return showcalendar(options, contexts, out, err);
     if (options.format != OutputFormat::text) return showtable(options, contexts, out, err);
     for (const ViewContext& context : contexts)

@@ -74,12 +74,16 @@ std::string takereference(const StreamsOptions& options, const ProgramFolders& f
     const auto index = static_cast<std::size_t>(choice.numbers[0] - 1);
     const std::string& name = area.names[index];
     streams.context.ports.push_back(
-        {name, portsubject(name, choice.numbers[0]), {area.records[index], choice.numbers[0], 0, 1}});
+        {name,
+         portsubject(name, choice.numbers[0]),
+         {area.records[index], choice.numbers[0], 0, 1},
+         whatisknown(knownarea(folders, area.path), area.records[index], choice.numbers[0])});
     return "";
 }
 
 std::string preparestreams(const StreamsOptions& options, const TidesEnvironment& environment, StreamsInHand& streams) {
     const ProgramFolders folders = foldersof(environment);
+    streams.context.plan.zones = environment.zones;
     std::string fault = takediamond(options, folders, streams);
     if (fault.empty()) fault = takereference(options, folders, streams);
     if (!fault.empty()) return fault;
@@ -105,7 +109,7 @@ void streamsastext(const StreamsInHand& streams, std::ostream& out) {
         << LatitudeEditText(streams.diamond.DiamondLat) << "  " << LongitudeEditText(streams.diamond.DiamondLong)
         << "\n\n";
     portheading(streams.context, port, out);
-    out << "\n" << longdate(date) << "\n" << timeline(streams.context, port, date) << "\n";
+    out << "\n" << longdate(date) << "\n" << dayline(streams.context, port, date) << "\n";
     rangetext(streams.day, out);
     for (const TideStreams& tide : streams.day.tides) {
         out << "\nHigh water " << timetext(tide.highwater.time)

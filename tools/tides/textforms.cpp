@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "dates/summertime.h"
+#include "portdata/aboutwords.h"
 #include "portdata/coordinates.h"
+#include "session/otherclocks.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 #include "tides/englishlocale.h"
@@ -35,9 +37,17 @@ std::string timeline(const ViewContext& context, const PortInHand& port, Date da
     return correctionline(shift, date) + " (" + universaltext(hoursahead(port, shift)) + ")";
 }
 
+std::string dayline(const ViewContext& context, const PortInHand& port, Date date) {
+    const std::chrono::hours ahead(hoursahead(port, summershift(date, context.settings.summerflag2)));
+    const std::string clocks =
+        context.plan.zones ? otherclocks(date, ahead, port.known.iana(), *context.plan.zones) : std::string();
+    return timeline(context, port, date) + (clocks.empty() ? "" : "; " + clocks);
+}
+
 std::string datumline(const PortInHand& port) {
-    if (port.port.currentoutput == 1) return "Heights are above chart datum";
-    if (port.port.userdepth == 0) return "Heights are above chart datum, no charted depth being set for this port";
+    if (port.port.currentoutput == 1) return "Heights are above " + chartdatum(port.known.datum());
+    if (port.port.userdepth == 0)
+        return "Heights are above " + chartdatum(port.known.datum()) + ", no charted depth being set for this port";
     const std::string other = depthofanother(port.port);
     return "Heights include the charted depth of " + format(port.port.userdepth, "0.00") +
            (other.empty() ? " m set for this port" : " m, which stands under the name of " + plaintext(other));
@@ -73,7 +83,7 @@ void daystext(const ViewContext& context, std::ostream& out,
         portheading(context, port, out);
         eachday(context, [&](Date day) {
             predictport(context, port, day, prediction);
-            out << "\n" << longdate(day) << "\n" << timeline(context, port, day) << "\n";
+            out << "\n" << longdate(day) << "\n" << dayline(context, port, day) << "\n";
             if (prediction.defined)
                 whole(port, prediction, day);
             else

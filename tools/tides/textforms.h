@@ -32,6 +32,9 @@ void conclusion(const ViewContext& context, const char* line, std::ostream& out)
 /// Under which time a day's clock times stand.
 std::string timeline(const ViewContext& context, const PortInHand& port, Date date);
 
+/// The same of a single day, with what the port's clocks read otherwise.
+std::string dayline(const ViewContext& context, const PortInHand& port, Date date);
+
 /// What a port's heights include.
 std::string datumline(const PortInHand& port);
 

@@ -14,8 +14,8 @@
 #include "dates/isomoments.h"
 #include "engine/prediction.h"
 #include "planner/plan.h"
-#include "portdata/aboutports.h"
 #include "portdata/configuration.h"
+#include "portdata/portknown.h"
 #include "sunmoon/suntimes.h"
 #include "tides/absences.h"
 #include "tides/rows.h"
@@ -24,8 +24,9 @@ namespace tarvane {
 
 struct PortInHand {
     std::string name;
-    std::string subject;  ///< as a line about it names it: "Dover, port 15", with its area where there are several
-    PredictedPort port;   ///< its records as they were read, once
+    std::string subject;   ///< as a line about it names it: "Dover, port 15", with its area where there are several
+    PredictedPort port;    ///< its records as they were read, once
+    PortKnown known = {};  ///< nothing where nobody will read it
 };
 
 /// "Dover, port 15".
@@ -37,7 +38,7 @@ struct PlanAsked {
     std::optional<Date> date;  ///< the day that the clock shows at each port when left out
     Moment now;
     const Zones* zones = nullptr;
-    AboutTable about;  ///< of the area: which zones the ports keep
+    AreaKnown known;  ///< of the area: which zones the ports keep, and who made them
     Passage passage;
     WindowWishes wishes;
 };

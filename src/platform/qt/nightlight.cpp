@@ -12,6 +12,8 @@
 namespace tarvane {
 namespace {
 
+constexpr const char* nightproperty = "tarvanenight";
+
 /// Black on white becomes red on black; greys lie between.
 QRgb redlight(QRgb colour) {
     const int light = 255 - qGray(colour);
@@ -74,9 +76,14 @@ void light(QWidget& window, bool on) {
 
 }  // namespace
 
+bool nightison() {
+    return qApp->property(nightproperty).toBool();
+}
+
 void NightLight::set(bool on) {
     if (on == on_) return;
     on_ = on;
+    qApp->setProperty(nightproperty, on);
     for (QWidget* window : QApplication::topLevelWidgets())
         if (!on || window->isVisible()) light(*window, on);
     if (on)

@@ -11,6 +11,9 @@ namespace tarvane {
 /// Set on a window that paints by night itself, with all that pops up from it.
 inline constexpr const char* ownlight = "ownlight";
 
+/// Whether it is on, for windows that paint by night themselves.
+bool nightison();
+
 class NightLight : public QObject {
   public:
     /// All windows there are, and those that come up while it is on.

@@ -13,4 +13,8 @@ void QtClipboard::settext(const std::string& text) {
     QGuiApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
+std::string QtClipboard::text() const {
+    return QGuiApplication::clipboard()->text().toStdString();
+}
+
 }  // namespace tarvane

@@ -9,6 +9,7 @@ class QtClipboard : public Clipboard {
   public:
     void clear() override;
     void settext(const std::string& text) override;
+    std::string text() const override;
 };
 
 }  // namespace tarvane

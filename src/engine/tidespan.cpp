@@ -1,4 +1,4 @@
-#include "planner/tidespan.h"
+#include "engine/tidespan.h"
 
 #include <algorithm>
 #include <array>

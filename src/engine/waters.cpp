@@ -1,4 +1,4 @@
-#include "planner/waters.h"
+#include "engine/waters.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "engine/springs.h"
-#include "planner/tidespan.h"
+#include "engine/tidespan.h"
 #include "portdata/records.h"
 
 namespace tarvane {

@@ -1,0 +1,164 @@
+#include "atlas/frmaboutport.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QVBoxLayout>
+
+#include "atlas/frmcheckport.h"
+#include "platform/qt/lightpalette.h"
+#include "platform/qt/named.h"
+#include "platform/qt/nightlight.h"
+#include "platform/qt/screentext.h"
+#include "world/frmtrusticon.h"
+
+namespace tarvane {
+namespace {
+
+constexpr int linewidth = 62;  // characters
+
+QLabel* plainlabel(const char* name) {
+    auto* label = named<QLabel>(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+}  // namespace
+
+frmaboutport::frmaboutport(MainContext& maincontext, const std::string& areafile, int portnumber, QWidget* parent)
+    : ModalDialog("frmaboutport", "About This Port", parent),
+      context(maincontext),
+      hcfile(areafile),
+      number(portnumber) {
+    setProperty(ownlight, true);
+    setPalette(paletteof(coloursof(lightingof(nightison()))));
+    buildlayout();
+    fill();
+    fillconstants();
+    connect(cmdCheck, &QPushButton::clicked, this, &frmaboutport::cmdCheck_Click);
+    connect(cmdCopy, &QPushButton::clicked, this, [this] {
+        context.services.clipboard.settext(sheettext(shown));
+        lblSaid->setText("Copied");
+    });
+    connect(cmdClose, &QPushButton::clicked, this, &frmaboutport::reject);
+    settle(cmdClose, cmdClose);
+}
+
+void frmaboutport::buildlayout() {
+    lines = new QGridLayout;
+    lines->setColumnStretch(1, 1);
+    lines->setVerticalSpacing(fontMetrics().height() / 3);
+    constants = named<QTableWidget>("constants", 0, 2);
+    constants->setAccessibleName("Constants");
+    constants->setHorizontalHeaderLabels({"Term", "Constants"});
+    constants->verticalHeader()->hide();
+    constants->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    constants->setSelectionMode(QAbstractItemView::SingleSelection);
+    constants->setTabKeyNavigation(false);
+    constants->horizontalHeader()->setHighlightSections(false);
+    constants->horizontalHeader()->setStretchLastSection(true);
+    constants->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+    lblSaid = plainlabel("lblSaid");
+    cmdCheck = named<QPushButton>("cmdCheck", "C&heck This Port");
+    cmdCheck->setToolTip("Compare the prediction with the waters of an official table");
+    cmdCheck->setMinimumWidth(cmdCheck->sizeHint().width() + 2 * fontMetrics().averageCharWidth());
+    cmdCopy = named<QPushButton>("cmdCopy", "&Copy");
+    cmdClose = named<QPushButton>("cmdClose", "Close");
+
+    auto* middle = new QHBoxLayout;
+    auto* left = new QVBoxLayout;
+    left->addLayout(lines);
+    left->addStretch(1);
+    middle->addLayout(left, 1);
+    middle->addWidget(constants, 0, Qt::AlignTop);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdCheck);
+    buttons->addWidget(cmdCopy);
+    buttons->addWidget(lblSaid, 1);
+    buttons->addWidget(cmdClose);
+    auto* whole = new QVBoxLayout(this);
+    whole->addLayout(buildhead());
+    whole->addLayout(middle, 1);
+    whole->addSpacing(fontMetrics().height());
+    whole->addLayout(buttons);
+}
+
+QLayout* frmaboutport::buildhead() {
+    lblMark = named<QLabel>("lblMark");
+    lblName = plainlabel("lblName");
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    large.setBold(true);
+    lblName->setFont(large);
+    lblGrade = plainlabel("lblGrade");
+    QFont bold = font();
+    bold.setBold(true);
+    lblGrade->setFont(bold);
+    lblPlace = plainlabel("lblPlace");
+    auto* head = new QHBoxLayout;
+    head->addWidget(lblMark);
+    for (QLabel* label : {lblName, lblGrade, lblPlace}) {
+        head->addWidget(label, label == lblPlace ? 1 : 0, Qt::AlignVCenter);
+        head->addSpacing(fontMetrics().averageCharWidth());
+    }
+    return head;
+}
+
+void frmaboutport::fill() {
+    const Services& services = context.services;
+    shown = aboutsheet(aboutof(context.session.folders, hcfile, number), services.clock.moment(), services.zones,
+                       services.locale);
+    const int size = lblName->fontMetrics().height();
+    lblMark->setPixmap(trusticon(shown.trust, coloursof(lightingof(nightison())), size)
+                           .pixmap(QSize(size, size), devicePixelRatioF()));
+    lblMark->setToolTip(trustword(shown.trust));
+    lblMark->setAccessibleName(QStringLiteral("How good: %1").arg(trustword(shown.trust)));
+    lblGrade->setText(trustword(shown.trust));
+    lblName->setText(screentext(shown.name));
+    lblPlace->setText(screentext(shown.place));
+    while (QLayoutItem* item = lines->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    int row = 0;
+    for (const AboutLine& line : shown.lines) {
+        auto* caption = plainlabel("");
+        caption->setText(screentext(line.caption));
+        auto* text = plainlabel("");
+        text->setText(screentext(line.text));
+        text->setWordWrap(true);
+        text->setMinimumWidth(fontMetrics().averageCharWidth() * linewidth);
+        text->setAccessibleName(screentext(line.caption));
+        lines->addWidget(caption, row, 0, Qt::AlignTop | Qt::AlignRight);
+        lines->addWidget(text, row++, 1, Qt::AlignTop);
+        // At once in a window that is up, so that it can be measured.
+        for (QLabel* each : {caption, text})
+            each->setVisible(true);
+    }
+}
+
+void frmaboutport::fillconstants() {
+    constants->setRowCount(static_cast<int>(shown.constants.size()));
+    for (int row = 0; row < constants->rowCount(); ++row) {
+        const AboutLine& line = shown.constants[static_cast<std::size_t>(row)];
+        constants->setItem(row, 0, new QTableWidgetItem(screentext(line.caption)));
+        constants->setItem(row, 1, new QTableWidgetItem(screentext(line.text)));
+    }
+    constants->resizeColumnsToContents();
+    const int frame = 2 * constants->frameWidth();
+    constants->setFixedSize(
+        constants->columnWidth(0) + fontMetrics().averageCharWidth() * 22 + frame,
+        constants->verticalHeader()->length() + constants->horizontalHeader()->sizeHint().height() + frame + 2);
+}
+
+void frmaboutport::cmdCheck_Click() {
+    frmcheckport check(context, hcfile, number, this);
+    context.services.windows.showmodal(check);
+    fill();
+    // A line more may need the room.
+    layout()->activate();
+    if (const int tall = heightForWidth(width()); tall > height()) resize(width(), tall);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,373 @@
+#include "atlas/frmcheckport.h"
+
+#include <QAbstractItemView>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <array>
+
+#include "dates/isomoments.h"
+#include "platform/qt/lightpalette.h"
+#include "platform/qt/named.h"
+#include "platform/qt/nightlight.h"
+#include "platform/qt/screentext.h"
+#include "portdata/recordfiles.h"
+#include "text/numbers.h"
+
+namespace tarvane {
+namespace {
+
+constexpr int typedcolumns = frmcheckport::predictedcolumn;
+constexpr int keepdelay = 500;  // milliseconds
+constexpr int rowsseen = 10;
+constexpr std::size_t mostlines = 400;  // compared with every key
+
+constexpr std::array typedfields{&TableWater::date, &TableWater::time, &TableWater::height, &TableWater::kind};
+static_assert(typedfields.size() == typedcolumns);
+
+const char* const headings[] = {"Date", "Time", "Height, m", "High or low", "Prediction", "Minutes", "Metres", "Note"};
+constexpr std::array widths{12, 8, 10, 12, 20, 9, 9, 34};  // characters
+
+const char* const intro =
+    "Type waters of an official table, of any days: each stands beside the predicted water that it means. High or low "
+    "is worked out where you leave it empty. Minutes and Metres are the prediction's less the table's: +4 says that "
+    "the prediction is 4 minutes late, -0.10 that it is 0.10 m low.";
+
+/// Tells what stands in an editor with every key, before it is left.
+class TellingDelegate : public QStyledItemDelegate {
+  public:
+    TellingDelegate(QObject* parent, std::function<void(int row, int column, const QString&)> ontyped)
+        : QStyledItemDelegate(parent), ontyped_(std::move(ontyped)) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
+        auto* box = new QLineEdit(parent);
+        box->setFrame(false);
+        box->setMaxLength(40);
+        const int row = index.row(), column = index.column();
+        connect(box, &QLineEdit::textEdited, box,
+                [this, row, column](const QString& text) { ontyped_(row, column, text); });
+        return box;
+    }
+
+  private:
+    std::function<void(int row, int column, const QString&)> ontyped_;
+};
+
+std::string signedtext(double value, int decimals) {
+    const std::string text = fixed(value, decimals);
+    return (text.find_first_of("123456789") != std::string::npos && value > 0 ? "+" : "") + text;
+}
+
+bool isempty(const TableWater& water) {
+    return water == TableWater{};
+}
+
+}  // namespace
+
+CheckTable::CheckTable() {
+    setObjectName("table");
+    setAccessibleName("Waters of the official table");
+    setColumnCount(frmcheckport::columns);
+    for (int column = 0; column < frmcheckport::columns; ++column) {
+        setHorizontalHeaderItem(column, new QTableWidgetItem(headings[column]));
+        setColumnWidth(column, fontMetrics().averageCharWidth() * widths[static_cast<std::size_t>(column)]);
+    }
+    setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setStretchLastSection(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
+                    QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
+}
+
+QSize CheckTable::sizeHint() const {
+    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < columnCount(); ++column)
+        width += columnWidth(column);
+    return {width, QTableWidget::sizeHint().height()};
+}
+
+QModelIndex CheckTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action != MoveNext && action != MovePrevious) return QTableWidget::moveCursor(action, modifiers);
+    const int step = action == MoveNext ? 1 : -1;
+    const int here = std::max(currentRow(), 0) * typedcolumns + std::clamp(currentColumn(), 0, typedcolumns - 1);
+    const int next = std::clamp(here + step, 0, rowCount() * typedcolumns - 1);
+    return model()->index(next / typedcolumns, next % typedcolumns);
+}
+
+void CheckTable::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste) && onpaste) return onpaste();
+    if (event->matches(QKeySequence::Delete) && currentItem() && currentColumn() < typedcolumns)
+        return currentItem()->setText("");
+    // Beyond what can be typed Tab leaves the table.
+    const bool last = currentRow() + 1 == rowCount() && currentColumn() >= typedcolumns - 1;
+    const bool first = currentRow() <= 0 && currentColumn() <= 0;
+    if ((event->key() == Qt::Key_Tab && last) || (event->key() == Qt::Key_Backtab && first)) {
+        event->ignore();
+        focusNextPrevChild(event->key() == Qt::Key_Tab);
+        return;
+    }
+    QTableWidget::keyPressEvent(event);
+}
+
+frmcheckport::frmcheckport(MainContext& maincontext, const std::string& hcfile, int number, QWidget* parent)
+    : ModalDialog("frmcheckport", "Check This Port", parent),
+      context(maincontext),
+      of(aboutof(maincontext.session.folders, hcfile, number)) {
+    setProperty(ownlight, true);
+    setPalette(paletteof(coloursof(lightingof(nightison()))));
+    setWindowTitle("Check This Port - " + screentext(trimmedname(of.port)));
+    buildlayout();
+    keeplater = new QTimer(this);
+    keeplater->setSingleShot(true);
+    keeplater->setInterval(keepdelay);
+    filltable();
+    connectcontrols();
+    settle(nullptr, table);
+    table->setCurrentCell(table->rowCount() - 1, datecolumn);
+}
+
+frmcheckport::~frmcheckport() {
+    // An editor that goes with the window would tell of it once more.
+    table->disconnect(this);
+    if (keeplater->isActive()) keep();
+}
+
+void frmcheckport::buildlayout() {
+    auto* words = named<QLabel>("lblIntro", intro);
+    words->setTextFormat(Qt::PlainText);
+    words->setWordWrap(true);
+    cmbClock = named<QComboBox>("cmbClock");
+    for (const TableClock each : {TableClock::zone, TableClock::port, TableClock::ut}) {
+        QString name = screentext(clockof(each, of.port, of.known.iana(), context.services.zones).description());
+        name[0] = name[0].toUpper();
+        cmbClock->addItem(name);
+    }
+    cmbClock->setCurrentIndex(static_cast<int>(of.check.clock));
+    // The style gives the list a menu's colours when it comes up first.
+    cmbClock->ensurePolished();
+    cmbClock->view()->window()->setPalette(palette());
+    cmbClock->view()->setPalette(palette());
+    table = new CheckTable;
+    setrowsinview(*table, rowsseen);
+    lblResult = named<QLabel>("lblResult");
+    lblHint = named<QLabel>("lblHint");
+    for (QLabel* label : {lblResult, lblHint}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    QFont bold = font();
+    bold.setBold(true);
+    lblResult->setFont(bold);
+    lblResult->setMinimumHeight(fontMetrics().lineSpacing() * 2);
+
+    auto* clock = new QHBoxLayout;
+    clock->addWidget(captionof("The table's &times are in", cmbClock));
+    clock->addWidget(cmbClock);
+    clock->addStretch(1);
+    auto* whole = new QVBoxLayout(this);
+    whole->addWidget(words);
+    whole->addLayout(clock);
+    whole->addWidget(table, 1);
+    whole->addWidget(lblResult);
+    whole->addWidget(lblHint);
+    whole->addLayout(buildfoot());
+}
+
+QLayout* frmcheckport::buildfoot() {
+    lblSaid = named<QLabel>("lblSaid");
+    lblSaid->setTextFormat(Qt::PlainText);
+    lblSaid->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    cmdPaste = named<QPushButton>("cmdPaste", "&Paste");
+    cmdPaste->setToolTip("Adds lines copied from elsewhere, such as 2026-07-14 06:12 5.4 HW");
+    cmdDelete = named<QPushButton>("cmdDelete", "&Delete Line");
+    cmdCopy = named<QPushButton>("cmdCopy", "&Copy");
+    cmdClose = named<QPushButton>("cmdClose", "Close");
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {cmdPaste, cmdDelete, cmdCopy}) {
+        buttons->addWidget(button);
+        button->setAutoDefault(false);
+    }
+    cmdClose->setAutoDefault(false);
+    buttons->addWidget(lblSaid, 1);
+    buttons->addWidget(cmdClose);
+    return buttons;
+}
+
+void frmcheckport::connectcontrols() {
+    table->setItemDelegate(
+        new TellingDelegate(this, [this](int row, int column, const QString& text) { type(row, column, text); }));
+    connect(table, &QTableWidget::cellChanged, this, [this](int row, int column) {
+        if (filling || column >= typedcolumns) return;
+        type(row, column, table->item(row, column)->text());
+        tidyline(row);
+    });
+    table->onpaste = [this] { paste(); };
+    connect(cmbClock, &QComboBox::activated, this, [this](int row) {
+        of.check.clock = static_cast<TableClock>(row);
+        showresult();
+        keeplater->start();
+    });
+    connect(keeplater, &QTimer::timeout, this, [this] { keep(); });
+    connect(cmdPaste, &QPushButton::clicked, this, [this] { paste(); });
+    connect(cmdDelete, &QPushButton::clicked, this, [this] { deleteline(); });
+    connect(cmdCopy, &QPushButton::clicked, this, [this] {
+        context.services.clipboard.settext(copytext());
+        lblSaid->setText("Copied");
+    });
+    connect(cmdClose, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+/// Every line, and an empty one that waits for the next.
+void frmcheckport::filltable() {
+    filling = true;
+    table->setRowCount(static_cast<int>(of.check.waters.size()) + 1);
+    for (int row = 0; row < table->rowCount(); ++row)
+        fillline(row, row + 1 < table->rowCount() ? of.check.waters[static_cast<std::size_t>(row)] : TableWater{});
+    filling = false;
+    showresult();
+}
+
+void frmcheckport::fillline(int row, const TableWater& water) {
+    for (int column = 0; column < columns; ++column) {
+        auto* item = table->item(row, column);
+        if (!item) table->setItem(row, column, item = new QTableWidgetItem);
+        if (column < typedcolumns)
+            item->setText(screentext(water.*typedfields[static_cast<std::size_t>(column)]));
+        else
+            item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    }
+}
+
+/// What the user types in a cell, with every key.
+void frmcheckport::type(int row, int column, const QString& text) {
+    std::vector<TableWater>& waters = of.check.waters;
+    const auto place = static_cast<std::size_t>(row);
+    if (place >= waters.size()) {
+        if (text.isEmpty()) return;
+        waters.resize(place + 1);
+        filling = true;
+        table->setRowCount(row + 2);
+        fillline(row + 1, {});
+        filling = false;
+    }
+    std::string& field = waters[place].*typedfields[static_cast<std::size_t>(column)];
+    if (field == text.toStdString()) return;
+    field = text.toStdString();
+    showresult();
+    keeplater->start();
+}
+
+/// A cell was left: its date is written so that it can be meant for one day alone, and a line without one gets that of
+/// the line before.
+void frmcheckport::tidyline(int row) {
+    if (static_cast<std::size_t>(row) >= of.check.waters.size()) return;
+    TableWater& water = of.check.waters[static_cast<std::size_t>(row)];
+    const std::string before = water.date;
+    const Services& services = context.services;
+    water.date = tidydate(water.date, context.session.conventions, services.locale, services.clock.now().today);
+    if (water.date.empty() && !isempty(water) && row > 0)
+        water.date = of.check.waters[static_cast<std::size_t>(row - 1)].date;
+    if (water.date == before) return;
+    filling = true;
+    table->item(row, datecolumn)->setText(screentext(water.date));
+    filling = false;
+    showresult();
+    keeplater->start();
+}
+
+void frmcheckport::showresult() {
+    const Zones& zones = context.services.zones;
+    const CheckResult result = checkwaters(of.port, of.known.iana(), of.check, zones);
+    const PortClock clock = clockof(of.check.clock, of.port, of.known.iana(), zones);
+    filling = true;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const auto place = static_cast<std::size_t>(row);
+        showline(row, place < result.waters.size() ? result.waters[place] : CheckedWater{.fault = emptyline}, clock);
+    }
+    filling = false;
+    lblResult->setText(
+        screentext(result.compared > 0 ? checkwords(result) + "." : "None of the table's waters is compared yet."));
+    lblHint->setText(screentext(result.hint));
+    lblHint->setVisible(!result.hint.empty());
+    lblSaid->clear();
+}
+
+void frmcheckport::showline(int row, const CheckedWater& water, const PortClock& clock) {
+    const auto put = [&](int column, const std::string& text) { table->item(row, column)->setText(screentext(text)); };
+    const bool compared = water.fault.empty();
+    const ClockTime time = clock.at(water.predicted), given = clock.at(water.given);
+    std::string predicted = std::string(water.high ? "HW " : "LW ") + clocktext(time) + ", " + fixed(water.height, 2);
+    if (time.date != given.date) predicted += " (" + isodate(time.date) + ")";
+    put(predictedcolumn, compared ? predicted : "");
+    put(minutescolumn, compared ? signedtext(water.minutes, 0) : "");
+    put(metrescolumn, compared ? signedtext(water.metres, 2) : "");
+    put(notecolumn, water.fault == emptyline ? "" : water.fault);
+    table->item(row, notecolumn)->setToolTip(table->item(row, notecolumn)->text());
+}
+
+void frmcheckport::paste() {
+    const std::string text = context.services.clipboard.text();
+    std::vector<TableWater> lines = pastedwaters(text);
+    const int row = table->currentRow(), column = table->currentColumn();
+    if (lines.size() == 1 && (lines[0].time.empty() || lines[0].height.empty()) && row >= 0 && column < typedcolumns)
+        return table->item(row, column)->setText(screentext(text));
+    if (lines.empty()) return lblSaid->setText("No waters are on the clipboard");
+    if (of.check.waters.size() + lines.size() > mostlines)
+        return lblSaid->setText(QStringLiteral("These are too many: %1 lines have room here").arg(mostlines));
+    const Services& services = context.services;
+    const Date today = services.clock.now().today;
+    std::vector<TableWater>& waters = of.check.waters;
+    for (TableWater& line : lines) {
+        line.date = tidydate(line.date, context.session.conventions, services.locale, today);
+        if (line.date.empty() && !waters.empty()) line.date = waters.back().date;
+        waters.push_back(line);
+    }
+    filltable();
+    table->setCurrentCell(table->rowCount() - 1, datecolumn);
+    keeplater->start();
+}
+
+void frmcheckport::deleteline() {
+    const int row = table->currentRow();
+    if (row < 0 || row + 1 >= table->rowCount()) return;
+    of.check.waters.erase(of.check.waters.begin() + row);
+    filltable();
+    keeplater->start();
+}
+
+/// Failing is told and stops nothing: what was typed stays in the window.
+void frmcheckport::keep() {
+    keeplater->stop();
+    TableCheck kept = of.check;
+    std::erase_if(kept.waters, isempty);
+    const ProgramFolders& folders = context.session.folders;
+    const WriteOutcome written = keepcheck(folders, of.hcfile, of.port, of.number, kept);
+    if (!written) lblSaid->setText(screentext("Could not be kept: " + ownportspath(folders) + ": " + written.reason()));
+}
+
+std::string frmcheckport::copytext() const {
+    std::string text = trimmedname(of.port) + ", " + cmbClock->currentText().toStdString() + "\n";
+    for (int column = 0; column < columns; ++column)
+        text += std::string(headings[column]) + (column + 1 < columns ? "\t" : "\n");
+    for (int row = 0; row + 1 < table->rowCount(); ++row)
+        for (int column = 0; column < columns; ++column)
+            text += table->item(row, column)->text().toStdString() + (column + 1 < columns ? "\t" : "\n");
+    return text + lblResult->text().toStdString() + "\n" +
+           (lblHint->text().isEmpty() ? "" : lblHint->text().toStdString() + "\n");
+}
+
+void frmcheckport::done(int result) {
+    // An open editor is left first: its line may get its date then.
+    table->setFocus();
+    if (keeplater->isActive()) keep();
+    ModalDialog::done(result);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,116 @@
+#include "atlas/frmcheckport.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+
+#include "atlas/frmaboutport.h"
+#include "fakes/mainfixture.h"
+#include "windows/controls.h"
+
+namespace tarvane::tests {
+namespace {
+
+class FrmCheckPort : public testing::Test, protected MainFixture {
+  protected:
+    FrmCheckPort() {
+        load();
+        scripted.clock.set(2026, 11, 23);
+    }
+
+    static std::string cell(const frmcheckport& form, int row, int column) {
+        return form.table->item(row, column)->text().toStdString();
+    }
+    /// The first key opens the cell's editor, which takes the others.
+    static void type(const char* text) {
+        for (; *text; ++text)
+            QTest::keyClick(QApplication::focusWidget(), *text);
+    }
+    TableCheck kept() const { return checkof(areanotes(session.folders, area()), area(), readport(area(), 2), 2); }
+};
+
+TEST_F(FrmCheckPort, WhatIsTypedIsComparedKeptAndShownAgain) {
+    {
+        frmcheckport form(context, area(), 2);
+        present(form);
+        expectroomfortexts(form);
+        EXPECT_EQ(form.windowTitle(), "Check This Port - Birch Sound");
+        EXPECT_EQ(infocus(form), "table");
+        form.table->setCurrentCell(0, frmcheckport::datecolumn);
+        for (const char* text : {"2026-07-14", "0612", "3,1", "", "", "12:20", "1.9"}) {
+            type(text);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(form.check().waters.size(), 2U);
+        EXPECT_EQ(cell(form, 1, frmcheckport::datecolumn), "2026-07-14") << "of the line before";
+        const CheckResult result = checkwaters(readport(area(), 2), "", form.check(), scripted.zones);
+        EXPECT_EQ(result.compared, 2);
+        EXPECT_EQ(shown(*form.lblResult), checkwords(result) + ".");
+        EXPECT_NE(cell(form, 0, frmcheckport::minutescolumn), "");
+        EXPECT_NE(cell(form, 0, frmcheckport::predictedcolumn), "");
+        QTest::qWait(900);
+        EXPECT_EQ(kept().waters.size(), 2U);
+        // A key in an open editor is kept before the cell is left.
+        form.table->setCurrentCell(2, frmcheckport::timecolumn);
+        type("9");
+        QTest::qWait(900);
+        EXPECT_EQ(kept().waters.size(), 3U);
+        EXPECT_EQ(kept().waters.back().time, "9");
+        EXPECT_NE(cell(form, 2, frmcheckport::notecolumn), "");
+    }
+    frmcheckport again(context, area(), 2);
+    EXPECT_EQ(again.table->rowCount(), 4);
+    EXPECT_EQ(cell(again, 0, frmcheckport::heightcolumn), "3,1");
+    again.table->setCurrentCell(2, frmcheckport::datecolumn);
+    again.cmdDelete->click();
+    again.cmbClock->setCurrentIndex(2);
+    emit again.cmbClock->activated(2);
+    again.cmdClose->click();
+    EXPECT_EQ(kept().waters.size(), 2U);
+    EXPECT_EQ(kept().clock, TableClock::ut);
+}
+
+TEST_F(FrmCheckPort, LinesArePastedFromOtherTables) {
+    frmcheckport form(context, area(), 2);
+    present(form);
+    scripted.clipboard.contents = "Date\tTime\tm\n2026-07-14\t06:12\t3.1\tHW\n\t12:20\t1.9\n";
+    QTest::keyClick(form.table, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.table->rowCount(), 3);
+    EXPECT_EQ(cell(form, 0, frmcheckport::kindcolumn), "high");
+    EXPECT_EQ(cell(form, 1, frmcheckport::datecolumn), "2026-07-14");
+    scripted.clipboard.contents = "nothing";
+    form.cmdPaste->click();
+    EXPECT_EQ(shown(*form.lblSaid), "No waters are on the clipboard");
+    form.cmdCopy->click();
+    EXPECT_NE(scripted.clipboard.contents.find("2026-07-14\t12:20\t1.9\t"), std::string::npos);
+    std::filesystem::create_directories(ownportspath(session.folders));
+    form.cmdClose->click();
+    EXPECT_NE(shown(*form.lblSaid).find("Could not be kept"), std::string::npos);
+}
+
+TEST_F(FrmCheckPort, AboutThisPortShowsTheCheckOfAnyPort) {
+    frmaboutport about(context, area(), 2);
+    present(about);
+    EXPECT_EQ(about.windowTitle(), "About This Port");
+    EXPECT_EQ(shown(*about.lblName), "Birch Sound");
+    EXPECT_EQ(about.constants->rowCount(), 7);
+    scripted.windows.expect("frmcheckport", [&](ModalWindow& opened) {
+        static_cast<frmcheckport&>(opened).table->item(0, frmcheckport::datecolumn)->setText("14/7/2026");
+        static_cast<frmcheckport&>(opened).table->item(0, frmcheckport::timecolumn)->setText("06:12");
+        static_cast<frmcheckport&>(opened).table->item(0, frmcheckport::heightcolumn)->setText("3");
+        static_cast<frmcheckport&>(opened).cmdClose->click();
+    });
+    about.cmdCheck->click();
+    QApplication::processEvents();
+    for (const auto* label : about.findChildren<QLabel*>())
+        if (label->wordWrap()) {
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
+        }
+    EXPECT_EQ(kept().waters.at(0).date, "2026-07-14");
+    about.cmdCopy->click();
+    EXPECT_NE(scripted.clipboard.contents.find("Check: Checked by you against 1 water of 2026"), std::string::npos)
+        << scripted.clipboard.contents;
+}
+
+}  // namespace
+}  // namespace tarvane::tests

@@ -58,6 +58,7 @@ void frmtarvane::showview() {
     shownow();
     followrecent();
     if (planner && planner->isVisible()) planner->follow();
+    if (map && map->isVisible()) map->follow();
 }
 
 void frmtarvane::shownow() {

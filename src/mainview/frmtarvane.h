@@ -14,6 +14,7 @@
 
 #include "adjust/frmharmadjust.h"
 #include "atlas/finderkeeps.h"
+#include "atlas/frmmap.h"
 #include "planner/frmplanner.h"
 
 #include "mainview/frmlayerspanel.h"
@@ -126,6 +127,7 @@ class frmtarvane : public QMainWindow {
     std::unique_ptr<World> world;           ///< once a window asked for the ports of all areas
     KeptPort shownport;                     ///< the port that was on show last
     QTimer* recentlater = nullptr;          ///< until it becomes a recent one
+    std::unique_ptr<frmmap> map;            ///< once it was opened
     PresentTide present;
     bool resized = false;  ///< a picture is empty and waits to be drawn anew
 };

@@ -31,6 +31,11 @@ void frmtarvane::openfinder(const std::string& text) {
         frmaboutport about(context, ports.areas[port.area].path, port.number, &window);
         context.services.windows.showmodal(about);
     };
+    window.onmap = [&](std::size_t place) {
+        const WorldPort& port = ports.ports[place];
+        openmap();
+        map->showport(ports.areas[port.area].path, port.number);
+    };
     window.type(text);
     context.services.windows.showmodal(window);
     if (!window.chosen()) return;
@@ -56,7 +61,22 @@ void frmtarvane::keeprecent() {
     noterecent(finderkeepspath(session.folders), shownport);
 }
 
-void frmtarvane::openmap() {}
+/// The map stands beside the main window, and each follows the other to another port.
+void frmtarvane::openmap() {
+    if (!map) {
+        map = std::make_unique<frmmap>(context);
+        map->onport = [this](const std::string& area, std::int16_t number) {
+            chooseport(context, area, number);
+            showview();
+        };
+    }
+    map->shownight(planner ? planner->planview().settings.night
+                           : readplansettings(plansettingspath(session.folders)).night);
+    map->follow();
+    map->show();
+    map->raise();
+    map->activateWindow();
+}
 
 void frmtarvane::openabout() {
     const Settings& settings = session.settings;

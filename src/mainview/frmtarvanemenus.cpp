@@ -92,6 +92,7 @@ void frmtarvane::openplanner() {
         planner->onabout = [this] { openabout(); };
         planner->onnight = [this](bool night) {
             if (onnight) onnight(night);
+            if (map) map->shownight(night);
         };
         planner->onday = [this](Date date) {
             showdate(context, date);
@@ -113,6 +114,7 @@ void frmtarvane::closeEvent(QCloseEvent* event) {
     if (adjust && adjust->isVisible() && !adjust->close()) return event->ignore();
     if (planner) planner->close();
     keeprecent();
+    if (map) map->close();
     QMainWindow::closeEvent(event);
 }
 

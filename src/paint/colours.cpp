@@ -21,7 +21,10 @@ constexpr Colours daylook{.paper = 0xFFFFFF,
                           .needed = 0x1E5B33,
                           .seabed = 0xC9B38C,
                           .now = 0xAF1B1B,
-                          .cursor = 0x5B2A86};
+                          .cursor = 0x5B2A86,
+                          .sea = 0xDCEAF7,
+                          .land = 0xF3EBD3,
+                          .shore = 0x8A7B56};
 
 constexpr Colours darklook{.paper = 0x20262E,
                            .twilight = 0x1A2027,
@@ -37,7 +40,10 @@ constexpr Colours darklook{.paper = 0x20262E,
                            .needed = 0x8FE0A8,
                            .seabed = 0x6B5B3E,
                            .now = 0xFF9088,
-                           .cursor = 0xD3A6FF};
+                           .cursor = 0xD3A6FF,
+                           .sea = 0x16202C,
+                           .land = 0x353A35,
+                           .shore = 0x7C7F6C};
 
 // Red alone, which leaves the eye its sight in the dark.
 constexpr Colours nightlook{.paper = 0x140000,
@@ -54,7 +60,10 @@ constexpr Colours nightlook{.paper = 0x140000,
                             .needed = 0xFF6A58,
                             .seabed = 0x3C1008,
                             .now = 0xFF8070,
-                            .cursor = 0xFF8C78};
+                            .cursor = 0xFF8C78,
+                            .sea = 0x0C0000,
+                            .land = 0x240300,
+                            .shore = 0x6E120A};
 
 double luminance(Rgb colour) {
     const std::array<double, 3> weights{0.2126, 0.7152, 0.0722};

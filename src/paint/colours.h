@@ -22,6 +22,9 @@ struct Colours {
     Rgb seabed;
     Rgb now;
     Rgb cursor;
+    Rgb sea;  ///< of maps
+    Rgb land;
+    Rgb shore;  ///< the line between them
 };
 
 enum class Lighting { day, dark, night };

@@ -45,6 +45,16 @@ Area LabelPlaces::takefree(const Area& wanted) {
     return taken_.back();
 }
 
+std::optional<Label> LabelPlaces::placefirst(const std::vector<Label>& choices) {
+    for (const Label& each : choices) {
+        const Area area = areaof(canvas_, each);
+        if (area.left < within_.left || area.right > within_.right || !isfree(area)) continue;
+        taken_.push_back(area);
+        return each;
+    }
+    return std::nullopt;
+}
+
 std::vector<Label> LabelPlaces::place(std::vector<Label> labels) {
     std::stable_sort(labels.begin(), labels.end(),
                      [](const Label& one, const Label& other) { return one.importance > other.importance; });

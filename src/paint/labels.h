@@ -30,6 +30,12 @@ class LabelPlaces {
     /// or over it.
     Area takefree(const Area& wanted);
 
+    /// Keeps the very area free, whatever was taken there.
+    void take(const Area& area) { taken_.push_back(area); }
+
+    /// The first of several labels that has room, which it takes as it stands.
+    std::optional<Label> placefirst(const std::vector<Label>& choices);
+
     /// Those of the labels that have room, each moved sideways where only that keeps it inside.
     std::vector<Label> place(std::vector<Label> labels);
 

@@ -55,6 +55,9 @@ class Canvas {
     /// A shape by its corners. `opacity` from 0 to 1.
     virtual void fill(std::span<const Place> corners, Rgb colour, double opacity = 1) = 0;
 
+    /// The same of a shape whose edge a line will cover: it needn't be smooth.
+    virtual void fillrough(std::span<const Place> corners, Rgb colour) { fill(corners, colour, 1); }
+
     virtual void line(std::span<const Place> places, const LineLook& look) = 0;
 
     /// One line of text, the top of its line at the place.

@@ -75,12 +75,19 @@ void frmconfig::buildlayout() {
     auto* middle = new QHBoxLayout;
     middle->addWidget(portlist2, 1);
     middle->addLayout(buildside());
-    auto* whole = new QVBoxLayout(this);
+    auto* whole = new QVBoxLayout;
     whole->addWidget(Label1);
     whole->addLayout(search);
     whole->addLayout(middle, 1);
     whole->addWidget(lblhint);
     whole->addWidget(lblmissing);
+    // The keys have the list; the picture follows it.
+    picture = new MapBox(context.session.folders.programfolder);
+    picture->setFocusPolicy(Qt::NoFocus);
+    picture->setMinimumWidth(twips(1200));
+    auto* both = new QHBoxLayout(this);
+    both->addLayout(whole);
+    both->addWidget(picture, 1);
 }
 
 QLayout* frmconfig::buildside() {
@@ -117,6 +124,7 @@ void frmconfig::connectcontrols() {
     connect(cmdSort, &QPushButton::clicked, this, &frmconfig::cmdSort_Click);
     connect(portconfigok, &QPushButton::clicked, this, &frmconfig::portconfigok_Click);
     connect(portconfigcancel, &QPushButton::clicked, this, &frmconfig::reject);
+    picture->onport = [this](std::size_t place) { pickonmap(place); };
     txtSearch->installEventFilter(this);
 }
 
@@ -124,6 +132,7 @@ void frmconfig::connectcontrols() {
 void frmconfig::openlist() {
     const Settings& settings = context.session.settings;
     loadlist();
+    picture->setports(readoneworld(context.session.folders, settings.areafile));
     const bool byname = settings.configrec.sortmode != 0;
     (byname ? optSortbyName : optSortGeog)->setChecked(true);
     if (byname) {
@@ -133,6 +142,7 @@ void frmconfig::openlist() {
     setrowsinview(*portlist2, 22);
     if (trim(settings.areafile) != trim(settings.hcfile)) return;
     // kept: nothing is highlighted at first, so that OK asks for a port; the current one is where the keys start.
+    picture->setinhand(worldplace(picture->world(), settings.areafile, settings.currentport));
     if (const auto place = placeofrecord(ports, settings.currentport))
         portlist2->setCurrentRow(static_cast<int>(*place), QItemSelectionModel::NoUpdate);
 }
@@ -165,7 +175,14 @@ int frmconfig::listindex() const {
 void frmconfig::portlist2_Click() {
     if (listindex() < 0) return;
     const auto name = pickport(ports, portlist2->item(listindex())->text().toStdString());
-    if (name) portconfigbox->setText(QString::fromStdString(*name));
+    if (!name) return;
+    portconfigbox->setText(QString::fromStdString(*name));
+    picture->setinhand(worldplace(picture->world(), context.session.settings.areafile, ports.selectedport));
+}
+
+/// A port that the list has lost is told below it, and can't be picked.
+void frmconfig::pickonmap(std::size_t place) {
+    showhit(placeofrecord(ports, picture->world().ports[place].number));
 }
 
 void frmconfig::txtSearch_Change() {

@@ -13,6 +13,7 @@
 #include "platform/qt/modaldialog.h"
 #include "ports/portlist.h"
 #include "session/session.h"
+#include "world/frmmapbox.h"
 
 namespace tarvane {
 
@@ -31,6 +32,7 @@ class frmconfig : public ModalDialog {
     QPushButton* cmdSort = nullptr;
     QPushButton *portconfigok = nullptr, *portconfigcancel = nullptr;
     QLabel *confselectedport = nullptr, *portconfigbox = nullptr;
+    MapBox* picture = nullptr;  ///< of the area
     QLabel *Label1 = nullptr, *lblhint = nullptr, *lblmissing = nullptr;
 
   protected:
@@ -43,6 +45,7 @@ class frmconfig : public ModalDialog {
     void openlist();
     void loadlist();
     void showlist();
+    void pickonmap(std::size_t place);
     void showhit(std::optional<std::size_t> index);
     int listindex() const;
     bool searchkey(QKeyEvent& key);

@@ -27,8 +27,8 @@ constexpr WindowChapter chapters[] = {
     {"frmWeighting", creek},        {"frmTidalDiamondsCopy", streams},
     {"frmimport", streams},         {"frmstreams", streams},
     {"frmshowconf", files},         {"frmplanner", planner},
-    {"frmfinder", world},           {"frmaboutport", world},
-    {"frmcheckport", world},
+    {"frmaboutport", world},        {"frmcheckport", world},
+    {"frmfinder", world},           {"frmmap", world},
 };
 
 }  // namespace

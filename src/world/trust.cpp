@@ -1,5 +1,6 @@
 #include "world/trust.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
@@ -10,7 +11,8 @@ namespace {
 
 /// Corners of an arc, from `from` to `to` in half turns, clockwise from the right.
 std::vector<Place> arc(Place middle, double radius, double from, double to) {
-    constexpr int corners = 24;
+    // No more than are seen: a map has hundreds of marks.
+    const int corners = std::clamp(static_cast<int>(3 * radius), 12, 48);
     std::vector<Place> places;
     for (int i = 0; i <= corners; ++i) {
         const double turn = std::numbers::pi * (from + (to - from) * i / corners);
@@ -52,6 +54,10 @@ void painttrust(Canvas& canvas, Place middle, double radius, Trust trust, const 
     canvas.fill(rim, trust == Trust::close ? colours.curve : colours.paper);
     if (trust == Trust::fair) canvas.fill(arc(middle, inner, 0.5, 1.5), colours.curve);
     canvas.line(rim, {colours.curve, width});
+}
+
+void paintring(Canvas& canvas, Place middle, double radius, const LineLook& look) {
+    canvas.line(arc(middle, radius, 0, 2), look);
 }
 
 }  // namespace tarvane

@@ -22,4 +22,7 @@ const char* trustword(Trust trust);
 /// isn't known.
 void painttrust(Canvas& canvas, Place middle, double radius, Trust trust, const Colours& colours);
 
+/// A circle's line.
+void paintring(Canvas& canvas, Place middle, double radius, const LineLook& look);
+
 }  // namespace tarvane

@@ -30,17 +30,21 @@ std::string stampof(const AreaNotes& notes) {
     return stamp;
 }
 
+WorldArea areaat(const ProgramFolders& folders, const OwnPorts& own, const std::string& path) {
+    const std::string file = fs::path(path).filename().string();
+    const auto notes = own.areas.find(file);
+    return {path, namebeforepoint(file),
+            stampof(path) + ", " + stampof(datafile(folders, aboutname(file))) + "," +
+                (notes == own.areas.end() ? "" : stampof(notes->second))};
+}
+
 std::vector<WorldArea> findareas(const ProgramFolders& folders, const std::string& another) {
     std::vector<std::string> paths = everyarea(folders);
     if (!another.empty() && std::find(paths.begin(), paths.end(), another) == paths.end()) paths.push_back(another);
     std::vector<WorldArea> areas;
-    OwnPorts own = readownports(ownportspath(folders));
-    for (const std::string& path : paths) {
-        const std::string file = fs::path(path).filename().string();
-        areas.push_back(
-            {path, namebeforepoint(file),
-             stampof(path) + ", " + stampof(datafile(folders, aboutname(file))) + "," + stampof(own.areas[file])});
-    }
+    const OwnPorts own = readownports(ownportspath(folders));
+    for (const std::string& path : paths)
+        areas.push_back(areaat(folders, own, path));
     return areas;
 }
 
@@ -60,6 +64,12 @@ void readarea(const ProgramFolders& folders, const WorldArea& area, std::size_t 
 World readworld(const ProgramFolders& folders, const std::string& another) {
     World world;
     rereadworld(folders, world, another);
+    return world;
+}
+
+World readoneworld(const ProgramFolders& folders, const std::string& path) {
+    World world{{areaat(folders, readownports(ownportspath(folders)), path)}, {}};
+    readarea(folders, world.areas.front(), 0, world.ports);
     return world;
 }
 

@@ -35,6 +35,9 @@ struct World {
 /// be read are passed over.
 World readworld(const ProgramFolders& folders, const std::string& another = "");
 
+/// The same of one area alone, by the path of its file.
+World readoneworld(const ProgramFolders& folders, const std::string& path);
+
 /// Looks at the files and reads what has changed. True when anything had.
 bool rereadworld(const ProgramFolders& folders, World& world, const std::string& another = "");
 

@@ -164,6 +164,13 @@ TEST(Colours, WhatIsWrittenCanBeRead) {
             for (const Rgb behind : {look.paper, look.twilight, look.night, look.band, look.field, look.passable})
                 EXPECT_GE(contrast(written, behind), 4.5) << std::hex << written << " on " << behind;
         EXPECT_GE(contrast(look.text, look.seabed), 4.5);
+        for (const Rgb behind : {look.sea, look.land}) {
+            EXPECT_GE(contrast(look.text, behind), 4.5);
+            EXPECT_GE(contrast(look.faint, behind), 4.5);
+            EXPECT_GE(contrast(look.curve, behind), 3);
+            EXPECT_GE(contrast(look.now, behind), 3);
+            EXPECT_GE(contrast(look.shore, behind), 1.5);
+        }
         for (const Rgb behind : {look.paper, look.twilight, look.night})
             EXPECT_GE(contrast(look.curve, behind), 3) << std::hex << behind;
         EXPECT_GE(contrast(look.hatch, look.passable), 1.5);

@@ -10,6 +10,7 @@
 #include "atlas/frmaboutport.h"
 #include "atlas/frmcheckport.h"
 #include "atlas/frmfinder.h"
+#include "atlas/frmmap.h"
 #include "diamonds/diamondofstreams.h"
 #include "diamonds/frmimport.h"
 #include "diamonds/frmstreams.h"
@@ -64,6 +65,7 @@ struct Room : LoadedMain {
         auto finder = std::make_unique<frmfinder>(context, world, Lighting::day);
         finder->onabout = finder->onmap = [](std::size_t) {};
         windows.push_back(std::move(finder));
+        windows.push_back(std::make_unique<frmmap>(context));
         windows.push_back(std::make_unique<Form1>(scripted.locale));
         windows.push_back(std::make_unique<frmConditions>(context.services, session.folders));
         return windows;

@@ -26,6 +26,7 @@
 #include "portdata/userdepths.h"
 #include "session/loading.h"
 #include "session/tidecurve.h"
+#include "world/mappicture.h"
 
 namespace {
 
@@ -168,6 +169,27 @@ void plannerzoom(benchmark::State& state) {
     }
 }
 BENCHMARK(plannerzoom)->Unit(benchmark::kMillisecond);
+
+/// The map with the ports of all areas, from the whole world to a harbour's approaches: wanted under 16 ms each.
+void mapframe(benchmark::State& state) {
+    const std::string folder = QApplication::applicationDirPath().toStdString();
+    const Coast coast = readcoast(folder);
+    const World world = readworld({folder, folder, folder, folder});
+    const std::vector<MapPort> ports = mapports(world);
+    MapView view;
+    resizeview(view, 1366, 700);
+    view.scale = static_cast<double>(state.range(0));
+    centreview(view, mappoint(50.2, -2));
+    QImage image(1366, 700, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        PainterCanvas canvas(painter, QApplication::font());
+        paintmap(canvas,
+                 {.coast = coast, .world = world, .ports = ports, .view = view, .look = coloursof(Lighting::day)});
+        benchmark::DoNotOptimize(image);
+    }
+}
+BENCHMARK(mapframe)->RangeMultiplier(4)->Range(1366, 2097152)->Unit(benchmark::kMillisecond);
 
 void daystep(benchmark::State& state) {
     Bench bench;

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/canvas.h"
 #include "platform/services.h"
 #include "tides/englishlocale.h"
 
@@ -50,6 +51,18 @@ struct QuietPrinter : Printer {
     void newpage() override { x = y = 0; }
     PrintOutcome enddocument() override { return {}; }
     std::string destination() const override { return {}; }
+};
+
+/// A canvas that takes every shape.
+struct QuietCanvas : Canvas {
+    double textwidth(const std::string& text, const TextLook& look) const override {
+        return look.size / 2 * static_cast<double>(text.size());
+    }
+    double textheight(const TextLook& look) const override { return look.size; }
+    void fill(const Area&, Rgb) override {}
+    void fill(std::span<const Place>, Rgb, double) override {}
+    void line(std::span<const Place>, const LineLook&) override {}
+    void text(Place, const std::string&, const TextLook&) override {}
 };
 
 struct QuietClipboard : Clipboard {

@@ -30,6 +30,7 @@
 #include "ports/usernotes.h"
 #include "session/loading.h"
 #include "tides/readingscsv.h"
+#include "world/landpicture.h"
 
 namespace tarvane::fuzz {
 namespace {
@@ -179,6 +180,18 @@ void readownnotes(const std::string& folder, Random&) {
     keepcheck(folders, of.hcfile, of.port, of.number, check);
 }
 
+/// Past the sum, which no broken file gets by.
+void readcoast(const std::string& folder, Random& random) {
+    const std::vector<std::byte> bytes = readwhole(folder + "/coast.bin");
+    decodecoast(bytes);
+    const Coast coast = decodelevels(bytes);
+    MapView view;
+    resizeview(view, 300, 200);
+    zoomview(view, static_cast<double>(1 + below(random, 1000)), {10, 10});
+    QuietCanvas canvas;
+    paintland(canvas, coast, view, coloursof(Lighting::day));
+}
+
 std::string areasample(const std::string& area) {
     return area.substr(0, portsinsample * harmonicrecordsize);
 }
@@ -234,6 +247,22 @@ std::string tablesample(const std::string& area) {
     return portscsvof(bytesof(areasample(area)));
 }
 
+/// Two levels of an island with a lake, on a grid of degrees.
+std::string coastsample(const std::string&) {
+    std::string sample;
+    for (const double each : {-180.0, -90.0, 1.0, 1.0})
+        sample += textof(std::as_bytes(std::span(&each, 1)));
+    sample += '\2';
+    for (const char tolerance : {'\0', '\x0e'}) {
+        sample += {tolerance, '\2'};
+        for (const char* ring :
+             {"\x08\xf0\x02\xa0\x01\x14\x00\x00\x14\x13\x01", "\x07\xf4\x02\xa4\x01\x06\x01\x01\x06"})
+            for (std::size_t i = 0; i < (*ring == 8 ? 11U : 9U); ++i)
+                sample += ring[i];
+    }
+    return sample;
+}
+
 std::string readingssample(const std::string&) {
     std::string sample = "date,time,height\n";
     for (int hour = 6; hour < 20; ++hour)
@@ -264,6 +293,7 @@ constexpr Kind allkinds[] = {
     {"ports table", "ports.csv", tablesample, mutatedtext, readtable},
     {"readings", "readings.csv", readingssample, mutatedtext, readreadings},
     {"own ports", "TarvaneTides/Ports.json", ownnotessample, mutatedtext, readownnotes},
+    {"coast", "coast.bin", coastsample, mutatedbytes, readcoast},
 };
 
 }  // namespace

@@ -37,6 +37,7 @@
 #include "shots/booklets.h"
 #include "shots/diamonds.h"
 #include "shots/finder.h"
+#include "shots/maps.h"
 #include "shots/pages.h"
 #include "shots/planner.h"
 #include "shots/reader.h"
@@ -311,6 +312,11 @@ void takeeverything(Album& album, const std::string& area) {
     album.take(locales, "Form1");
 }
 
+void takeworld(Album& album, const std::string& area) {
+    Stage stage(area, {makedate(2026, 7, 14), 14, 32, 0});
+    takemaps(stage, area, [&album](QWidget& window, const QString& name) { album.take(window, name); });
+}
+
 void takeoddtides(Album& album) {
     QTemporaryDir folder;
     Stage stage(oddarea(folder.filePath("odd.hc").toStdString()), {makedate(2026, 7, 14), 14, 32, 0});
@@ -350,6 +356,7 @@ int run(const Options& options) {
     }
     QDir().mkpath(options.out);
     takeeverything(album, area.toStdString());
+    takeworld(album, area.toStdString());
     takeoddtides(album);
     return album.failures ? 1 : 0;
 }

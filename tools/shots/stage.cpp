@@ -56,6 +56,7 @@ Stage::Stage(const std::string& area, const ClockReading& at) : clock(std::make_
     session.folders = foldersin(folder.path().toStdString());
     fs::copy_file(area, session.folders.programfolder + "/UK.hc");
     copyif(fs::path(area).parent_path() / "uk-about.csv", session.folders.programfolder + "/uk-about.csv");
+    copyif(fs::path(area).parent_path() / "coast.bin", session.folders.programfolder + "/coast.bin");
     open();
 }
 
@@ -68,7 +69,7 @@ Stage::Stage() : clock(std::make_unique<QtClock>()) {
     session.folders = foldersin(folder.path().toStdString());
     copyif(own.cfgpath(), session.folders.cfgpath());
     copyif(own.depthsfolder(), session.folders.depthsfolder());
-    for (const char* name : {"/UK.hc", "/uk-about.csv"})
+    for (const char* name : {"/UK.hc", "/uk-about.csv", "/coast.bin"})
         copyif(own.programfolder + name, session.folders.programfolder + name);
     open();
 }

@@ -79,6 +79,12 @@ void PainterCanvas::fill(std::span<const Place> corners, Rgb colour, double opac
     painter_.drawPolygon(polygonof(corners));
 }
 
+void PainterCanvas::fillrough(std::span<const Place> corners, Rgb colour) {
+    painter_.setRenderHint(QPainter::Antialiasing, !onscreen_);
+    fill(corners, colour, 1);
+    painter_.setRenderHint(QPainter::Antialiasing);
+}
+
 /// A grid's lines on a screen lie on whole pixels and needn't be smoothed. False for any other line.
 bool PainterCanvas::levelline(std::span<const Place> places, const LineLook& look) {
     if (places.size() != 2 || look.style != LineStyle::solid || !onscreen_) return false;

@@ -24,6 +24,7 @@ class PainterCanvas : public Canvas {
     double textheight(const TextLook& look) const override;
     void fill(const Area& area, Rgb colour) override;
     void fill(std::span<const Place> corners, Rgb colour, double opacity) override;
+    void fillrough(std::span<const Place> corners, Rgb colour) override;
     void line(std::span<const Place> places, const LineLook& look) override;
     void text(Place place, const std::string& text, const TextLook& look) override;
 

@@ -1,0 +1,38 @@
+#include "atlas/maptexts.h"
+
+#include <array>
+
+#include "text/numbers.h"
+#include "world/mapview.h"
+
+namespace tarvane {
+namespace {
+
+/// "0.4 nm", "12 nm".
+std::string milestext(double miles) {
+    return (miles < 9.95 ? fixed(miles, 1) : fixed(miles, 0)) + " nm";
+}
+
+}  // namespace
+
+std::string mapporttext(const World& world, std::size_t place, std::optional<std::size_t> inhand) {
+    const WorldPort& port = world.ports.at(place);
+    const std::string& where =
+        port.about && !port.about->country.empty() ? port.about->country : world.areas[port.area].name;
+    std::string text = port.name + ", " + where + ", " + trustword(trustof(port.about, port.own));
+    if (!inhand || inhand == place) return text;
+    const WorldPort& other = world.ports.at(*inhand);
+    return text + ", " + milestext(milesbetween(port.latitude, port.longitude, other.latitude, other.longitude)) +
+           " from " + other.name;
+}
+
+std::string trusthint(Trust trust) {
+    constexpr std::array hints{
+        "Nine in ten of its high and low waters come within 20 minutes and 0.2 m of a full prediction",
+        "Nine in ten of its high and low waters come within 45 minutes and 0.4 m of a full prediction",
+        "Its high and low waters may be farther from a full prediction than 45 minutes or 0.4 m",
+        "You entered or changed this port", "Nothing tells how good this port is"};
+    return hints.at(static_cast<std::size_t>(trust));
+}
+
+}  // namespace tarvane

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "atlas/frmaboutport.h"
 #include "fakes/mainfixture.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/plannersteps.h"
@@ -135,7 +136,7 @@ TEST_F(FrmFinder, APortElsewhereIsChosenAsBySeaAreaAndTheList) {
     EXPECT_EQ(planner.cmbPort->count(), 3);
     EXPECT_TRUE(planner.cmdAbout->toolTip().contains("close")) << planner.cmdAbout->toolTip().toStdString();
     EXPECT_NE(bottom.text(), "-1.5") << "each port has its own";
-    EXPECT_NE(filetext(plansettingspath(session.folders)).find("\"UK.hc/Alder Quay\": -1.5"), std::string::npos);
+    EXPECT_NE(filetext(plansettingspath(session.folders)).find("\"UK.hc/Alder Quay#1\": -1.5"), std::string::npos);
     EXPECT_EQ(recents(), "Far South.hc/Wattle Cove ");
 
     putfile(session.folders.cfgpath(), before);
@@ -170,6 +171,10 @@ TEST_F(FrmFinder, AnAreaThatHasChangedMeanwhileIsReadAnew) {
         EXPECT_TRUE(form.isVisible());
         EXPECT_EQ(shown(*form.lblFound), "Wattle Cove" + behind);
         EXPECT_EQ(names(form), (Names{"Wattle Quay", "Wattle Cove"}));
+        scripted.windows.expect("frmaboutport", [](ModalWindow& modal) {
+            EXPECT_EQ(dynamic_cast<frmaboutport&>(modal).lblName->text(), "Wattle Quay");
+        });
+        form.cmdAbout->click();
         form.txtFind->setText("birch");
         writeport(far, 5, portat("Wattle End", -34, 151.25F, 7));
         QTest::keyClick(form.txtFind, Qt::Key_Return);
@@ -223,7 +228,7 @@ TEST_F(FrmFinder, AnotherWindowMayReadTheAreasAnew) {
 TEST_F(FrmFinder, FavouritesAreMarkedByKeyButtonAndStar) {
     const auto favourites = [&] { return readfinderkeeps(finderkeepspath(session.folders)).favourites.size(); };
     find([&](frmfinder& form) {
-        EXPECT_FALSE(form.cmdAbout->isVisible() || form.cmdMap->isVisible()) << "there is nothing to open";
+        EXPECT_TRUE(form.cmdAbout->isVisible() && form.cmdMap->isVisible());
         QTest::keyClicks(form.txtFind, "banksia");
         QTest::keyClick(form.txtFind, Qt::Key_D, Qt::ControlModifier);
         EXPECT_EQ(favourites(), 1U);

@@ -2,19 +2,9 @@
 
 #include <array>
 
-#include "text/numbers.h"
-#include "world/mapview.h"
+#include "world/greatcircle.h"
 
 namespace tarvane {
-namespace {
-
-/// "0.4 nm", "12 nm".
-std::string milestext(double miles) {
-    return (miles < 9.95 ? fixed(miles, 1) : fixed(miles, 0)) + " nm";
-}
-
-}  // namespace
-
 std::string mapporttext(const World& world, std::size_t place, std::optional<std::size_t> inhand) {
     const WorldPort& port = world.ports.at(place);
     const std::string& where =
@@ -22,8 +12,8 @@ std::string mapporttext(const World& world, std::size_t place, std::optional<std
     std::string text = port.name + ", " + where + ", " + trustword(trustof(port.about, port.own));
     if (!inhand || inhand == place) return text;
     const WorldPort& other = world.ports.at(*inhand);
-    return text + ", " + milestext(milesbetween(port.latitude, port.longitude, other.latitude, other.longitude)) +
-           " from " + other.name;
+    const std::string distance = distancetext({other.latitude, other.longitude}, {port.latitude, port.longitude});
+    return text + ", " + (distance == "here" ? "at " : distance + " of ") + other.name;
 }
 
 std::string trusthint(Trust trust) {

@@ -9,7 +9,7 @@
 
 namespace tarvane {
 
-/// "Falmouth, United Kingdom, close, 12 nm from Newlyn": the miles are along the great circle, and left out without
+/// "Falmouth, United Kingdom, close, 12 nm E of Newlyn": the miles are along the great circle, and left out without
 /// another port in hand. The places are those in `World::ports`.
 std::string mapporttext(const World& world, std::size_t place, std::optional<std::size_t> inhand);
 

@@ -13,7 +13,6 @@ using std::numbers::pi;
 constexpr double mostlatitude = 89.9;
 constexpr double margin = 1.25;            // of what is fitted
 constexpr double closestfit = 1.0 / 2048;  // a single port is shown with so much of the world about it
-constexpr double earthmiles = 3437.747;    // the earth's radius
 
 double radians(double degrees) {
     return degrees * pi / 180;
@@ -45,13 +44,6 @@ double latitudeof(const MapPoint& point) {
 
 double longitudeof(const MapPoint& point) {
     return wrapped(point.x) * 360 - 180;
-}
-
-double milesbetween(double latitude, double longitude, double otherlatitude, double otherlongitude) {
-    const double north = std::sin(radians(otherlatitude - latitude) / 2),
-                 east = std::sin(radians(otherlongitude - longitude) / 2);
-    const double half = north * north + std::cos(radians(latitude)) * std::cos(radians(otherlatitude)) * east * east;
-    return 2 * earthmiles * std::asin(std::sqrt(std::min(half, 1.0)));
 }
 
 Place MapView::placeof(const MapPoint& point) const {

@@ -19,9 +19,6 @@ MapPoint mappoint(double latitude, double longitude);
 double latitudeof(const MapPoint& point);
 double longitudeof(const MapPoint& point);  ///< from -180 up to 180
 
-/// Of two places in degrees, nautical miles along the great circle.
-double milesbetween(double latitude, double longitude, double otherlatitude, double otherlongitude);
-
 struct MapView {
     MapPoint middle{0.5, 0.4};
     double scale = 0;              ///< how wide the world would be, units of the canvas

@@ -78,7 +78,7 @@ TEST_F(FrmMap, AClickOnAMarkChoosesThePortAndTheMapStays) {
     EXPECT_EQ(shown(*window->lblPointed), "Alder Quay, UK, not known");
     mouse(QEvent::MouseMove, spot(area(), 3) + QPoint(4, 4), Qt::NoButton);
     EXPECT_EQ(pointed(), "Cedar Head");
-    EXPECT_EQ(shown(*window->lblPointed), "Cedar Head, UK, not known, 53 nm from Alder Quay");
+    EXPECT_EQ(shown(*window->lblPointed), "Cedar Head, UK, not known, 53 nm S of Alder Quay");
     EXPECT_EQ(map->accessibleDescription(), "Cedar Head, UK, not known");
     EXPECT_NE(shown(*window->lblPosition), "");
     const Place before = map->view().placeof(mappoint(0, 0));

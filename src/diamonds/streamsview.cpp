@@ -85,9 +85,10 @@ void reckon(const MainContext& context, StreamsView& view) {
     findturningpoints(prediction);
     const auto diamond = static_cast<std::size_t>(view.diamond);
     view.streams = daystreams(view.records[diamond], prediction);
+    const PlaceOf place = placeof(context, prediction, context.session.settings.hcfile);
     view.about = "Diamond " + view.diamonds[diamond] + ". " +
-                 statusline(prediction, context.session.areaorigin,
-                            placeof(context, prediction, context.session.settings.hcfile), context.services.locale);
+                 statusline(prediction, context.session.areaorigin, place.datum, context.services.locale) +
+                 (place.otherclocks.empty() ? "" : "; " + place.otherclocks);
     view.note = view.streams.whynot;
     if (view.note.empty()) view.note = rangenote(view.streams) + " " + caution + brokennote(view.streams);
 }

@@ -25,8 +25,8 @@ constexpr std::array datums{
     DatumName{"LLWLT", "lower low water, large tide"}, DatumName{"MLWS", "mean low water springs"},
     DatumName{"NLLW", "nearly lowest low water"},      DatumName{"TLT", "lower low water of tropic tides"}};
 
-constexpr std::array months{"January", "February", "March",     "April",   "May",      "June",
-                            "July",    "August",   "September", "October", "November", "December"};
+constexpr std::array monthnames{"January", "February", "March",     "April",   "May",      "June",
+                                "July",    "August",   "September", "October", "November", "December"};
 
 std::string counted(int count, const std::string& one) {
     return numbertext(count) + " " + one + (count == 1 ? "" : "s");
@@ -123,7 +123,7 @@ std::string daywords(const std::string& day) {
     if (day.size() != 10 || day[4] != '-' || day[7] != '-') return day;
     const int month = number(5, 2);
     if (month < 1 || month > 12) return day;
-    return numbertext(number(8, 2)) + " " + months.at(static_cast<std::size_t>(month - 1)) + " " +
+    return numbertext(number(8, 2)) + " " + monthnames.at(static_cast<std::size_t>(month - 1)) + " " +
            numbertext(number(0, 4));
 }
 

@@ -128,14 +128,13 @@ Date dateof(const TideDay& day) {
     return makedate(day.tideyear, 1, 1) + std::chrono::days{day.dayofyear - 1};
 }
 
-std::string statusline(const Prediction& prediction, const FileOrigin& area, const PlaceOf& place,
+std::string statusline(const Prediction& prediction, const FileOrigin& area, const std::string& datum,
                        const Locale& locale) {
     const std::string what =
         portof(prediction.port) + ", " + formatdate(locale, dateof(prediction.day), "dddd d mmmm yyyy");
     if (!prediction.defined) return "No tides of " + what + ": " + prediction.whynot;
-    return "Tides of " + what + ", " + zoneof(prediction) +
-           (place.otherclocks.empty() ? "" : ", " + place.otherclocks) + ", " +
-           heightsof(prediction.port, place.datum) + (area.own ? ", your own " + nameof(area) : "");
+    return "Tides of " + what + ", " + zoneof(prediction) + ", " + heightsof(prediction.port, datum) +
+           (area.own ? ", your own " + nameof(area) : "");
 }
 
 std::vector<std::string> statusnotes(const Session& session, const Locale& locale) {
@@ -143,6 +142,7 @@ std::vector<std::string> statusnotes(const Session& session, const Locale& local
     const Date date = dateof(session.prediction.day);
     noteport(session, notes);
     noteheights(session, notes);
+    if (session.prediction.defined && !session.place.otherclocks.empty()) notes.push_back(session.place.otherclocks);
     notecopies(session, date, notes);
     notemonth(session, locale, date, notes);
     notelist(session, locale, date, notes);
@@ -166,7 +166,7 @@ void refreshstatus(MainContext& context) {
         session.place = placeof(context, session.prediction, area);
     }
     session.view.statusline =
-        statusline(session.prediction, session.areaorigin, session.place, context.services.locale);
+        statusline(session.prediction, session.areaorigin, session.place.datum, context.services.locale);
     session.view.notes = statusnotes(session, context.services.locale);
 }
 

@@ -13,9 +13,9 @@ namespace tarvane {
 Date dateof(const TideDay& day);
 
 /// "Tides of Lerwick (30), Saturday 28 November 2026, UT+1 (summer time), heights above chart datum", or why there are
-/// none; an area of the user's own is named. `area` is the origin of the prediction's area, `place` what is known of
-/// the port otherwise.
-std::string statusline(const Prediction& prediction, const FileOrigin& area, const PlaceOf& place,
+/// none; an area of the user's own is named. `area` is the origin of the prediction's area, `datum` the letters of what
+/// heights are above there.
+std::string statusline(const Prediction& prediction, const FileOrigin& area, const std::string& datum,
                        const Locale& locale);
 
 /// What on show is not of this prediction, a clause each, the gravest first; none when all agree.

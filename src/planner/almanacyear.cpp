@@ -12,7 +12,7 @@
 namespace tarvane {
 namespace {
 
-constexpr int phases = 4;
+constexpr int phasekinds = 4;
 constexpr const char* nosprings =
     "There are no springs and neaps to be told: they take two tides a day, and predictions for all days about them.";
 constexpr auto besidehigh = std::chrono::hours(15);  // a low water of its tide is at most so far off
@@ -78,14 +78,14 @@ void painttides(Canvas& canvas, const Area& area, const PagePlan& pages, const s
 /// A row a lunation, from new moon to last quarter.
 double paintmoons(Canvas& canvas, const Area& area, const PagePlan& pages, double line) {
     const Colours& look = coloursof(Lighting::day);
-    static constexpr const char* names[phases] = {"New moon", "First quarter", "Full moon", "Last quarter"};
+    static constexpr const char* names[phasekinds] = {"New moon", "First quarter", "Full moon", "Last quarter"};
     painttablehead(canvas, area, "Moon", "");
-    const double width = area.width() / phases;
+    const double width = area.width() / phasekinds;
     const TextLook text{look.text, pagetype::lesser}, name{look.faint, pagetype::lesser};
     const bool offset = changes(pages);
     const double aside = (line - canvas.textheight(text)) / 2;
     double y = area.top + 22;
-    for (int i = 0; i < phases; ++i) {
+    for (int i = 0; i < phasekinds; ++i) {
         paintmoon(canvas, {area.left + i * width + 6, y + 6}, 5.5, i, look);
         fittedtext(canvas, {area.left + i * width + 17, y}, names[i], name, width - 20);
     }

@@ -14,8 +14,8 @@
 namespace tarvane {
 namespace {
 
-constexpr char mark[] = "TTCOAST1";
-constexpr std::size_t headsize = sizeof mark - 1 + 4;
+constexpr char filemark[] = "TTCOAST1";
+constexpr std::size_t headsize = sizeof filemark - 1 + 4;
 constexpr double offbypixels = 0.7;         // no more of a level can be seen
 constexpr double southernmost = 1.3;        // y: no coast lies so far south
 constexpr double meridiannear = 1e-7;       // x: on the date line
@@ -191,7 +191,7 @@ Coast decodelevels(std::span<const std::byte> body) {
 }
 
 Coast decodecoast(std::span<const std::byte> file) {
-    if (file.size() < headsize || std::memcmp(file.data(), mark, sizeof mark - 1) != 0) return broken();
+    if (file.size() < headsize || std::memcmp(file.data(), filemark, sizeof filemark - 1) != 0) return broken();
     std::uint32_t sum = 0;
     for (std::size_t i = 0; i < 4; ++i)
         sum |= static_cast<std::uint32_t>(file[headsize - 4 + i]) << (8 * i);

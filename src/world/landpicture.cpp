@@ -10,7 +10,7 @@ namespace {
 // Units of the canvas: islands that are all coast.
 constexpr double speck = 2.5;
 constexpr double islet = 5;
-constexpr double beyond = 4;  // units of the canvas: what is clipped there isn't seen
+constexpr double clipped = 4;  // units of the canvas: what is clipped there isn't seen
 
 /// The world moved by whole turns, on the canvas.
 struct Onto {
@@ -57,7 +57,7 @@ void clip(std::vector<Place>& shape, double Place::*along, double limit, double 
 class LandPainter {
   public:
     LandPainter(Canvas& canvas, const MapView& view, const Colours& look)
-        : canvas_(canvas), look_(look), frame_{-beyond, -beyond, view.width + beyond, view.height + beyond} {}
+        : canvas_(canvas), look_(look), frame_{-clipped, -clipped, view.width + clipped, view.height + clipped} {}
 
     void paint(const CoastRing& ring, const Onto& onto) {
         const Area all = onto(ring.box);

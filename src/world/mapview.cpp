@@ -14,7 +14,7 @@ constexpr double mostlatitude = 89.9;
 constexpr double margin = 1.25;            // of what is fitted
 constexpr double closestfit = 1.0 / 2048;  // a single port is shown with so much of the world about it
 
-double radians(double degrees) {
+double inradians(double degrees) {
     return degrees * pi / 180;
 }
 
@@ -35,7 +35,7 @@ void settle(MapView& view) {
 
 MapPoint mappoint(double latitude, double longitude) {
     const double within = std::clamp(latitude, -mostlatitude, mostlatitude);
-    return {longitude / 360 + 0.5, 0.5 - std::asinh(std::tan(radians(within))) / (2 * pi)};
+    return {longitude / 360 + 0.5, 0.5 - std::asinh(std::tan(inradians(within))) / (2 * pi)};
 }
 
 double latitudeof(const MapPoint& point) {
@@ -56,7 +56,7 @@ MapPoint MapView::pointof(Place place) const {
 }
 
 double MapView::milewidth() const {
-    return scale / (360 * 60) / std::cos(radians(latitudeof(middle)));
+    return scale / (360 * 60) / std::cos(inradians(latitudeof(middle)));
 }
 
 void resizeview(MapView& view, double width, double height) {

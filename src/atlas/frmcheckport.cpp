@@ -203,6 +203,13 @@ QLayout* frmcheckport::buildfoot() {
 void frmcheckport::connectcontrols() {
     table->setItemDelegate(
         new TellingDelegate(this, [this](int row, int column, const QString& text) { type(row, column, text); }));
+    // What Escape takes back was told already.
+    connect(table->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            [this](QWidget*, QAbstractItemDelegate::EndEditHint hint) {
+                const QTableWidgetItem* item = table->currentItem();
+                if (hint == QAbstractItemDelegate::RevertModelCache && item && item->column() < typedcolumns)
+                    type(item->row(), item->column(), item->text());
+            });
     connect(table, &QTableWidget::cellChanged, this, [this](int row, int column) {
         if (filling || column >= typedcolumns) return;
         type(row, column, table->item(row, column)->text());
@@ -212,7 +219,7 @@ void frmcheckport::connectcontrols() {
     connect(cmbClock, &QComboBox::activated, this, [this](int row) {
         of.check.clock = static_cast<TableClock>(row);
         showresult();
-        keeplater->start();
+        keepsoon();
     });
     connect(keeplater, &QTimer::timeout, this, [this] { keep(); });
     connect(cmdPaste, &QPushButton::clicked, this, [this] { paste(); });
@@ -261,7 +268,7 @@ void frmcheckport::type(int row, int column, const QString& text) {
     if (field == text.toStdString()) return;
     field = text.toStdString();
     showresult();
-    keeplater->start();
+    keepsoon();
 }
 
 /// A cell was left: its date is written so that it can be meant for one day alone, and a line without one gets that of
@@ -279,7 +286,7 @@ void frmcheckport::tidyline(int row) {
     table->item(row, datecolumn)->setText(screentext(water.date));
     filling = false;
     showresult();
-    keeplater->start();
+    keepsoon();
 }
 
 void frmcheckport::showresult() {
@@ -296,7 +303,12 @@ void frmcheckport::showresult() {
         screentext(result.compared > 0 ? checkwords(result) + "." : "None of the table's waters is compared yet."));
     lblHint->setText(screentext(result.hint));
     lblHint->setVisible(!result.hint.empty());
-    lblSaid->clear();
+    say(notkept);
+}
+
+void frmcheckport::say(const QString& text) {
+    lblSaid->setText(text);
+    lblSaid->setToolTip(text);
 }
 
 void frmcheckport::showline(int row, const CheckedWater& water, const PortClock& clock) {
@@ -331,7 +343,7 @@ void frmcheckport::paste() {
     }
     filltable();
     table->setCurrentCell(table->rowCount() - 1, datecolumn);
-    keeplater->start();
+    keepsoon();
 }
 
 void frmcheckport::deleteline() {
@@ -339,7 +351,12 @@ void frmcheckport::deleteline() {
     if (row < 0 || row + 1 >= table->rowCount()) return;
     of.check.waters.erase(of.check.waters.begin() + row);
     filltable();
-    keeplater->start();
+    keepsoon();
+}
+
+/// So that typing on and on is kept too.
+void frmcheckport::keepsoon() {
+    if (!keeplater->isActive()) keeplater->start();
 }
 
 /// Failing is told and stops nothing: what was typed stays in the window.
@@ -349,7 +366,8 @@ void frmcheckport::keep() {
     std::erase_if(kept.waters, isempty);
     const ProgramFolders& folders = context.session.folders;
     const WriteOutcome written = keepcheck(folders, of.hcfile, of.port, of.number, kept);
-    if (!written) lblSaid->setText(screentext("Could not be kept: " + ownportspath(folders) + ": " + written.reason()));
+    notkept = written ? QString() : screentext("Could not be kept: " + ownportspath(folders) + ": " + written.reason());
+    say(notkept);
 }
 
 std::string frmcheckport::copytext() const {
@@ -366,7 +384,11 @@ std::string frmcheckport::copytext() const {
 void frmcheckport::done(int result) {
     // An open editor is left first: its line may get its date then.
     table->setFocus();
-    if (keeplater->isActive()) keep();
+    if (keeplater->isActive() || !notkept.isEmpty()) keep();
+    const bool leaves =
+        notkept.isEmpty() || context.services.messages.ask(notkept.toStdString() + "\n\nClose the window all the same?",
+                                                           "Check This Port", MessageIcon::exclamation);
+    if (!leaves) return;
     ModalDialog::done(result);
 }
 

@@ -71,11 +71,14 @@ class frmcheckport : public ModalDialog {
     void showline(int row, const CheckedWater& water, const PortClock& clock);
     void paste();
     void deleteline();
+    void keepsoon();
+    void say(const QString& text);
     void keep();
     std::string copytext() const;
 
     MainContext& context;
     AboutOf of;
+    QString notkept;  ///< why what was typed isn't in the file; empty when it is
     QTimer* keeplater = nullptr;
     bool filling = false;  ///< the table follows the lines, not the user
 };

@@ -29,9 +29,10 @@ bool isbetween(char32_t letter) {
     return std::u32string_view(U" \t\u00A0\u202F,;/°º˚'′’´\"″”").find(letter) != std::u32string_view::npos;
 }
 
-/// Decimal commas as points.
+/// Decimal commas as points. Beside a point one parts the numbers, unless letters do that.
 std::u32string pointed(std::u32string text) {
-    if (text.find(U'.') != std::u32string::npos) return text;
+    const bool letters = text.find_first_of(U"nsew") != std::u32string::npos;
+    if (!letters && text.find(U'.') != std::u32string::npos) return text;
     for (std::size_t i = 1; i + 1 < text.size(); ++i)
         if (text[i] == U',' && isdigit(text[i - 1]) && isdigit(text[i + 1])) text[i] = U'.';
     return text;

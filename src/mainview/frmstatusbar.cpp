@@ -79,7 +79,8 @@ void StatusBar::fill() {
         QString text = answer;
         if (notes.isEmpty()) return text;
         if (!text.isEmpty()) text += ". ";
-        if (count == 0) return text + QString("NOTE: %1 differences").arg(notes.size());
+        if (count == 0)
+            return text + QString("NOTE: %1 difference%2").arg(notes.size()).arg(notes.size() == 1 ? "" : "s");
         text += "NOTE: " + notes.first(count).join("; ");
         if (count < notes.size()) text += QString("; and %1 more").arg(notes.size() - count);
         return text;

@@ -25,14 +25,18 @@ struct Events {
     double altitude;   ///< of the sun then, degrees
 };
 
-/// One date's light, about the noon of the place. A day of which only one event is told begins or ends an unbroken
-/// light: its other end is the midnight beside it.
+/// One date's light, about the noon of the place. A day of which only one event is told, near midnight, begins or ends
+/// an unbroken light: its other end is the midnight beside it. Else the sun hardly rises: the other lies as far on the
+/// other side of noon.
 void addlight(Stretches& stretches, const Events& events, double latitude, double noon, Date date) {
+    constexpr double nearmidnight = 9;  // hours from noon
     const bool rises = events.rise != 0, sets = events.set != 0;
     if (!rises && !sets && !upatnoon(latitude, date, events.altitude)) return;
-    const double from = rises ? unwrapped(events.rise, noon - 6) : noon - 12;
-    const double to = sets ? unwrapped(events.set, noon + 6) : noon + 12;
-    addstretch(stretches, from, to);
+    double from = rises ? unwrapped(events.rise, noon - 6) : noon - 12;
+    double to = sets ? unwrapped(events.set, noon + 6) : noon + 12;
+    if (!sets && rises && from > noon - nearmidnight) to = 2 * noon - from;
+    if (!rises && sets && to < noon + nearmidnight) from = 2 * noon - to;
+    if (from < to) addstretch(stretches, from, to);
 }
 
 }  // namespace

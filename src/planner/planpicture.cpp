@@ -92,8 +92,7 @@ void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     eachhour(picture, scale, [&](Moment at, int hour) {
         const double x = scale.x(at);
         const std::array places{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
-        if (hour == 0) return canvas.line(places, {picture.look.faint, 1});
-        if (hour % step != 0) return;
+        if (hour == 0 || hour % step != 0) return;
         canvas.line(places, {picture.look.grid, 0.5});
         if (step <= 12 && x + digits / 2 <= picture.area.right)
             canvas.text({x, scale.plot.bottom + inset / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
@@ -173,6 +172,9 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
             paintmoon(canvas, {middle + beside, lower + line / 2}, radius, head.phase, picture.look);
         const std::array edge{Place{head.right, top}, Place{head.right, scale.plot.top}};
         canvas.line(edge, {picture.look.grid, 1});
+        // Of the day, not of the hour: some days begin without a midnight.
+        const std::array start{Place{head.left, scale.plot.top}, Place{head.left, scale.plot.bottom}};
+        canvas.line(start, {picture.look.faint, 1});
     }
 }
 

@@ -248,6 +248,8 @@ std::string accessverdict(const PlannedAccess& access, const Passage& passage, c
     if (!access.greatestheight) return "No prediction for these days: " + whynot + "; " + needed + ".";
     const std::string lacking = lackingwords(whynot);
     if (access.never) return "Never in these days: " + neverwords(access, passage) + "." + lacking;
+    if (access.always && access.windows.empty())
+        return "The tide is always high enough, but not as you wish it; " + needed + "." + lacking;
     if (access.always) return "Always in these days: " + alwayswords(access, passage) + ".";
     if (access.windows.empty()) return "She passes at times, but not as you wish it; " + needed + "." + lacking;
     return {};

@@ -87,7 +87,7 @@ void takeport(const MainContext& context, PlanView& view) {
 /// She passes at times, and it is the days chosen that all lie outside the plan.
 bool nochosenday(const PlanView& view) {
     const PlannedAccess& access = view.access;
-    if (!access.greatestheight || access.never || access.always || !access.windows.empty()) return false;
+    if (!access.greatestheight || access.never || !access.windows.empty()) return false;
     for (Date date = view.first; date < view.first + days(view.settings.days); date += days(1))
         if (view.settings.weekdays >> std::chrono::weekday(date).c_encoding() & 1U) return false;
     return true;

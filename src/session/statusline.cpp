@@ -140,9 +140,9 @@ std::string statusline(const Prediction& prediction, const FileOrigin& area, con
 std::vector<std::string> statusnotes(const Session& session, const Locale& locale) {
     std::vector<std::string> notes;
     const Date date = dateof(session.prediction.day);
+    if (session.prediction.defined && !session.place.otherclocks.empty()) notes.push_back(session.place.otherclocks);
     noteport(session, notes);
     noteheights(session, notes);
-    if (session.prediction.defined && !session.place.otherclocks.empty()) notes.push_back(session.place.otherclocks);
     notecopies(session, date, notes);
     notemonth(session, locale, date, notes);
     notelist(session, locale, date, notes);

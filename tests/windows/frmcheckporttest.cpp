@@ -83,9 +83,33 @@ TEST_F(FrmCheckPort, LinesArePastedFromOtherTables) {
     EXPECT_EQ(shown(*form.lblSaid), "No waters are on the clipboard");
     form.cmdCopy->click();
     EXPECT_NE(scripted.clipboard.contents.find("2026-07-14\t12:20\t1.9\t"), std::string::npos);
-    std::filesystem::create_directories(ownportspath(session.folders));
+    // What can't be kept is given up only by who is asked.
+    const std::string path = ownportspath(session.folders);
+    std::filesystem::create_directories(path);
+    const std::string question = "Could not be kept: " + path + ": Permission denied\n\nClose the window all the same?";
+    scripted.messages.expectask(question, false);
     form.cmdClose->click();
+    EXPECT_TRUE(form.isVisible());
     EXPECT_NE(shown(*form.lblSaid).find("Could not be kept"), std::string::npos);
+    scripted.messages.expectask(question, true);
+    form.cmdClose->click();
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(FrmCheckPort, WhatEscapeTakesBackIsNotKept) {
+    frmcheckport form(context, area(), 2);
+    present(form);
+    form.table->item(0, frmcheckport::heightcolumn)->setText("1.1");
+    form.table->setCurrentCell(0, frmcheckport::heightcolumn);
+    form.table->editItem(form.table->currentItem());
+    auto* box = form.table->findChild<QLineEdit*>();
+    ASSERT_TRUE(box);
+    box->selectAll();
+    QTest::keyClicks(box, "9.9");
+    QTest::keyClick(box, Qt::Key_Escape);
+    form.cmdClose->click();
+    ASSERT_EQ(kept().waters.size(), 1U);
+    EXPECT_EQ(kept().waters[0].height, "1.1");
 }
 
 TEST_F(FrmCheckPort, AboutThisPortShowsTheCheckOfAnyPort) {

@@ -122,7 +122,7 @@ void accesstext(const ViewContext& context, std::ostream& out) {
             head(part);
             if (!part.last) return;
             PlannedAccess all = run.overall();
-            if (headed && !all.always) all.windows.resize(1);
+            if (headed) all.windows.resize(1);
             const std::string verdict = accessverdict(all, context.plan.passage, run.whynot());
             if (!verdict.empty())
                 out << "\n" << verdict << "\n";

@@ -84,6 +84,17 @@ std::vector<Window> windowsof(const TideSpan& span, Stretch between, double floo
     return windows;
 }
 
+/// What a window that is cut at an edge goes on for in a stretch beyond it.
+Window::Beyond beyondof(const TideSpan& span, Stretch stretch, long edge, double floor, double ceiling,
+                        const Stretches& daylight) {
+    for (const Window& each : windowsof(span, stretch, floor, ceiling)) {
+        if (each.opens > edge + 1 || each.closes < edge - 1) continue;
+        const double from = static_cast<double>(each.opens) / 60, to = static_cast<double>(each.closes) / 60;
+        return {each.minutes(), std::lround(60 * sharedhours(daylight, from, to))};
+    }
+    return {};
+}
+
 /// From one end to the other, but for less than a minute.
 bool spans(const Window& window, Stretch between) {
     return static_cast<double>(window.opens) < between.from * 60 + 1 &&
@@ -98,9 +109,11 @@ std::optional<double> Passage::ceiling() const {
 }
 
 bool wished(const Window& window, const WindowWishes& wishes) {
-    if (window.minutes() < std::max(1, wishes.leastminutes)) return false;
-    if (wishes.daylight == Daylight::part && window.daylightminutes == 0) return false;
-    return wishes.daylight != Daylight::whole || window.daylightminutes >= window.minutes();
+    const long minutes = window.before.minutes + window.minutes() + window.after.minutes;
+    const long light = window.before.daylight + window.daylightminutes + window.after.daylight;
+    if (window.minutes() < 1 || minutes < wishes.leastminutes) return false;
+    if (wishes.daylight == Daylight::part && light == 0) return false;
+    return wishes.daylight != Daylight::whole || light >= minutes;
 }
 
 Access accessof(const TideSpan& span, Stretch between, const Passage& passage, const Stretches& daylight,
@@ -120,6 +133,11 @@ Access accessof(const TideSpan& span, Stretch between, const Passage& passage, c
         const double from = static_cast<double>(window.opens) / 60, to = static_cast<double>(window.closes) / 60;
         window.daylight = sharedhours(daylight, from, to);
         window.daylightminutes = std::lround(60 * window.daylight);
+        constexpr double day = 24;
+        if (window.cutatstart)
+            window.before = beyondof(span, {between.from - day, between.from}, window.opens, floor, ceiling, daylight);
+        if (window.cutatend)
+            window.after = beyondof(span, {between.to, between.to + day}, window.closes, floor, ceiling, daylight);
         if (!wished(window, wishes)) continue;
         const Heights heights = heightswithin(span, from, to);
         window.greatestheight = heights.greatest;

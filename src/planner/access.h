@@ -44,10 +44,17 @@ struct Window {
     long daylightminutes = 0;
     bool cutatstart = false, cutatend = false;  ///< the time looked at or its prediction ends there, not the water
 
+    /// What it has beyond the time looked at, within a day of it: minutes, and how many of them in daylight.
+    struct Beyond {
+        long minutes = 0, daylight = 0;
+    };
+    Beyond before{}, after{};
+
     long minutes() const { return closes - opens; }
 };
 
-/// Whether a window is long enough and light enough, and of one minute at least.
+/// Whether a window is long enough and light enough with what it has beyond the time looked at, and of one minute at
+/// least within that.
 bool wished(const Window& window, const WindowWishes& wishes);
 
 struct Access {

@@ -19,6 +19,7 @@ PlannedWindow joined(const PlannedWindow& first, const PlannedWindow& second) {
     window.daylight += second.window.daylight;
     window.daylightminutes = std::lround(60 * window.daylight);
     window.cutatend = second.window.cutatend;
+    window.after = second.window.after;
     return both;
 }
 
@@ -41,8 +42,14 @@ void WindowRun::join(const Plan& plan, std::vector<PlannedWindow>& windows) {
     if (open_ && cut && windows.front().opens - open_->closes <= minutes(1)) {
         windows.front() = joined(*open_, windows.front());
     } else {
-        if (cut && predicted_) windows.front().window.cutatstart = false;
-        if (open_ && plan.height(plan.begins())) open_->window.cutatend = false;
+        if (cut && predicted_) {
+            windows.front().window.cutatstart = false;
+            windows.front().window.before = {};
+        }
+        if (open_ && plan.height(plan.begins())) {
+            open_->window.cutatend = false;
+            open_->window.after = {};
+        }
         if (open_) windows.insert(windows.begin(), *open_);
     }
     open_.reset();

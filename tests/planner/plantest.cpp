@@ -153,6 +153,32 @@ TEST(Plan, WishesLeaveOutWhatIsDarkOrShort) {
     EXPECT_EQ(plan.access(passage, {Daylight::none, 225}, false).windows.size(), longer);
 }
 
+TEST(Plan, AWindowThatTheSpanCutsIsWishedForAsAWhole) {
+    Passage passage;
+    passage.draught = 1.9;
+    passage.clearance = 0.5;
+    passage.bottom = -2;
+    // From 21:26 on the Saturday to 02:15, which a single day has 154 minutes of.
+    const Plan day = planof(shipped("Cherbourg"), "Europe/Paris", date(2026, 11, 28), 1);
+    const Plan two = planof(shipped("Cherbourg"), "Europe/Paris", date(2026, 11, 28), 2);
+    const auto cut = day.access(passage, {Daylight::none, 280}, false).windows;
+    const auto whole = two.access(passage, {Daylight::none, 280}, false).windows;
+    ASSERT_FALSE(cut.empty());
+    EXPECT_EQ(cut.back().window.minutes() + cut.back().window.after.minutes, whole[cut.size() - 1].window.minutes());
+    EXPECT_TRUE(day.access(passage, {Daylight::none, 320}, false).windows.empty());
+    // Of a window that is open from dusk on no piece before it passes for one by day.
+    const auto bright = [&](int days) {
+        const Plan plan = planof(shipped("Cherbourg"), "Europe/Paris", date(2026, 11, 20), days);
+        return plan.access(passage, {Daylight::whole}, false).windows.size();
+    };
+    std::size_t alone = 0;
+    for (int i = 0; i < 14; ++i) {
+        const Plan plan = planof(shipped("Cherbourg"), "Europe/Paris", date(2026, 11, 20) + std::chrono::days(i), 1);
+        alone += plan.access(passage, {Daylight::whole}, false).windows.size();
+    }
+    EXPECT_EQ(alone, bright(14));
+}
+
 TEST(Plan, IsTheSameTideOnEveryClock) {
     const HarmonicRecord port = shipped("Cherbourg");
     const Plan clock = planof(port, "Europe/Paris", date(2026, 10, 24), 3);

@@ -167,8 +167,8 @@ TEST(Plan, AWindowThatTheSpanCutsIsWishedForAsAWhole) {
     EXPECT_EQ(cut.back().window.minutes() + cut.back().window.after.minutes, whole[cut.size() - 1].window.minutes());
     EXPECT_TRUE(day.access(passage, {Daylight::none, 320}, false).windows.empty());
     // Of a window that is open from dusk on no piece before it passes for one by day.
-    const auto bright = [&](int days) {
-        const Plan plan = planof(shipped("Cherbourg"), "Europe/Paris", date(2026, 11, 20), days);
+    const auto bright = [&](int count) {
+        const Plan plan = planof(shipped("Cherbourg"), "Europe/Paris", date(2026, 11, 20), count);
         return plan.access(passage, {Daylight::whole}, false).windows.size();
     };
     std::size_t alone = 0;

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 #include "atlas/frmcheckport.h"
-#include "platform/qt/lightpalette.h"
+#include "paint/frmlightpalette.h"
 #include "platform/qt/named.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"

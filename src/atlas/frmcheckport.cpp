@@ -10,7 +10,7 @@
 #include <array>
 
 #include "dates/isomoments.h"
-#include "platform/qt/lightpalette.h"
+#include "paint/frmlightpalette.h"
 #include "platform/qt/named.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"

@@ -5,7 +5,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "platform/qt/lightpalette.h"
+#include "paint/frmlightpalette.h"
 #include "platform/qt/named.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"

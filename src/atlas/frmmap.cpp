@@ -7,8 +7,8 @@
 #include <algorithm>
 
 #include "atlas/maptexts.h"
+#include "paint/frmlightpalette.h"
 #include "platform/qt/appearance.h"
-#include "platform/qt/lightpalette.h"
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/named.h"
 #include "platform/qt/nightlight.h"

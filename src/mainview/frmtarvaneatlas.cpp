@@ -6,7 +6,7 @@
 #include "atlas/frmfinder.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/plannersteps.h"
-#include "platform/qt/lightpalette.h"
+#include "paint/frmlightpalette.h"
 #include "portdata/recordfiles.h"
 #include "text/singlebyte.h"
 

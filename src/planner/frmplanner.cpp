@@ -10,9 +10,9 @@
 
 #include "dates/dateformats.h"
 #include "dates/typeddate.h"
+#include "paint/frmlightpalette.h"
 #include "planner/plantexts.h"
 #include "platform/qt/appearance.h"
-#include "platform/qt/lightpalette.h"
 #include "platform/qt/modaldialog.h"
 #include "platform/qt/nightlight.h"
 #include "platform/qt/screentext.h"

@@ -9,12 +9,12 @@
 
 namespace tarvane {
 
-/// Makes the parts 0 to `count` - 1, each on a thread of its own, and hands them over one after another. Only a few for
-/// each processor are kept at a time.
-template <class Part>
-void inorder(std::size_t count, const std::function<Part(std::size_t)>& make, const std::function<void(Part)>& take) {
+/// Makes the pieces from 0 up to `count`, each on a thread of its own, and hands them over one after another. Only a
+/// few for each processor are kept at a time.
+template <class Piece>
+void inorder(std::size_t count, const std::function<Piece(std::size_t)>& make, const std::function<void(Piece)>& take) {
     const std::size_t most = 2 * std::max(1U, std::thread::hardware_concurrency());
-    std::deque<std::future<Part>> making;
+    std::deque<std::future<Piece>> making;
     const auto handover = [&](std::size_t left) {
         while (making.size() > left) {
             take(making.front().get());

@@ -1,4 +1,4 @@
-#include "platform/qt/lightpalette.h"
+#include "paint/frmlightpalette.h"
 
 #include "platform/qt/appearance.h"
 

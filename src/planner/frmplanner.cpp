@@ -23,7 +23,6 @@
 namespace tarvane {
 namespace {
 
-constexpr std::array spans{1, 2, 3, 7, 14, 31};
 constexpr int ticks = 5000;
 
 }  // namespace
@@ -43,7 +42,7 @@ frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(op
     connectcontrols();
     connectquestion();
     shownight(view.settings.night);
-    resize(picture->sizeHint().width(), picture->sizeHint().height() * 2);
+    resize(picture->sizeHint().width(), picture->sizeHint().height() * 4);
     fitscreen(*this);
     centreon(*this, nullptr);
     picture->setFocus();
@@ -75,7 +74,7 @@ void frmplanner::connectcontrols() {
     DTPicker->onstep = [this](int days) { stepdays(days); };
     DTPicker->onpicked = [this](DateBox::Date date) { gotodate(date); };
     connect(cmbSpan, &QComboBox::activated, this, [this](int row) {
-        showdays(context, view, view.first, spans[static_cast<std::size_t>(row)]);
+        showdays(context, view, view.first, row + 1);
         showplan();
         keeplater->start();
     });
@@ -172,8 +171,7 @@ void frmplanner::fillfields() {
     chkTwilight->setChecked(settings.twilight);
     for (std::size_t i = 0; i < weekdays.size(); ++i)
         weekdays[i]->setChecked(settings.weekdays != everyweekday && (settings.weekdays >> ((i + 1) % 7) & 1U) != 0);
-    const auto span = std::find(spans.begin(), spans.end(), settings.days);
-    cmbSpan->setCurrentIndex(span == spans.end() ? -1 : static_cast<int>(span - spans.begin()));
+    cmbSpan->setCurrentIndex(settings.days - 1);
     cmbClock->setCurrentIndex(static_cast<int>(settings.clock));
     filling = false;
 }

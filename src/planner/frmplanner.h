@@ -49,6 +49,7 @@ class frmplanner : public QMainWindow {
            *lblFoot = nullptr, *lblSaid = nullptr;
     QGroupBox* fraQuestion = nullptr;
     std::array<QLineEdit*, planfields> fields{};
+    std::array<class StepArrows*, planfields> steps{};  ///< one beside each field
     QCheckBox* chkTwilight = nullptr;
     std::array<QToolButton*, 7> weekdays{};  ///< from Monday
     QTabWidget* pages = nullptr;
@@ -64,8 +65,10 @@ class frmplanner : public QMainWindow {
 
   private:
     void buildlayout();
-    QLayout* buildchoices();
+    QWidget* buildports();
+    QWidget* builddays();
     QWidget* buildquestion();
+    QLayout* withsteps(PlanField which);
     QLayout* buildwishes();
     QWidget* buildpages();
     void buildmenus();

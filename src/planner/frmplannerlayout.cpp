@@ -1,13 +1,17 @@
 // The planner's controls and where they lie.
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QVBoxLayout>
 
 #include "dates/typeddate.h"
 #include "planner/frmplanner.h"
 #include "platform/qt/clickselect.h"
+#include "platform/qt/foldingbox.h"
 #include "platform/qt/named.h"
+#include "platform/qt/screentext.h"
+#include "platform/qt/stepcontrol.h"
 
 namespace tarvane {
 namespace {
@@ -38,6 +42,23 @@ QLabel* textlabel(const char* name, bool wraps) {
     return label;
 }
 
+QHBoxLayout* bare(QHBoxLayout* row) {
+    row->setContentsMargins(0, 0, 0, 0);
+    return row;
+}
+
+/// "1 day", "6 days", "1 week", "31 days": one for each span that a plan can have.
+QStringList spannames() {
+    QStringList names;
+    for (int days = 1; days <= mostplandays; ++days) {
+        const bool weeks = days % 7 == 0;
+        const int count = weeks ? days / 7 : days;
+        names << QString("%1 %2%3").arg(count).arg(QLatin1String(weeks ? "week" : "day"),
+                                                   QLatin1String(count == 1 ? "" : "s"));
+    }
+    return names;
+}
+
 struct FieldPlace {
     const char* name;
     const char* caption;
@@ -63,8 +84,8 @@ constexpr std::array<FieldPlace, planfields> fieldplaces{
 
 void frmplanner::buildlayout() {
     picture = new PlanPictureBox(view, context.services);
-    picture->setMinimumHeight(fontMetrics().height() * 11);
-    lblNow = textlabel("lblNow", false);
+    picture->setMinimumHeight(picture->sizeHint().height());
+    lblNow = textlabel("lblNow", true);
     lblNeeded = textlabel("lblNeeded", true);
     lblAnswer = textlabel("lblAnswer", true);
     lblCursor = textlabel("lblCursor", false);
@@ -76,11 +97,7 @@ void frmplanner::buildlayout() {
     lblAnswer->setFont(larger);
     lblNow->setFont(larger);
 
-    auto* lower = new QWidget;
-    auto* columns = new QHBoxLayout(lower);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->addWidget(buildquestion());
-    columns->addWidget(buildpages(), 1);
+    auto* lower = new FoldingBox(buildquestion(), buildpages(), 0, 1);
     auto* split = named<QSplitter>("split", Qt::Vertical);
     split->addWidget(picture);
     split->addWidget(lower);
@@ -90,7 +107,7 @@ void frmplanner::buildlayout() {
 
     auto* whole = new QWidget;
     auto* rows = new QVBoxLayout(whole);
-    rows->addLayout(buildchoices());
+    rows->addWidget(new FoldingBox(buildports(), builddays(), 1, 0));
     rows->addWidget(lblNow);
     rows->addWidget(split, 1);
     rows->addWidget(lblFoot);
@@ -98,15 +115,36 @@ void frmplanner::buildlayout() {
     foot->addWidget(lblCursor, 1);
     foot->addWidget(lblSaid, 1);
     rows->addLayout(foot);
-    setCentralWidget(whole);
+    // Where the screen has less room than all of it needs, the lower part is scrolled to.
+    auto* area = named<QScrollArea>("area");
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(whole);
+    setCentralWidget(area);
 }
 
-QLayout* frmplanner::buildchoices() {
+QWidget* frmplanner::buildports() {
     cmbPort = choicebox("cmbPort", {}, "Port");
     cmbPort->setEditable(true);
     cmbPort->setInsertPolicy(QComboBox::NoInsert);
     cmbPort->setMinimumContentsLength(17);
     selectonclick(cmbPort->lineEdit());
+    cmdAbout = stepbutton("cmdAbout", "", "About this port");
+    cmdFind = stepbutton("cmdFind", "Find", "Find a port in all areas (Ctrl+F)");
+    cmdMap = stepbutton("cmdMap", "Map", "Choose a port on the map (Ctrl+M)");
+    auto* whole = new QWidget;
+    auto* row = bare(new QHBoxLayout(whole));
+    row->addWidget(captionof("&Port", cmbPort));
+    row->addWidget(cmbPort, 1);
+    for (QToolButton* button : {cmdAbout, cmdFind, cmdMap}) {
+        button->setAutoRaise(button == cmdAbout);
+        row->addWidget(button);
+    }
+    return whole;
+}
+
+QWidget* frmplanner::builddays() {
     cmdPreviousWeek = stepbutton("cmdPreviousWeek", "\u00AB", "Previous week");
     cmdPreviousDay = stepbutton("cmdPreviousDay", "\u2039", "Previous day");
     cmdNextDay = stepbutton("cmdNextDay", "\u203A", "Next day");
@@ -120,20 +158,12 @@ QLayout* frmplanner::buildchoices() {
     DTPicker->setFixedWidth(fontMetrics().averageCharWidth() * 16);
     lblDayName = textlabel("lblDayName", false);
     lblDayName->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    cmbSpan = choicebox("cmbSpan", {"1 day", "2 days", "3 days", "1 week", "2 weeks", "31 days"}, "Span");
+    cmbSpan = choicebox("cmbSpan", spannames(), "Span");
+    cmbSpan->setMaxVisibleItems(mostplandays);
     cmbClock = choicebox("cmbClock", {"Port's clock", "Universal time", "Zone time", "This computer's clock"}, "Clock");
 
-    auto* row = new QHBoxLayout;
-    row->addWidget(captionof("&Port", cmbPort));
-    row->addWidget(cmbPort, 1);
-    cmdAbout = stepbutton("cmdAbout", "", "About this port");
-    cmdFind = stepbutton("cmdFind", "Find", "Find a port in all areas (Ctrl+F)");
-    cmdMap = stepbutton("cmdMap", "Map", "Choose a port on the map (Ctrl+M)");
-    for (QToolButton* button : {cmdAbout, cmdFind, cmdMap}) {
-        button->setAutoRaise(button == cmdAbout);
-        row->addWidget(button);
-    }
-    row->addSpacing(fontMetrics().averageCharWidth());
+    auto* whole = new QWidget;
+    auto* row = bare(new QHBoxLayout(whole));
     auto* date = new QHBoxLayout;
     date->setSpacing(0);
     for (QWidget* each : {static_cast<QWidget*>(cmdPreviousWeek), static_cast<QWidget*>(cmdPreviousDay),
@@ -147,7 +177,8 @@ QLayout* frmplanner::buildchoices() {
     row->addWidget(cmbSpan);
     row->addWidget(captionof("Cl&ock", cmbClock));
     row->addWidget(cmbClock);
-    return row;
+    row->addStretch(0);
+    return whole;
 }
 
 QWidget* frmplanner::buildquestion() {
@@ -162,12 +193,12 @@ QWidget* frmplanner::buildquestion() {
         fields[i]->setPlaceholderText(place.example);
         fields[i]->setMaxLength(20);
         selectonclick(fields[i]);
-        fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 8);
+        fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 7);
         // The room is for the tables, where no hint needs it.
-        if (i % 3 < 2) fields[i]->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
+        if (i % 3 < 2) fields[i]->setMaximumWidth(fontMetrics().averageCharWidth() * 11);
         const int row = static_cast<int>(i / 3), column = static_cast<int>(i % 3) * 2;
         grid->addWidget(captionof(place.caption, fields[i]), row, column, Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(fields[i], row, column + 1);
+        grid->addLayout(withsteps(static_cast<PlanField>(i)), row, column + 1);
     }
     auto* wishes = buildwishes();
     grid->addLayout(wishes, 2, 2, 1, 4);
@@ -193,8 +224,29 @@ QWidget* frmplanner::buildquestion() {
     rows->addWidget(lblNeeded);
     rows->addWidget(lblAnswer, 1);
     lblAnswer->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    lblAnswer->setMinimumHeight(fontMetrics().height() * 4);
+    // What stands above stays where it is, however long they become.
+    lblNeeded->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    lblNeeded->setMinimumHeight(lblNeeded->fontMetrics().lineSpacing() * 2);
+    lblAnswer->setMinimumHeight(QFontMetrics(lblAnswer->font()).lineSpacing() * 4);
     return fraQuestion;
+}
+
+QLayout* frmplanner::withsteps(PlanField which) {
+    QLineEdit* const field = fields[static_cast<std::size_t>(which)];
+    StepArrows*& arrows = steps[static_cast<std::size_t>(which)];
+    arrows = named<StepArrows>("steps");
+    arrows->serve(*field);
+    arrows->onstep = [this, field, which](int by) {
+        const QString text = screentext(stepped(field->text().toStdString(), which, by));
+        if (text == field->text()) return;
+        field->setText(text);
+        ask();
+    };
+    auto* both = bare(new QHBoxLayout);
+    both->setSpacing(0);
+    both->addWidget(field);
+    both->addWidget(arrows);
+    return both;
 }
 
 QLayout* frmplanner::buildwishes() {
@@ -213,6 +265,7 @@ QWidget* frmplanner::buildpages() {
     windows = new PlanTableBox("windows", "Access");
     sunandmoon = new PlanTableBox("sunandmoon", "Sun and Moon");
     pages = named<QTabWidget>("pages");
+    pages->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
     pages->addTab(tides, "Tides");
     pages->addTab(windows, "Access");
     pages->addTab(sunandmoon, "Sun and Moon");

@@ -58,7 +58,7 @@ void PlanPictureBox::redraw() {
 }
 
 QSize PlanPictureBox::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 22};
+    return {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 11};
 }
 
 std::optional<PlanPicture> PlanPictureBox::picture() const {

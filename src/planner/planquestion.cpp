@@ -14,24 +14,21 @@ struct FieldRule {
     const char* name;
     double least, most;
     const char* unit;
+    double step, usual;  ///< where an empty field begins
     bool optional = false;
 };
 
-constexpr std::array<FieldRule, planfields> rules{{{"Draught", 0, 40, "metres"},
-                                                   {"Clearance", 0, 40, "metres"},
-                                                   {"Bottom", -40, 500, "metres"},
-                                                   {"Bridge", 0, 200, "metres", true},
-                                                   {"Mast", 0, 200, "metres", true},
-                                                   {"Bridge's level", -40, 40, "metres", true},
-                                                   {"Least time", 0, 1440, "minutes", true}}};
+constexpr std::array<FieldRule, planfields> rules{{{"Draught", 0, 40, "metres", 0.1, 0},
+                                                   {"Clearance", 0, 40, "metres", 0.1, 0},
+                                                   {"Bottom", -40, 500, "metres", 0.1, 0},
+                                                   {"Bridge", 0, 200, "metres", 0.1, 20, true},
+                                                   {"Mast", 0, 200, "metres", 0.1, 15, true},
+                                                   {"Bridge's level", -40, 40, "metres", 0.1, 5, true},
+                                                   {"Least time", 0, 1440, "minutes", 15, 15, true}}};
 
 std::string fieldtext(double value) {
     // Stored singles read as they were typed.
     return numbertext(std::round(value * 1000) / 1000);
-}
-
-std::string optionaltext(const std::optional<double>& value) {
-    return value ? fieldtext(*value) : "";
 }
 
 }  // namespace
@@ -86,15 +83,30 @@ QuestionRead readquestion(const PlanQuestion& question) {
     return read;
 }
 
+std::string stepped(const std::string& text, PlanField field, int steps) {
+    const FieldRule& rule = rules[static_cast<std::size_t>(field)];
+    if (trim(text).empty()) return steps > 0 ? fieldtext(rule.usual) : text;
+    const auto value = typednumber(text);
+    if (!value) return text;
+    // What lies between two steps goes to the next one, as reckoned in whole steps.
+    constexpr double tolerance = 1e-6;
+    const double at = *value / rule.step;
+    const double wanted = (steps > 0 ? std::floor(at + tolerance) : std::ceil(at - tolerance)) + steps;
+    if (rule.optional && *value <= rule.least && steps < 0) return "";
+    return fieldtext(std::clamp(wanted * rule.step, rule.least, rule.most));
+}
+
 PlanQuestion prefilledquestion(const PlanSettings& settings, const Settings& stored, const std::string& port) {
     const auto kept = settings.bottoms.find(port);
     const double depth = static_cast<double>(stored.userdepth);
+    const auto bridge = settings.bridges.find(port);
+    const bool bridged = bridge != settings.bridges.end();
     return {fieldtext(settings.draught.value_or(static_cast<double>(stored.currentdraught))),
             fieldtext(settings.clearance.value_or(static_cast<double>(stored.currentukc))),
             fieldtext(kept == settings.bottoms.end() ? depth : kept->second),
-            optionaltext(settings.bridge),
-            optionaltext(settings.airdraught),
-            optionaltext(settings.bridgelevel),
+            bridged ? fieldtext(bridge->second.height) : "",
+            settings.airdraught ? fieldtext(*settings.airdraught) : "",
+            bridged ? fieldtext(bridge->second.level) : "",
             settings.leastminutes > 0 ? numbertext(settings.leastminutes) : ""};
 }
 
@@ -107,10 +119,10 @@ void keepquestion(const QuestionRead& read, const Settings& stored, const std::s
     settings.clearance = differing(read.passage.clearance, stored.currentukc);
     settings.bottoms.erase(port);
     if (const auto bottom = differing(read.passage.bottom, stored.userdepth)) settings.bottoms[port] = *bottom;
-    settings.bridge = read.passage.bridge;
+    settings.bridges.erase(port);
     if (read.passage.bridge) {
         settings.airdraught = read.passage.airdraught;
-        settings.bridgelevel = read.passage.bridgelevel;
+        settings.bridges[port] = {*read.passage.bridge, read.passage.bridgelevel};
     }
     settings.leastminutes = read.leastminutes;
 }

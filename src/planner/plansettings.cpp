@@ -10,7 +10,7 @@ using nlohmann::json;
 
 constexpr double mostmetres = 1000;
 
-constexpr int leastdays = 1, mostdays = 31, minutesaday = 1440;
+constexpr int minutesaday = 1440;
 
 void take(const json& object, const char* name, bool& value) {
     if (const auto at = object.find(name); at != object.end() && at->is_boolean()) value = at->get<bool>();
@@ -35,6 +35,25 @@ void take(const json& object, const char* name, std::optional<double>& value) {
     if (const auto at = object.find(name); at != object.end()) value = metresof(*at);
 }
 
+void takebridges(const json& object, std::map<std::string, Bridge>& bridges) {
+    const auto at = object.find("bridges");
+    if (at == object.end() || !at->is_object()) return;
+    for (const auto& [port, value] : at->items()) {
+        std::optional<double> height, level;
+        if (!value.is_object()) continue;
+        take(value, "height", height);
+        take(value, "level", level);
+        if (height && level) bridges[port] = {*height, *level};
+    }
+}
+
+json bridgesof(const PlanSettings& settings) {
+    json bridges = json::object();
+    for (const auto& [port, bridge] : settings.bridges)
+        bridges[port] = {{"height", bridge.height}, {"level", bridge.level}};
+    return bridges;
+}
+
 json orlack(const std::optional<double>& value) {
     return value ? json(*value) : json(nullptr);
 }
@@ -51,7 +70,7 @@ PlanSettings readplansettings(const std::string& path) {
     if (!object.is_object()) return settings;
     take(object, "openatstart", settings.openatstart);
     take(object, "night", settings.night);
-    take(object, "days", leastdays, mostdays, settings.days);
+    take(object, "days", 1, mostplandays, settings.days);
     take(object, "clock", 0, static_cast<int>(ClockChoice::computer), settings.clock);
     if (int paper = -1; take(object, "paper", 0, 1, paper), paper >= 0) settings.paper = static_cast<Paper>(paper);
     take(object, "asked", settings.asked);
@@ -61,9 +80,8 @@ PlanSettings readplansettings(const std::string& path) {
     take(object, "weekdays", 1, static_cast<int>(everyweekday), settings.weekdays);
     take(object, "draught", settings.draught);
     take(object, "clearance", settings.clearance);
-    take(object, "bridge", settings.bridge);
     take(object, "airdraught", settings.airdraught);
-    take(object, "bridgelevel", settings.bridgelevel);
+    takebridges(object, settings.bridges);
     if (const auto at = object.find("bottoms"); at != object.end() && at->is_object())
         for (const auto& [port, value] : at->items())
             if (const auto bottom = metresof(value)) settings.bottoms[port] = *bottom;
@@ -83,9 +101,8 @@ WriteOutcome writeplansettings(const std::string& path, const PlanSettings& sett
                       {"weekdays", settings.weekdays},
                       {"draught", orlack(settings.draught)},
                       {"clearance", orlack(settings.clearance)},
-                      {"bridge", orlack(settings.bridge)},
                       {"airdraught", orlack(settings.airdraught)},
-                      {"bridgelevel", orlack(settings.bridgelevel)},
+                      {"bridges", bridgesof(settings)},
                       {"bottoms", settings.bottoms}};
     constexpr int indent = 2;
     return replacefile(path, object.dump(indent, ' ', false, json::error_handler_t::replace) + "\n");

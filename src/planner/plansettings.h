@@ -13,10 +13,21 @@
 
 namespace tarvane {
 
+/// The days that a plan on the screen spans at most; the least is one.
+inline constexpr int mostplandays = 31;
+
+/// A bridge over the way to a port, metres.
+struct Bridge {
+    double height = 0;  ///< above its level
+    double level = 0;   ///< above chart datum
+
+    bool operator==(const Bridge&) const = default;
+};
+
 struct PlanSettings {
     bool openatstart = false;
     bool night = false;  ///< red on black
-    int days = 7;        ///< 1 to 31
+    int days = 7;        ///< 1 to the most
     ClockChoice clock = ClockChoice::port;
     std::optional<Paper> paper;  ///< without one the locale's
 
@@ -25,9 +36,11 @@ struct PlanSettings {
     Daylight daylight = Daylight::none;
     int leastminutes = 0;
     Weekdays weekdays = everyweekday;
-    /// Metres; those that were typed in the planner, and for a port, "UK.hc/Cherbourg", its bottom.
-    std::optional<double> draught, clearance, bridge, airdraught, bridgelevel;
+    /// Metres; those that were typed in the planner.
+    std::optional<double> draught, clearance, airdraught;
+    /// By port, "UK.hc/Cherbourg".
     std::map<std::string, double> bottoms;
+    std::map<std::string, Bridge> bridges;
 };
 
 /// Where they are kept.

@@ -129,7 +129,7 @@ bool followport(const MainContext& context, PlanView& view) {
 
 void showdays(const MainContext& context, PlanView& view, Date first, int count) {
     view.first = first;
-    view.settings.days = std::clamp(count, 1, 31);
+    view.settings.days = std::clamp(count, 1, mostplandays);
     replan(context, view);
     showwhole(view);
 }

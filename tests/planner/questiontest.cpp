@@ -65,10 +65,33 @@ TEST(PlanQuestion, WhatIsAsStoredGoesOnFollowingThat) {
     stored.currentdraught = 2.2F;
     EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Dover"),
               (PlanQuestion{"2.2", "0.7", "3", "20", "18", "5", "30"}));
-    EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Leith")[2], "-2") << "a bottom is of its port";
+    EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Leith"),
+              (PlanQuestion{"2.2", "0.7", "-2", "", "18", "", "30"}))
+        << "a bottom and a bridge are of their port, the mast is of the boat";
     keepquestion(readquestion({"2.2", "0.7", "-2", "", "", "", ""}), stored, "UK.hc/Dover", settings);
-    EXPECT_TRUE(settings.bottoms.empty());
+    EXPECT_TRUE(settings.bottoms.empty() && settings.bridges.empty());
     EXPECT_EQ(settings.airdraught, 18) << "the next bridge finds the mast as it was";
+}
+
+TEST(PlanQuestion, StepsGoByTenthsAndQuartersWithinTheRange) {
+    const struct {
+        const char* text;
+        PlanField field;
+        int steps;
+        const char* then;
+    } rows[] = {{"1.9", PlanField::draught, 1, "2"},    {"1,9", PlanField::draught, -1, "1.8"},
+                {"1.85", PlanField::draught, 1, "1.9"}, {"1.85", PlanField::draught, -1, "1.8"},
+                {"0.05", PlanField::draught, -1, "0"},  {"0", PlanField::clearance, -1, "0"},
+                {"40", PlanField::draught, 3, "40"},    {"0.2", PlanField::bottom, -3, "-0.1"},
+                {"-0.1", PlanField::bottom, 1, "0"},    {"", PlanField::draught, 1, "0"},
+                {"", PlanField::bridge, 1, "20"},       {"", PlanField::bridge, -1, ""},
+                {"0.1", PlanField::bridge, -1, "0"},    {"0", PlanField::bridge, -1, ""},
+                {"", PlanField::least, 1, "15"},        {"20", PlanField::least, 1, "30"},
+                {"20", PlanField::least, -1, "15"},     {"15", PlanField::least, -1, "0"},
+                {"0", PlanField::least, -1, ""},        {"two", PlanField::bottom, 1, "two"},
+                {"300", PlanField::draught, -1, "40"}};
+    for (const auto& row : rows)
+        EXPECT_EQ(stepped(row.text, row.field, row.steps), row.then) << row.text << " by " << row.steps;
 }
 
 TEST(PlanSettings, ComeBackAsTheyWereWritten) {
@@ -85,14 +108,15 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
     all.daylight = Daylight::whole;
     all.leastminutes = 90;
     all.weekdays = 0x41;
-    all.draught = all.clearance = all.bridge = all.airdraught = all.bridgelevel = 1.9;
+    all.draught = all.clearance = all.airdraught = 1.9;
     all.draught = 2.1;
+    all.bridges = {{"UK.hc/Dover", {20.5, 6.8}}};
     all.bottoms = {{"UK.hc/B\u00F8m\u00E5", -2}, {"UK.hc/\xFF", 3}};
     ASSERT_TRUE(writeplansettings(path, all));
     const PlanSettings read = readplansettings(path);
     const auto flat = [](const PlanSettings& s) {
         return std::tuple(s.openatstart, s.night, s.days, s.clock, s.paper, s.asked, s.twilight, s.daylight,
-                          s.leastminutes, s.weekdays, s.draught, s.clearance, s.bridge, s.airdraught, s.bridgelevel);
+                          s.leastminutes, s.weekdays, s.draught, s.clearance, s.airdraught, s.bridges);
     };
     EXPECT_EQ(flat(read), flat(all));
     EXPECT_EQ(read.bottoms.at("UK.hc/B\u00F8m\u00E5"), -2);
@@ -108,6 +132,8 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
         "{\"days\": 1e999}",
         R"({"days": 0, "clock": 4, "paper": 2, "daylight": -1, "leastminutes": 1441, "weekdays": 0, "draught": 1001})",
         R"({"days": 32, "clock": -1, "paper": 18446744073709551615, "weekdays": 128, "bottoms": {"a": 1e9}})",
+        R"({"bridges": {"a": 20, "b": {"height": 20}, "c": {"height": "20", "level": 3}, "d": null}})",
+        R"({"bridges": [{"height": 20, "level": 3}]})",
         R"({"days": 7.5, "night": 1, "asked": "no", "openatstart": null, "draught": "deep", "bottoms": [1]})"};
     for (const char* text : texts) {
         ASSERT_TRUE(replacefile(path, std::string(text)));

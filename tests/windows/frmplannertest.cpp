@@ -7,12 +7,16 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPointingDevice>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
 #include <filesystem>
 
 #include "fakes/mainfixture.h"
 #include "mainview/frmtarvane.h"
+#include "platform/qt/stepcontrol.h"
 #include "windows/controls.h"
 
 namespace tarvane::tests {
@@ -196,6 +200,63 @@ TEST_F(FrmPlanner, TheFirstClickIntoAFieldSelectsWhatStandsThere) {
     EXPECT_NE(shown(*planner->lblNeeded).find("if it dries 2.0 m, write -2.0"), std::string::npos);
     type(field(PlanField::bottom), "-2");
     EXPECT_EQ(shown(*planner->lblNeeded), "Bottom dries 2.0 m. Height of tide needed: 4.4 m.");
+}
+
+TEST_F(FrmPlanner, TheQuestionIsAskedByMouseAlone) {
+    type(field(PlanField::draught), "1.9");
+    type(field(PlanField::clearance), "0.5");
+    type(field(PlanField::bottom), "0.1");
+    const auto press = [&](PlanField which, bool up) {
+        const StepArrows& arrows = *planner->steps[static_cast<std::size_t>(which)];
+        QTest::mouseClick(up ? arrows.up : arrows.down, Qt::LeftButton);
+    };
+    press(PlanField::bottom, false);
+    press(PlanField::bottom, false);
+    EXPECT_EQ(field(PlanField::bottom).text(), "-0.1");
+    EXPECT_EQ(shown(*planner->lblNeeded), "Bottom dries 0.1 m. Height of tide needed: 2.5 m.");
+    press(PlanField::bridge, true);
+    EXPECT_EQ(answer(), "\u26A0 Mast: write how high it stands above the water, in metres");
+    press(PlanField::airdraught, true);
+    press(PlanField::bridgelevel, true);
+    EXPECT_EQ(view().read.passage.ceiling(), 10);
+    field(PlanField::draught).setFocus();
+    QTest::keyClick(&field(PlanField::draught), Qt::Key_Up);
+    EXPECT_EQ(view().read.passage.draught, 2);
+    QApplication::processEvents();
+    EXPECT_EQ(readplansettings(plansettingspath(session.folders)).bridges.size(), 1U);
+    planner->cmbSpan->setCurrentText("10 days");
+    emit planner->cmbSpan->activated(planner->cmbSpan->currentIndex());
+    EXPECT_EQ(view().plan->ends() - view().plan->begins(), 240h);
+}
+
+TEST_F(FrmPlanner, ASmallScreenHasAllOfItAndTwoFingersZoom) {
+    planner->resize(683, 340);
+    QApplication::processEvents();
+    EXPECT_LE(planner->width(), 683);
+    EXPECT_LE(planner->height(), 340);
+    auto* const area = planner->findChild<QScrollArea*>("area");
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << "nothing lies beside what is seen";
+    area->ensureWidgetVisible(planner->lblFoot);
+    EXPECT_FALSE(planner->lblFoot->visibleRegion().isEmpty());
+    EXPECT_GT(planner->picture->height(), 100);
+    planner->resize(1400, 800);
+    QApplication::processEvents();
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+    EXPECT_GT(planner->pages->mapTo(planner, QPoint()).x(), planner->fraQuestion->geometry().right())
+        << "side by side again";
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    const auto whole = view().to - view().from;
+    const QPoint middle(planner->picture->width() / 2, 60);
+    for (int apart = 20; apart <= 200; apart += 20) {
+        auto fingers = QTest::touchEvent(planner->picture, screen.get());
+        const QPoint one = middle - QPoint(apart, 0), other = middle + QPoint(apart, 0);
+        if (apart == 20)
+            fingers.press(0, one).press(1, other);
+        else
+            fingers.move(0, one).move(1, other);
+    }
+    EXPECT_LT(view().to - view().from, whole / 3);
+    QTest::touchEvent(planner->picture, screen.get()).release(0, middle).release(1, middle);
 }
 
 TEST_F(FrmPlanner, KeysWalkTheCursor) {

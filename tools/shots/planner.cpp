@@ -80,7 +80,7 @@ void takeplanner(Stage& stage, const std::function<void(QWidget&, const QString&
     nobridge(planner);
     takeforpaper(planner, take);
     planner.planview().cursor.reset();
-    choose(*planner.cmbSpan, 5);
+    choose(*planner.cmbSpan, 30);
     planner.pages->setCurrentWidget(planner.sunandmoon);
     take(planner, "frmplanner-month");
     choose(*planner.cmbSpan, 0);

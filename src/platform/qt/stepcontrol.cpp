@@ -23,7 +23,7 @@ QToolButton* arrow(Qt::ArrowType type) {
 
 }  // namespace
 
-StepControl::StepControl(int least, int most, QWidget* parent) : QWidget(parent), lowest(least), highest(most) {
+StepArrows::StepArrows(QWidget* parent) : QWidget(parent) {
     up = arrow(Qt::UpArrow);
     down = arrow(Qt::DownArrow);
     auto* both = new QVBoxLayout(this);
@@ -32,8 +32,37 @@ StepControl::StepControl(int least, int most, QWidget* parent) : QWidget(parent)
     both->addWidget(up);
     both->addWidget(down);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
-    connect(up, &QToolButton::clicked, this, [this] { step(1); });
-    connect(down, &QToolButton::clicked, this, [this] { step(-1); });
+    connect(up, &QToolButton::clicked, this, [this] { steps(1); });
+    connect(down, &QToolButton::clicked, this, [this] { steps(-1); });
+}
+
+void StepArrows::steps(int by) {
+    if (by != 0 && onstep) onstep(by);
+}
+
+void StepArrows::serve(QWidget& box) {
+    box.installEventFilter(this);
+}
+
+bool StepArrows::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent&>(*event).key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            steps(key == Qt::Key_Up ? 1 : -1);
+            return true;
+        }
+    }
+    if (event->type() == QEvent::Wheel && static_cast<QWidget*>(watched)->hasFocus()) {
+        wheeled += static_cast<QWheelEvent&>(*event).angleDelta().y();
+        steps(wheeled / notch);
+        wheeled %= notch;
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+StepControl::StepControl(int least, int most, QWidget* parent) : StepArrows(parent), lowest(least), highest(most) {
+    onstep = [this](int by) { step(by); };
 }
 
 void StepControl::setvalue(int value) {
@@ -44,27 +73,6 @@ void StepControl::step(int by) {
     const int before = current;
     setvalue(current + by);
     if (current != before && onchange) onchange(current);
-}
-
-void StepControl::serve(QWidget& box) {
-    box.installEventFilter(this);
-}
-
-bool StepControl::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent&>(*event).key();
-        if (key == Qt::Key_Up || key == Qt::Key_Down) {
-            step(key == Qt::Key_Up ? 1 : -1);
-            return true;
-        }
-    }
-    if (event->type() == QEvent::Wheel && static_cast<QWidget*>(watched)->hasFocus()) {
-        wheeled += static_cast<QWheelEvent&>(*event).angleDelta().y();
-        step(wheeled / notch);
-        wheeled %= notch;
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace tarvane

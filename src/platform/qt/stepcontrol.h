@@ -1,5 +1,5 @@
-// A pair of arrow buttons that holds a whole number and steps it by one within limits. The text it belongs to stands in
-// a box of its own, which the owner writes: typing there is free.
+// A pair of arrow buttons that steps what stands in a box of its own, and one that holds a whole number and steps it by
+// one within limits. The owner writes the text: typing in the box is free.
 #pragma once
 
 #include <QToolButton>
@@ -8,7 +8,27 @@
 
 namespace tarvane {
 
-class StepControl : public QWidget {
+class StepArrows : public QWidget {
+  public:
+    explicit StepArrows(QWidget* parent = nullptr);
+
+    /// The arrow keys and the wheel over a text box step too.
+    void serve(QWidget& box);
+
+    std::function<void(int by)> onstep;
+
+    QToolButton *up = nullptr, *down = nullptr;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void steps(int by);
+
+    int wheeled = 0;  ///< eighths of a degree that haven't made a step yet
+};
+
+class StepControl : public StepArrows {
   public:
     StepControl(int lowest, int highest, QWidget* parent = nullptr);
 
@@ -20,20 +40,11 @@ class StepControl : public QWidget {
     /// Steps by so many, no further than the limits, and tells when the number has changed.
     void step(int by);
 
-    /// The arrow keys and the wheel over a text box step too.
-    void serve(QWidget& box);
-
     std::function<void(int)> onchange;
-
-    QToolButton *up = nullptr, *down = nullptr;
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     int current = 0;
     int lowest, highest;
-    int wheeled = 0;  ///< eighths of a degree that haven't made a step yet
 };
 
 }  // namespace tarvane

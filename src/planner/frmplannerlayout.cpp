@@ -265,7 +265,7 @@ QWidget* frmplanner::buildpages() {
     windows = new PlanTableBox("windows", "Access");
     sunandmoon = new PlanTableBox("sunandmoon", "Sun and Moon");
     pages = named<QTabWidget>("pages");
-    pages->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
+    pages->setMinimumSize(fontMetrics().averageCharWidth() * 48, fontMetrics().height() * 10);
     pages->addTab(tides, "Tides");
     pages->addTab(windows, "Access");
     pages->addTab(sunandmoon, "Sun and Moon");

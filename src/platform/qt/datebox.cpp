@@ -25,6 +25,10 @@ DateBox::DateBox(Date first, Date last) : arrow(new QToolButton) {
     calendar->setFirstDayOfWeek(calendar->locale().firstDayOfWeek());
     calendar->setDateRange(calendarday(first), calendarday(last));
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    // Arrows of the palette's colour, where the style has pictures of its own.
+    for (const auto& [name, type] :
+         {std::pair("qt_calendar_prevmonth", Qt::LeftArrow), {"qt_calendar_nextmonth", Qt::RightArrow}})
+        if (auto* const step = calendar->findChild<QToolButton*>(QLatin1String(name))) step->setArrowType(type);
     auto* const menu = new QMenu(arrow);
     auto* const entry = new QWidgetAction(menu);
     entry->setDefaultWidget(calendar);

@@ -7,24 +7,11 @@
 #include <utility>
 
 #include "diamonds/frmimport.h"
+#include "platform/qt/listrows.h"
+#include "platform/qt/screentext.h"
 
 namespace tarvane {
 namespace {
-
-/// The highlighted row; a row can be current without that.
-int highlighted(const QListWidget& list) {
-    const auto selected = list.selectedItems();
-    return selected.isEmpty() ? -1 : list.row(selected.first());
-}
-
-/// Highlights a row, or none, without its being a click. With none the keys go on from where they were.
-void highlight(QListWidget& list, int row) {
-    const QSignalBlocker quiet(&list);
-    if (row < 0)
-        list.clearSelection();
-    else
-        list.setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
-}
 
 /// Puts texts into a list that shows others.
 void fill(QListWidget& list, const std::vector<std::string>& texts) {
@@ -45,10 +32,7 @@ void take(DiamondTexts& texts, const std::vector<QLineEdit*>& boxes) {
 
 void showtexts(const DiamondTexts& texts, const std::vector<QLineEdit*>& boxes) {
     for (std::size_t i = 0; i < boxes.size(); ++i)
-        if (const QString text = QString::fromStdString(texts[i]); text != boxes[i]->text()) {
-            boxes[i]->setText(text);
-            boxes[i]->setCursorPosition(0);
-        }
+        showtext(*boxes[i], QString::fromStdString(texts[i]));
 }
 
 /// The end of a long path is what tells files apart.
@@ -79,9 +63,7 @@ void frmTidalDiamondsCopy::connectcontrols() {
     connect(List1, &QListWidget::itemSelectionChanged, this, &frmTidalDiamondsCopy::List1_Click);
     // A click on the entry that is highlighted already reads it anew.
     for (QListWidget* list : {fileSource, fileDest, List1})
-        connect(list, &QListWidget::itemClicked, this, [this, list](const QListWidgetItem* item) {
-            if (list->row(item) == highlighted(*list)) clicked(*list);
-        });
+        onclickagain(*list, [this, list] { clicked(*list); });
     connect(cmdCopy, &QPushButton::clicked, this, &frmTidalDiamondsCopy::cmdCopy_Click);
     connect(cmdAmend, &QPushButton::clicked, this, [this] { run(amendhighlighted); });
     connect(cmdAddtoFile, &QPushButton::clicked, this, [this] { run(addtosource); });

@@ -4,7 +4,9 @@
 #include <QSignalBlocker>
 #include <QTimer>
 
+#include "platform/qt/listrows.h"
 #include "platform/qt/named.h"
+#include "platform/qt/screentext.h"
 #include "portdata/datafolder.h"
 
 namespace tarvane {
@@ -17,21 +19,6 @@ bool enters(const QKeyEvent& key) {
 bool moves(const QKeyEvent& key) {
     return key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_Home ||
            key.key() == Qt::Key_End || key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
-}
-
-/// The highlighted row; a row can be current without that.
-int highlighted(const QListWidget& list) {
-    const auto selected = list.selectedItems();
-    return selected.isEmpty() ? -1 : list.row(selected.first());
-}
-
-/// Highlights a row, or none, without its being a click.
-void highlight(QListWidget& list, int row) {
-    const QSignalBlocker quiet(&list);
-    if (row < 0)
-        list.clearSelection();
-    else
-        list.setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
 }
 
 /// True for a focus that goes to another control, not to a menu or another program.
@@ -60,9 +47,7 @@ void frmharmedit::connectcontrols() {
     connect(portlist, &QListWidget::itemSelectionChanged, this, &frmharmedit::portlist_Click);
     // A click on the entry that is highlighted already reads it anew.
     for (QListWidget* list : {fileList, portlist})
-        connect(list, &QListWidget::itemClicked, this, [this, list](const QListWidgetItem* item) {
-            if (list->row(item) == highlighted(*list)) clicked(*list);
-        });
+        onclickagain(*list, [this, list] { clicked(*list); });
     for (FilteredBox* each : boxes)
         if (!filledfrom(each->objectName().toStdString()).empty()) each->installEventFilter(this);
     connect(chartok, &QPushButton::clicked, this, [this] { run(acceptchanges); });
@@ -96,10 +81,7 @@ void frmharmedit::showedit() {
         edit.rowinview = -1;
     }
     for (std::size_t i = 0; i < boxes.size(); ++i)
-        if (const QString text = QString::fromStdString(edit.texts[i]); text != boxes[i]->text()) {
-            boxes[i]->setText(text);
-            boxes[i]->setCursorPosition(0);
-        }
+        showtext(*boxes[i], QString::fromStdString(edit.texts[i]));
     lblstatus->setText(QString::fromStdString(edit.status));
 }
 

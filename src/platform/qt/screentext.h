@@ -1,6 +1,7 @@
 // Texts of the program as controls show them.
 #pragma once
 
+#include <QLineEdit>
 #include <QString>
 #include <string>
 
@@ -13,6 +14,13 @@ inline QString screentext(const std::string& text) {
     while (shown.endsWith('\n'))
         shown.chop(1);
     return shown;
+}
+
+/// Puts a text into a box that shows another, to be read from its beginning.
+inline void showtext(QLineEdit& box, const QString& text) {
+    if (text == box.text()) return;
+    box.setText(text);
+    box.setCursorPosition(0);
 }
 
 }  // namespace tarvane

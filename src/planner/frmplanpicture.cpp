@@ -1,11 +1,8 @@
 #include "planner/frmplanpicture.h"
 
 #include <QFontInfo>
-#include <QGestureEvent>
 #include <QMouseEvent>
-#include <QNativeGestureEvent>
 #include <QPainter>
-#include <QPinchGesture>
 #include <QWheelEvent>
 #include <cmath>
 
@@ -14,9 +11,6 @@
 
 namespace tarvane {
 namespace {
-
-constexpr double zoomstep = 1.25;
-constexpr double wheelclick = 120;
 
 /// "Sat 18 Jul 05:40 BST: 4.42 m, rising 0.8 m/h" as lines.
 std::vector<std::string> bubblelines(const std::string& text) {
@@ -35,26 +29,13 @@ std::vector<std::string> bubblelines(const std::string& text) {
 }  // namespace
 
 PlanPictureBox::PlanPictureBox(PlanView& owner, const Services& all, QWidget* parent)
-    : QWidget(parent), view(owner), services(all), look(&coloursof(Lighting::day)) {
-    setObjectName("picture");
-    setAccessibleName("Tides of the days, with the windows of passage");
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    grabGesture(Qt::PinchGesture);
-}
-
-void PlanPictureBox::setlook(const Colours& wanted) {
-    look = &wanted;
-    redraw();
-}
+    : ZoomBox("picture", "Tides of the days, with the windows of passage", 1.25, parent), view(owner), services(all) {}
 
 void PlanPictureBox::redraw() {
-    painted = {};
     // What the mouse does ahead of the next painting goes by the part shown already.
     scale.from = view.from;
     scale.to = view.to;
-    update();
+    ZoomBox::redraw();
 }
 
 QSize PlanPictureBox::sizeHint() const {
@@ -74,13 +55,7 @@ std::optional<PlanPicture> PlanPictureBox::picture() const {
                        .textsize = double(QFontInfo(font()).pixelSize())};
 }
 
-void PlanPictureBox::repaintpicture() {
-    const double ratio = devicePixelRatioF();
-    painted = QPixmap(size() * ratio);
-    painted.setDevicePixelRatio(ratio);
-    painted.fill(QColor::fromRgb(look->paper));
-    QPainter painter(&painted);
-    PainterCanvas canvas(painter, font());
+void PlanPictureBox::paintstill(Canvas& canvas) {
     if (const auto shown = picture()) {
         scale = scaleof(*shown, canvas);
         paintplan(canvas, *shown, scale);
@@ -91,9 +66,8 @@ void PlanPictureBox::repaintpicture() {
 }
 
 void PlanPictureBox::paintEvent(QPaintEvent*) {
-    if (painted.isNull() || painted.size() != size() * devicePixelRatioF()) repaintpicture();
     QPainter painter(this);
-    painter.drawPixmap(0, 0, painted);
+    showstill(painter);
     const auto shown = picture();
     if (!shown) return;
     PainterCanvas canvas(painter, font());
@@ -143,9 +117,9 @@ void PlanPictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
     if (onday) onday(view.plan->clock().at(at).date);
 }
 
-void PlanPictureBox::zoom(double factor, double x) {
+void PlanPictureBox::zoomabout(double factor, QPointF about) {
     if (!view.plan || scale.plot.width() <= 0) return;
-    zoomplan(view, factor, std::clamp(scale.moment(x), view.from, view.to));
+    zoomplan(view, 1 / factor, std::clamp(scale.moment(about.x()), view.from, view.to));
     redraw();
 }
 
@@ -158,7 +132,7 @@ void PlanPictureBox::wheelEvent(QWheelEvent* event) {
                  std::chrono::seconds(std::llround(-along / wheelclick / 8 * double((view.to - view.from).count()))));
         redraw();
     } else {
-        zoom(std::pow(zoomstep, -turned.y() / wheelclick), event->position().x());
+        zoomturned(turned.y(), event->position());
     }
     event->accept();
 }
@@ -201,7 +175,7 @@ void PlanPictureBox::keyPressEvent(QKeyEvent* event) {
     bymouse = false;
     const bool fine = event->modifiers() & Qt::ShiftModifier, waters = event->modifiers() & Qt::ControlModifier;
     const minutes step(fine ? 1 : 10);
-    const double middle = (scale.plot.left + scale.plot.right) / 2;
+    const QPointF about(view.cursor ? scale.x(*view.cursor) : (scale.plot.left + scale.plot.right) / 2, 0);
     switch (event->key()) {
         case Qt::Key_Left:
             return waters ? walkwater(false) : walk(-step);
@@ -210,9 +184,9 @@ void PlanPictureBox::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Home:
             return gonow();
         case Qt::Key_Plus:
-            return zoom(1 / zoomstep, view.cursor ? scale.x(*view.cursor) : middle);
+            return zoomabout(zoomstep, about);
         case Qt::Key_Minus:
-            return zoom(zoomstep, view.cursor ? scale.x(*view.cursor) : middle);
+            return zoomabout(1 / zoomstep, about);
         case Qt::Key_Escape:
             if (view.cursor) return putat(std::nullopt);
             break;
@@ -220,21 +194,6 @@ void PlanPictureBox::keyPressEvent(QKeyEvent* event) {
             break;
     }
     QWidget::keyPressEvent(event);
-}
-
-bool PlanPictureBox::event(QEvent* event) {
-    if (event->type() == QEvent::Gesture) {
-        const auto* pinch = static_cast<QPinchGesture*>(static_cast<QGestureEvent*>(event)->gesture(Qt::PinchGesture));
-        if (pinch && pinch->scaleFactor() > 0) zoom(1 / pinch->scaleFactor(), mapFromGlobal(pinch->hotSpot()).x());
-        return true;
-    }
-    if (event->type() == QEvent::NativeGesture) {
-        const auto* gesture = static_cast<QNativeGestureEvent*>(event);
-        if (gesture->gestureType() == Qt::ZoomNativeGesture) zoom(1 / (1 + gesture->value()), gesture->position().x());
-        return true;
-    }
-    if (event->type() == QEvent::FontChange) redraw();
-    return QWidget::event(event);
 }
 
 }  // namespace tarvane

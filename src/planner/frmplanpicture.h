@@ -2,17 +2,16 @@
 // zoom, dragging moves, keys walk. Must not change the plan, but for the part shown and the cursor.
 #pragma once
 
-#include <QPixmap>
-#include <QWidget>
 #include <functional>
 #include <optional>
 
+#include "paint/frmzoombox.h"
 #include "planner/planview.h"
 #include "platform/services.h"
 
 namespace tarvane {
 
-class PlanPictureBox : public QWidget {
+class PlanPictureBox : public ZoomBox {
   public:
     PlanPictureBox(PlanView& view, const Services& services, QWidget* parent = nullptr);
 
@@ -20,10 +19,8 @@ class PlanPictureBox : public QWidget {
     std::function<void(Date date)> onday;  ///< a day was double clicked
     std::function<void()> onnow;           ///< Home was pressed while now isn't in the plan
 
-    void setlook(const Colours& wanted);
-
     /// The plan, its answer or the part shown were changed.
-    void redraw();
+    void redraw() override;
 
     /// The minute is another.
     void shownow() { update(); }
@@ -39,22 +36,19 @@ class PlanPictureBox : public QWidget {
     void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool event(QEvent* event) override;
+    void paintstill(Canvas& canvas) override;
+    void zoomabout(double factor, QPointF about) override;
 
   private:
     std::optional<PlanPicture> picture() const;
-    void repaintpicture();
     void walk(std::chrono::minutes by);
     void walkwater(bool forwards);
     void gonow();
     void putat(std::optional<Moment> at);
-    void zoom(double factor, double x);
 
     PlanView& view;
     const Services services;
-    const Colours* look;
     PlanScale scale;
-    QPixmap painted;  ///< null when it is to be painted anew
     std::optional<double> draggedfrom;
     bool bymouse = false;  ///< the cursor follows the mouse
 };

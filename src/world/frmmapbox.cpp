@@ -2,41 +2,23 @@
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QGestureEvent>
 #include <QMouseEvent>
-#include <QNativeGestureEvent>
 #include <QPainter>
-#include <QPinchGesture>
 #include <QWheelEvent>
 #include <algorithm>
-#include <cmath>
 
 #include "platform/qt/paintercanvas.h"
 
 namespace tarvane {
 namespace {
 
-constexpr double zoomstep = 1.4;
-constexpr double wheelclick = 120;
 constexpr double keystep = 60;         // logical pixels
 constexpr double closeenough = 20000;  // a scale: neighbouring ports are told apart
 
 }  // namespace
 
 MapBox::MapBox(const std::string& programfolder, QWidget* parent)
-    : QWidget(parent), coast_(readcoast(programfolder)), look_(&coloursof(Lighting::day)) {
-    setObjectName("map");
-    setAccessibleName("Map of the ports");
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    grabGesture(Qt::PinchGesture);
-}
-
-void MapBox::setlook(const Colours& wanted) {
-    look_ = &wanted;
-    redraw();
-}
+    : ZoomBox("map", "Map of the ports", 1.4, parent), coast_(readcoast(programfolder)) {}
 
 void MapBox::setports(World world, const std::string& first) {
     world_ = std::move(world);
@@ -67,11 +49,6 @@ void MapBox::setinhand(std::optional<std::size_t> place) {
     redraw();
 }
 
-void MapBox::redraw() {
-    painted_ = {};
-    update();
-}
-
 QSize MapBox::sizeHint() const {
     return {fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 30};
 }
@@ -81,28 +58,24 @@ MapPicture MapBox::picture() const {
             .world = world_,
             .ports = ports_,
             .view = view_,
-            .look = *look_,
+            .look = *look,
             .textsize = double(QFontInfo(font()).pixelSize()),
             .inhand = inhand_};
 }
 
+void MapBox::paintstill(Canvas& canvas) {
+    paintmap(canvas, picture());
+}
+
 void MapBox::paintEvent(QPaintEvent*) {
-    const double ratio = devicePixelRatioF();
-    if (painted_.isNull() || painted_.size() != size() * ratio) {
-        painted_ = QPixmap(size() * ratio);
-        painted_.setDevicePixelRatio(ratio);
-        QPainter painter(&painted_);
-        PainterCanvas canvas(painter, font());
-        paintmap(canvas, picture());
-    }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, painted_);
+    showstill(painter);
     PainterCanvas canvas(painter, font());
     if (pointed_) paintpointed(canvas, picture(), *pointed_);
     if (hasFocus())
         canvas.line(std::array{Place{1, 1}, Place{view_.width - 1, 1}, Place{view_.width - 1, view_.height - 1},
                                Place{1, view_.height - 1}, Place{1, 1}},
-                    {look_->curve, 2});
+                    {look->curve, 2});
 }
 
 void MapBox::resizeEvent(QResizeEvent*) {
@@ -229,8 +202,7 @@ void MapBox::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void MapBox::wheelEvent(QWheelEvent* event) {
-    const QPoint turned = event->angleDelta();
-    if (turned.y() != 0) zoomabout(std::pow(zoomstep, turned.y() / wheelclick), event->position());
+    zoomturned(event->angleDelta().y(), event->position());
     event->accept();
 }
 
@@ -290,22 +262,6 @@ bool MapBox::focusNextPrevChild(bool next) {
     }
     point(at == seen.end() ? seen.front() : next ? *(at + 1) : *(at - 1));
     return true;
-}
-
-bool MapBox::event(QEvent* event) {
-    if (event->type() == QEvent::Gesture) {
-        const auto* pinch = static_cast<QPinchGesture*>(static_cast<QGestureEvent*>(event)->gesture(Qt::PinchGesture));
-        if (pinch && pinch->scaleFactor() > 0)
-            zoomabout(pinch->scaleFactor(), mapFromGlobal(pinch->hotSpot().toPoint()));
-        return true;
-    }
-    if (event->type() == QEvent::NativeGesture) {
-        const auto* gesture = static_cast<QNativeGestureEvent*>(event);
-        if (gesture->gestureType() == Qt::ZoomNativeGesture) zoomabout(1 + gesture->value(), gesture->position());
-        return true;
-    }
-    if (event->type() == QEvent::FontChange) redraw();
-    return QWidget::event(event);
 }
 
 }  // namespace tarvane

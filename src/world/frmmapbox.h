@@ -2,24 +2,21 @@
 // still picture is painted once and kept, what is pointed at over it. Must not choose a port itself.
 #pragma once
 
-#include <QPixmap>
-#include <QWidget>
 #include <functional>
 #include <optional>
 
+#include "paint/frmzoombox.h"
 #include "world/mappicture.h"
 
 namespace tarvane {
 
-class MapBox : public QWidget {
+class MapBox : public ZoomBox {
   public:
     /// The coast is read from the program's folder.
     explicit MapBox(const std::string& programfolder, QWidget* parent = nullptr);
 
     std::function<void(std::size_t place)> onport;  ///< a port was chosen, by its place in `World::ports`
     std::function<void()> onpointed;                ///< another port, another place or none is pointed at
-
-    void setlook(const Colours& wanted);
 
     /// Those of the area with the path `first` are shown before others that are as good.
     void setports(World world, const std::string& first = "");
@@ -59,14 +56,13 @@ class MapBox : public QWidget {
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
-    bool event(QEvent* event) override;
+    void paintstill(Canvas& canvas) override;
+    void zoomabout(double factor, QPointF about) override;
 
   private:
     MapPicture picture() const;
-    void redraw();
     void fit(const std::function<bool(const MapPort&)>& wanted);
     void gopoint(const MapPoint& point);
-    void zoomabout(double factor, QPointF about);
     void point(std::optional<std::size_t> port);
     void choose(std::size_t port);
     const MapPort* inhandport() const;
@@ -75,7 +71,6 @@ class MapBox : public QWidget {
     World world_;
     std::vector<MapPort> ports_;
     MapView view_;
-    const Colours* look_;
     std::optional<std::size_t> inhand_;
     std::optional<std::size_t> pointed_;  ///< in `ports_`
     std::optional<MapPoint> mouseat_;
@@ -83,7 +78,6 @@ class MapBox : public QWidget {
     bool dragging_ = false;
     bool fitted_ = false;      ///< what is seen was chosen by the user or his port, not by the size
     bool steppedout_ = false;  ///< Escape was pressed: Tab leaves
-    QPixmap painted_;          ///< null when it is to be painted anew
 };
 
 }  // namespace tarvane

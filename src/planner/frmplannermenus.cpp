@@ -24,11 +24,22 @@ QAction* frmplanner::add(QMenu* menu, const char* name, const char* caption, con
 
 void frmplanner::buildfilemenu() {
     QMenu* file = menuBar()->addMenu("&File");
-    const auto save = [this](auto command) { return [this, command] { command(context, view); }; };
-    add(file, "mnuSaveTides", "Save &Tides as Table", {}, save(savewaterstable));
-    add(file, "mnuSaveAccess", "Save &Access as Table", {}, save(savewindowstable));
-    add(file, "mnuCalendarTides", "Save T&ides as Calendar", {}, save(savewaterscalendar));
-    add(file, "mnuCalendarAccess", "Save A&ccess as Calendar", {}, save(savewindowscalendar));
+    QMenu* year = new QMenu("Save the &Year", file);
+    const struct {
+        const char *name, *yearname, *caption, *yearcaption;
+        void (*save)(MainContext&, const PlanView&);
+    } saved[] = {{"mnuSaveTides", "mnuYearTides", "Save &Tides as Table", "&Tides as Table", savewaterstable},
+                 {"mnuSaveAccess", "mnuYearAccess", "Save &Access as Table", "&Access as Table", savewindowstable},
+                 {"mnuCalendarTides", "mnuYearCalendarTides", "Save T&ides as Calendar", "T&ides as Calendar",
+                  savewaterscalendar},
+                 {"mnuCalendarAccess", "mnuYearCalendarAccess", "Save A&ccess as Calendar", "A&ccess as Calendar",
+                  savewindowscalendar}};
+    for (const auto& each : saved) {
+        add(file, each.name, each.caption, {}, [this, save = each.save] { save(context, view); });
+        add(year, each.yearname, each.yearcaption, {},
+            [this, save = each.save] { save(context, yearview(context, view)); });
+    }
+    file->addMenu(year);
     add(file, "mnuSavePicture", "Save &Picture", QKeySequence::Save,
         [this] { saveplanpicture(context, view, picture->width(), picture->height()); });
     file->addSeparator();

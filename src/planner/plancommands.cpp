@@ -21,9 +21,11 @@ PlanPort planport(const PlanView& view) {
             trustclause(view.known)};
 }
 
-/// "Cherbourg tides 2026-07-18.csv"
+/// "Cherbourg tides 2026-07-18.csv", of a year "Cherbourg tides 2026.csv"
 std::string proposedname(const PlanView& view, const std::string& kind, const std::string& ending) {
-    return safefilename(view.portname + " " + kind + " " + isodate(view.first) + ending);
+    const std::string day = isodate(view.first);
+    const bool year = view.settings.days > mostplandays;
+    return safefilename(view.portname + " " + kind + " " + (year ? day.substr(0, 4) : day) + ending);
 }
 
 std::optional<std::string> choosefile(MainContext& context, const std::string& title, const std::string& name,

@@ -178,6 +178,14 @@ bool keepsettings(MainContext& context, const PlanView& view) {
     return written;
 }
 
+PlanView yearview(const MainContext& context, const PlanView& view) {
+    PlanView whole = view;
+    whole.first = makedate(yearof(view.first), 1, 1);
+    whole.settings.days = static_cast<int>((makedate(yearof(view.first), 12, 31) - whole.first).count()) + 1;
+    replan(context, whole);
+    return whole;
+}
+
 void zoomplan(PlanView& view, double factor, Moment about) {
     if (!view.plan) return;
     const double shown = static_cast<double>((view.to - view.from).count());

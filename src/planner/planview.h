@@ -65,6 +65,9 @@ void answeranew(PlanView& view);
 /// Writes the settings. False when they can't be; why is told in the answer line.
 bool keepsettings(MainContext& context, const PlanView& view);
 
+/// The same port, clock and question over the whole year that the first day lies in: for what is saved, not shown.
+PlanView yearview(const MainContext& context, const PlanView& view);
+
 /// Shows less or more of the plan about a moment that keeps its place: 2 doubles the time shown. At least 3 hours.
 void zoomplan(PlanView& view, double factor, Moment about);
 

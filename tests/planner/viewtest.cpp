@@ -171,6 +171,16 @@ TEST_F(PlanViewTest, TheEndsOfTheCalendarHold) {
             }
 }
 
+TEST_F(PlanViewTest, AWholeYearIsOneEvenAtTheEndsOfTheCalendar) {
+    for (const Date first : {makedate(1, 1, 2), makedate(2024, 4, 9), makedate(9999, 12, 1)}) {
+        PlanView view = opened();
+        showdays(context, view, first, 7);
+        const PlanView year = yearview(context, view);
+        EXPECT_GT(year.plan->waters().size(), 1170U) << yearof(first);
+        EXPECT_EQ(view.settings.days, 7);
+    }
+}
+
 TEST_F(PlanViewTest, DaysThatBeginTodayFollowOverMidnight) {
     scripted.clock.set(2024, 4, 9, 22, 59);
     PlanView view = opened();

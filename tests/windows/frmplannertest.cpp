@@ -229,6 +229,29 @@ TEST_F(FrmPlanner, TheQuestionIsAskedByMouseAlone) {
     EXPECT_EQ(view().plan->ends() - view().plan->begins(), 240h);
 }
 
+TEST_F(FrmPlanner, AYearIsSavedWhateverDaysAreShown) {
+    const auto saved = [&](const char* entry, const char* proposed) {
+        const std::string path = folder / "saved";
+        scripted.filedialogs.expectsave(path);
+        planner->entry(entry)->trigger();
+        EXPECT_EQ(scripted.filedialogs.requests.back().filename, proposed);
+        return wholetext(path);
+    };
+    type(field(PlanField::bottom), "-1");
+    const std::string first = saved("mnuSaveTides", "Alder Quay tides 2024-04-09.csv");
+    EXPECT_EQ(std::count(first.begin(), first.end(), '\n') - 1, std::ptrdiff_t(view().plan->waters().size()));
+    const std::string waters = saved("mnuYearTides", "Alder Quay tides 2024.csv");
+    const auto lines = std::count(waters.begin(), waters.end(), '\n');
+    EXPECT_NEAR(double(lines), 366 * 24 / 6.21, 20);
+    EXPECT_NE(waters.find("2024-01-01T"), std::string::npos);
+    EXPECT_NE(waters.find("2024-12-31T"), std::string::npos);
+    EXPECT_NE(waters.find(first.substr(first.find('\n') + 1, 60)), std::string::npos) << "the same waters";
+    const std::string windows = saved("mnuYearCalendarAccess", "Alder Quay access 2024.ics");
+    EXPECT_NE(windows.find("DTSTART:202401"), std::string::npos);
+    EXPECT_NE(windows.find("DTSTART:202412"), std::string::npos);
+    EXPECT_EQ(view().settings.days, 7);
+}
+
 TEST_F(FrmPlanner, ASmallScreenHasAllOfItAndTwoFingersZoom) {
     planner->resize(683, 340);
     QApplication::processEvents();

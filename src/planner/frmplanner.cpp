@@ -308,7 +308,6 @@ void frmplanner::shownight(bool night) {
 
 /// Menus and lists are windows of their own, which don't take their owner's colours.
 void frmplanner::lightpopups(const QPalette& palette) {
-    static const QPalette ordinarytips = QToolTip::palette();
     for (QMenu* menu : findChildren<QMenu*>())
         menu->setPalette(palette);
     DTPicker->setcalendarlight(palette);

@@ -12,6 +12,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
+#include <QToolTip>
 #include <array>
 #include <functional>
 
@@ -106,6 +107,7 @@ class frmplanner : public QMainWindow {
     PresentTide present;
     QTimer *minute = nullptr, *keeplater = nullptr;
     Lighting shownlight = Lighting::day;
+    const QPalette ordinarytips = QToolTip::palette();
     bool filling = false;  ///< the controls follow the view, not the user
 };
 

@@ -16,6 +16,7 @@
 #include "platform/qt/screentext.h"
 #include "portdata/recordfiles.h"
 #include "text/numbers.h"
+#include "text/singlebyte.h"
 
 namespace tarvane {
 namespace {
@@ -45,7 +46,7 @@ class TellingDelegate : public QStyledItemDelegate {
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
         auto* box = new QLineEdit(parent);
         box->setFrame(false);
-        box->setMaxLength(40);
+        box->setMaxLength(200);
         const int row = index.row(), column = index.column();
         connect(box, &QLineEdit::textEdited, box,
                 [this, row, column](const QString& text) { ontyped_(row, column, text); });
@@ -76,8 +77,8 @@ CheckTable::CheckTable() {
         setColumnWidth(column, fontMetrics().averageCharWidth() * widths[static_cast<std::size_t>(column)]);
     }
     setMinimumWidth(fontMetrics().averageCharWidth() * 50);
-    verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
@@ -87,7 +88,7 @@ CheckTable::CheckTable() {
 }
 
 QSize CheckTable::sizeHint() const {
-    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() + verticalHeader()->sizeHint().width();
     for (int column = 0; column < columnCount(); ++column)
         width += columnWidth(column);
     return {width, QTableWidget::sizeHint().height()};
@@ -173,6 +174,8 @@ void frmcheckport::buildlayout() {
     clock->addStretch(1);
     auto* whole = new QVBoxLayout(this);
     whole->addWidget(words);
+    whole->addWidget(lblKept = new KeptNote);
+    lblKept->tell(tellownports(context.session.folders));
     whole->addLayout(clock);
     whole->addWidget(table, 1);
     whole->addWidget(lblResult);
@@ -266,25 +269,39 @@ void frmcheckport::type(int row, int column, const QString& text) {
     }
     std::string& field = waters[place].*typedfields[static_cast<std::size_t>(column)];
     if (field == text.toStdString()) return;
+    if (column == datecolumn && dateleft.row != row) dateleft = {row, field};
     field = text.toStdString();
     showresult();
     keepsoon();
 }
 
+DateReading frmcheckport::dates() const {
+    return {context.session.conventions, context.services.locale, context.services.clock.now().today};
+}
+
 /// A cell was left: its date is written so that it can be meant for one day alone, and a line without one gets that of
-/// the line before.
+/// the line before. Lines behind that had the same text in its place, and no date by it, get the date too.
 void frmcheckport::tidyline(int row) {
-    if (static_cast<std::size_t>(row) >= of.check.waters.size()) return;
-    TableWater& water = of.check.waters[static_cast<std::size_t>(row)];
-    const std::string before = water.date;
-    const Services& services = context.services;
-    water.date = tidydate(water.date, context.session.conventions, services.locale, services.clock.now().today);
-    if (water.date.empty() && !isempty(water) && row > 0)
-        water.date = of.check.waters[static_cast<std::size_t>(row - 1)].date;
-    if (water.date == before) return;
+    std::vector<TableWater>& waters = of.check.waters;
+    const auto place = static_cast<std::size_t>(row);
+    if (place >= waters.size()) return;
+    TableWater& water = waters[place];
+    const std::string before = water.date, unread = dateleft.row == row ? dateleft.text : "";
+    dateleft = {};
+    water.date = tidydate(water.date, dates());
+    if (water.date.empty() && !isempty(water) && row > 0) water.date = waters[place - 1].date;
+    const auto put = [this](std::size_t at) {
+        table->item(static_cast<int>(at), datecolumn)->setText(screentext(of.check.waters[at].date));
+    };
     filling = true;
-    table->item(row, datecolumn)->setText(screentext(water.date));
+    put(place);
+    if (!unread.empty() && !datefault(unread).empty() && datefault(water.date).empty())
+        for (std::size_t behind = place + 1; behind < waters.size() && waters[behind].date == unread; ++behind) {
+            waters[behind].date = water.date;
+            put(behind);
+        }
     filling = false;
+    if (water.date == before) return;
     showresult();
     keepsoon();
 }
@@ -325,24 +342,26 @@ void frmcheckport::showline(int row, const CheckedWater& water, const PortClock&
 }
 
 void frmcheckport::paste() {
-    const std::string text = context.services.clipboard.text();
-    std::vector<TableWater> lines = pastedwaters(text);
-    const int row = table->currentRow(), column = table->currentColumn();
-    if (lines.size() == 1 && (lines[0].time.empty() || lines[0].height.empty()) && row >= 0 && column < typedcolumns)
-        return table->item(row, column)->setText(screentext(text));
-    if (lines.empty()) return lblSaid->setText("No waters are on the clipboard");
-    if (of.check.waters.size() + lines.size() > mostlines)
-        return lblSaid->setText(QStringLiteral("These are too many: %1 lines have room here").arg(mostlines));
-    const Services& services = context.services;
-    const Date today = services.clock.now().today;
+    const std::string text = trim(context.services.clipboard.text());
     std::vector<TableWater>& waters = of.check.waters;
-    for (TableWater& line : lines) {
-        line.date = tidydate(line.date, context.session.conventions, services.locale, today);
-        if (line.date.empty() && !waters.empty()) line.date = waters.back().date;
-        waters.push_back(line);
-    }
+    const std::size_t before = waters.size();
+    const std::vector<TableWater> lines = pastedwaters(text, dates(), waters.empty() ? "" : waters.back().date);
+    const int row = table->currentRow(), column = table->currentColumn();
+    const bool part = lines.empty() || lines[0].time.empty() || lines[0].height.empty();
+    const bool figures = text.find_first_of("0123456789") != std::string::npos;
+    if (figures && part && lines.size() < 2 && text.find('\n') == std::string::npos && row >= 0 &&
+        column < typedcolumns)
+        return table->item(row, column)->setText(screentext(text));
+    if (lines.empty()) return say("No waters are on the clipboard");
+    if (before + lines.size() > mostlines)
+        return say(QStringLiteral("These are too many: %1 lines have room here").arg(mostlines));
+    waters.insert(waters.end(), lines.begin(), lines.end());
     filltable();
     table->setCurrentCell(table->rowCount() - 1, datecolumn);
+    std::vector<int> leftout;
+    for (int added = static_cast<int>(before); added + 1 < table->rowCount(); ++added)
+        if (!table->item(added, notecolumn)->text().isEmpty()) leftout.push_back(added + 1);
+    say(screentext(addedwords(lines.size(), leftout)));
     keepsoon();
 }
 
@@ -366,8 +385,11 @@ void frmcheckport::keep() {
     std::erase_if(kept.waters, isempty);
     const ProgramFolders& folders = context.session.folders;
     const WriteOutcome written = keepcheck(folders, of.hcfile, of.port, of.number, kept);
+    const QString before = notkept;
     notkept = written ? QString() : screentext("Could not be kept: " + ownportspath(folders) + ": " + written.reason());
-    say(notkept);
+    // What was said of something else stays.
+    if (notkept != before) say(notkept);
+    lblKept->tell(tellownports(folders));
 }
 
 std::string frmcheckport::copytext() const {

@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "atlas/aboutlines.h"
+#include "atlas/frmkeptnote.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 
@@ -51,6 +52,7 @@ class frmcheckport : public ModalDialog {
 
     QComboBox* cmbClock = nullptr;
     CheckTable* table = nullptr;
+    KeptNote* lblKept = nullptr;
     QLabel *lblResult = nullptr, *lblHint = nullptr, *lblSaid = nullptr;
     QPushButton *cmdPaste = nullptr, *cmdDelete = nullptr, *cmdCopy = nullptr, *cmdClose = nullptr;
 
@@ -66,6 +68,7 @@ class frmcheckport : public ModalDialog {
     void filltable();
     void fillline(int row, const TableWater& water);
     void type(int row, int column, const QString& text);
+    DateReading dates() const;
     void tidyline(int row);
     void showresult();
     void showline(int row, const CheckedWater& water, const PortClock& clock);
@@ -79,6 +82,11 @@ class frmcheckport : public ModalDialog {
     MainContext& context;
     AboutOf of;
     QString notkept;  ///< why what was typed isn't in the file; empty when it is
+    /// What stood as the date of a line before it was typed over.
+    struct {
+        int row = -1;
+        std::string text;
+    } dateleft;
     QTimer* keeplater = nullptr;
     bool filling = false;  ///< the table follows the lines, not the user
 };

@@ -1,9 +1,6 @@
 #include "atlas/tablelines.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <span>
 
 #include "dates/englishlocale.h"
@@ -14,35 +11,14 @@
 namespace tarvane {
 namespace {
 
-constexpr double mostmetres = 30;
 constexpr int earliestyear = 1900, latestyear = 2200;
 constexpr std::size_t longestraw = 200;  // characters
 constexpr std::size_t mostfields = 40;   // of a line that is one of a table
 
 using Fields = std::span<const std::string>;
 
-struct Unit {
-    const char* name;
-    double metres;
-};
-
-constexpr std::array<Unit, 10> units{{{"metres", 1},
-                                      {"meters", 1},
-                                      {"metre", 1},
-                                      {"meter", 1},
-                                      {"feet", 0.3048},
-                                      {"foot", 0.3048},
-                                      {"ft", 0.3048},
-                                      {"cm", 0.01},
-                                      {"m", 1},
-                                      {"'", 0.3048}}};
-
 bool isfigure(char c) {
     return c >= '0' && c <= '9';
-}
-
-bool digits(std::string_view text, std::size_t least, std::size_t most) {
-    return text.size() >= least && text.size() <= most && std::all_of(text.begin(), text.end(), isfigure);
 }
 
 bool hasdigit(const std::string& text) {
@@ -61,57 +37,11 @@ std::string joined(Fields fields) {
     return text;
 }
 
-/// 12 for "pm", 0 for "am".
-std::optional<int> halfday(const std::string& field) {
-    std::string word = lowercase(field);
-    std::erase(word, '.');
-    if (word == "am") return 0;
-    if (word == "pm") return 12;
-    return std::nullopt;
-}
-
-/// Cuts "am" or "pm" off a text.
-std::optional<int> takehalfday(std::string& text) {
-    for (const std::size_t length : {4U, 2U}) {
-        if (text.size() <= length) continue;
-        const auto half = halfday(text.substr(text.size() - length));
-        if (!half) continue;
-        text = trim(text.substr(0, text.size() - length));
-        return half;
-    }
-    return std::nullopt;
-}
-
-struct Amount {
-    double metres = 0;
-    bool unit = false;  ///< is said
-};
-
-std::optional<Amount> amountof(const std::string& typed) {
-    std::string text = lowercase(trim(typed));
-    replaceall(text, "\u2212", "-");
-    if (text.ends_with('.')) text.pop_back();
-    Amount amount;
-    double scale = 1;
-    for (const Unit& unit : units)
-        if (!amount.unit && text.ends_with(unit.name)) {
-            text = trim(text.substr(0, text.size() - std::string_view(unit.name).size()));
-            amount.unit = true;
-            scale = unit.metres;
-        }
-    std::replace(text.begin(), text.end(), ',', '.');
-    if (text.starts_with('+')) text.erase(0, 1);
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), amount.metres, std::chars_format::fixed);
-    const bool number = !text.empty() && read.ec == std::errc() && read.ptr == text.data() + text.size();
-    amount.metres *= scale;
-    return number && std::isfinite(amount.metres) ? std::optional(amount) : std::nullopt;
-}
-
 /// "04.56", which may be a height too.
 bool dottedtime(const std::string& field) {
     const std::size_t point = field.find('.');
-    return point != std::string::npos && digits(field.substr(0, point), 1, 2) &&
-           digits(field.substr(point + 1), 2, 2) && readtime(field);
+    return point != std::string::npos && onlydigits(field.substr(0, point), 1, 2) &&
+           onlydigits(field.substr(point + 1), 2, 2) && readtime(field);
 }
 
 /// A time that is no year, height or date.
@@ -124,7 +54,7 @@ bool surelytime(const std::string& field) {
 /// A nought before other figures stands in times alone.
 bool looksheight(const std::string& field) {
     const bool time = field.size() > 1 && field[0] == '0' && isfigure(field[1]);
-    return !time && hasdigit(field) && amountof(field);
+    return !time && hasdigit(field) && readamount(field);
 }
 
 /// 0 for Sunday; the name in full, its abbreviation, or its beginning from two letters on.
@@ -154,12 +84,12 @@ bool dateshaped(Fields fields) {
     if (fields.size() == 1) {
         const std::string& field = fields[0];
         const auto marks = std::count_if(field.begin(), field.end(), [](char c) { return !isfigure(c); });
-        return digits(field, 8, 8) || (hasdigit(field) && marks >= 2);
+        return onlydigits(field, 8, 8) || (hasdigit(field) && marks >= 2);
     }
     if (fields.size() != 3) return false;
     const auto words =
         std::count_if(fields.begin(), fields.end(), [](const std::string& field) { return !hasdigit(field); });
-    return words == 1 || (words == 0 && (digits(fields[0], 4, 4) || digits(fields[2], 4, 4)));
+    return words == 1 || (words == 0 && (onlydigits(fields[0], 4, 4) || onlydigits(fields[2], 4, 4)));
 }
 
 struct TidiedDate {
@@ -195,7 +125,7 @@ bool decimalcomma(const std::string& field) {
     return field.find_first_of(",.:/", comma + 1) == std::string::npos &&
            field.find_first_of(".:/") == std::string::npos && comma > 0 && comma <= 3 && comma + 1 < field.size() &&
            isfigure(field[comma - 1]) && isfigure(field[comma + 1]) &&
-           (comma + 4 > field.size() || !digits(field.substr(comma + 1), 3, 9));
+           (comma + 4 > field.size() || !onlydigits(field.substr(comma + 1), 3, 9));
 }
 
 void addfield(std::string field, std::vector<std::string>& fields) {
@@ -268,10 +198,10 @@ class WatersReader {
     bool taketime(TableWater& water) {
         if (at == fields.size()) return false;
         const std::string& field = fields[at];
-        const bool half = at + 1 < fields.size() && halfday(fields[at + 1]);
+        const bool half = at + 1 < fields.size() && readhalfday(fields[at + 1]);
         const std::string text = half ? field + " " + fields[at + 1] : field;
         const bool dot = dottedtime(field) && !half;
-        if (!dot && !surelytime(text) && !(digits(field, 3, 4) && readtime(text))) return false;
+        if (!dot && !surelytime(text) && !(onlydigits(field, 3, 4) && readtime(text))) return false;
         // Two columns of such numbers can be either way round.
         if (dot) swappable = swappable && looksheight(field);
         dotted = dotted || dot;
@@ -283,10 +213,10 @@ class WatersReader {
     bool takeheight(TableWater& water) {
         if (at == fields.size() || !looksheight(fields[at])) return false;
         const std::string& field = fields[at++];
-        const auto unit = at < fields.size() ? amountof("0 " + fields[at]) : std::nullopt;
+        const auto unit = at < fields.size() ? readamount("0 " + fields[at]) : std::nullopt;
         const bool apart = unit && unit->unit && !hasdigit(fields[at]);
         const std::string text = apart ? field + " " + fields[at++] : field;
-        if (amountof(field)->unit && apart) return false;
+        if (readamount(field)->unit && apart) return false;
         water.height = text;
         swappable = swappable && dottedtime(text);
         return true;
@@ -342,7 +272,7 @@ LineRead lineof(Fields fields, const DateReading& dates) {
 
 /// A height as its table has it, metres without their unit.
 std::string heightwith(const std::string& unit, const std::string& height) {
-    const auto amount = amountof(height);
+    const auto amount = readamount(height);
     if (amount && !amount->unit) return height + unit;
     const bool metres = height.ends_with('m') && !height.ends_with("cm");
     return metres ? trim(height.substr(0, height.size() - 1)) : height;
@@ -357,10 +287,10 @@ std::optional<std::string> unitin(const std::string& line) {
             word += c;
             continue;
         }
-        const auto unit = std::find_if(units.begin(), units.end(), [&](const Unit& each) { return word == each.name; });
+        const auto metres = unitmetres(word);
         word.clear();
-        if (unit == units.end()) continue;
-        const std::string name = unit->metres == 1 ? "" : unit->metres < 0.1 ? " cm" : " ft";
+        if (!metres) continue;
+        const std::string name = *metres == 1 ? "" : *metres < 0.1 ? " cm" : " ft";
         if (named && *named != name) return std::nullopt;
         named = name;
     }
@@ -368,54 +298,6 @@ std::optional<std::string> unitin(const std::string& line) {
 }
 
 }  // namespace
-
-std::optional<WaterKind> readkind(const std::string& typed) {
-    const std::string word = lowercase(trim(typed));
-    const auto among = [&](std::initializer_list<const char*> words) {
-        return std::find(words.begin(), words.end(), word) != words.end();
-    };
-    if (word.empty()) return WaterKind::either;
-    if (among({"high", "hw", "h", "high water", "hochwasser"})) return WaterKind::high;
-    if (among({"low", "lw", "l", "low water", "nw", "niedrigwasser"})) return WaterKind::low;
-    return std::nullopt;
-}
-
-std::optional<int> readtime(const std::string& typed) {
-    std::string text = lowercase(trim(typed));
-    const auto half = takehalfday(text);
-    const std::size_t mark = text.find_first_of(":h.");
-    std::string hour = text, minute = "00";
-    if (mark != std::string::npos) {
-        hour = text.substr(0, mark);
-        minute = text.substr(mark + 1);
-        // Seconds that a table has are noughts.
-        if (text[mark] == ':' && minute.ends_with(":00")) minute.resize(minute.size() - 3);
-    } else if (digits(text, 3, 4)) {
-        hour = text.substr(0, text.size() - 2);
-        minute = text.substr(text.size() - 2);
-    } else if (!half) {
-        return std::nullopt;
-    }
-    if (!digits(hour, 1, 2) || !digits(minute, 2, 2) || std::stoi(minute) > 59) return std::nullopt;
-    int hours = std::stoi(hour);
-    if (half && (hours < 1 || hours > 12)) return std::nullopt;
-    if (half) hours = hours % 12 + *half;
-    return hours < 24 ? std::optional(hours * 60 + std::stoi(minute)) : std::nullopt;
-}
-
-std::optional<double> readheight(const std::string& typed) {
-    const auto amount = amountof(typed);
-    return amount && std::abs(amount->metres) <= mostmetres ? std::optional(amount->metres) : std::nullopt;
-}
-
-std::optional<Date> readisodate(const std::string& typed) {
-    const std::string text = trim(typed);
-    if (text.size() != 10 || text[4] != '-' || text[7] != '-') return std::nullopt;
-    const std::string year = text.substr(0, 4), month = text.substr(5, 2), day = text.substr(8);
-    if (!digits(year, 4, 4) || !digits(month, 2, 2) || !digits(day, 2, 2) || std::stoi(year) == 0) return std::nullopt;
-    const Date date = makedate(std::stoi(year), std::stoi(month), std::stoi(day));
-    return isodate(date) == text ? std::optional(date) : std::nullopt;
-}
 
 std::string tidydate(const std::string& typed, const DateReading& dates) {
     if (trim(typed).empty()) return "";

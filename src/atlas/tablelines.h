@@ -1,29 +1,14 @@
-// Lines of official tables as they are copied from elsewhere, and the texts of their fields. Must not guess: a line
+// Lines of official tables as they are copied from elsewhere. Must not guess: a line
 // that can be meant in two ways isn't read, and keeps its text.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "dates/dateformats.h"
+#include "atlas/tablefields.h"
 #include "portdata/ownports.h"
 
 namespace tarvane {
-
-enum class WaterKind { either, high, low };
-
-/// "HW", "high", "low water"; either for an empty text.
-std::optional<WaterKind> readkind(const std::string& typed);
-
-/// Minutes of the day: "6:12", "06:12", "0612", "06h12", "6.12", "6:12 am".
-std::optional<int> readtime(const std::string& typed);
-
-/// Metres: "5.4", "5,4", "5.4 m", "17.7 ft", "540 cm"; up to 30 on either side.
-std::optional<double> readheight(const std::string& typed);
-
-/// "2026-07-14", a day that there is.
-std::optional<Date> readisodate(const std::string& typed);
 
 /// How this machine writes dates.
 struct DateReading {

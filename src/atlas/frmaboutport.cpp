@@ -55,6 +55,7 @@ frmaboutport::frmaboutport(MainContext& maincontext, const std::string& areafile
     buildlayout();
     fill();
     fillconstants();
+    area->updateGeometry();
     connect(cmdCheck, &QPushButton::clicked, this, &frmaboutport::cmdCheck_Click);
     connect(cmdCopy, &QPushButton::clicked, this, [this] {
         context.services.clipboard.settext(sheettext(shown));
@@ -162,6 +163,8 @@ void frmaboutport::fill() {
         for (QLabel* each : {caption, text})
             each->setVisible(true);
     }
+    area->widget()->layout()->activate();
+    area->updateGeometry();
 }
 
 void frmaboutport::fillconstants() {
@@ -183,9 +186,8 @@ void frmaboutport::cmdCheck_Click() {
     context.services.windows.showmodal(check);
     fill();
     // A line more may need the room.
-    layout()->activate();
-    const QWidget& contents = *area->widget();
-    const int lacking = contents.layout()->totalHeightForWidth(area->viewport()->width()) - area->viewport()->height();
+    const int lacking =
+        area->widget()->layout()->totalHeightForWidth(area->viewport()->width()) - area->viewport()->height();
     if (lacking <= 0) return;
     resize(width(), height() + lacking);
     fitscreen(*this);

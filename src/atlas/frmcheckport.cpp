@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <array>
+#include <numeric>
+#include <utility>
 
 #include "dates/isomoments.h"
 #include "paint/frmlightpalette.h"
@@ -30,7 +32,8 @@ constexpr std::array typedfields{&TableWater::date, &TableWater::time, &TableWat
 static_assert(typedfields.size() == typedcolumns);
 
 const char* const headings[] = {"Date", "Time", "Height, m", "High or low", "Prediction", "Minutes", "Metres", "Note"};
-constexpr std::array widths{12, 8, 10, 12, 20, 9, 9, 34};  // characters
+constexpr std::array widths{12, 8, 10, 12, 20, 9, 9, 34};      // characters
+constexpr std::array leastwidths{11, 7, 9, 11, 17, 8, 7, 12};  // in a narrow window
 
 const char* const intro =
     "Type waters of an official table, of any days: each stands beside the predicted water that it means. High or low "
@@ -71,11 +74,10 @@ bool isempty(const TableWater& water) {
 CheckTable::CheckTable() {
     setObjectName("table");
     setAccessibleName("Waters of the official table");
-    setColumnCount(frmcheckport::columns);
-    for (int column = 0; column < frmcheckport::columns; ++column) {
+    setColumnCount(columns);
+    for (int column = 0; column < columns; ++column)
         setHorizontalHeaderItem(column, new QTableWidgetItem(headings[column]));
-        setColumnWidth(column, fontMetrics().averageCharWidth() * widths[static_cast<std::size_t>(column)]);
-    }
+    setwidths(widths);
     setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -87,11 +89,25 @@ CheckTable::CheckTable() {
                     QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
 }
 
+void CheckTable::setwidths(const std::array<int, columns>& characters) {
+    for (int column = 0; column < columns; ++column)
+        setColumnWidth(column, fontMetrics().averageCharWidth() * characters[static_cast<std::size_t>(column)]);
+}
+
+int CheckTable::widthof(const std::array<int, columns>& characters) const {
+    return fontMetrics().averageCharWidth() * std::accumulate(characters.begin(), characters.end(), 0);
+}
+
 QSize CheckTable::sizeHint() const {
-    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() + verticalHeader()->sizeHint().width();
-    for (int column = 0; column < columnCount(); ++column)
-        width += columnWidth(column);
-    return {width, QTableWidget::sizeHint().height()};
+    const int beside =
+        2 * frameWidth() + verticalScrollBar()->sizeHint().width() + verticalHeader()->sizeHint().width();
+    return {beside + widthof(widths), QTableWidget::sizeHint().height()};
+}
+
+void CheckTable::resizeEvent(QResizeEvent* event) {
+    QTableWidget::resizeEvent(event);
+    const bool narrow = viewport()->width() < widthof(widths);
+    if (narrow != std::exchange(narrowed, narrow)) setwidths(narrow ? leastwidths : widths);
 }
 
 QModelIndex CheckTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
@@ -338,7 +354,8 @@ void frmcheckport::showline(int row, const CheckedWater& water, const PortClock&
     put(minutescolumn, compared ? signedtext(water.minutes, 0) : "");
     put(metrescolumn, compared ? signedtext(water.metres, 2) : "");
     put(notecolumn, water.fault == emptyline ? "" : water.fault);
-    table->item(row, notecolumn)->setToolTip(table->item(row, notecolumn)->text());
+    for (const Column column : {predictedcolumn, notecolumn})
+        table->item(row, column)->setToolTip(table->item(row, column)->text());
 }
 
 void frmcheckport::paste() {

@@ -8,6 +8,7 @@
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QTimer>
+#include <array>
 #include <functional>
 
 #include "atlas/aboutlines.h"
@@ -22,6 +23,8 @@ class CheckTable : public QTableWidget {
   public:
     CheckTable();
 
+    static constexpr int columns = 8;
+
     std::function<void()> onpaste;
 
     /// All columns are in view, where there is room.
@@ -30,6 +33,13 @@ class CheckTable : public QTableWidget {
   protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void setwidths(const std::array<int, columns>& characters);
+    int widthof(const std::array<int, columns>& characters) const;
+
+    bool narrowed = false;
 };
 
 class frmcheckport : public ModalDialog {
@@ -49,6 +59,7 @@ class frmcheckport : public ModalDialog {
         notecolumn,
         columns
     };
+    static_assert(static_cast<int>(columns) == CheckTable::columns);
 
     QComboBox* cmbClock = nullptr;
     CheckTable* table = nullptr;

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "dates/dateformats.h"
+#include "dates/englishlocale.h"
 #include "engine/constituents.h"
 #include "engine/springs.h"
 #include "portdata/aboutwords.h"
@@ -28,8 +29,9 @@ std::string angle(double degrees, const char* positive, const char* negative) {
     return text;
 }
 
-std::string daytext(const Locale& locale, Date date) {
-    return formatdate(locale, date, "dddd d mmmm yyyy");
+/// In English, as the sentence around it.
+std::string daytext(Date date) {
+    return formatdate(EnglishLocale(), date, "dddd d mmmm yyyy");
 }
 
 /// "GMT (UT)", "UT+3"
@@ -54,16 +56,16 @@ std::optional<Moment> nextchange(const PortClock& clock, Moment now) {
     return std::nullopt;
 }
 
-std::string clocksays(const AboutOf& of, Moment now, const Zones& zones, const Locale& locale) {
+std::string clocksays(const AboutOf& of, Moment now, const Zones& zones) {
     const PortClock clock(ClockChoice::port, zonehoursof(of.port), of.known.iana(), zones);
     const ClockTime shown = clock.at(now);
     std::string words = "The " + clock.description() + " shows " + clocktext(shown) + " " + offsettext(shown) + " on " +
-                        daytext(locale, shown.date);
+                        daytext(shown.date);
     const auto change = nextchange(clock, now);
     if (!change) return words + "; it isn't changed in the year to come";
     const ClockTime next = clock.at(*change);
     words += next.ahead < shown.ahead ? ", summer time" : ", not summer time";
-    return words + "; it goes over to " + offsettext(next) + " on " + daytext(locale, next.date);
+    return words + "; it goes over to " + offsettext(next) + " on " + daytext(next.date);
 }
 
 /// By the form factor, the heights of K1 and O1 over those of M2 and S2.
@@ -114,7 +116,7 @@ AboutOf aboutof(const ProgramFolders& folders, const std::string& hcfile, int nu
     return of;
 }
 
-AboutSheet aboutsheet(const AboutOf& of, Moment now, const Zones& zones, const Locale& locale) {
+AboutSheet aboutsheet(const AboutOf& of, Moment now, const Zones& zones) {
     AboutSheet sheet;
     sheet.name = trimmedname(of.port);
     sheet.place = "port " + numbertext(of.number) + " of " + of.areaname + ", " + angle(of.port.PortLat, "N", "S") +
@@ -128,7 +130,7 @@ AboutSheet aboutsheet(const AboutOf& of, Moment now, const Zones& zones, const L
         addsource(*about, sheet.lines);
     else
         sheet.lines.push_back({"Heights above", "What the constants' own source reckons from, which isn't known here"});
-    sheet.lines.push_back({"Clock", clocksays(of, now, zones, locale)});
+    sheet.lines.push_back({"Clock", clocksays(of, now, zones)});
     sheet.lines.push_back({"Tides", characterof(of.port)});
     sheet.lines.push_back({"Mean range", rangesof(of)});
     for (const Constituent& constituent : constituents) {

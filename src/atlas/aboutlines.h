@@ -36,7 +36,7 @@ struct AboutSheet {
     std::vector<AboutLine> constants;  ///< "M2", "g 333 : Hm 2.25"
 };
 
-AboutSheet aboutsheet(const AboutOf& of, Moment now, const Zones& zones, const Locale& locale);
+AboutSheet aboutsheet(const AboutOf& of, Moment now, const Zones& zones);
 
 /// All of it as a text for other programs, lines ending with LF.
 std::string sheettext(const AboutSheet& sheet);

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <nlohmann/json.hpp>
+
+#include "portdata/jsonmembers.h"
 
 namespace tarvane {
 namespace {
@@ -13,18 +14,26 @@ std::string filename(const std::string& path) {
     return std::filesystem::path(path).filename().string();
 }
 
-std::vector<KeptPort> portsof(const json& object, const char* name) {
+std::vector<KeptPort> portsof(const JsonMembers& file, const char* name) {
     std::vector<KeptPort> ports;
-    const auto list = object.find(name);
-    if (list == object.end() || !list->is_array()) return ports;
-    for (const json& each : *list) {
-        if (!each.is_object() || !each.contains("area") || !each.contains("name")) continue;
-        const json &area = each["area"], &port = each["name"];
-        if (!area.is_string() || !port.is_string()) continue;
-        const KeptPort kept{area.get<std::string>(), port.get<std::string>()};
-        if (std::find(ports.begin(), ports.end(), kept) == ports.end()) ports.push_back(kept);
-    }
+    file.each(name, [&](const json& element) {
+        KeptPort kept;
+        const JsonMembers members(element, file.whole());
+        members.take("area", kept.area);
+        members.take("name", kept.name);
+        if (kept.area.empty() || kept.name.empty())
+            file.whole() = false;
+        else if (std::find(ports.begin(), ports.end(), kept) == ports.end())
+            ports.push_back(kept);
+    });
     return ports;
+}
+
+void takekeeps(const json& object, FinderKeeps& keeps) {
+    const JsonMembers file(object, keeps.state.whole);
+    keeps.favourites = portsof(file, "favourites");
+    keeps.recents = portsof(file, "recents");
+    file.take("untold", keeps.state.untold);
 }
 
 json listof(const std::vector<KeptPort>& ports) {
@@ -34,17 +43,17 @@ json listof(const std::vector<KeptPort>& ports) {
     return list;
 }
 
-json objectof(const std::string& text) {
-    return json::parse(text, nullptr, false);
+KeptText textof(const FinderKeeps& keeps) {
+    return [keeps](const std::string& untold) {
+        json object{{"favourites", listof(keeps.favourites)}, {"recents", listof(keeps.recents)}};
+        if (!untold.empty()) object["untold"] = untold;
+        constexpr int indent = 2;
+        return object.dump(indent, ' ', false, json::error_handler_t::replace) + "\n";
+    };
 }
 
 WriteOutcome write(const std::string& path, const FinderKeeps& keeps) {
-    const std::string before = wholetext(path);
-    if (!before.empty() && !objectof(before).is_object())
-        if (const WriteOutcome saved = replacefile(path + ".broken", before); !saved) return saved;
-    const json object{{"favourites", listof(keeps.favourites)}, {"recents", listof(keeps.recents)}};
-    constexpr int indent = 2;
-    return replacefile(path, object.dump(indent, ' ', false, json::error_handler_t::replace) + "\n");
+    return writekept(path, keeps.state, textof(keeps));
 }
 
 }  // namespace
@@ -71,11 +80,16 @@ std::string finderkeepspath(const ProgramFolders& folders) {
 }
 
 FinderKeeps readfinderkeeps(const std::string& path) {
-    const json object = objectof(wholetext(path));
-    if (!object.is_object()) return {};
-    FinderKeeps keeps{portsof(object, "favourites"), portsof(object, "recents")};
+    FinderKeeps keeps;
+    const std::string text = readkept(path, keeps.state);
+    if (!text.empty()) takekeeps(json::parse(text, nullptr, false), keeps);
     if (keeps.recents.size() > mostrecents) keeps.recents.resize(mostrecents);
     return keeps;
+}
+
+std::string tellfinderkeeps(const std::string& path) {
+    const FinderKeeps keeps = readfinderkeeps(path);
+    return tellkept(path, keeps.state, "no favourites and no recent ports are listed", textof(keeps));
 }
 
 WriteOutcome togglefavourite(const std::string& path, const KeptPort& port) {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "files/wholefiles.h"
 #include "portdata/configuration.h"
+#include "portdata/keptfile.h"
 #include "world/worldports.h"
 
 namespace tarvane {
@@ -21,6 +21,7 @@ struct KeptPort {
 struct FinderKeeps {
     std::vector<KeptPort> favourites;  ///< as they were marked
     std::vector<KeptPort> recents;     ///< the last one first
+    KeptState state = {};              ///< how the file was found
 };
 
 inline constexpr std::size_t mostrecents = 12;
@@ -36,8 +37,11 @@ std::string finderkeepspath(const ProgramFolders& folders);
 /// None for a file that isn't there or isn't one of these; an entry that can't be used is passed over.
 FinderKeeps readfinderkeeps(const std::string& path);
 
-/// Makes a port a favourite, or no longer one, in the file as it stands now. What is no such file is put beside under
-/// the ending ".broken" first.
+/// What the user has to be told of the file, once; empty when that is nothing.
+std::string tellfinderkeeps(const std::string& path);
+
+/// Makes a port a favourite, or no longer one, in the file as it stands now. One that isn't understood whole is put
+/// beside first; one that can't be read stays, and the outcome says so.
 WriteOutcome togglefavourite(const std::string& path, const KeptPort& port);
 
 /// Puts a port first among the recent ones. A file in which it is that already stays untouched.

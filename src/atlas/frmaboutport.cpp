@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "atlas/frmcheckport.h"
@@ -15,7 +16,25 @@
 namespace tarvane {
 namespace {
 
-constexpr int linewidth = 62;  // characters
+constexpr int linewidth = 62, leastwidth = 24;  // characters
+
+/// As large as what is in it, with lines of the usual width, where the screen has room for that.
+class RoomyArea : public QScrollArea {
+  public:
+    explicit RoomyArea(QWidget* contents) {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setWidget(contents);
+    }
+
+    QSize sizeHint() const override {
+        const int more = fontMetrics().averageCharWidth() * (linewidth - leastwidth);
+        const int wide = widget()->layout()->totalMinimumSize().width() + more;
+        return {wide, widget()->layout()->totalHeightForWidth(wide)};
+    }
+
+    QSize minimumSizeHint() const override { return {0, fontMetrics().lineSpacing() * 6}; }
+};
 
 QLabel* plainlabel(const char* name) {
     auto* label = named<QLabel>(name);
@@ -36,6 +55,7 @@ frmaboutport::frmaboutport(MainContext& maincontext, const std::string& areafile
     buildlayout();
     fill();
     fillconstants();
+    area->updateGeometry();
     connect(cmdCheck, &QPushButton::clicked, this, &frmaboutport::cmdCheck_Click);
     connect(cmdCopy, &QPushButton::clicked, this, [this] {
         context.services.clipboard.settext(sheettext(shown));
@@ -77,10 +97,16 @@ void frmaboutport::buildlayout() {
     buttons->addWidget(cmdCopy);
     buttons->addWidget(lblSaid, 1);
     buttons->addWidget(cmdClose);
+    auto* contents = new QWidget;
+    auto* scrolled = new QVBoxLayout(contents);
+    scrolled->setContentsMargins(0, 0, 0, 0);
+    scrolled->addLayout(buildhead());
+    scrolled->addWidget(lblKept = new KeptNote);
+    scrolled->addLayout(middle, 1);
     auto* whole = new QVBoxLayout(this);
-    whole->addLayout(buildhead());
-    whole->addLayout(middle, 1);
-    whole->addSpacing(fontMetrics().height());
+    // The buttons stay in view, and the window opens at its head.
+    whole->addWidget(area = new RoomyArea(contents), 1);
+    whole->addSpacing(fontMetrics().height() / 2);
     whole->addLayout(buttons);
 }
 
@@ -99,6 +125,7 @@ QLayout* frmaboutport::buildhead() {
     auto* head = new QHBoxLayout;
     head->addWidget(lblMark);
     for (QLabel* label : {lblName, lblGrade, lblPlace}) {
+        label->setWordWrap(label == lblPlace);
         head->addWidget(label, label == lblPlace ? 1 : 0, Qt::AlignVCenter);
         head->addSpacing(fontMetrics().averageCharWidth());
     }
@@ -106,9 +133,9 @@ QLayout* frmaboutport::buildhead() {
 }
 
 void frmaboutport::fill() {
+    lblKept->tell(tellownports(context.session.folders));
     const Services& services = context.services;
-    shown = aboutsheet(aboutof(context.session.folders, hcfile, number), services.clock.moment(), services.zones,
-                       services.locale);
+    shown = aboutsheet(aboutof(context.session.folders, hcfile, number), services.clock.moment(), services.zones);
     const int size = lblName->fontMetrics().height();
     lblMark->setPixmap(trusticon(shown.trust, coloursof(lightingof(nightison())), size)
                            .pixmap(QSize(size, size), devicePixelRatioF()));
@@ -128,7 +155,7 @@ void frmaboutport::fill() {
         auto* text = plainlabel("");
         text->setText(screentext(line.text));
         text->setWordWrap(true);
-        text->setMinimumWidth(fontMetrics().averageCharWidth() * linewidth);
+        text->setMinimumWidth(fontMetrics().averageCharWidth() * leastwidth);
         text->setAccessibleName(screentext(line.caption));
         lines->addWidget(caption, row, 0, Qt::AlignTop | Qt::AlignRight);
         lines->addWidget(text, row++, 1, Qt::AlignTop);
@@ -136,6 +163,8 @@ void frmaboutport::fill() {
         for (QLabel* each : {caption, text})
             each->setVisible(true);
     }
+    area->widget()->layout()->activate();
+    area->updateGeometry();
 }
 
 void frmaboutport::fillconstants() {
@@ -157,8 +186,11 @@ void frmaboutport::cmdCheck_Click() {
     context.services.windows.showmodal(check);
     fill();
     // A line more may need the room.
-    layout()->activate();
-    if (const int tall = heightForWidth(width()); tall > height()) resize(width(), tall);
+    const int lacking =
+        area->widget()->layout()->totalHeightForWidth(area->viewport()->width()) - area->viewport()->height();
+    if (lacking <= 0) return;
+    resize(width(), height() + lacking);
+    fitscreen(*this);
 }
 
 }  // namespace tarvane

@@ -8,10 +8,12 @@
 #include <vector>
 
 #include "atlas/aboutlines.h"
+#include "atlas/frmkeptnote.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 
 class QGridLayout;
+class QScrollArea;
 
 namespace tarvane {
 
@@ -21,6 +23,7 @@ class frmaboutport : public ModalDialog {
     frmaboutport(MainContext& context, const std::string& hcfile, int number, QWidget* parent = nullptr);
 
     QLabel *lblMark = nullptr, *lblName = nullptr, *lblGrade = nullptr, *lblPlace = nullptr, *lblSaid = nullptr;
+    KeptNote* lblKept = nullptr;
     QTableWidget* constants = nullptr;
     QPushButton *cmdCheck = nullptr, *cmdCopy = nullptr, *cmdClose = nullptr;
 
@@ -38,6 +41,7 @@ class frmaboutport : public ModalDialog {
     int number;
     AboutSheet shown;
     QGridLayout* lines = nullptr;
+    QScrollArea* area = nullptr;
 };
 
 }  // namespace tarvane

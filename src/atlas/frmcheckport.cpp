@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <array>
+#include <numeric>
+#include <utility>
 
 #include "dates/isomoments.h"
 #include "paint/frmlightpalette.h"
@@ -16,6 +18,7 @@
 #include "platform/qt/screentext.h"
 #include "portdata/recordfiles.h"
 #include "text/numbers.h"
+#include "text/singlebyte.h"
 
 namespace tarvane {
 namespace {
@@ -29,7 +32,8 @@ constexpr std::array typedfields{&TableWater::date, &TableWater::time, &TableWat
 static_assert(typedfields.size() == typedcolumns);
 
 const char* const headings[] = {"Date", "Time", "Height, m", "High or low", "Prediction", "Minutes", "Metres", "Note"};
-constexpr std::array widths{12, 8, 10, 12, 20, 9, 9, 34};  // characters
+constexpr std::array widths{12, 8, 10, 12, 20, 9, 9, 34};      // characters
+constexpr std::array leastwidths{11, 7, 9, 11, 17, 8, 7, 12};  // in a narrow window
 
 const char* const intro =
     "Type waters of an official table, of any days: each stands beside the predicted water that it means. High or low "
@@ -45,7 +49,7 @@ class TellingDelegate : public QStyledItemDelegate {
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
         auto* box = new QLineEdit(parent);
         box->setFrame(false);
-        box->setMaxLength(40);
+        box->setMaxLength(200);
         const int row = index.row(), column = index.column();
         connect(box, &QLineEdit::textEdited, box,
                 [this, row, column](const QString& text) { ontyped_(row, column, text); });
@@ -70,14 +74,13 @@ bool isempty(const TableWater& water) {
 CheckTable::CheckTable() {
     setObjectName("table");
     setAccessibleName("Waters of the official table");
-    setColumnCount(frmcheckport::columns);
-    for (int column = 0; column < frmcheckport::columns; ++column) {
+    setColumnCount(columns);
+    for (int column = 0; column < columns; ++column)
         setHorizontalHeaderItem(column, new QTableWidgetItem(headings[column]));
-        setColumnWidth(column, fontMetrics().averageCharWidth() * widths[static_cast<std::size_t>(column)]);
-    }
+    setwidths(widths);
     setMinimumWidth(fontMetrics().averageCharWidth() * 50);
-    verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
@@ -86,11 +89,25 @@ CheckTable::CheckTable() {
                     QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
 }
 
+void CheckTable::setwidths(const std::array<int, columns>& characters) {
+    for (int column = 0; column < columns; ++column)
+        setColumnWidth(column, fontMetrics().averageCharWidth() * characters[static_cast<std::size_t>(column)]);
+}
+
+int CheckTable::widthof(const std::array<int, columns>& characters) const {
+    return fontMetrics().averageCharWidth() * std::accumulate(characters.begin(), characters.end(), 0);
+}
+
 QSize CheckTable::sizeHint() const {
-    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (int column = 0; column < columnCount(); ++column)
-        width += columnWidth(column);
-    return {width, QTableWidget::sizeHint().height()};
+    const int beside =
+        2 * frameWidth() + verticalScrollBar()->sizeHint().width() + verticalHeader()->sizeHint().width();
+    return {beside + widthof(widths), QTableWidget::sizeHint().height()};
+}
+
+void CheckTable::resizeEvent(QResizeEvent* event) {
+    QTableWidget::resizeEvent(event);
+    const bool narrow = viewport()->width() < widthof(widths);
+    if (narrow != std::exchange(narrowed, narrow)) setwidths(narrow ? leastwidths : widths);
 }
 
 QModelIndex CheckTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
@@ -173,6 +190,8 @@ void frmcheckport::buildlayout() {
     clock->addStretch(1);
     auto* whole = new QVBoxLayout(this);
     whole->addWidget(words);
+    whole->addWidget(lblKept = new KeptNote);
+    lblKept->tell(tellownports(context.session.folders));
     whole->addLayout(clock);
     whole->addWidget(table, 1);
     whole->addWidget(lblResult);
@@ -266,25 +285,39 @@ void frmcheckport::type(int row, int column, const QString& text) {
     }
     std::string& field = waters[place].*typedfields[static_cast<std::size_t>(column)];
     if (field == text.toStdString()) return;
+    if (column == datecolumn && dateleft.row != row) dateleft = {row, field};
     field = text.toStdString();
     showresult();
     keepsoon();
 }
 
+DateReading frmcheckport::dates() const {
+    return {context.session.conventions, context.services.locale, context.services.clock.now().today};
+}
+
 /// A cell was left: its date is written so that it can be meant for one day alone, and a line without one gets that of
-/// the line before.
+/// the line before. Lines behind that had the same text in its place, and no date by it, get the date too.
 void frmcheckport::tidyline(int row) {
-    if (static_cast<std::size_t>(row) >= of.check.waters.size()) return;
-    TableWater& water = of.check.waters[static_cast<std::size_t>(row)];
-    const std::string before = water.date;
-    const Services& services = context.services;
-    water.date = tidydate(water.date, context.session.conventions, services.locale, services.clock.now().today);
-    if (water.date.empty() && !isempty(water) && row > 0)
-        water.date = of.check.waters[static_cast<std::size_t>(row - 1)].date;
-    if (water.date == before) return;
+    std::vector<TableWater>& waters = of.check.waters;
+    const auto place = static_cast<std::size_t>(row);
+    if (place >= waters.size()) return;
+    TableWater& water = waters[place];
+    const std::string before = water.date, unread = dateleft.row == row ? dateleft.text : "";
+    dateleft = {};
+    water.date = tidydate(water.date, dates());
+    if (water.date.empty() && !isempty(water) && row > 0) water.date = waters[place - 1].date;
+    const auto put = [this](std::size_t at) {
+        table->item(static_cast<int>(at), datecolumn)->setText(screentext(of.check.waters[at].date));
+    };
     filling = true;
-    table->item(row, datecolumn)->setText(screentext(water.date));
+    put(place);
+    if (!unread.empty() && !datefault(unread).empty() && datefault(water.date).empty())
+        for (std::size_t behind = place + 1; behind < waters.size() && waters[behind].date == unread; ++behind) {
+            waters[behind].date = water.date;
+            put(behind);
+        }
     filling = false;
+    if (water.date == before) return;
     showresult();
     keepsoon();
 }
@@ -321,28 +354,31 @@ void frmcheckport::showline(int row, const CheckedWater& water, const PortClock&
     put(minutescolumn, compared ? signedtext(water.minutes, 0) : "");
     put(metrescolumn, compared ? signedtext(water.metres, 2) : "");
     put(notecolumn, water.fault == emptyline ? "" : water.fault);
-    table->item(row, notecolumn)->setToolTip(table->item(row, notecolumn)->text());
+    for (const Column column : {predictedcolumn, notecolumn})
+        table->item(row, column)->setToolTip(table->item(row, column)->text());
 }
 
 void frmcheckport::paste() {
-    const std::string text = context.services.clipboard.text();
-    std::vector<TableWater> lines = pastedwaters(text);
-    const int row = table->currentRow(), column = table->currentColumn();
-    if (lines.size() == 1 && (lines[0].time.empty() || lines[0].height.empty()) && row >= 0 && column < typedcolumns)
-        return table->item(row, column)->setText(screentext(text));
-    if (lines.empty()) return lblSaid->setText("No waters are on the clipboard");
-    if (of.check.waters.size() + lines.size() > mostlines)
-        return lblSaid->setText(QStringLiteral("These are too many: %1 lines have room here").arg(mostlines));
-    const Services& services = context.services;
-    const Date today = services.clock.now().today;
+    const std::string text = trim(context.services.clipboard.text());
     std::vector<TableWater>& waters = of.check.waters;
-    for (TableWater& line : lines) {
-        line.date = tidydate(line.date, context.session.conventions, services.locale, today);
-        if (line.date.empty() && !waters.empty()) line.date = waters.back().date;
-        waters.push_back(line);
-    }
+    const std::size_t before = waters.size();
+    const std::vector<TableWater> lines = pastedwaters(text, dates(), waters.empty() ? "" : waters.back().date);
+    const int row = table->currentRow(), column = table->currentColumn();
+    const bool part = lines.empty() || lines[0].time.empty() || lines[0].height.empty();
+    const bool figures = text.find_first_of("0123456789") != std::string::npos;
+    if (figures && part && lines.size() < 2 && text.find('\n') == std::string::npos && row >= 0 &&
+        column < typedcolumns)
+        return table->item(row, column)->setText(screentext(text));
+    if (lines.empty()) return say("No waters are on the clipboard");
+    if (before + lines.size() > mostlines)
+        return say(QStringLiteral("These are too many: %1 lines have room here").arg(mostlines));
+    waters.insert(waters.end(), lines.begin(), lines.end());
     filltable();
     table->setCurrentCell(table->rowCount() - 1, datecolumn);
+    std::vector<int> leftout;
+    for (int added = static_cast<int>(before); added + 1 < table->rowCount(); ++added)
+        if (!table->item(added, notecolumn)->text().isEmpty()) leftout.push_back(added + 1);
+    say(screentext(addedwords(lines.size(), leftout)));
     keepsoon();
 }
 
@@ -366,8 +402,11 @@ void frmcheckport::keep() {
     std::erase_if(kept.waters, isempty);
     const ProgramFolders& folders = context.session.folders;
     const WriteOutcome written = keepcheck(folders, of.hcfile, of.port, of.number, kept);
+    const QString before = notkept;
     notkept = written ? QString() : screentext("Could not be kept: " + ownportspath(folders) + ": " + written.reason());
-    say(notkept);
+    // What was said of something else stays.
+    if (notkept != before) say(notkept);
+    lblKept->tell(tellownports(folders));
 }
 
 std::string frmcheckport::copytext() const {

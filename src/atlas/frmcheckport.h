@@ -8,9 +8,11 @@
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QTimer>
+#include <array>
 #include <functional>
 
 #include "atlas/aboutlines.h"
+#include "atlas/frmkeptnote.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 
@@ -21,6 +23,8 @@ class CheckTable : public QTableWidget {
   public:
     CheckTable();
 
+    static constexpr int columns = 8;
+
     std::function<void()> onpaste;
 
     /// All columns are in view, where there is room.
@@ -29,6 +33,13 @@ class CheckTable : public QTableWidget {
   protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void setwidths(const std::array<int, columns>& characters);
+    int widthof(const std::array<int, columns>& characters) const;
+
+    bool narrowed = false;
 };
 
 class frmcheckport : public ModalDialog {
@@ -48,9 +59,11 @@ class frmcheckport : public ModalDialog {
         notecolumn,
         columns
     };
+    static_assert(static_cast<int>(columns) == CheckTable::columns);
 
     QComboBox* cmbClock = nullptr;
     CheckTable* table = nullptr;
+    KeptNote* lblKept = nullptr;
     QLabel *lblResult = nullptr, *lblHint = nullptr, *lblSaid = nullptr;
     QPushButton *cmdPaste = nullptr, *cmdDelete = nullptr, *cmdCopy = nullptr, *cmdClose = nullptr;
 
@@ -66,6 +79,7 @@ class frmcheckport : public ModalDialog {
     void filltable();
     void fillline(int row, const TableWater& water);
     void type(int row, int column, const QString& text);
+    DateReading dates() const;
     void tidyline(int row);
     void showresult();
     void showline(int row, const CheckedWater& water, const PortClock& clock);
@@ -79,6 +93,11 @@ class frmcheckport : public ModalDialog {
     MainContext& context;
     AboutOf of;
     QString notkept;  ///< why what was typed isn't in the file; empty when it is
+    /// What stood as the date of a line before it was typed over.
+    struct {
+        int row = -1;
+        std::string text;
+    } dateleft;
     QTimer* keeplater = nullptr;
     bool filling = false;  ///< the table follows the lines, not the user
 };

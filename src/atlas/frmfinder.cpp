@@ -49,6 +49,7 @@ frmfinder::frmfinder(MainContext& maincontext, World& everyport, Lighting light,
     buildlayout();
     connectcontrols();
     find();
+    lblKept->tell(tellfinderkeeps(finderkeepspath(context.session.folders)));
     settle(cmdChoose, txtFind);
 }
 
@@ -62,6 +63,7 @@ void frmfinder::buildlayout() {
     lblFound = named<QLabel>("lblFound");
     lblFound->setTextFormat(Qt::PlainText);
     lblFound->setWordWrap(true);
+    lblKept = new KeptNote;
     cmdChoose = named<QPushButton>("cmdChoose", "&Choose");
     cmdFavourite = named<QPushButton>("cmdFavourite", "&Favourite");
     cmdFavourite->setCheckable(true);
@@ -75,6 +77,7 @@ void frmfinder::buildlayout() {
     rows->addWidget(txtFind);
     rows->addWidget(ports, 1);
     rows->addWidget(lblFound);
+    rows->addWidget(lblKept);
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : {cmdChoose, cmdFavourite, cmdAbout, cmdMap}) {
         button->setAutoDefault(false);
@@ -138,6 +141,7 @@ void frmfinder::togglefavourite(std::size_t place) {
     const WriteOutcome outcome = tarvane::togglefavourite(path, keptport(world, place));
     // The list stays as it is, so that the port doesn't jump away under the pointer.
     finder->setkeeps(readfinderkeeps(path));
+    lblKept->tell(tellfinderkeeps(path));
     ports->showstars();
     showcurrent();
     lblFound->setText(
@@ -157,10 +161,8 @@ void frmfinder::choose(std::size_t place) {
     const std::string area = world.areas[wanted.area].path;
     if (rereadworld(context.session.folders, world, context.session.settings.hcfile)) {
         renew();
-        const auto now = worldplace(world, area, wanted.number);
-        if (!now || world.ports[*now].name != wanted.name)
-            return lblFound->setText(
-                screentext(wanted.name + " isn't where it was: " + area + " has changed or is gone"));
+        const auto now = worldplace(world, area, wanted.number, wanted.name);
+        if (!now) return lblFound->setText(screentext(goneport(area, wanted.name)));
         place = *now;
     }
     chosen_ = place;

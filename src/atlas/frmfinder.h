@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "atlas/frmfindertable.h"
+#include "atlas/frmkeptnote.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 
@@ -30,6 +31,7 @@ class frmfinder : public ModalDialog {
     QLineEdit* txtFind = nullptr;
     FinderTable* ports = nullptr;
     QLabel* lblFound = nullptr;
+    KeptNote* lblKept = nullptr;
     QPushButton *cmdChoose = nullptr, *cmdFavourite = nullptr, *cmdAbout = nullptr, *cmdMap = nullptr,
                 *cancel = nullptr;
 

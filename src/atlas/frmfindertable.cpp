@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
+#include <numeric>
 
 #include "world/frmtrusticon.h"
 
@@ -131,19 +132,36 @@ void FinderTable::sizecolumns() {
     const int blank = widthof("00");
     header()->setMinimumSectionSize(blank);
     header()->setStretchLastSection(true);
-    header()->resizeSection(star, widthof("\u2605") + 2 * blank);
-    header()->resizeSection(name, widthof("South Newport River Daymark 1 (GA)") + marksize + blank);
-    header()->resizeSection(area, widthof("US Delaware and Chesapeake") + blank);
-    header()->resizeSection(country, widthof("Papua New Guinea") + blank);
-    header()->resizeSection(distance, widthof("10000 nm NW") + blank);
-    header()->resizeSection(zone, widthof("America/Los_Angeles, UT-08:00") + blank);
+    wanted[star] = widthof("\u2605") + 2 * blank;
+    wanted[name] = widthof("South Newport River Daymark 1 (GA)") + marksize + blank;
+    wanted[area] = widthof("US Delaware and Chesapeake") + blank;
+    wanted[country] = widthof("Papua New Guinea") + blank;
+    wanted[distance] = widthof("10000 nm NW") + blank;
+    wanted[zone] = widthof("America/Los_Angeles, UT-08:00") + blank;
+    for (int column = 0; column < columns; ++column)
+        header()->resizeSection(column, wanted[static_cast<std::size_t>(column)]);
+}
+
+/// In a narrow window those columns give way whose texts can be cut; their hints have them whole.
+void FinderTable::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    const int whole = std::accumulate(wanted.begin(), wanted.end(), 0), stiff = wanted[star] + wanted[distance];
+    const int width = viewport()->width();
+    const bool narrow = width < whole;
+    if (!narrow && !narrowed) return;
+    narrowed = narrow;
+    for (const Column column : {name, area, country, zone}) {
+        const int usual = wanted[column];
+        header()->resizeSection(column, narrow ? usual * std::max(width - stiff, stiff) / (whole - stiff) : usual);
+    }
 }
 
 QSize FinderTable::sizeHint() const {
     constexpr int rowsseen = 16;
     const int row = std::max(fontMetrics().height(), marksize) + 2;
-    return {header()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
-            header()->sizeHint().height() + rowsseen * row + 2 * frameWidth()};
+    return {
+        std::accumulate(wanted.begin(), wanted.end(), 0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
+        header()->sizeHint().height() + rowsseen * row + 2 * frameWidth()};
 }
 
 void FinderTable::show(Found found) {

@@ -69,10 +69,14 @@ class FinderTable : public QTreeView {
         std::array<QIcon, 5> marks;  ///< by Trust
     };
 
+    void resizeEvent(QResizeEvent* event) override;
+
     std::size_t placeof(const QModelIndex& index) const;
     void sizecolumns();
 
     Model model_;
+    std::array<int, columns> wanted{};  ///< widths where there is room
+    bool narrowed = false;
 };
 
 }  // namespace tarvane

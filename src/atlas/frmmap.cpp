@@ -95,10 +95,7 @@ QLayout* frmmap::buildlegend() {
 void frmmap::connectcontrols() {
     map->onpointed = [this] { showpointed(); };
     map->onport = [this](std::size_t place) {
-        const WorldPort& port = map->world().ports[place];
-        // The list of ports may be read anew before this comes back.
-        const std::string path = map->world().areas[port.area].path;
-        if (onport && place != map->inhand()) onport(path, port.number);
+        if (place != map->inhand()) choose(place);
     };
     connect(cmdZoomIn, &QPushButton::clicked, this, [this] { map->zoom(zoomstep); });
     connect(cmdZoomOut, &QPushButton::clicked, this, [this] { map->zoom(1 / zoomstep); });
@@ -107,6 +104,16 @@ void frmmap::connectcontrols() {
     connect(cmdAll, &QPushButton::clicked, this, [this] { map->wholeworld(); });
     connect(cmdClose, &QPushButton::clicked, this, [this] { close(); });
     connect(new QShortcut(QKeySequence("Ctrl+W"), this), &QShortcut::activated, this, [this] { close(); });
+}
+
+/// The areas are read anew first: their files may hold other ports than the map shows.
+void frmmap::choose(std::size_t place) {
+    const WorldPort wanted = map->world().ports[place];
+    const std::string path = map->world().areas[wanted.area].path;
+    follow();
+    if (!worldplace(files, path, wanted.number, wanted.name))
+        return lblPointed->setText(screentext(goneport(path, wanted.name)));
+    if (onport) onport(path, wanted.number);
 }
 
 void frmmap::follow() {

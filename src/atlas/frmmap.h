@@ -44,6 +44,7 @@ class frmmap : public QWidget {
     void buildlayout();
     QLayout* buildlegend();
     void connectcontrols();
+    void choose(std::size_t place);
     void showpointed();
     void showarea();
     void showlegend();

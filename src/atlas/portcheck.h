@@ -6,9 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "dates/dateformats.h"
+#include "atlas/tablelines.h"
 #include "dates/portclock.h"
-#include "portdata/ownports.h"
 
 namespace tarvane {
 
@@ -37,23 +36,20 @@ inline constexpr const char* emptyline = "Nothing is typed here";
 /// The clock that a port's table is in.
 PortClock clockof(TableClock choice, const HarmonicRecord& port, const std::string& iana, const Zones& zones);
 
-/// Dates are read as year, month and day; a line without one has that of the line before. A water whose kind isn't told
-/// is the nearest. Lines further than three hours from any water of their kind are left out.
+/// Dates are read as year, month and day; a line without one has that of the line before, and none where that isn't
+/// understood. A water whose kind isn't told is the nearest. Lines further than three hours from any water of their
+/// kind are left out.
 CheckResult checkwaters(const HarmonicRecord& port, const std::string& iana, const TableCheck& check,
                         const Zones& zones);
 
-/// "4 min early, 0.03 m low": the prediction against the table.
+/// "12 lines added; lines 3 and 4 are left out: their notes say why", by their numbers.
+std::string addedwords(std::size_t added, const std::vector<int>& leftout);
+
+/// "4 min early and 0.03 m too low", "on time and as high as the table": the prediction against the table.
 std::string differencewords(double minutes, double metres);
 
-/// "Checked by you against 8 waters of 2026: the prediction is on the mean 4 min early, 0.03 m low; at worst it differs
-/// by 11 min, 0.12 m"; empty when none was compared.
+/// "Checked by you against 8 waters of 2026: on the mean the prediction is 4 min early and 0.03 m too low; at worst it
+/// is off by 11 min and 0.12 m"; empty when none was compared.
 std::string checkwords(const CheckResult& result);
-
-/// A date in the system's order as "2026-07-14"; what can't be read as it is.
-std::string tidydate(const std::string& typed, const DateConventions& conventions, const Locale& locale, Date today);
-
-/// Lines copied from elsewhere, "14/07/2026 06:12 5.4 HW" or parts of it, between blanks, tabs, semicolons or commas.
-/// Lines without a figure, as headings, are passed over.
-std::vector<TableWater> pastedwaters(const std::string& text);
 
 }  // namespace tarvane

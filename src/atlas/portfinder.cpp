@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 #include <tuple>
 #include <utility>
 
+#include "atlas/namedplaces.h"
 #include "atlas/typedplace.h"
 #include "text/singlebyte.h"
 
@@ -95,8 +97,24 @@ bool isnoname(std::string_view text) {
 struct Finder::Fitted {
     std::size_t place;
     Fit fit;
-    int distance = 0, shape = 0;  ///< of a near miss
+    int distance = 0, shape = 0;  ///< of a near miss; the shape is 0 of a whole name, 1 of a country's or an area's
+    bool region = false;          ///< a near miss of those
 };
+
+namespace {
+
+/// The shape of a near miss among those of names and of regions: a whole name, a region's word, a word of a name, what
+/// ends within one.
+int shapeofname(const FoldedName& name, const FoldedName& wanted, const PortHit& hit) {
+    const auto letters = [](const FoldedName& text) { return static_cast<int>(text.saints().size()); };
+    return std::abs(letters(name) - letters(wanted)) <= hit.distance ? 0 : 2 + hit.shape;
+}
+
+int shapeofregion(const PortHit& hit) {
+    return hit.shape < 2 ? 1 : 2 + hit.shape;
+}
+
+}  // namespace
 
 Finder::Finder(const World& ports, std::optional<std::size_t> porthand) : world(ports), inhand(porthand) {
     std::map<std::string, std::size_t> known;
@@ -155,11 +173,11 @@ std::vector<Finder::Fitted> Finder::fits(std::string_view text) const {
     std::vector<Fitted> found;
     std::vector<char> placed(entries.size(), false);
     const auto add = [&](const PortHit& hit, Fit fit) {
-        found.push_back({hit.place, fit, hit.distance, hit.shape});
+        found.push_back({hit.place, fit});
         placed[hit.place] = true;
     };
     const std::vector<PortHit> hits = findports(names, wanted);
-    constexpr std::array ranks{Fit::whole, Fit::begins, Fit::wordbegins, Fit::within, Fit::nearmiss};
+    constexpr std::array ranks{Fit::whole, Fit::begins, Fit::wordbegins};
     for (const PortHit& hit : hits)
         if (hit.rank <= PortHit::wordbegins) add(hit, ranks[static_cast<std::size_t>(hit.rank)]);
     const auto typed = wordsof(wanted.typed), saints = wordsof(wanted.saints());
@@ -171,15 +189,25 @@ std::vector<Finder::Fitted> Finder::fits(std::string_view text) const {
         const bool name = hasbeginning(folded.typed, typed) || hasbeginning(folded.saints(), saints);
         add({place}, name ? Fit::word : Fit::words);
     }
-    const bool any = !found.empty();
     for (const PortHit& hit : hits)
-        if (!placed[hit.place] && (hit.rank == PortHit::within || !any))
-            add(hit, ranks[static_cast<std::size_t>(hit.rank)]);
-    return found.empty() ? misses(wanted) : found;
+        if (!placed[hit.place] && hit.rank == PortHit::within) add(hit, Fit::within);
+    return found.empty() ? misses(wanted, hits) : found;
 }
 
-/// Misses of what is left of the text without the words that a port has.
-std::vector<Finder::Fitted> Finder::misses(const FoldedName& text) const {
+/// Misses of the whole text; where no name has one, of what is left of it without the words that a port has.
+std::vector<Finder::Fitted> Finder::misses(const FoldedName& text, const std::vector<PortHit>& hits) const {
+    std::vector<Fitted> found;
+    if (!hits.empty()) {
+        std::vector<char> added(entries.size(), false);
+        for (const PortHit& hit : hits) {
+            found.push_back({hit.place, Fit::nearmiss, hit.distance, shapeofname(names[hit.place], text, hit)});
+            added[hit.place] = true;
+        }
+        std::vector<std::size_t> all(entries.size());
+        std::iota(all.begin(), all.end(), std::size_t{0});
+        addregions(text, all, added, found);
+        return found;
+    }
     const auto words = wordsof(text.saints());
     // So many words are no port, and each may be left out or not.
     if (words.size() > mostwords) return {};
@@ -191,7 +219,6 @@ std::vector<Finder::Fitted> Finder::misses(const FoldedName& text) const {
             if (entries[place].words.find(words[i]) == std::u32string::npos) left |= std::size_t{1} << i;
         groups[left].push_back(place);
     }
-    std::vector<Fitted> found;
     for (std::size_t left = 1; left < groups.size(); ++left) {
         std::u32string rest;
         for (std::size_t i = 0; i < words.size(); ++i)
@@ -204,9 +231,6 @@ std::vector<Finder::Fitted> Finder::misses(const FoldedName& text) const {
 /// The misses in the names of some ports, or else in what their areas and countries are called.
 void Finder::addmisses(const FoldedName& rest, const std::vector<std::size_t>& group,
                        std::vector<Fitted>& found) const {
-    std::map<std::size_t, PortHit> regionhits;
-    for (const PortHit& hit : findports(regions, rest))
-        if (hit.rank == PortHit::nearmiss) regionhits[hit.place] = hit;
     // The whole text was looked for in all the names before.
     std::vector<FoldedName> texts;
     if (group.size() < entries.size())
@@ -214,14 +238,29 @@ void Finder::addmisses(const FoldedName& rest, const std::vector<std::size_t>& g
             texts.push_back(names[place]);
     std::vector<char> added(entries.size(), false);
     for (const PortHit& hit : findports(texts, rest)) {
-        found.push_back({group[hit.place], Fit::nearmiss, hit.distance, hit.shape});
+        found.push_back({group[hit.place], Fit::nearmiss, hit.distance, shapeofname(texts[hit.place], rest, hit)});
         added[group[hit.place]] = true;
     }
-    for (const std::size_t place : group) {
-        const auto hit = regionhits.find(entries[place].region);
-        if (hit != regionhits.end() && !added[place])
-            found.push_back({place, Fit::nearmiss, hit->second.distance, hit->second.shape});
-    }
+    addregions(rest, group, added, found);
+}
+
+/// Ports of countries and areas that the text misses. One that was found by its name stays as it is, unless it is
+/// nearer by these.
+void Finder::addregions(const FoldedName& rest, const std::vector<std::size_t>& group, const std::vector<char>& added,
+                        std::vector<Fitted>& found) const {
+    std::map<std::size_t, PortHit> hits;
+    for (const PortHit& hit : findports(regions, rest))
+        if (hit.rank == PortHit::nearmiss) hits[hit.place] = hit;
+    const auto byregion = [&](std::size_t place) -> std::optional<Fitted> {
+        const auto hit = hits.find(entries[place].region);
+        if (hit == hits.end()) return std::nullopt;
+        return Fitted{place, Fit::nearmiss, hit->second.distance, shapeofregion(hit->second), true};
+    };
+    const auto nearness = [](const Fitted& each) { return std::pair(each.distance, each.shape); };
+    for (Fitted& each : found)
+        if (const auto miss = byregion(each.place); miss && nearness(*miss) < nearness(each)) each = *miss;
+    for (const std::size_t place : group)
+        if (const auto miss = byregion(place); miss && !added[place]) found.push_back(*miss);
 }
 
 std::vector<FoundPort> Finder::search(std::string_view text) const {
@@ -233,7 +272,7 @@ std::vector<FoundPort> Finder::search(std::string_view text) const {
     std::sort(found.begin(), found.end(), [&](const Fitted& a, const Fitted& b) { return rankof(a) < rankof(b); });
     std::vector<FoundPort> ports;
     for (const Fitted& each : found)
-        ports.push_back({each.place, each.fit});
+        ports.push_back({each.place, each.fit, each.region});
     return ports;
 }
 
@@ -261,20 +300,23 @@ Found Finder::everything() const {
 }
 
 Found Finder::findnear(std::string_view text) const {
-    Found found;
     std::optional<EarthPlace> from = readplace(text);
     std::string where = from ? placetext(*from) : "";
     if (!from && !isnoname(text)) {
         const std::vector<FoundPort> hits = search(text);
+        const NamedPlace* named = hits.empty() || hits.front().fit == Fit::nearmiss ? namedplace(text) : nullptr;
+        if (named) return byplace(named->at, named->name);
         if (hits.empty()) return {{}, {}, "No port is called so; " + std::string(whatnear)};
         from = entries[hits.front().place].at;
         where = world.ports[hits.front().place].name;
     }
     if (!from) return {{}, {}, whatnear};
-    found.ports = bydistance(milesfrom(*from));
-    found.from = from;
-    found.told = portstext(found.ports.size()) + ", the nearest to " + where + " first";
-    return found;
+    return byplace(*from, where);
+}
+
+/// All by their distance from a place.
+Found Finder::byplace(EarthPlace from, const std::string& where) const {
+    return {bydistance(milesfrom(from)), from, portstext(entries.size()) + ", the nearest to " + where + " first"};
 }
 
 Found Finder::find(std::string_view text) const {
@@ -282,13 +324,21 @@ Found Finder::find(std::string_view text) const {
     Found found = foldname(text).empty() ? everything() : Found{search(text), {}, ""};
     if (inhand) found.from = entries[*inhand].at;
     if (!found.told.empty()) return found;
-    if (found.ports.empty())
-        found.told = "No port is called so. Try less of the name, a country, or \u201Cnear 50.1 N 1.4 W\u201D";
-    else if (found.ports.front().fit == Fit::nearmiss)
-        found.told = "No port is called so; " + std::to_string(found.ports.size()) +
-                     (found.ports.size() == 1 ? " has a name like it" : " have names like it");
-    else
+    const bool fits = !found.ports.empty() && found.ports.front().fit != Fit::nearmiss;
+    if (fits) {
         found.told = portstext(found.ports.size());
+    } else if (const NamedPlace* place = namedplace(text)) {
+        found = byplace(place->at, place->name);
+        found.told = "No port is called so; " + found.told;
+    } else if (found.ports.empty()) {
+        found.told = "No port is called so. Try less of the name, a country, or \u201Cnear 50.1 N 1.4 W\u201D";
+    } else {
+        const bool region =
+            std::any_of(found.ports.begin(), found.ports.end(), [](const FoundPort& each) { return each.region; });
+        found.told = "No port is called so; " + std::to_string(found.ports.size()) +
+                     (found.ports.size() == 1 ? " has a name like it" : " have names like it") +
+                     (region ? ", or their country or area has" : "");
+    }
     return found;
 }
 

@@ -29,6 +29,7 @@ enum class Fit : int {
 struct FoundPort {
     std::size_t place = 0;  ///< in the world's ports
     Fit fit = Fit::none;
+    bool region = false;  ///< a near miss of its country or its area
 };
 
 struct Found {
@@ -49,8 +50,9 @@ class Finder {
     /// Ports that fit the text, best first; of equally good ones favourites come first, then recent ones, then the
     /// nearer, by whole miles, and of equally near ones those of the area in hand. The whole text is looked for in the
     /// names; its words one by one, in any order, in names, areas and countries, some of which have short names too
-    /// ("us", "uk", "nz"). Only when nothing fits are misses by a few letters found: of the text in the names, and else
-    /// of the words that no port of the place has ("sydny australia").
+    /// ("us", "uk", "nz"). Only when nothing fits are misses by a few letters found: of the text in the names and in
+    /// what countries and areas are called, and else of the words that no port of the place has ("sydny australia"). A
+    /// harbour town that has no port here ("cork") lists all by the distance from it.
     ///
     /// An empty text lists all: favourites, recent ones but that in hand, then by distance. "near 50.1 N 1.4 W" and
     /// "near brest" list all by the distance from there.
@@ -69,8 +71,11 @@ class Finder {
     Found findnear(std::string_view text) const;
     Found everything() const;
     std::vector<Fitted> fits(std::string_view text) const;
-    std::vector<Fitted> misses(const FoldedName& text) const;
+    std::vector<Fitted> misses(const FoldedName& text, const std::vector<PortHit>& hits) const;
     void addmisses(const FoldedName& rest, const std::vector<std::size_t>& group, std::vector<Fitted>& found) const;
+    void addregions(const FoldedName& rest, const std::vector<std::size_t>& group, const std::vector<char>& added,
+                    std::vector<Fitted>& found) const;
+    Found byplace(EarthPlace from, const std::string& where) const;
     std::vector<FoundPort> search(std::string_view text) const;
     bool elsewhere(std::size_t place) const;
     std::vector<FoundPort> bydistance(const std::vector<double>& miles) const;

@@ -1,9 +1,9 @@
 #include "portdata/ownnotesjson.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
-#include <nlohmann/json.hpp>
+
+#include "portdata/jsonmembers.h"
 
 namespace tarvane {
 namespace {
@@ -13,72 +13,7 @@ using nlohmann::json;
 constexpr std::array hows{"changed", "entered", "corrected", "derived", "fitted", "copied"};
 constexpr std::array clocks{"zone", "port", "ut"};
 
-/// Takes the members of an object one by one and remembers whether each was what it should be.
-class Members {
-  public:
-    Members(const json& object, bool& whole) : object_(object), whole_(whole) {
-        if (!object.is_object()) whole_ = false;
-    }
-
-    /// Null when there is none.
-    const json* at(const char* name) const {
-        const auto found = object_.is_object() ? object_.find(name) : object_.end();
-        return found == object_.end() ? nullptr : &*found;
-    }
-
-    void take(const char* name, std::string& text) const {
-        const json* value = at(name);
-        if (value && value->is_string()) text = value->get<std::string>();
-        whole_ = whole_ && (!value || value->is_string());
-    }
-
-    void take(const char* name, double& number) const {
-        const json* value = at(name);
-        const bool good = value && value->is_number() && std::isfinite(value->get<double>());
-        if (good) number = value->get<double>();
-        whole_ = whole_ && (!value || good);
-    }
-
-    void take(const char* name, int& number) const {
-        constexpr double most = 1e6;
-        double read = number;
-        take(name, read);
-        if (std::abs(read) <= most)
-            number = static_cast<int>(read);
-        else
-            whole_ = false;
-    }
-
-    /// One of some words, as its place among them.
-    template <typename Choice, typename Words>
-    void take(const char* name, const Words& words, Choice& choice) const {
-        std::string word = words[static_cast<std::size_t>(choice)];
-        take(name, word);
-        const auto place = std::find(words.begin(), words.end(), word);
-        if (place == words.end())
-            whole_ = false;
-        else
-            choice = static_cast<Choice>(place - words.begin());
-    }
-
-    /// Every element of a list.
-    template <typename Act>
-    void each(const char* name, Act act) const {
-        const json* list = at(name);
-        whole_ = whole_ && (!list || list->is_array());
-        if (list && list->is_array())
-            for (const json& element : *list)
-                act(element);
-    }
-
-    bool& whole() const { return whole_; }
-
-  private:
-    const json& object_;
-    bool& whole_;
-};
-
-FitFigures fitof(const Members& members) {
+FitFigures fitof(const JsonMembers& members) {
     FitFigures fit;
     members.take("readings", fit.readings);
     members.take("leftout", fit.leftout);
@@ -90,7 +25,7 @@ FitFigures fitof(const Members& members) {
     return fit;
 }
 
-OwnMade ownmadeof(const Members& members) {
+OwnMade ownmadeof(const JsonMembers& members) {
     OwnMade made;
     members.take("how", hows, made.how);
     members.take("date", made.date);
@@ -100,11 +35,11 @@ OwnMade ownmadeof(const Members& members) {
     return made;
 }
 
-TableCheck tablecheckof(const Members& members) {
+TableCheck tablecheckof(const JsonMembers& members) {
     TableCheck check;
     members.take("clock", clocks, check.clock);
     members.each("waters", [&](const json& element) {
-        const Members line(element, members.whole());
+        const JsonMembers line(element, members.whole());
         TableWater& water = check.waters.emplace_back();
         line.take("date", water.date);
         line.take("time", water.time);
@@ -139,28 +74,32 @@ json jsonof(const TableCheck& check) {
     return {{"clock", clocks.at(static_cast<std::size_t>(check.clock))}, {"waters", waters}};
 }
 
+void takeports(const json& object, OwnPorts& ports) {
+    bool& whole = ports.state.whole;
+    const JsonMembers file(object, whole);
+    file.take("untold", ports.state.untold);
+    const json none = json::object();
+    const json* areas = file.at("areas");
+    if (areas && !areas->is_object()) whole = false;
+    for (const auto& [area, list] : (areas && areas->is_object() ? *areas : none).items()) {
+        const json holder{{"ports", list}};
+        JsonMembers(holder, whole).each("ports", [&, name = area](const json& element) {
+            const JsonMembers members(element, whole);
+            PortNote note;
+            members.take("name", note.name);
+            members.take("number", note.number);
+            if (const json* made = members.at("own")) note.made = ownmadeof({*made, whole});
+            if (const json* check = members.at("check")) note.check = tablecheckof({*check, whole});
+            ports.areas[name].push_back(note);
+        });
+    }
+}
+
 }  // namespace
 
 OwnPorts ownportsof(const std::string& text) {
     OwnPorts ports;
-    if (text.empty()) return ports;
-    const json object = json::parse(text, nullptr, false);
-    const Members file(object, ports.whole);
-    const json none = json::object();
-    const json* areas = file.at("areas");
-    if (areas && !areas->is_object()) ports.whole = false;
-    for (const auto& [area, list] : (areas && areas->is_object() ? *areas : none).items()) {
-        const json holder{{"ports", list}};
-        Members(holder, ports.whole).each("ports", [&, name = area](const json& element) {
-            const Members members(element, ports.whole);
-            PortNote note;
-            members.take("name", note.name);
-            members.take("number", note.number);
-            if (const json* made = members.at("own")) note.made = ownmadeof({*made, ports.whole});
-            if (const json* check = members.at("check")) note.check = tablecheckof({*check, ports.whole});
-            ports.areas[name].push_back(note);
-        });
-    }
+    if (!text.empty()) takeports(json::parse(text, nullptr, false), ports);
     return ports;
 }
 
@@ -176,8 +115,10 @@ std::string ownportstext(const OwnPorts& ports) {
         }
         areas[area] = list;
     }
+    json file{{"areas", areas}};
+    if (!ports.state.untold.empty()) file["untold"] = ports.state.untold;
     constexpr int indent = 2;
-    return json{{"areas", areas}}.dump(indent, ' ', false, json::error_handler_t::replace) + "\n";
+    return file.dump(indent, ' ', false, json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace tarvane

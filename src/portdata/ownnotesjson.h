@@ -7,7 +7,7 @@
 
 namespace tarvane {
 
-/// What isn't understood is left out, and `whole` is false then. An empty text holds none.
+/// What isn't understood is left out, and `state.whole` is false then. An empty text holds none.
 OwnPorts ownportsof(const std::string& text);
 
 std::string ownportstext(const OwnPorts& ports);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <functional>
+#include <utility>
 
 #include "portdata/ownnotesjson.h"
 #include "portdata/recordfiles.h"
@@ -54,13 +55,11 @@ WriteOutcome changenotes(const ProgramFolders& folders, const std::string& hcfil
     return writeownports(path, ports);
 }
 
-WriteOutcome keepbroken(const std::string& path) {
-    const auto bytes = wholefile(path);
-    if (!bytes) return {std::make_error_code(std::errc::io_error)};
-    std::string beside = path + ".broken";
-    for (int i = 2; canopen(beside) && readwhole(beside) != *bytes; ++i)
-        beside = path + ".broken" + std::to_string(i);
-    return replacefile(beside, *bytes);
+KeptText textof(OwnPorts ports) {
+    return [ports = std::move(ports)](const std::string& untold) mutable {
+        ports.state.untold = untold;
+        return ownportstext(ports);
+    };
 }
 
 }  // namespace
@@ -70,15 +69,22 @@ std::string ownportspath(const ProgramFolders& folders) {
 }
 
 OwnPorts readownports(const std::string& path) {
-    return ownportsof(wholetext(path));
+    KeptState found;
+    const std::string text = readkept(path, found);
+    OwnPorts ports = ownportsof(text);
+    ports.state.readable = found.readable;
+    return ports;
 }
 
 WriteOutcome writeownports(const std::string& path, const OwnPorts& ports) {
     // By what stands there now: another run of the program may have changed it.
-    if (!wholefile(path)) return {std::make_error_code(std::errc::permission_denied)};
-    if (!readownports(path).whole)
-        if (const WriteOutcome kept = keepbroken(path); !kept) return kept;
-    return replacefile(path, ownportstext(ports));
+    return writekept(path, readownports(path).state, textof(ports));
+}
+
+std::string tellownports(const ProgramFolders& folders) {
+    const std::string path = ownportspath(folders);
+    const OwnPorts ports = readownports(path);
+    return tellkept(path, ports.state, "neither what you entered nor your checks are known", textof(ports));
 }
 
 AreaNotes areanotes(const ProgramFolders& folders, const std::string& hcfile) {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "files/wholefiles.h"
 #include "portdata/configuration.h"
+#include "portdata/keptfile.h"
 
 namespace tarvane {
 
@@ -58,7 +58,7 @@ using AreaNotes = std::vector<PortNote>;
 
 struct OwnPorts {
     std::map<std::string, AreaNotes> areas;  ///< by the name of the area's file, "UK.hc"
-    bool whole = true;                       ///< all that the file holds was understood
+    KeptState state;                         ///< how the file was found
 };
 
 inline constexpr const char* ownportsname = "Ports.json";
@@ -72,6 +72,9 @@ OwnPorts readownports(const std::string& path);
 /// A file that wasn't understood whole is kept as it was beside the new one, "Ports.json.broken". An error, nothing
 /// being written, when that can't be done or the file is there and can't be read.
 WriteOutcome writeownports(const std::string& path, const OwnPorts& ports);
+
+/// What the user has to be told of the file, once; empty when that is nothing.
+std::string tellownports(const ProgramFolders& folders);
 
 /// The notes of an area, by its path.
 AreaNotes areanotes(const ProgramFolders& folders, const std::string& hcfile);

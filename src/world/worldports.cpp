@@ -106,4 +106,14 @@ std::optional<std::size_t> worldplace(const World& world, const std::string& are
     return static_cast<std::size_t>(port - world.ports.begin());
 }
 
+std::optional<std::size_t> worldplace(const World& world, const std::string& area, int number,
+                                      const std::string& name) {
+    const auto place = worldplace(world, area, number);
+    return place && world.ports[*place].name == name ? place : std::nullopt;
+}
+
+std::string goneport(const std::string& area, const std::string& name) {
+    return name + " isn't where it was: " + area + " has changed or is gone";
+}
+
 }  // namespace tarvane

@@ -44,4 +44,10 @@ bool rereadworld(const ProgramFolders& folders, World& world, const std::string&
 /// The place of an area's port; nothing when it is none of these.
 std::optional<std::size_t> worldplace(const World& world, const std::string& area, int number);
 
+/// The same of one that was called so when it was listed: nothing either where another has its number by now.
+std::optional<std::size_t> worldplace(const World& world, const std::string& area, int number, const std::string& name);
+
+/// What is said then.
+std::string goneport(const std::string& area, const std::string& name);
+
 }  // namespace tarvane

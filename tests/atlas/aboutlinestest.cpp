@@ -22,7 +22,7 @@ struct AboutLinesTest : LoadedMain {
 
     AboutSheet sheet(int number, Moment now = makedate(2026, 11, 23) + std::chrono::minutes(14 * 60 + 12)) {
         const Services services = scripted.services();
-        return aboutsheet(aboutof(session.folders, area(), number), now, services.zones, services.locale);
+        return aboutsheet(aboutof(session.folders, area(), number), now, services.zones);
     }
     static std::string line(const AboutSheet& sheet, const std::string& caption) {
         const auto found = std::find_if(sheet.lines.begin(), sheet.lines.end(),

@@ -43,21 +43,35 @@ TEST_F(FinderKeepsFile, WhatIsKeptComesBack) {
     EXPECT_FALSE(noterecent(folder / "not/there/Finder.json", sydney));
 }
 
-TEST_F(FinderKeepsFile, AnOddFileGivesWhatCanBeUsed) {
+TEST_F(FinderKeepsFile, AnOddFileGivesWhatCanBeUsedAndIsKept) {
     const std::string good = R"({"area": "UK.hc", "name": "Dover"})";
+    int kept = 0;
     for (const std::string& text :
          {std::string("{"), std::string("[]"), std::string("\0\xFF", 2),
-          std::string("{\"recents\": 5, \"favourites\": {}}"),
+          std::string("{\"recents\": 5, \"favourites\": {}}"), std::string("{\"recents\": [], \"colours\": 2}"),
+          "{\"recents\": [" + good + ", {\"area\": \"UK.hc\", \"name\": \"Wick\", \"note\": \"x\"}]}",
           "{\"recents\": [" + good + ", 3, {\"area\": 1, \"name\": \"x\"}, {\"name\": \"x\"}, null, " + good + "]}"}) {
         ASSERT_TRUE(replacefile(path, text));
-        std::filesystem::remove(path + ".broken");
         const FinderKeeps keeps = readfinderkeeps(path);
         EXPECT_TRUE(keeps.favourites.empty()) << text;
-        EXPECT_EQ(recents(), text.find("Dover") == std::string::npos ? "" : "Dover ") << text;
+        EXPECT_EQ(recents().find("Dover") == std::string::npos, text.find("Dover") == std::string::npos) << text;
         EXPECT_TRUE(togglefavourite(path, {"UK.hc", "Wick"}));
         EXPECT_EQ(readfinderkeeps(path).favourites.size(), 1U) << text;
-        EXPECT_EQ(wholetext(path + ".broken"), text.front() == '{' && text.size() > 1 ? "" : text) << "none is lost";
+        const std::string copy = "Finder.json.broken" + (++kept == 1 ? "" : std::to_string(kept));
+        EXPECT_EQ(wholetext(folder / copy), text) << "none is lost";
+        const std::string told = tellfinderkeeps(path);
+        EXPECT_TRUE(told.ends_with("and as it was it lies in " + folder / copy + ".")) << told;
+        EXPECT_EQ(tellfinderkeeps(path), "") << "once";
+        EXPECT_EQ(readfinderkeeps(path).favourites.size(), 1U) << text;
     }
+    ASSERT_TRUE(replacefile(path, "["));
+    EXPECT_TRUE(tellfinderkeeps(path).ends_with(std::to_string(kept + 1) + ".")) << "told before anything was changed";
+    EXPECT_TRUE(readfinderkeeps(path).state.whole);
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    EXPECT_EQ(tellfinderkeeps(path), path + " can't be read: no favourites and no recent ports are listed.");
+    EXPECT_FALSE(togglefavourite(path, {"UK.hc", "Wick"}));
+    EXPECT_FALSE(noterecent(path, {"UK.hc", "Wick"}));
 }
 
 TEST_F(FinderKeepsFile, PortsThatAreGoneArePassedOverAndKept) {

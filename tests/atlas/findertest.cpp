@@ -1,6 +1,7 @@
 // Ports of all areas found by what a person types.
 #include <gtest/gtest.h>
 
+#include "atlas/namedplaces.h"
 #include "atlas/portfinder.h"
 #include "atlas/shippedworld.h"
 
@@ -63,6 +64,9 @@ TEST_F(FinderOfAll, PortsAreFoundAsPersonsTypeThem) {
         {"sydny australia", {"Sydney Port Jackson (NSW), australia"}, Fit::nearmiss},
         {"halifx canada", {"Halifax (NS), canada atlantic"}, Fit::nearmiss},
         {"sydney austrelia", {"Sydney Port Jackson (NSW), australia"}, Fit::nearmiss},
+        {"irland", {"Wexford, uk", "Dunmore East, uk"}, Fit::nearmiss},
+        {"austalia", {}, Fit::nearmiss},
+        {"norwey", {}, Fit::nearmiss},
         {"xyzzy", {}, Fit::none},
         {"xyzzy uk", {}, Fit::none},
     };
@@ -73,6 +77,46 @@ TEST_F(FinderOfAll, PortsAreFoundAsPersonsTypeThem) {
         if (row.fit != Fit::none) {
             EXPECT_EQ(found.ports.front().fit, row.fit) << row.typed;
         }
+    }
+}
+
+TEST_F(FinderOfAll, AMissedCountryComesBeforeFragmentsOfNames) {
+    const Finder finder(world, at("uk", "Southampton"));
+    for (const auto& [typed, country] : {std::pair("irland", "Ireland"),
+                                         {"austalia", "Australia"},
+                                         {"norwey", "Norway"},
+                                         {"frnace", "France"},
+                                         {"germny", "Germany"},
+                                         {"japn", "Japan"},
+                                         {"chilie", "Chile"},
+                                         {"cannada", "Canada"},
+                                         {"portugel", "Portugal"}}) {
+        const Found found = finder.find(typed);
+        std::size_t all = 0;
+        for (const WorldPort& port : world.ports)
+            all += port.about && port.about->country == country;
+        ASSERT_GE(found.ports.size(), all) << typed;
+        for (std::size_t i = 0; i < all; ++i) {
+            const WorldPort& port = world.ports[found.ports[i].place];
+            ASSERT_EQ(port.about->country, country) << typed << ": " << port.name;
+        }
+    }
+}
+
+TEST_F(FinderOfAll, ATownWithoutAPortListsWhatIsAboutIt) {
+    const Finder finder(world, at("uk", "Southampton"));
+    const Found cork = finder.find("Cork");
+    EXPECT_EQ(cork.told, "No port is called so; 2427 ports, the nearest to Cork first");
+    EXPECT_EQ(first(cork, 1), Names{"Ballycotton, uk"});
+    EXPECT_EQ(first(finder.find("near cork"), 1), Names{"Ballycotton, uk"});
+    // One that has become a port needs no entry; one that lies elsewhere has a wrong position.
+    for (const NamedPlace& each : namedplaces()) {
+        const Found found = finder.find(each.name);
+        ASSERT_FALSE(found.ports.empty()) << each.name;
+        const WorldPort& port = world.ports[found.ports.front().place];
+        EXPECT_EQ(found.ports.front().fit, Fit::none) << each.name << " is a port: " << port.name;
+        EXPECT_LT(milesbetween(each.at, {port.latitude, port.longitude}), 100)
+            << each.name << " is far from " << port.name;
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <tuple>
 
 #include "dates/isomoments.h"
 #include "engine/waters.h"
@@ -54,11 +55,18 @@ TEST_F(PortCheckTest, DifferencesAreThePredictionsLessTheTables) {
     EXPECT_NEAR(result.meanminutes, -13 / 3.0, 1e-9);
     EXPECT_EQ(
         checkwords(result),
-        "Checked by you against 3 waters of 2026: the prediction is on the mean 4 min early, 0.01 m low; at worst "
-        "it differs by 11 min, 0.10 m");
+        "Checked by you against 3 waters of 2026: on the mean the prediction is 4 min early and 0.01 m too low; at "
+        "worst it is off by 11 min and 0.10 m");
+    EXPECT_EQ(checkwords(checked({typed(0)})),
+              "Checked by you against 1 water of 2026: the prediction is on time and as high as the table");
+    EXPECT_TRUE(checkwords(checked({typed(0), typed(1)})).ends_with("; none is off by more"));
+    EXPECT_TRUE(checkwords(checked({typed(0, 4), typed(1, 4)})).ends_with("; at worst it is off by 4 min"));
     EXPECT_EQ(result.hint, "");
-    EXPECT_EQ(differencewords(0.4, 0.004), "on time, as high");
-    EXPECT_EQ(differencewords(12, -0.005), "12 min late, 0.01 m low");
+    for (const auto& [off, metres, words] : {std::tuple(0.4, 0.004, "on time and as high as the table"),
+                                             {-12.0, 0.0, "12 min early and as high as the table"},
+                                             {0.0, 0.07, "on time but 0.07 m too high"},
+                                             {12.0, -0.005, "12 min late and 0.01 m too low"}})
+        EXPECT_EQ(differencewords(off, metres), words);
     EXPECT_EQ(checkwords(checked({})), "");
 }
 
@@ -107,6 +115,14 @@ TEST_F(PortCheckTest, ALineThatCantBeMeantSaysWhyAndIsLeftOut) {
         EXPECT_EQ(checked({other}).waters[0].fault,
                   std::string("No ") + (high ? "low" : "high") + " water is predicted within 3 hours");
     }
+    EXPECT_EQ(checked({{"2 Apil 0612 5", "", "", ""}}).waters[0].fault,
+              "This line isn't understood: type its date, time and height");
+    EXPECT_EQ(checked({typed(0), {"Sun 2026-07-14", "06:12", "5.4", ""}}).waters[1].fault, "2026-07-14 is a Tuesday");
+    TableWater dateless = typed(1);
+    dateless.date.clear();
+    const CheckResult behind = checked({typed(0), {"14 Jully", "06:12", "5.4", ""}, dateless, typed(2), dateless});
+    EXPECT_EQ(behind.waters[2].fault, "No date: that of line 2 isn't understood");
+    EXPECT_EQ(behind.waters[4].fault, "") << "after one that is read";
     // A line without a date is of the day of the one before; times and heights as they are written elsewhere.
     TableWater later = typed(1, 7);
     later.date.clear();
@@ -129,23 +145,98 @@ TEST_F(PortCheckTest, WhatAllWatersShareIsNamed) {
     EXPECT_EQ(checked({typed(0, 0, -0.3), typed(1), typed(2, 0, -0.3), typed(3)}).hint, "") << "not common to all";
 }
 
-TEST(PastedWaters, LinesAreReadAsTablesHaveThem) {
-    const struct {
-        const char* text;
-        TableWater line;
-    } rows[] = {{"06:12 5.4", {"", "06:12", "5.4", ""}},
-                {"2026-07-14\t06:12\t5,4\tHW\r", {"2026-07-14", "06:12", "5,4", "high"}},
-                {"14/07/2026,06:12,5.4", {"14/07/2026", "06:12", "5.4", ""}},
-                {"14 Jul 2026 0612 5.4m", {"14 Jul 2026", "0612", "5.4", ""}},
-                {"LW 18:03 0.8 m", {"", "18:03", "0.8", "low"}},
-                {"14.07.2026;18:03;-0,2", {"14.07.2026", "18:03", "-0,2", ""}},
-                {"2026-07-14, 18:03, 1.1, low", {"2026-07-14", "18:03", "1.1", "low"}}};
-    for (const auto& [text, line] : rows) {
-        const auto lines = pastedwaters(std::string("Date Time Height\n") + text + "\n\n");
-        ASSERT_EQ(lines.size(), 1U) << text;
-        EXPECT_EQ(lines[0], line) << text << ": " << lines[0].date << "|" << lines[0].time << "|" << lines[0].height
-                                  << "|" << lines[0].kind;
+struct PastedWaters : testing::Test {
+    std::string read(const std::string& text, const std::string& date = "") const {
+        std::string all;
+        for (const TableWater& water : pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, date))
+            all += (all.empty() ? "" : " / ") + water.date + "|" + water.time + "|" + water.height + "|" + water.kind;
+        return all;
     }
+
+    DateConventions conventions{"DD/MM/YYYY", "/"};
+    ScriptedLocale locale;
+};
+
+TEST_F(PastedWaters, LinesAreReadAsTablesHaveThem) {
+    locale.days = {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"};
+    locale.shortdays = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"};
+    locale.months[4] = "Mai";
+    const struct {
+        const char *text, *read;
+    } rows[] = {
+        {"06:12 5.4", "|06:12|5.4|"},
+        {"2026-07-14\t06:12\t5,4\tHW\r", "2026-07-14|06:12|5,4|high"},
+        {"14/07/2026,06:12,5.4", "2026-07-14|06:12|5.4|"},
+        {"14/07/2026,0612,5.4,low", "2026-07-14|0612|5.4|low"},
+        {"14 Jul 2026 0612 5.4m", "2026-07-14|0612|5.4|"},
+        {"4 May 2026;0612;5.4", "2026-05-04|0612|5.4|"},
+        {"LW 18:03 0.8 m", "|18:03|0.8|low"},
+        {"14.07.2026;18:03;-0,2", "2026-07-14|18:03|-0,2|"},
+        {"2026-07-14, 18:03, 1.1, low", "2026-07-14|18:03|1.1|low"},
+        {"Sat 04/04/2026 0433 5.1", "2026-04-04|0433|5.1|"},
+        {"Sa 04.04.2026 04:33 5,1 m", "2026-04-04|04:33|5,1|"},
+        {"Samstag, 4. April 2026\u00A004:33   5,1 m  HW", "2026-04-04|04:33|5,1|high"},
+        {"04/04/2026 (Saturday) 04:33:00 | 5.1", "2026-04-04|04:33:00|5.1|"},
+        {"\"4/4/2026\",\"4:33 AM\",\"16.8 ft\",\"High\"", "2026-04-04|4:33 AM|16.8 ft|high"},
+        {"2026-04-04T04:33 16.8' H", "2026-04-04|04:33|16.8'|high"},
+        {"04:33pm 241 cm", "|04:33pm|241 cm|"},
+        {"04h56 5.1", "|04h56|5.1|"},
+        {"4.56 5.1", "|4.56|5.1|"},
+        {"04.56 5.10", "|04.56|5.10|"},
+        {"4.56 5.10", "4.56 5.10|||"},
+        {"5.1 0456", "5.1 0456|||"},
+        {"04:56Z 5.1", "04:56Z 5.1|||"},
+        {"0433 5.1 04/04/2026", "2026-04-04|0433|5.1|"},
+        {"2026 04 04 0433 5.1", "2026-04-04|0433|5.1|"},
+        {"04/04/2026 0433 5.1 1042 0.9 1655 5.3", "2026-04-04|0433|5.1| / 2026-04-04|1042|0.9| / 2026-04-04|1655|5.3|"},
+        {"0433 5.1 HW 1042 0.9 LW", "|0433|5.1|high / |1042|0.9|low"},
+        {"high water 4:33 am 5 low water 10:42 am 1", "|4:33 am|5|high / |10:42 am|1|low"},
+        {"0433 5.1 LW 1042 0.9", "0433 5.1 LW 1042 0.9|||"},
+        {"0433 5.1 1042 0.9 1655", "0433 5.1 1042 0.9 1655|||"},
+        {"31/04/2026 0433 5.1", "31/04/2026|0433|5.1|"},
+        {"Sun 04/04/2026 0433 5.1", "Sun 2026-04-04|0433|5.1|"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(std::string("Date Time Height\n") + text + "\n\n"), expected) << text;
+}
+
+TEST_F(PastedWaters, OnlyADateThatWasReadGoesOnToTheLinesBehind) {
+    const struct {
+        const char *text, *read;
+    } rows[] = {{"Saturday 4 April 2026\n0433 5.1\n1042 0.9", "2026-04-04|0433|5.1| / 2026-04-04|1042|0.9|"},
+                {"4/4/2026 0433 5.1\n5 Apil 2026 0520 5.0\n1142 0.9\n6/4/2026 0600 5\n1200 1",
+                 "2026-04-04|0433|5.1| / 5 Apil 2026|0520|5.0| / 5 Apil 2026|1142|0.9| / 2026-04-06|0600|5| / "
+                 "2026-04-06|1200|1|"},
+                {"4/4/2026 0433 5.1\nSat 1042 0.9\nSun 0520 5.0\n1142 0.9",
+                 "2026-04-04|0433|5.1| / 2026-04-04|1042|0.9| / Sun|0520|5.0| / Sun|1142|0.9|"},
+                {"4/4/2026 0433 5.1\nMay 2026\n0520 5.0", "2026-04-04|0433|5.1| / May 2026||| / May 2026|0520|5.0|"},
+                {"Date Height (ft)\n4/4/2026 0433 16.8\n1042 2 m", "2026-04-04|0433|16.8 ft| / 2026-04-04|1042|2|"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(text), expected) << text;
+    EXPECT_EQ(read("0433 5.1", "2026-04-04"), "2026-04-04|0433|5.1|") << "that of the line before";
+}
+
+TEST(TableFields, AreReadInEveryUsualForm) {
+    const std::pair<const char*, int> times[] = {
+        {"6:12", 372},   {"0612", 372},    {"06h12", 372},      {"6.12", 372}, {"6:12 am", 372},
+        {"12:05 am", 5}, {"12:05PM", 725}, {"04:33 p.m.", 993}, {"4pm", 960},  {"06:12:00", 372}};
+    for (const auto& [text, minute] : times)
+        EXPECT_EQ(readtime(text), minute) << text;
+    for (const char* text :
+         {"13:05 pm", "0:05 am", "24:00", "6:60", "6", "6:1", "06:12:30", "6-12", "am", "2026-07-14"})
+        EXPECT_FALSE(readtime(text)) << text;
+    const std::pair<const char*, double> heights[] = {{"5.4", 5.4},       {"5,4 m", 5.4},      {"10 ft", 3.048},
+                                                      {"10'", 3.048},     {"240 cm", 2.4},     {"\u22120.2", -0.2},
+                                                      {"10 Feet", 3.048}, {"+1.5 metres", 1.5}};
+    for (const auto& [text, metres] : heights)
+        EXPECT_NEAR(readheight(text).value_or(99), metres, 1e-9) << text;
+    for (const char* text : {"", "m", "31", "100 ft", "5.4.1", "5e1", "inf", "5 fathoms"})
+        EXPECT_FALSE(readheight(text)) << text;
+    EXPECT_EQ(addedwords(1, {}), "1 line added");
+    EXPECT_EQ(addedwords(9, {3}), "9 lines added; line 3 is left out: its note says why");
+    EXPECT_EQ(addedwords(9, {3, 4, 7}), "9 lines added; lines 3, 4 and 7 are left out: their notes say why");
+    EXPECT_EQ(addedwords(9, {1, 2, 3, 4, 5, 6}),
+              "9 lines added; lines 1, 2, 3, 4, 5 and 1 more are left out: their notes "
+              "say why");
 }
 
 }  // namespace

@@ -131,15 +131,23 @@ TEST_F(OwnPortsTest, WhatIsBrokenIsKeptBesideBeforeItIsWrittenOver) {
          {"{\"areas\": {\"UK.hc\": [{\"name\": \"Birch\"", "[]", "{\"areas\": 3}", "{\"areas\": {\"UK.hc\": {}}}",
           "{\"areas\": {\"UK.hc\": [{\"name\": 7}]}}", "{\"areas\": {\"UK.hc\": [{\"own\": {\"how\": \"dreamt\"}}]}}",
           "{\"areas\": {\"UK.hc\": [{\"check\": {\"waters\": [{\"time\": 5}]}}]}}",
-          "{\"areas\": {\"UK.hc\": [{\"number\": 1e300}]}}"}) {
+          "{\"areas\": {\"UK.hc\": [{\"number\": 1e300}]}}", "{\"areas\": {}, \"colours\": 1}",
+          "{\"areas\": {\"UK.hc\": [{\"check\": {\"waters\": [{\"zone\": \"\"}]}}]}}",
+          "{\"areas\": {\"UK.hc\": [{\"own\": {\"fit\": {\"days\": 3}}}]}}"}) {
         putfile(path(), broken);
-        EXPECT_FALSE(readownports(path()).whole) << broken;
+        EXPECT_FALSE(readownports(path()).state.whole) << broken;
         EXPECT_TRUE(keepcheck(folders, area, port, 1, check)) << broken;
         const std::string beside = path() + ".broken" + (++kept == 1 ? "" : std::to_string(kept));
         EXPECT_EQ(wholetext(beside), broken);
-        EXPECT_TRUE(readownports(path()).whole);
+        EXPECT_TRUE(readownports(path()).state.whole);
         EXPECT_EQ(checkof(areanotes(folders, area), area, port, 1), check) << broken;
     }
+    // Of the last one the user is told, once, and that takes nothing from the notes.
+    const std::string told = tellownports(folders);
+    EXPECT_EQ(told.find("Ports.json wasn't understood whole."), 0U) << told;
+    EXPECT_TRUE(told.ends_with(path() + ".broken" + std::to_string(kept) + ".")) << told;
+    EXPECT_EQ(tellownports(folders), "");
+    EXPECT_EQ(checkof(areanotes(folders, area), area, port, 1), check);
     EXPECT_TRUE(keepcheck(folders, area, port, 1, {}));
     EXPECT_FALSE(canopen(path() + ".broken" + std::to_string(kept + 1))) << "a whole file is replaced";
     const std::string before = wholetext(path());

@@ -20,6 +20,12 @@ TEST_F(CommandLine, FaultsAreOneLineWhateverIsTyped) {
     expectrefused(run("--area " + folder / "None.hc"), "None.hc can't be read");
     expectrefused(run("--area " + environment.home), "can't be read");
     store({portnamed("Home")});
+    store({portnamed("Abroad")}, "New South Sea.hc");
+    for (const char* area : {"New South Sea", "new-south-sea", "NEW SOUTH SEA.HC", "New South Sea.hc"})
+        EXPECT_TRUE(has(runwith({"--area", area, "--list"}).out, "Abroad")) << area;
+    expectrefused(runwith({"--area", "new sout see", "--sun"}),
+                  "no sea area is called so; the nearest names are New "
+                  "South Sea, UK");
     expectrefused(runwith({"--bad\nline"}), "'--bad?line'");
     expectrefused(runwith({"--port", "  "}), "--port needs");
     expectrefused(runwith({"--date", "2024-01-01 "}), "is no date");

@@ -96,6 +96,42 @@ TEST_F(FrmCheckPort, LinesArePastedFromOtherTables) {
     EXPECT_FALSE(form.isVisible());
 }
 
+TEST_F(FrmCheckPort, ADateThatIsMendedIsThatOfItsLinesToo) {
+    frmcheckport form(context, area(), 2);
+    present(form);
+    scripted.clipboard.contents = "14 Jully 2026 0612 3.1 1220 1.9\n1830 3.0\n15/7/2026 0700 3.1";
+    form.cmdPaste->click();
+    EXPECT_EQ(form.check().waters.size(), 4U);
+    EXPECT_EQ(cell(form, 2, frmcheckport::datecolumn), "14 Jully 2026");
+    EXPECT_TRUE(shown(*form.lblSaid).starts_with("4 lines added; lines 1, 2 and 3 are left out"))
+        << shown(*form.lblSaid);
+    form.table->setCurrentCell(0, frmcheckport::datecolumn);
+    type("Tue 14 July 2026");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    for (const int row : {0, 1, 2})
+        EXPECT_EQ(cell(form, row, frmcheckport::datecolumn), "2026-07-14") << row;
+    EXPECT_EQ(cell(form, 3, frmcheckport::datecolumn), "2026-07-15");
+    scripted.clipboard.contents = "16/7/2026";
+    form.table->setCurrentCell(3, frmcheckport::datecolumn);
+    form.cmdPaste->click();
+    EXPECT_EQ(cell(form, 3, frmcheckport::datecolumn), "2026-07-16") << "one field goes into the cell";
+    EXPECT_EQ(cell(form, 2, frmcheckport::datecolumn), "2026-07-14");
+}
+
+TEST_F(FrmCheckPort, NotesThatArentUnderstoodAreToldOnceAndKept) {
+    const std::string path = ownportspath(session.folders);
+    for (const bool told : {true, false}) {
+        if (told) putfile(path, "{\"areas\": {}, \"colours\": 1}");
+        frmaboutport about(context, area(), 2);
+        present(about);
+        EXPECT_EQ(about.lblKept->isVisible(), told);
+        frmcheckport form(context, area(), 2);
+        present(form);
+        EXPECT_FALSE(form.lblKept->isVisible()) << "told before";
+    }
+    EXPECT_EQ(filetext(path + ".broken"), "{\"areas\": {}, \"colours\": 1}");
+}
+
 TEST_F(FrmCheckPort, WhatEscapeTakesBackIsNotKept) {
     frmcheckport form(context, area(), 2);
     present(form);

@@ -2,6 +2,7 @@
 #include "atlas/frmfinder.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 
 #include "atlas/frmaboutport.h"
 #include "fakes/mainfixture.h"
@@ -19,6 +20,15 @@ HarmonicRecord portat(const std::string& name, float latitude, float longitude, 
     port.PortLong = longitude;
     return port;
 }
+
+/// Counts what a box is asked about keys.
+struct Overrides : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::ShortcutOverride;
+        return false;
+    }
+};
 
 /// "Far South.hc" beside the fixture's area: Port Alder, Wattle Cove, told of in its table, and Banksia.
 struct FrmFinder : testing::Test, MainFixture {
@@ -207,17 +217,23 @@ TEST_F(FrmFinder, AnotherWindowMayReadTheAreasAnew) {
     World world = readworld(session.folders);
     frmfinder form(context, world, Lighting::day);
     std::size_t about = 0, onmap = 0;
+    std::string stale = "?";
     form.onabout = [&](std::size_t place) {
         about = place;
         std::filesystem::remove(far);
         rereadworld(session.folders, world);
+        // The list still has the rows of before, the last of them of a port that there isn't any more.
+        stale = form.ports->celltext(0, FinderTable::name).toStdString();
         form.grab();
     };
     form.onmap = [&](std::size_t place) { onmap = place; };
-    form.type("wattle");
+    form.type("cedar");
     present(form);
     form.cmdAbout->click();
-    EXPECT_EQ(about, 1U);
+    EXPECT_EQ(about, 5U);
+    EXPECT_EQ(stale, "");
+    EXPECT_EQ(names(form), Names{"Cedar Head"});
+    form.type("wattle");
     EXPECT_TRUE(names(form).empty());
     form.type("cedar");
     form.cmdMap->click();
@@ -231,6 +247,16 @@ TEST_F(FrmFinder, FavouritesAreMarkedByKeyButtonAndStar) {
         EXPECT_TRUE(form.cmdAbout->isVisible() && form.cmdMap->isVisible());
         QTest::keyClicks(form.txtFind, "banksia");
         QTest::keyClick(form.txtFind, Qt::Key_D, Qt::ControlModifier);
+        // On some desktops the box would take that key for itself, to delete a letter: it isn't asked.
+        Overrides asked;
+        form.txtFind->removeEventFilter(&form);
+        form.txtFind->installEventFilter(&asked);
+        form.txtFind->installEventFilter(&form);
+        for (const auto key : {Qt::Key_D, Qt::Key_A}) {
+            QKeyEvent pressed(QEvent::ShortcutOverride, key, Qt::ControlModifier);
+            QApplication::sendEvent(form.txtFind, &pressed);
+            EXPECT_EQ(asked.count, key == Qt::Key_D ? 0 : 1);
+        }
         EXPECT_EQ(favourites(), 1U);
         EXPECT_TRUE(form.cmdFavourite->isChecked());
         EXPECT_EQ(form.ports->celltext(0, FinderTable::star), "\u2605");
@@ -264,6 +290,23 @@ TEST_F(FrmFinder, FavouritesAreMarkedByKeyButtonAndStar) {
         EXPECT_EQ(shown(*form.lblFound).find("Favourites can't be kept: "), 0U) << shown(*form.lblFound);
         EXPECT_FALSE(form.cmdFavourite->isChecked());
     });
+}
+
+TEST_F(FrmFinder, AFileThatIsntUnderstoodIsToldOnceAndKept) {
+    const std::string path = finderkeepspath(session.folders);
+    putfile(path, "{\"recents\": 5}");
+    find([&](frmfinder& form) {
+        EXPECT_TRUE(form.lblKept->isVisible());
+        EXPECT_EQ(form.lblKept->toolTip().toStdString(),
+                  "Finder.json wasn't understood whole. What could be read of it is used, and as it was it lies in " +
+                      path + ".broken.");
+        putfile(path, "{\"recents\": 6}");
+        form.cmdFavourite->click();
+        EXPECT_TRUE(form.lblKept->toolTip().endsWith(".broken2.")) << "it broke meanwhile";
+    });
+    EXPECT_EQ(filetext(path + ".broken"), "{\"recents\": 5}");
+    EXPECT_EQ(readfinderkeeps(path).favourites.size(), 1U);
+    find([](frmfinder& form) { EXPECT_FALSE(form.lblKept->isVisible()); });
 }
 
 TEST_F(FrmFinder, WhatStaysOnShowBecomesRecentAndWhatIsLeafedThroughDoesNot) {

@@ -95,6 +95,17 @@ TEST_F(FrmMap, AClickOnAMarkChoosesThePortAndTheMapStays) {
     EXPECT_EQ(inhand(), "Cedar Head") << "a drag that begins on a mark chooses nothing";
 }
 
+TEST_F(FrmMap, AMarkWhoseFileHasAnotherPortByNowChoosesNone) {
+    const QPoint cedar = spot(area(), 3);
+    const std::string before = main->portbox->text().toStdString();
+    put(area(), 3, "Cedar Quay", 49.65F, -1.65F);
+    QTest::mouseClick(map, Qt::LeftButton, {}, cedar);
+    EXPECT_EQ(main->portbox->text().toStdString(), before);
+    EXPECT_EQ(shown(*window->lblPointed), "Cedar Head isn't where it was: " + area() + " has changed or is gone");
+    QTest::mouseClick(map, Qt::LeftButton, {}, cedar);
+    EXPECT_EQ(main->portbox->text(), "Port    : Cedar Quay") << "the map shows it as it is now";
+}
+
 TEST_F(FrmMap, ThePacificIsReachedByDraggingOnAndOn) {
     map->wholeworld();
     const QPoint middle = map->rect().center();

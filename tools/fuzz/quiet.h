@@ -6,7 +6,7 @@
 
 #include "platform/canvas.h"
 #include "platform/services.h"
-#include "tides/englishlocale.h"
+#include "dates/englishlocale.h"
 
 namespace tarvane::fuzz {
 

@@ -174,9 +174,11 @@ void readownnotes(const std::string& folder, Random&) {
     const Services services = quiet.services();
     const AboutOf of = aboutof(folders, folder + "/UK.hc", 1);
     TableCheck check = of.check;
-    for (const TableWater& water : pastedwaters(wholetext(ownportspath(folders))))
+    const DateConventions conventions{"DD/MM/YYYY", "/"};
+    const DateReading dates{conventions, services.locale, services.clock.now().today};
+    for (const TableWater& water : pastedwaters(wholetext(ownportspath(folders)), dates))
         check.waters.push_back(water);
-    sheettext(aboutsheet(of, services.clock.moment(), services.zones, services.locale));
+    sheettext(aboutsheet(of, services.clock.moment(), services.zones));
     keepcheck(folders, of.hcfile, of.port, of.number, check);
 }
 

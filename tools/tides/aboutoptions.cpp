@@ -24,7 +24,7 @@ std::string takeformat(const std::string& value, Options& options) {
 
 constexpr std::array<ValueOption<Options>, 3> valueoptions{{
     {"--port", "NUMBER|NAME|all", "the port, in place of the stored one; or all", takeport},
-    {"--area", "FILE.hc|all", "the sea area file, in place of the stored one; or all, every area", takearea},
+    {"--area", "AREA|all", "the sea area, by its name or its file, in place of the stored one; or all of them", takearea},
     {"--format", "text|csv|json", "how the result is written; text when left out", takeformat},
 }};
 

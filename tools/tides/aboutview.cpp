@@ -3,7 +3,6 @@
 #include "atlas/aboutlines.h"
 #include "portdata/aboutwords.h"
 #include "text/numbers.h"
-#include "tides/englishlocale.h"
 #include "tides/textforms.h"
 #include "tides/views.h"
 
@@ -49,7 +48,7 @@ void abouttext(const ViewContext& context, std::ostream& out) {
     for (const PortInHand& port : context.ports) {
         AboutOf of{context.settings.hcfile, context.areaname, port.port.number, port.port.record, port.known, {}};
         of.check = checkof(context.plan.known.notes, of.hcfile, of.port, of.number);
-        const AboutSheet sheet = aboutsheet(of, context.plan.now, *context.plan.zones, EnglishLocale());
+        const AboutSheet sheet = aboutsheet(of, context.plan.now, *context.plan.zones);
         portheading(context, port, out);
         out << "\n";
         for (const AboutLine& line : sheet.lines)

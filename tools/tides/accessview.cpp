@@ -7,7 +7,7 @@
 #include "planner/plantexts.h"
 #include "portdata/aboutwords.h"
 #include "text/numbers.h"
-#include "tides/englishlocale.h"
+#include "dates/englishlocale.h"
 #include "tides/planparts.h"
 #include "tides/textforms.h"
 

@@ -6,6 +6,7 @@
 #include "files/programplace.h"
 #include "files/wholefiles.h"
 #include "portdata/datafolder.h"
+#include "portdata/portsearch.h"
 #include "portdata/recordfiles.h"
 #include "text/singlebyte.h"
 
@@ -91,6 +92,25 @@ std::string readarea(const std::string& path, AreaInHand& area) {
     for (const HarmonicRecord& record : area.records)
         area.names.push_back(trimmedname(record));
     return "";
+}
+
+std::string readtypedarea(const ProgramFolders& folders, const std::string& typed, AreaInHand& area) {
+    if (canopen(typed) || typed.empty() || typed.find('/') != std::string::npos) return readarea(typed, area);
+    constexpr std::string_view ending = ".hc";
+    const bool ended = lowercase(typed).ends_with(ending);
+    const std::string wanted = ended ? typed.substr(0, typed.size() - ending.size()) : typed;
+    const std::vector<std::string> paths = everyarea(folders);
+    std::vector<std::string> names;
+    for (const std::string& path : paths)
+        names.push_back(std::filesystem::path(path).stem().string());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        if (foldname(names[i]) == foldname(wanted)) return readarea(paths[i], area);
+    constexpr std::size_t most = 3;
+    std::string fault = "the sea area file " + typed + " can't be read, and no sea area is called so";
+    const std::vector<std::size_t> nearest = nearestports(names, wanted, most);
+    for (std::size_t i = 0; i < nearest.size(); ++i)
+        fault += (i == 0 ? "; the nearest names are " : ", ") + names[nearest[i]];
+    return fault;
 }
 
 }  // namespace tarvane

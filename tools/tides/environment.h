@@ -39,4 +39,8 @@ struct AreaInHand {
 /// Reads the area file at `path`, which a configuration may leave empty. The fault, empty when there is none.
 std::string readarea(const std::string& path, AreaInHand& area);
 
+/// The same of an area as it is typed: the path of a file, else the name of one that the program keeps, whatever its
+/// case and accents, with its ending or without. A name that none has is a fault that tells the nearest ones.
+std::string readtypedarea(const ProgramFolders& folders, const std::string& typed, AreaInHand& area);
+
 }  // namespace tarvane

@@ -71,10 +71,11 @@ void takeconstants(const HarmonicConstants& found, HarmonicRecord& record) {
 std::string fitplace(const FitOptions& options, const TidesEnvironment& environment, FittedPlace& place) {
     Settings settings;
     std::string fault;
-    if (!options.area) fault = readsettings(foldersof(environment), settings);
+    const ProgramFolders folders = foldersof(environment);
+    if (!options.area) fault = readsettings(folders, settings);
     if (!fault.empty()) return fault;
     AreaInHand area;
-    fault = readarea(options.area.value_or(settings.hcfile), area);
+    fault = options.area ? readtypedarea(folders, *options.area, area) : readarea(settings.hcfile, area);
     if (fault.empty()) fault = takeports(options, area, place);
     if (fault.empty()) fault = takereadings(options.readings, place.day);
     if (!fault.empty()) return fault;

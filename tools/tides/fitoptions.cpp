@@ -57,7 +57,7 @@ std::string takeformat(const std::string& value, FitOptions& options) {
 }
 
 constexpr std::array<ValueOption<FitOptions>, 6> valueoptions{{
-    {"--area", "FILE.hc", "the sea area file, in place of the stored one", takearea},
+    {"--area", "AREA", "the sea area, by its name or its file, in place of the stored one", takearea},
     {"--near", "NUMBER|NAME", "a port by its number, its name or a part of its name; to be given for two", takenear, 2},
     {"--readings", "FILE.csv", "the heights read: a line date,time,height and below it YYYY-MM-DD,hh:mm,metres",
      takereadings},

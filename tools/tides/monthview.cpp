@@ -3,7 +3,7 @@
 #include "dates/summertime.h"
 #include "output/monthtable.h"
 #include "text/numbers.h"
-#include "tides/englishlocale.h"
+#include "dates/englishlocale.h"
 #include "tides/textforms.h"
 #include "tides/views.h"
 

@@ -66,7 +66,8 @@ std::string takeplan(const std::string& value, Options& options) {
 constexpr std::size_t boatoptions = 7;  // from here on those of a boat's passage
 
 constexpr std::array<ValueOption<Options>, 14> valueoptions{{
-    {"--area", "FILE.hc|all", "the sea area file, in place of the stored one; or all of them", takearea},
+    {"--area", "AREA|all", "the sea area, by its name or its file, in place of the stored one; or all of them",
+     takearea},
     {"--port", "NUMBER|NAME|all", "a port by its number, its name or a part of its name, or every port", takeport},
     {"--date", "YYYY-MM-DD", "the first day, in place of today", takedate},
     {"--days", "N", "how many days, 1 to 3660", takedays},

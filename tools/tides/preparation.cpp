@@ -67,7 +67,7 @@ std::string takeareas(const Options& options, const ProgramFolders& folders, con
                       std::vector<AreaInHand>& areas, std::ostream& err) {
     if (!options.allareas()) {
         areas.emplace_back();
-        return readarea(options.area.value_or(settings.hcfile), areas[0]);
+        return options.area ? readtypedarea(folders, *options.area, areas[0]) : readarea(settings.hcfile, areas[0]);
     }
     for (const std::string& path : everyarea(folders)) {
         AreaInHand area;
@@ -135,7 +135,7 @@ std::string prepare(const Options& options, const TidesEnvironment& environment,
         fault = prepareareas(options, environment, contexts, err);
     } else {
         AreaInHand readable;
-        if (options.area && !options.allareas()) fault = readarea(*options.area, readable);
+        if (options.area && !options.allareas()) fault = readtypedarea(foldersof(environment), *options.area, readable);
         contexts.emplace_back();
     }
     for (ViewContext& context : contexts) {

@@ -61,11 +61,11 @@ std::string takereference(const StreamsOptions& options, const ProgramFolders& f
     Settings& settings = streams.context.settings;
     std::string fault = readsettings(folders, settings);
     if (!fault.empty()) return fault;
-    if (options.area) settings.hcfile = *options.area;
     if (options.summer) settings.summerflag2 = *options.summer ? -1 : 0;
     AreaInHand area;
-    fault = readarea(settings.hcfile, area);
+    fault = options.area ? readtypedarea(folders, *options.area, area) : readarea(settings.hcfile, area);
     if (!fault.empty()) return fault;
+    settings.hcfile = area.path;
     streams.context.areaname = area.name;
     const std::string wanted = options.port.value_or(numbertext(settings.currentport));
     const PortChoice choice = chooseports(area.names, wanted, area.name);

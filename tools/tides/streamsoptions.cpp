@@ -44,7 +44,7 @@ std::string takeformat(const std::string& value, StreamsOptions& options) {
 
 constexpr std::array<ValueOption<StreamsOptions>, 6> valueoptions{{
     {"--diamond", "FILE:ID", "the diamond: its file (.l20, .l30 or .l40) and its letter", takediamond},
-    {"--area", "FILE.hc", "the sea area file, in place of the stored one", takearea},
+    {"--area", "AREA", "the sea area, by its name or its file, in place of the stored one", takearea},
     {"--port", "NUMBER|NAME", "the diamond's reference port, in place of the stored port", takeport},
     {"--date", "YYYY-MM-DD", "the day, in place of today", takedate},
     {"--summer", "on|off", "adjust for summer time or not, in place of the stored choice", takesummer},

@@ -8,7 +8,7 @@
 #include "session/otherclocks.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
-#include "tides/englishlocale.h"
+#include "dates/englishlocale.h"
 
 namespace tarvane {
 

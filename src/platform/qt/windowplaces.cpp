@@ -30,6 +30,10 @@ bool seen(const QRect& window) {
     return false;
 }
 
+QString sizetext(QSize size) {
+    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+}
+
 }  // namespace
 
 WindowPlaces::WindowPlaces(const std::string& path)
@@ -42,6 +46,8 @@ void WindowPlaces::restore(QWidget& window) const {
     const QScreen* screen = QGuiApplication::screenAt(wanted.center());
     if (place.isEmpty() || !seen(wanted) || !screen) return;
     const QSize room = screen->availableGeometry().size();
+    // A size is of the screen, and its scaling, that it was chosen on.
+    if (place.contains("screen") && place["screen"].toString() != sizetext(screen->size())) return;
     wanted.setSize(wanted.size().boundedTo(room).expandedTo(window.minimumSize()).boundedTo(window.maximumSize()));
     window.setGeometry(wanted);
     if (place["maximized"].toBool()) window.setWindowState(window.windowState() | Qt::WindowMaximized);
@@ -50,7 +56,8 @@ void WindowPlaces::restore(QWidget& window) const {
 void WindowPlaces::keep(const QWidget& window) {
     if (window.isMinimized()) return;
     const QRect stands = window.isMaximized() ? window.normalGeometry() : window.geometry();
-    const QJsonObject place{{"left", stands.left()},
+    const QJsonObject place{{"screen", sizetext(window.screen()->size())},
+                            {"left", stands.left()},
                             {"top", stands.top()},
                             {"width", stands.width()},
                             {"height", stands.height()},

@@ -1,4 +1,4 @@
-// The names of months and days that `tides` writes: English on every machine. Must not ask the system.
+// The names of months and days in English on every machine, for sentences that are English. Must not ask the system.
 #pragma once
 
 #include <array>

@@ -1,0 +1,34 @@
+// Lines of official tables as they are copied from elsewhere. Must not guess: a line
+// that can be meant in two ways isn't read, and keeps its text.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "atlas/tablefields.h"
+#include "portdata/ownports.h"
+
+namespace tarvane {
+
+/// How this machine writes dates.
+struct DateReading {
+    const DateConventions& conventions;
+    const Locale& locale;
+    Date today;
+};
+
+/// A date in the system's order as "2026-07-14", whatever name of a weekday stands with it; months and weekdays may
+/// have their names in the system's language or in English. What can't be read as it is; a date that isn't on the
+/// weekday named as "Sun 2026-07-14".
+std::string tidydate(const std::string& typed, const DateReading& dates);
+
+/// Why that isn't the date of a line, "2026-07-14 is a Tuesday"; empty when it is one.
+std::string datefault(const std::string& tidied);
+
+/// Lines copied from elsewhere, "Sat 14/07/2026 0612 5.4 1130 0.9" or parts of it, between blanks, tabs, semicolons,
+/// or commas that are no decimal ones: one of each water. A line without a date has that of the line before, `date` at
+/// first, be it understood or not; a date alone is that of the lines behind it. What can't be read stands as the date
+/// of its line. A heading's unit is that of the heights below it that have none.
+std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, std::string date = "");
+
+}  // namespace tarvane

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "planner/planlimits.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
@@ -12,18 +13,18 @@ namespace {
 
 struct FieldRule {
     const char* name;
-    double least, most;
+    PlanLimit limit;
     const char* unit;
     bool optional = false;
 };
 
-constexpr std::array<FieldRule, planfields> rules{{{"Draught", 0, 40, "metres"},
-                                                   {"Clearance", 0, 40, "metres"},
-                                                   {"Bottom", -40, 500, "metres"},
-                                                   {"Bridge", 0, 200, "metres", true},
-                                                   {"Mast", 0, 200, "metres", true},
-                                                   {"Bridge's level", -40, 40, "metres", true},
-                                                   {"Least time", 0, 1440, "minutes", true}}};
+constexpr std::array<FieldRule, planfields> rules{{{"Draught", planlimits::draught, "metres"},
+                                                   {"Clearance", planlimits::clearance, "metres"},
+                                                   {"Bottom", planlimits::bottom, "metres"},
+                                                   {"Bridge", planlimits::bridge, "metres", true},
+                                                   {"Mast", planlimits::airdraught, "metres", true},
+                                                   {"Bridge's level", planlimits::bridgelevel, "metres", true},
+                                                   {"Least time", planlimits::leastminutes, "minutes", true}}};
 
 std::string fieldtext(double value) {
     // Stored singles read as they were typed.
@@ -60,10 +61,10 @@ QuestionRead readquestion(const PlanQuestion& question) {
         if (ofbridge && !values[static_cast<std::size_t>(PlanField::bridge)]) continue;
         if (rule.optional && trim(question[i]).empty()) continue;
         values[i] = typednumber(question[i]);
-        if (values[i] && *values[i] >= rule.least && *values[i] <= rule.most) continue;
+        if (values[i] && rule.limit.holds(*values[i])) continue;
         read.refused = static_cast<PlanField>(i);
-        read.refusal = std::string(rule.name) + ": write " + rule.unit + " from " + fieldtext(rule.least) + " to " +
-                       fieldtext(rule.most) + ", not \u201C" + trim(question[i]) + "\u201D";
+        read.refusal = std::string(rule.name) + ": write " + rule.unit + " from " + fieldtext(rule.limit.least) +
+                       " to " + fieldtext(rule.limit.most) + ", not \u201C" + trim(question[i]) + "\u201D";
     }
     if (!read.refusal.empty()) return read;
     const auto value = [&](PlanField field) { return values[static_cast<std::size_t>(field)]; };

@@ -267,9 +267,9 @@ TEST(PlanLabels, TheMoreImportantStay) {
         return Label{{std::to_string(int(x))}, {}, {x, 10}, importance};
     };
     LabelPlaces places(canvas, {0, 0, 400, 100});
-    const Area kept = places.takefree({100, 0, 150, 20});
-    EXPECT_EQ(kept.left, 100);
-    EXPECT_GE(places.takefree({100, 0, 150, 20}).left, 150);
+    EXPECT_EQ(places.takefirst({{390, 0, 410, 20}, {100, 0, 150, 20}})->left, 100);
+    EXPECT_EQ(places.takefirst({{140, 0, 160, 20}, {150, 0, 190, 20}})->left, 150);
+    EXPECT_FALSE(places.takefirst({{140, 0, 160, 20}, {-10, 0, 20, 20}}));
     std::vector<std::string> told;
     for (const Label& each : places.place({label(210, 1), label(220, 3), label(230, 2), label(-5, 1), label(120, 9)}))
         told.push_back(each.lines[0]);

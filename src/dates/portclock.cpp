@@ -1,5 +1,6 @@
 #include "dates/portclock.h"
 
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 
@@ -31,6 +32,12 @@ std::string utname(seconds ahead) {
     std::string name = std::string(ahead < seconds(0) ? "UT-" : "UT+") + std::to_string(whole / 60);
     if (whole % 60 != 0) name += (whole % 60 < 10 ? ":0" : ":") + std::to_string(whole % 60);
     return name;
+}
+
+std::string zonename(const ZoneOffset& offset) {
+    const bool letters =
+        !offset.abbreviation.empty() && std::isalpha(static_cast<unsigned char>(offset.abbreviation[0]));
+    return letters ? offset.abbreviation : utname(offset.ahead);
 }
 
 std::string clocktext(const ClockTime& time) {
@@ -71,7 +78,7 @@ seconds PortClock::aheadat(Moment moment, std::string* name) const {
         return ahead;
     }
     if (!known_ || moment < known_->from || moment >= known_->until) known_ = zones_.offsetat(iana_, moment);
-    if (name) *name = known_->abbreviation;
+    if (name) *name = zonename(*known_);
     return known_->ahead;
 }
 

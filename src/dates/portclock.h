@@ -61,6 +61,9 @@ class PortClock {
 /// "UT", "UT+1", "UT-3:30"
 std::string utname(std::chrono::seconds ahead);
 
+/// "BST"; "UT-4" where the zone has no letters for what its clocks show.
+std::string zonename(const ZoneOffset& offset);
+
 /// "05:40"
 std::string clocktext(const ClockTime& time);
 

@@ -49,12 +49,35 @@ void findwaters(const TideSpan& span, std::vector<Water>& waters) {
     }
 }
 
-/// Two of a kind with little water between them are one tide that stands or doubles, and the turn between is of it.
+/// So near that nobody would tell them apart.
+bool near(const Water& first, const Water& second) {
+    return second.hours - first.hours < standhours && std::abs(second.height - first.height) < standmetres;
+}
+
+/// Within a stand, and with the waters on its two sides, only the highest high and the lowest low are turns of the
+/// tide.
+void markslight(std::vector<Water>& waters, std::size_t from, std::size_t to) {
+    const std::size_t first = from - std::min<std::size_t>(from, 1), last = std::min(to + 1, waters.size() - 1);
+    for (std::size_t i = from; i <= to; ++i)
+        for (std::size_t j = first; j <= last; ++j) {
+            if (j == i || waters[j].high != waters[i].high) continue;
+            const double beyond = (waters[j].height - waters[i].height) * (waters[i].high ? 1 : -1);
+            // Of equal ones the first counts.
+            waters[i].slight = waters[i].slight || beyond > 0 || (beyond == 0 && j < i);
+        }
+}
+
+/// A high and a low with little water between them are a tide that stands; so are two of a kind and the turn between.
 void markstands(std::vector<Water>& waters) {
-    for (std::size_t i = 0; i + 2 < waters.size(); ++i) {
-        Water &first = waters[i], &second = waters[i + 2];
-        if (second.hours - first.hours >= standhours || std::abs(second.height - first.height) >= standmetres) continue;
-        first.stand = waters[i + 1].stand = second.stand = true;
+    for (std::size_t i = 0; i < waters.size();) {
+        std::size_t last = i;
+        for (std::size_t j = i; j <= last; ++j)
+            for (const std::size_t aside : {std::size_t{1}, std::size_t{2}})
+                if (j + aside < waters.size() && near(waters[j], waters[j + aside])) last = std::max(last, j + aside);
+        for (std::size_t j = i; last > i && j <= last; ++j)
+            waters[j].stand = true;
+        if (last > i) markslight(waters, i, last);
+        i = last + 1;
     }
 }
 

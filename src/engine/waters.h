@@ -14,7 +14,8 @@ struct Water {
     double hours = 0;   ///< of zone time from 00:00 of the span's first day
     double height = 0;  ///< metres above chart datum
     bool high = false;
-    bool stand = false;  ///< one of two of a kind less than 2 hours and 0.1 m apart, or the turn between them
+    bool stand = false;   ///< one of two less than 2 hours and 0.1 m apart, or the turn between two such of a kind
+    bool slight = false;  ///< of a stand, and another of its kind of it or beside it goes beyond: no turn of the tide
     double springshare =
         0;  ///< mean of the ranges on both sides, each the greatest to a water of the other kind within
             ///< 12.42 hours or else to the next, over the port's mean spring range; 0 without either

@@ -29,25 +29,18 @@ bool LabelPlaces::isfree(const Area& area) const {
            std::none_of(taken_.begin(), taken_.end(), [&](const Area& each) { return overlap(area, each); });
 }
 
-Area LabelPlaces::takefree(const Area& wanted) {
-    const auto inway =
-        std::find_if(taken_.begin(), taken_.end(), [&](const Area& each) { return overlap(wanted, each); });
-    const auto moved = [&](double right, double down) {
-        return Area{wanted.left + right, wanted.top + down, wanted.right + right, wanted.bottom + down};
-    };
-    std::vector<Area> places{wanted};
-    if (inway != taken_.end())
-        places = {moved(inway->right + apart - wanted.left, 0), moved(0, inway->bottom - wanted.top),
-                  moved(0, inway->top - wanted.bottom)};
-    const auto place = std::find_if(places.begin(), places.end(),
-                                    [&](const Area& each) { return each.right <= within_.right && isfree(each); });
-    taken_.push_back(place == places.end() ? wanted : *place);
-    return taken_.back();
+std::optional<Area> LabelPlaces::takefirst(const std::vector<Area>& choices) {
+    const auto place = std::find_if(choices.begin(), choices.end(), [&](const Area& each) {
+        return each.left >= within_.left && each.right <= within_.right && isfree(each);
+    });
+    if (place == choices.end()) return std::nullopt;
+    taken_.push_back(*place);
+    return *place;
 }
 
 std::optional<Label> LabelPlaces::placefirst(const std::vector<Label>& choices) {
     for (const Label& each : choices) {
-        const Area area = areaof(canvas_, each);
+        const Area area = areaof(*canvas_, each);
         if (area.left < within_.left || area.right > within_.right || !isfree(area)) continue;
         taken_.push_back(area);
         return each;
@@ -60,7 +53,7 @@ std::vector<Label> LabelPlaces::place(std::vector<Label> labels) {
                      [](const Label& one, const Label& other) { return one.importance > other.importance; });
     std::vector<Label> placed;
     for (Label& label : labels) {
-        Area area = areaof(canvas_, label);
+        Area area = areaof(*canvas_, label);
         const double inside = std::max(within_.left - area.left, 0.0) + std::min(within_.right - area.right, 0.0);
         label.middle.x += inside;
         area.left += inside;

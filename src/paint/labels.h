@@ -24,11 +24,10 @@ Area areaof(const Canvas& canvas, const Label& label);
 
 class LabelPlaces {
   public:
-    LabelPlaces(const Canvas& canvas, const Area& within) : canvas_(canvas), within_(within) {}
+    LabelPlaces(const Canvas& canvas, const Area& within) : canvas_(&canvas), within_(within) {}
 
-    /// Keeps an area free of labels: the one wanted, or where another was taken there one to the right of that, under
-    /// or over it.
-    Area takefree(const Area& wanted);
+    /// Keeps the first of several areas free that has room; nothing where none has.
+    std::optional<Area> takefirst(const std::vector<Area>& choices);
 
     /// Keeps the very area free, whatever was taken there.
     void take(const Area& area) { taken_.push_back(area); }
@@ -42,7 +41,7 @@ class LabelPlaces {
   private:
     bool isfree(const Area& area) const;
 
-    const Canvas& canvas_;
+    const Canvas* canvas_;
     Area within_;
     std::vector<Area> taken_;
 };

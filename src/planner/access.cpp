@@ -21,6 +21,7 @@ std::optional<Stretch> within(const TideSpan& span, const TideRun& run, double f
 Stretches passable(const TideSpan& span, Stretch between, double floor, double ceiling) {
     Stretches open;
     for (const TideRun& run : span.runs()) {
+        if (run.to < between.from || run.from > between.to) continue;
         const std::optional<Stretch> part = within(span, run, floor, ceiling);
         if (!part) continue;
         addstretch(open, std::max(part->from, between.from), std::min(part->to, between.to));

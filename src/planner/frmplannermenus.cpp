@@ -82,7 +82,7 @@ void frmplanner::buildmenus() {
     buildfilemenu();
     QMenu* edit = menuBar()->addMenu("&Edit");
     add(edit, "mnuCopyTable", "Copy &Table", QKeySequence("Ctrl+Shift+C"),
-        [this] { copyplantable(context, static_cast<PlanTableBox*>(pages->currentWidget())->table()); });
+        [this] { copyplantable(context, view, static_cast<PlanTableBox*>(pages->currentWidget())->table()); });
     add(edit, "mnuCopyPicture", "Copy &Picture", QKeySequence("Ctrl+Alt+C"),
         [this] { copyplanpicture(context, view, picture->width(), picture->height()); });
 

@@ -137,7 +137,8 @@ void paintday(Canvas& canvas, const Area& cell, const MonthLayout& layout, const
     paintwaters(canvas, lows, layout, pages, day, false);
     const Area curve{cell.left + cellinset, cell.top + dayhead, cell.right - cellinset, layout.waterstop(cell) - 2};
     const bool words = !day.missing.empty();
-    if (curve.height() >= leastcurve && day.missing != "no prediction") paintdaycurve(canvas, curve, pages, day);
+    if (curve.height() >= leastcurve && day.exists() && day.missing != "no prediction")
+        paintdaycurve(canvas, curve, pages, day);
     const TextLook missing{look.faint, pagetype::lesser, false, Anchor::middle};
     if (words) canvas.text({(cell.left + cell.right) / 2, curve.top}, day.missing, missing);
 }

@@ -43,15 +43,17 @@ Moment changebetween(const PortClock& clock, Moment from, Moment to) {
 }
 
 void setchange(const PortClock& clock, DayFacts& day) {
-    const Moment before = day.begins - minutes(1), last = day.ends - minutes(1);
-    if (clock.at(before).ahead != clock.at(last).ahead) day.change = changebetween(clock, before, last);
+    if (clockchangeson(clock, day.date))
+        day.change = changebetween(clock, day.begins - minutes(1), day.ends - minutes(1));
 }
 
 void setmissing(const Plan& plan, DayFacts& day) {
     int told = 0, asked = 0;
     for (Moment moment = day.begins; moment < day.ends; moment += hours(1), ++asked)
         told += plan.height(moment).has_value();
-    if (told == 0)
+    if (day.begins == day.ends)
+        day.missing = "no such day";
+    else if (told == 0)
         day.missing = "no prediction";
     else if (day.waters.empty())
         day.missing = told < asked ? "partly no prediction" : "no high or low water";
@@ -115,9 +117,10 @@ std::string changewords(const PagePlan& pages, const DayFacts& day) {
            utname(after.ahead) + " at " + clocktext(shown);
 }
 
-std::string clockwords(const PagePlan& pages, const FootOf& foot) {
+std::string clocksentences(const PagePlan& pages, const FootOf& foot) {
     const PortClock& clock = pages.plan.clock();
-    std::string words = "Times by " + clock.description();
+    std::string words = timesby(clock);
+    words.front() = 'T';
     if (clock.description().find("UT") == std::string::npos && clock.description() != "universal time")
         words += ", " + utname(clock.at(pages.days[foot.first].begins).ahead);
     words += ".";
@@ -134,8 +137,9 @@ std::string clockwords(const PagePlan& pages, const FootOf& foot) {
 /// Why days are without a prediction.
 std::string missingwords(const PagePlan& pages, const FootOf& foot) {
     for (std::size_t i = foot.first; i < foot.last; ++i)
-        if (pages.days[i].missing.find("prediction") != std::string::npos)
-            return std::string(" No prediction: ") + pages.plan.whynot() + ".";
+        if (pages.days[i].missing.find("prediction") != std::string::npos || !pages.days[i].exists())
+            return (pages.days[i].exists() ? " No prediction: " : " No such day: ") + std::string(pages.plan.whynot()) +
+                   ".";
     return "";
 }
 
@@ -284,11 +288,10 @@ double pagefoot(Canvas& canvas, const Area& area, const PagePlan& pages, const F
     const Colours& look = coloursof(Lighting::day);
     const TextLook type{look.faint, pagetype::least};
     const TextLook maker{look.faint, pagetype::least, false, Anchor::right};
-    const std::string datum = pages.of.known.datum(), trust = trustclause(pages.of.known);
-    const std::string words = clockwords(pages, foot) + missingwords(pages, foot) +
-                              " Heights in metres above chart datum" + (datum.empty() ? "" : " (" + datum + ")") +
-                              (trust.empty() ? "" : "; " + trust) + ". " + (foot.more.empty() ? "" : foot.more + " ") +
-                              pagecaution;
+    const std::string trust = trustclause(pages.of.known);
+    const std::string words = clocksentences(pages, foot) + missingwords(pages, foot) + " Heights in metres above " +
+                              chartdatum(pages.of.known.datum()) + (trust.empty() ? "" : "; " + trust) + ". " +
+                              (foot.more.empty() ? "" : foot.more + " ") + pagecaution;
     const std::string name = std::string(programname) + (foot.page.empty() ? "" : ", " + foot.page);
     const double room = area.width() - canvas.textwidth(name, maker) - 20;
     const auto lines = wrapped(canvas, words, type, room);

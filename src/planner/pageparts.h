@@ -29,6 +29,7 @@ struct DayFacts {
     std::optional<Moment> change;    ///< the first moment at which the clock shows another offset
     std::string missing;             ///< in words, what isn't told of its waters; mostly empty
 
+    bool exists() const { return begins < ends; }
     bool weekend() const { return weekdayof(date) % 6 == 0; }
 };
 

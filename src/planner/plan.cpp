@@ -42,6 +42,42 @@ long tidenumber(const HarmonicRecord& port, Moment moment, bool high) {
     return std::lround(high ? turns : turns - 0.5);
 }
 
+/// The moment from which a span's hours are counted.
+Moment originof(const HarmonicRecord& port, Date first) {
+    return Moment(first) + hours(zonehoursof(port));
+}
+
+Moment atminute(Moment origin, double spanhours) {
+    return origin + minutes(std::lround(spanhours * 60));
+}
+
+std::vector<PlannedWater> namedwaters(const HarmonicRecord& port, const TideSpan& tides) {
+    std::vector<PlannedWater> waters;
+    std::array<std::optional<TideName>, 2> last;  // by kind
+    for (const Water& water : watersof(tides, meanspringrange(port))) {
+        PlannedWater each{atminute(originof(port, tides.firstday()), water.hours), water};
+        std::optional<TideName>& before = last.at(water.high ? 1 : 0);
+        each.name = {tidenumber(port, each.moment, water.high), water.high};
+        if (before && before->tide == each.name.tide) each.name.nth = before->nth + 1;
+        before = each.name;
+        waters.push_back(each);
+    }
+    return waters;
+}
+
+/// The last water between two moments at which she doesn't pass.
+std::optional<PlannedWater> lastbarring(const std::vector<PlannedWater>& waters, Moment from, Moment to,
+                                        const Passage& passage) {
+    const double floor = passage.needed(), ceiling = passage.ceiling().value_or(HUGE_VAL);
+    const auto bars = [&](const PlannedWater& each) {
+        return each.water.height < floor || each.water.height > ceiling;
+    };
+    const auto behind = std::upper_bound(waters.begin(), waters.end(), to,
+                                         [](Moment moment, const PlannedWater& each) { return moment < each.moment; });
+    const auto found = std::find_if(std::make_reverse_iterator(behind), waters.rend(), bars);
+    return found == waters.rend() || found->moment < from ? std::nullopt : std::optional(*found);
+}
+
 /// The range of a cosine that spreads the heights as those of the lunar day about a moment are spread: where waters
 /// double or stand, ranges from water to water tell nothing of springs. Nothing beside a day without a prediction.
 double rangeabout(const TideSpan& tides, double at) {
@@ -78,60 +114,62 @@ bool wished(const PortClock& clock, const PlannedWindow& window, const WindowWis
     return false;
 }
 
+bool hasday(const PortClock& clock, Date date) {
+    return clock.startof(date) < clock.startof(date + days(1));
+}
+
 Plan::Plan(const PlanOf& of, const Zones& zones)
     : of_(of),
       clock_(of.clock, zonehoursof(of.port), of.iana, zones),
       begins_(clock_.startof(of.first)),
       ends_(clock_.startof(of.first + days(of.days))),
-      origin_(Moment(spanstart(begins_, zonehoursof(of.port))) + hours(zonehoursof(of.port))),
+      origin_(originof(of.port, spanstart(begins_, zonehoursof(of.port)))),
       tides_(of.port, spanstart(begins_, zonehoursof(of.port)), spandays(begins_, ends_)) {
     if (lacksdays()) whynot_ = tides_.whynot();
+    for (int i = 0; i < of.days && *whynot_ == '\0'; ++i)
+        if (!hasday(clock_, of.first + days(i))) whynot_ = nosuchday;
     const Date first = floor<days>(origin_);
     light_ = lightof(of.port.PortLat, of.port.PortLong, first, tides_.days() + 1);
     const double offset = static_cast<double>((Moment(first) - origin_).count()) / 3600;
     shift(light_.day, offset);
     shift(light_.civil, offset);
-    for (const Water& water : watersof(tides_, meanspringrange(of.port)))
-        around_.push_back({momentof(water.hours), water});
-    nametides();
+    around_ = namedwaters(of.port, tides_);
     for (const PlannedWater& each : around_)
         if (each.moment >= begins_ && each.moment < ends_) waters_.push_back(each);
 }
 
-void Plan::nametides() {
-    std::array<std::optional<TideName>, 2> last;  // by kind
-    for (PlannedWater& each : around_) {
-        std::optional<TideName>& before = last.at(each.water.high ? 1 : 0);
-        each.name = {tidenumber(of_.port, each.moment, each.water.high), each.water.high};
-        if (before && before->tide == each.name.tide) each.name.nth = before->nth + 1;
-        before = each.name;
+/// The last of all waters before a moment at which she doesn't pass, be it outside the plan: a window may have been
+/// open for weeks.
+std::optional<PlannedWater> Plan::openingbefore(Moment moment, const Passage& passage) const {
+    constexpr int atonce = 30, most = 366;  // days
+    // A span's first waters may share a name with some ahead of it.
+    if (const auto near = lastbarring(around_, origin_ + days(1), moment, passage)) return near;
+    const Date start = tides_.firstday();
+    for (int back = atonce; back <= most; back += atonce) {
+        const TideSpan earlier(of_.port, start - days(back + 1), atonce + margin);
+        const Moment from = originof(of_.port, start - days(back));
+        if (const auto far = lastbarring(namedwaters(of_.port, earlier), from, moment, passage)) return far;
     }
+    return std::nullopt;
 }
 
-/// Where she passes at all waters looked at, the last one before the window.
-void Plan::nameopenings(std::vector<PlannedWindow>& windows, const Passage& passage) const {
-    const double floor = passage.needed(), ceiling = passage.ceiling().value_or(HUGE_VAL);
-    const auto passes = [&](const PlannedWater& each) {
-        return each.water.height >= floor && each.water.height <= ceiling;
-    };
-    for (PlannedWindow& window : windows) {
-        const auto behind =
-            std::upper_bound(around_.begin(), around_.end(), window.opens,
-                             [](Moment moment, const PlannedWater& each) { return moment < each.moment; });
-        const auto before = std::make_reverse_iterator(behind);
-        auto opening = std::find_if_not(before, around_.rend(), passes);
-        if (opening == around_.rend()) opening = before;
-        if (opening != around_.rend()) window.opening = opening->name;
-    }
-    for (std::size_t i = 1; i < windows.size(); ++i)
-        if (windows[i].opening == windows[i - 1].opening) windows[i].part = windows[i - 1].part + 1;
+void Plan::nameopening(PlannedWindow& window, const Passage& passage) const {
+    const auto opening = openingbefore(window.opens, passage);
+    if (!opening) return;
+    window.opening = opening->name;
+    const double from = spanhours(opening->moment), to = spanhours(window.opens);
+    if (from < 0 || from >= to) return;
+    // Windows since that water, whether the plan holds them or not; of one that the plan cuts the last is a part.
+    const std::vector<Window> before = accessof(tides_, {from, to}, passage, {}, {}).windows;
+    const bool itself = !before.empty() && window.opens - (origin_ + minutes(before.back().closes)) <= minutes(1);
+    window.part = static_cast<int>(before.size()) - (itself ? 1 : 0);
 }
 
 /// Whether a day of the span that lies within the plan has no prediction: those around may.
 bool Plan::lacksdays() const {
     for (Moment moment = begins_; moment < ends_; moment += days(1))
         if (!height(moment)) return true;
-    return !height(ends_ - minutes(1));
+    return begins_ < ends_ && !height(ends_ - minutes(1));
 }
 
 double Plan::spanhours(Moment moment) const {
@@ -140,16 +178,16 @@ double Plan::spanhours(Moment moment) const {
 
 /// To the nearest minute.
 Moment Plan::momentof(double spanhours) const {
-    return origin_ + minutes(std::lround(spanhours * 60));
+    return atminute(origin_, spanhours);
 }
 
 PlannedAccess Plan::access(const Passage& passage, const WindowWishes& wishes, bool twilight) const {
+    if (begins_ == ends_) return {{}, true, true, {}, {}};
     const Access found =
-        accessof(tides_, {spanhours(begins_), spanhours(ends_)}, passage, twilight ? light_.civil : light_.day, wishes);
+        accessof(tides_, {spanhours(begins_), spanhours(ends_)}, passage, twilight ? light_.civil : light_.day, {});
     PlannedAccess access{{}, found.always, found.never, found.greatestheight, found.leastheight};
     for (const Window& window : found.windows)
         access.windows.push_back({origin_ + minutes(window.opens), origin_ + minutes(window.closes), window});
-    nameopenings(access.windows, passage);
     std::erase_if(access.windows, [&](const PlannedWindow& window) { return !wished(clock_, window, wishes); });
     return access;
 }
@@ -196,7 +234,7 @@ std::optional<TideNow> Plan::now(Moment moment) const {
     if (!at) return std::nullopt;
     TideNow now{*at, rate(moment).value_or(0), {}, {}};
     for (const PlannedWater& each : around_) {
-        if (each.moment <= moment) continue;
+        if (each.moment <= moment || each.water.slight) continue;
         std::optional<PlannedWater>& next = each.water.high ? now.nexthigh : now.nextlow;
         if (!next) next = each;
     }

@@ -34,8 +34,8 @@ struct PlannedWater {
 struct PlannedWindow {
     Moment opens, closes;
     Window window;
-    TideName opening{};  ///< the last water before it at which she doesn't pass
-    int part = 0;        ///< of several with one such water, from 0 on
+    std::optional<TideName> opening{};  ///< where it is named: the last water before it at which she doesn't pass
+    int part = 0;                       ///< and which of several with one such water it is, from 0 on
 };
 
 struct PlannedAccess {
@@ -63,11 +63,21 @@ struct PlanOf {
     ClockChoice clock = ClockChoice::port;
 };
 
+/// False for a day that a clock leaves out, as one that crosses the date line has it.
+bool hasday(const PortClock& clock, Date date);
+
+/// Why there are no tides on such a day.
+inline constexpr const char* nosuchday = "The clock leaves this day out, it does not exist there";
+
 /// Height, tendency and rate at a moment, and what comes next.
 struct TideNow {
-    double height = 0;  ///< metres above chart datum
-    double rate = 0;    ///< metres an hour
-    std::optional<PlannedWater> nexthigh, nextlow;
+    double height = 0;                              ///< metres above chart datum
+    double rate = 0;                                ///< metres an hour
+    std::optional<PlannedWater> nexthigh, nextlow;  ///< turns of the tide: none that a stand has by the way
+
+    const std::optional<PlannedWater>& next() const {  ///< whichever comes first
+        return nexthigh && (!nextlow || nexthigh->moment < nextlow->moment) ? nexthigh : nextlow;
+    }
 };
 
 class Plan {
@@ -77,7 +87,7 @@ class Plan {
     const PlanOf& planof() const { return of_; }
     const PortClock& clock() const { return clock_; }
     Moment begins() const { return begins_; }  ///< of its first day on the clock
-    Moment ends() const { return ends_; }      ///< of the day behind its last
+    Moment ends() const { return ends_; }      ///< of the day behind its last, at once where its only day is left out
 
     /// Why there are no tides on some day of it; empty when there are on all.
     const char* whynot() const { return whynot_; }
@@ -91,6 +101,10 @@ class Plan {
     /// Windows by daylight from sunrise to sunset, or with civil twilight.
     PlannedAccess access(const Passage& passage, const WindowWishes& wishes, bool twilight) const;
 
+    /// Sets which window of a passage it is, the same one in every plan that holds some of it; no opening where she has
+    /// passed at all waters for a year.
+    void nameopening(PlannedWindow& window, const Passage& passage) const;
+
     /// Light within the plan, as moments.
     std::vector<std::pair<Moment, Moment>> light(bool twilight) const;
 
@@ -102,8 +116,7 @@ class Plan {
 
   private:
     bool lacksdays() const;
-    void nametides();
-    void nameopenings(std::vector<PlannedWindow>& windows, const Passage& passage) const;
+    std::optional<PlannedWater> openingbefore(Moment moment, const Passage& passage) const;
     double spanhours(Moment moment) const;
     Moment momentof(double spanhours) const;
 

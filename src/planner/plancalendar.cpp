@@ -132,6 +132,7 @@ std::string waterevent(const PlanPort& port, const HarmonicRecord& record, const
         clockwords(clock, water.moment) + ": " + metres(water.water.height, 2) + " above " + chartdatum(port.datum);
     if (water.water.springshare > 0)
         words += ", " + std::to_string(std::lround(100 * water.water.springshare)) + " % of the mean spring range";
+    if (water.water.stand) words += "; a stand";
     return eventtext({identifier(tidename(water.name), port), water.moment, water.moment + std::chrono::minutes(1),
                       what, words + ".\n" + caution(port)},
                      port, record, stamp);
@@ -148,7 +149,8 @@ std::string windowevent(const PlanPort& port, const HarmonicRecord& record, cons
     if (found.cutatstart) words += "\nIt was open before: the days looked at begin there.";
     if (found.cutatend) words += "\nIt stays open: the days looked at end there.";
     const std::string part = window.part > 0 ? "-" + std::to_string(window.part) : "";
-    return eventtext({identifier("passage-" + tidename(window.opening) + part, port), window.opens, window.closes,
+    const std::string opening = window.opening ? tidename(*window.opening) : "always";
+    return eventtext({identifier("passage-" + opening + part, port), window.opens, window.closes,
                       "Passable, " + port.name, words + "\n" + caution(port)},
                      port, record, stamp);
 }
@@ -165,8 +167,10 @@ std::string windowscalendar(const Plan& plan, const PlannedAccess& access, const
                             Moment stamp) {
     if (access.windows.empty()) return {};
     std::string text = calendarstart();
-    for (const PlannedWindow& each : access.windows)
+    for (PlannedWindow each : access.windows) {
+        plan.nameopening(each, passage);
         text += windowevent(port, plan.planof().port, plan.clock(), each, passage, stamp);
+    }
     return text + calendarend();
 }
 

@@ -14,7 +14,8 @@ namespace tarvane {
 std::string calendarstart();
 std::string calendarend();
 
-/// Events in universal time; `stamp` is the moment of writing. A water lasts a minute and makes nobody busy.
+/// Events in universal time; `stamp` is the moment of writing. A window is to be a named one. A water lasts a minute
+/// and makes nobody busy.
 std::string waterevent(const PlanPort& port, const HarmonicRecord& record, const PortClock& clock,
                        const PlannedWater& water, Moment stamp);
 std::string windowevent(const PlanPort& port, const HarmonicRecord& record, const PortClock& clock,

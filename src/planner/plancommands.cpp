@@ -100,7 +100,7 @@ Booklet bookletof(const MainContext& context, const PlanView& view, Sheet sheet)
     const PageOf of = pageof(view);
     if (sheet == Sheet::month) return monthpage(of, yearof(view.first), monthof(view.first), zones, locale);
     if (sheet == Sheet::almanac) return almanac(of, yearof(view.first), zones, locale);
-    return spanpage(of, view.first, view.settings.days, zones, locale);
+    return spanpage(of, view.first, view.plan->planof().days, zones, locale);
 }
 
 }  // namespace
@@ -165,8 +165,11 @@ void savesheet(MainContext& context, const PlanView& view, Sheet sheet) {
                       context.services.drawings.pdf(bookletof(context, view, sheet), paperof(context, view)));
 }
 
-void copyplantable(MainContext& context, const PlanTable& table) {
-    context.services.clipboard.settext(tabbedtext(table));
+void copyplantable(MainContext& context, const PlanView& view, const PlanTable& table) {
+    if (!view.plan) return answer(context, view.whynot);
+    const std::string title =
+        plantitle(view, context.services.locale) + "; heights in metres above " + chartdatum(view.known.datum());
+    context.services.clipboard.settext(tabbedtext(table, title));
     answer(context, "Copied: " + std::to_string(table.rows.size()) + " rows");
 }
 

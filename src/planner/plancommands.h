@@ -27,7 +27,7 @@ void savesheet(MainContext& context, const PlanView& view, Sheet sheet);
 /// The paper that is chosen, or the usual one.
 Paper paperof(const MainContext& context, const PlanView& view);
 
-/// A table on the clipboard, tabs between its cells.
-void copyplantable(MainContext& context, const PlanTable& table);
+/// A table of the view's on the clipboard, as it is sorted: tabs between its cells, above it what it is of.
+void copyplantable(MainContext& context, const PlanView& view, const PlanTable& table);
 
 }  // namespace tarvane

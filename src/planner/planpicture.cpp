@@ -6,27 +6,23 @@
 #include <numbers>
 
 #include "dates/dateformats.h"
-#include "paint/labels.h"
+#include "planner/planlabels.h"
 #include "planner/plantexts.h"
 #include "sunmoon/lunarphases.h"
 
 namespace tarvane {
 namespace {
 
+using pictureparts::floorof;
+using pictureparts::inset;
+using pictureparts::strokeof;
+using pictureparts::textlook;
+
 using std::chrono::days;
 using std::chrono::hours;
 using std::chrono::minutes;
 
-constexpr double inset = 4;
 constexpr double hatchstep = 7;
-
-double strokeof(const PlanPicture& picture) {
-    return picture.textsize / 12;
-}
-
-TextLook textlook(const PlanPicture& picture, Rgb colour, Anchor anchor = Anchor::left, bool bold = false) {
-    return {colour, picture.textsize, bold, anchor};
-}
 
 void paintlight(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const auto fill = [&](bool twilight, Rgb colour) {
@@ -200,11 +196,6 @@ void hatch(Canvas& canvas, const std::vector<Place>& shape, const LineLook& look
     }
 }
 
-/// The height of the level needed in the picture, or of its foot where that lies above it.
-double floorof(const PlanPicture& picture, const PlanScale& scale) {
-    return std::min(scale.y(picture.passage->needed()), scale.plot.bottom);
-}
-
 void paintwindows(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     if (!picture.passage || !picture.access) return;
     const double foot = floorof(picture, scale);
@@ -236,109 +227,6 @@ void paintcurve(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
                 picture.plan.whynot(), look);
 }
 
-/// A level by its line and name, which is kept free of labels.
-void paintlevel(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, double height,
-                const std::string& name, LabelPlaces& places) {
-    const TextLook look = textlook(picture, picture.look.needed, Anchor::left, true);
-    const double tall = canvas.textheight(look), y = scale.y(height);
-    const bool above = y < scale.plot.top, inside = !above && y <= scale.plot.bottom;
-    if (inside) {
-        const std::array line{Place{scale.plot.left, y}, Place{scale.plot.right, y}};
-        canvas.line(line, {picture.look.needed, 1.5 * strokeof(picture), LineStyle::dashed});
-    }
-    const double top = inside ? std::max(y - tall, scale.plot.top) : above ? scale.plot.top : scale.plot.bottom - tall;
-    const std::string text = name + (inside ? "" : above ? ", above the picture" : ", below the picture");
-    const double left = scale.plot.left + inset;
-    const Area area = places.takefree({left, top, left + canvas.textwidth(text, look), top + tall});
-    canvas.fill(area, picture.look.paper);
-    canvas.text({area.left, area.top}, text, look);
-}
-
-void paintlevels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
-    if (!picture.passage) return;
-    paintlevel(canvas, picture, scale, picture.passage->needed(), "needed " + levelmetres(picture.passage->needed()),
-               places);
-    if (const auto ceiling = picture.passage->ceiling())
-        paintlevel(canvas, picture, scale, *ceiling, "at most " + levelmetres(*ceiling), places);
-}
-
-/// Whether a level's line would strike a text out.
-bool onlevel(const PlanPicture& picture, const PlanScale& scale, const Area& text) {
-    if (!picture.passage) return false;
-    const auto strikes = [&](double height) {
-        const double y = scale.y(height);
-        return text.top < y && y < text.bottom;
-    };
-    const auto ceiling = picture.passage->ceiling();
-    return strikes(picture.passage->needed()) || (ceiling && strikes(*ceiling));
-}
-
-std::vector<Label> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
-    const double tall = canvas.textheight(textlook(picture, 0));
-    std::vector<Label> labels;
-    for (const PlannedWater& each : picture.plan.waters()) {
-        if (each.moment < scale.from || each.moment > scale.to) continue;
-        const double y = scale.y(each.water.height);
-        Label label{{plainclock(picture.plan.clock(), each.moment), metres(each.water.height)},
-                    textlook(picture, picture.look.text, Anchor::middle, each.water.high),
-                    {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
-                    each.water.springshare + (each.water.high ? 10 : 0) - (each.water.stand ? 5 : 0)};
-        if (onlevel(picture, scale, areaof(canvas, label))) label.behind = picture.look.paper;
-        labels.push_back(label);
-    }
-    return labels;
-}
-
-std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
-    std::vector<Label> labels;
-    if (!picture.passage || !picture.access) return labels;
-    const TextLook look = textlook(picture, picture.look.needed, Anchor::middle, true);
-    const double tall = canvas.textheight(look), foot = floorof(picture, scale);
-    const double top = foot + inset + 2 * tall > scale.plot.bottom ? foot - 2 * tall - inset : foot + inset / 2;
-    // Over many days on end they would cut the curve in two, and the table tells them all.
-    const bool fewdays = scale.to - scale.from < days(9);
-    for (const PlannedWindow& each : picture.access->windows) {
-        const Moment opens = std::max(each.opens, scale.from), closes = std::min(each.closes, scale.to);
-        if (opens >= closes) continue;
-        // A window that goes on beyond the plan doesn't open or close at its end.
-        const bool openbefore = each.window.cutatstart, openafter = each.window.cutatend;
-        if (openbefore && openafter) continue;
-        const std::string first = plainclock(picture.plan.clock(), each.opens);
-        const std::string last = plainclock(picture.plan.clock(), each.closes);
-        const std::string from = openbefore  ? "until"
-                                 : openafter ? "from"
-                                             : first + "-",
-                          until = openafter ? first : last, between = openbefore || openafter ? " " : "";
-        const double middle = (scale.x(opens) + scale.x(closes)) / 2;
-        labels.push_back({{from + between + until}, look, {middle, top}, 30, picture.look.paper});
-        // In two lines where one is too wide for its neighbours.
-        if (fewdays) labels.push_back({{from, until}, look, {middle, top}, 20, picture.look.paper});
-    }
-    return labels;
-}
-
-/// Each window's times once: the wide labels when all of them have room, else those of two lines.
-std::vector<Label> oneform(const Canvas& canvas, std::vector<Label> labels, double room) {
-    bool wide = true;
-    double behind = -HUGE_VAL;
-    for (const Label& each : labels) {
-        if (each.lines.size() != 1) continue;
-        const double half = canvas.textwidth(each.lines[0], each.look) / 2;
-        wide = wide && each.middle.x - half > behind;
-        behind = each.middle.x + half + room;
-    }
-    std::erase_if(labels, [&](const Label& each) { return (each.lines.size() == 1) != wide; });
-    return labels;
-}
-
-void paintlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, LabelPlaces& places) {
-    std::vector<Label> labels = oneform(canvas, windowlabels(canvas, picture, scale), inset);
-    for (const Label& each : waterlabels(canvas, picture, scale))
-        labels.push_back(each);
-    for (const Label& each : places.place(labels))
-        paintlabel(canvas, each);
-}
-
 /// Beside the title, which ends at `from`, as large as it can be.
 void painttrustline(Canvas& canvas, const PlanPicture& picture, double from) {
     constexpr double least = 0.65, gap = 12;
@@ -359,7 +247,6 @@ void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scal
         canvas.text({scale.plot.left, picture.area.top + inset}, picture.title, look);
         painttrustline(canvas, picture, scale.plot.left + canvas.textwidth(picture.title, look));
     }
-    LabelPlaces places(canvas, scale.plot);
     paintlight(canvas, picture, scale);
     paintheads(canvas, picture, scale);
     paintheights(canvas, picture, scale);
@@ -367,8 +254,7 @@ void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scal
     paintseabed(canvas, picture, scale);
     paintwindows(canvas, picture, scale);
     paintcurve(canvas, picture, scale);
-    paintlevels(canvas, picture, scale, places);
-    paintlabels(canvas, picture, scale, places);
+    paintplanlabels(canvas, picture, scale);
 }
 
 void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment now) {

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "planner/planlimits.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
@@ -12,19 +13,20 @@ namespace {
 
 struct FieldRule {
     const char* name;
-    double least, most;
+    PlanLimit limit;
     const char* unit;
     double step, usual;  ///< where an empty field begins
     bool optional = false;
 };
 
-constexpr std::array<FieldRule, planfields> rules{{{"Draught", 0, 40, "metres", 0.1, 0},
-                                                   {"Clearance", 0, 40, "metres", 0.1, 0},
-                                                   {"Bottom", -40, 500, "metres", 0.1, 0},
-                                                   {"Bridge", 0, 200, "metres", 0.1, 20, true},
-                                                   {"Mast", 0, 200, "metres", 0.1, 15, true},
-                                                   {"Bridge's level", -40, 40, "metres", 0.1, 5, true},
-                                                   {"Least time", 0, 1440, "minutes", 15, 15, true}}};
+constexpr std::array<FieldRule, planfields> rules{
+    {{"Draught", planlimits::draught, "metres", 0.1, 0},
+     {"Clearance", planlimits::clearance, "metres", 0.1, 0},
+     {"Bottom", planlimits::bottom, "metres", 0.1, 0},
+     {"Bridge", planlimits::bridge, "metres", 0.1, 20, true},
+     {"Mast", planlimits::airdraught, "metres", 0.1, 15, true},
+     {"Bridge's level", planlimits::bridgelevel, "metres", 0.1, 5, true},
+     {"Least time", planlimits::leastminutes, "minutes", 15, 15, true}}};
 
 std::string fieldtext(double value) {
     // Stored singles read as they were typed.
@@ -57,10 +59,10 @@ QuestionRead readquestion(const PlanQuestion& question) {
         if (ofbridge && !values[static_cast<std::size_t>(PlanField::bridge)]) continue;
         if (rule.optional && trim(question[i]).empty()) continue;
         values[i] = typednumber(question[i]);
-        if (values[i] && *values[i] >= rule.least && *values[i] <= rule.most) continue;
+        if (values[i] && rule.limit.holds(*values[i])) continue;
         read.refused = static_cast<PlanField>(i);
-        read.refusal = std::string(rule.name) + ": write " + rule.unit + " from " + fieldtext(rule.least) + " to " +
-                       fieldtext(rule.most) + ", not \u201C" + trim(question[i]) + "\u201D";
+        read.refusal = std::string(rule.name) + ": write " + rule.unit + " from " + fieldtext(rule.limit.least) +
+                       " to " + fieldtext(rule.limit.most) + ", not \u201C" + trim(question[i]) + "\u201D";
     }
     if (!read.refusal.empty()) return read;
     const auto value = [&](PlanField field) { return values[static_cast<std::size_t>(field)]; };
@@ -92,8 +94,8 @@ std::string stepped(const std::string& text, PlanField field, int steps) {
     constexpr double tolerance = 1e-6;
     const double at = *value / rule.step;
     const double wanted = (steps > 0 ? std::floor(at + tolerance) : std::ceil(at - tolerance)) + steps;
-    if (rule.optional && *value <= rule.least && steps < 0) return "";
-    return fieldtext(std::clamp(wanted * rule.step, rule.least, rule.most));
+    if (rule.optional && *value <= rule.limit.least && steps < 0) return "";
+    return fieldtext(std::clamp(wanted * rule.step, rule.limit.least, rule.limit.most));
 }
 
 PlanQuestion prefilledquestion(const PlanSettings& settings, const Settings& stored, const std::string& port) {

@@ -3,14 +3,14 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "planner/planlimits.h"
+
 namespace tarvane {
 namespace {
 
 using nlohmann::json;
 
 constexpr double mostmetres = 1000;
-
-constexpr int minutesaday = 1440;
 
 void take(const json& object, const char* name, bool& value) {
     if (const auto at = object.find(name); at != object.end() && at->is_boolean()) value = at->get<bool>();
@@ -23,6 +23,10 @@ void take(const json& object, const char* name, int least, int most, Whole& valu
     if (at == object.end() || !at->is_number_integer()) return;
     const auto number = at->get<std::int64_t>();
     if (number >= least && number <= most) value = static_cast<Whole>(number);
+}
+
+void take(const json& object, const char* name, PlanLimit limit, int& value) {
+    take(object, name, static_cast<int>(limit.least), static_cast<int>(limit.most), value);
 }
 
 std::optional<double> metresof(const json& value) {
@@ -70,13 +74,13 @@ PlanSettings readplansettings(const std::string& path) {
     if (!object.is_object()) return settings;
     take(object, "openatstart", settings.openatstart);
     take(object, "night", settings.night);
-    take(object, "days", 1, mostplandays, settings.days);
+    take(object, "days", planlimits::days, settings.days);
     take(object, "clock", 0, static_cast<int>(ClockChoice::computer), settings.clock);
     if (int paper = -1; take(object, "paper", 0, 1, paper), paper >= 0) settings.paper = static_cast<Paper>(paper);
     take(object, "asked", settings.asked);
     take(object, "twilight", settings.twilight);
     take(object, "daylight", 0, static_cast<int>(Daylight::whole), settings.daylight);
-    take(object, "leastminutes", 0, minutesaday, settings.leastminutes);
+    take(object, "leastminutes", planlimits::leastminutes, settings.leastminutes);
     take(object, "weekdays", 1, static_cast<int>(everyweekday), settings.weekdays);
     take(object, "draught", settings.draught);
     take(object, "clearance", settings.clearance);

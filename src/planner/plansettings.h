@@ -8,13 +8,11 @@
 #include "dates/portclock.h"
 #include "files/wholefiles.h"
 #include "planner/access.h"
+#include "planner/planlimits.h"
 #include "platform/drawings.h"
 #include "portdata/configuration.h"
 
 namespace tarvane {
-
-/// The days that a plan on the screen spans at most; the least is one.
-inline constexpr int mostplandays = 31;
 
 /// A bridge over the way to a port, metres.
 struct Bridge {

@@ -24,7 +24,8 @@ double keyof(Moment moment) {
 
 /// Whether the clock is changed within the plan; a year has two changes, after which it is as it was.
 bool clockchanges(const Plan& plan) {
-    const auto ahead = plan.clock().at(plan.begins()).ahead;
+    // A first day may begin with the change.
+    const auto ahead = plan.clock().at(plan.begins() - minutes(1)).ahead;
     for (Moment moment = plan.begins(); moment < plan.ends(); moment += days(1))
         if (plan.clock().at(moment).ahead != ahead) return true;
     return plan.clock().at(plan.ends() - minutes(1)).ahead != ahead;
@@ -36,8 +37,17 @@ std::string timecell(const Plan& plan, Moment moment, bool changes) {
     return clocktext(time) + (changes ? " " + utname(time.ahead) : "");
 }
 
-std::string daycell(const Plan& plan, Moment moment, const Locale& locale) {
-    return daytext(locale, plan.clock().at(moment).date);
+std::string daycell(const Plan& plan, Moment moment, const Locale& locale, bool year = false) {
+    return daytext(locale, plan.clock().at(moment).date, year);
+}
+
+constexpr const char* nosuchdaycell = "no such day";
+
+std::vector<Date> daysleftout(const Plan& plan) {
+    std::vector<Date> leftout;
+    for (Date date = plan.planof().first; date < plan.planof().first + days(plan.planof().days); date += days(1))
+        if (!hasday(plan.clock(), date)) leftout.push_back(date);
+    return leftout;
 }
 
 std::string percent(double share) {
@@ -75,7 +85,8 @@ std::string waterwords(const Plan& plan, const char* name, const std::optional<P
     // From minute to minute, as both are shown.
     const auto togo = std::chrono::floor<minutes>(water->moment) - std::chrono::floor<minutes>(now);
     return std::string(" ") + name + " water " + metres(water->water.height) + " at " +
-           clocktext(plan.clock().at(water->moment)) + ", in " + durationtext(togo) + ".";
+           clocktext(plan.clock().at(water->moment)) + (water->water.stand ? " (stand)" : "") + ", in " +
+           durationtext(togo) + ".";
 }
 
 /// Why she never passes, as the tide's own heights have it.
@@ -94,6 +105,7 @@ std::string neverwords(const PlannedAccess& access, const Passage& passage) {
 }
 
 std::string lackingwords(const std::string& whynot) {
+    if (whynot == nosuchday) return " One of these days is left out: it does not exist on this clock.";
     return whynot.empty() ? "" : " No prediction for some of these days: " + whynot + ".";
 }
 
@@ -123,8 +135,8 @@ void addlightcells(const Plan& plan, const std::vector<std::pair<Moment, Moment>
 
 }  // namespace
 
-std::string daytext(const Locale& locale, Date date) {
-    return formatdate(locale, date, "ddd d mmm");
+std::string daytext(const Locale& locale, Date date, bool year) {
+    return formatdate(locale, date, year ? "ddd d mmm yyyy" : "ddd d mmm");
 }
 
 std::string metres(double height, int decimals) {
@@ -141,8 +153,17 @@ std::string levelmetres(double height) {
 
 std::string plainclock(const PortClock& clock, Moment moment) {
     const ClockTime time = clock.at(moment);
-    const bool changes = clock.at(clock.startof(time.date)).ahead != clock.at(clock.startof(time.date + days(1))).ahead;
-    return clocktext(time) + (changes ? " " + time.name : "");
+    return clocktext(time) + (clockchangeson(clock, time.date) ? " " + time.name : "");
+}
+
+bool clockchangeson(const PortClock& clock, Date date) {
+    const auto aheadat = [&](Date end) { return clock.at(clock.startof(end) - minutes(1)).ahead; };
+    return aheadat(date) != aheadat(date + days(1));
+}
+
+std::string timesby(const PortClock& clock) {
+    const std::string& words = clock.description();
+    return std::string("times by ") + (words.starts_with("port's") ? "the " : "") + words;
 }
 
 std::string durationtext(minutes duration) {
@@ -159,14 +180,22 @@ const char* tendencyword(double rate) {
 }
 
 PlanTable tidestable(const Plan& plan, const Locale& locale) {
-    PlanTable table{{"Day", "Time", "Height", "", "Of springs"}, {}};
+    PlanTable table{{"Day", "Time", "Height", "Water", "Of springs"}, {}};
     const bool changes = clockchanges(plan);
+    for (const Date date : daysleftout(plan))
+        table.rows.push_back({plan.clock().startof(date),
+                              {daytext(locale, date), nosuchdaycell, "", "", ""},
+                              {keyof(plan.clock().startof(date)), keyof(plan.clock().startof(date)), 0, 0, 0},
+                              {daytext(locale, date, true)}});
     for (const PlannedWater& each : plan.waters())
         table.rows.push_back({each.moment,
                               {daycell(plan, each.moment, locale), timecell(plan, each.moment, changes),
                                metres(each.water.height), kindword(each.water), percent(each.water.springshare)},
                               {keyof(each.moment), keyof(each.moment), each.water.height, double(each.water.high),
-                               each.water.springshare}});
+                               each.water.springshare},
+                              {daycell(plan, each.moment, locale, true)}});
+    std::stable_sort(table.rows.begin(), table.rows.end(),
+                     [](const PlanTable::Row& one, const PlanTable::Row& other) { return one.moment < other.moment; });
     return table;
 }
 
@@ -177,12 +206,15 @@ PlanTable accesstable(const Plan& plan, const PlannedAccess& access, const Passa
         const double depth = each.window.greatestheight + passage.bottom;
         const auto length = static_cast<double>(each.window.minutes());
         const double lit = length > 0 ? static_cast<double>(each.window.daylightminutes) / length : 0;
+        const auto cell = [&](Moment moment, bool year) {
+            return daycell(plan, moment, locale, year) + " " + timecell(plan, moment, changes);
+        };
         table.rows.push_back(
             {each.opens,
-             {daycell(plan, each.opens, locale) + " " + timecell(plan, each.opens, changes),
-              daycell(plan, each.closes, locale) + " " + timecell(plan, each.closes, changes),
-              durationtext(minutes(each.window.minutes())), metres(depth), percent(lit), cutwords(each.window)},
-             {keyof(each.opens), keyof(each.closes), length, depth, lit, 0}});
+             {cell(each.opens, false), cell(each.closes, false), durationtext(minutes(each.window.minutes())),
+              metres(depth), percent(lit), cutwords(each.window)},
+             {keyof(each.opens), keyof(each.closes), length, depth, lit, 0},
+             {cell(each.opens, true), cell(each.closes, true)}});
     }
     return table;
 }
@@ -194,9 +226,11 @@ PlanTable suntable(const Plan& plan, const Locale& locale) {
     const std::vector<MoonPhase> phases = phasesbetween(plan.begins(), plan.ends());
     for (int i = 0; i < plan.planof().days; ++i) {
         const Date date = plan.planof().first + days(i);
-        PlanTable::Row row{plan.clock().startof(date), {daytext(locale, date)}, {}};
-        addlightcells(plan, civil, date, changes, row);
-        addlightcells(plan, sun, date, changes, row);
+        PlanTable::Row row{plan.clock().startof(date), {daytext(locale, date)}, {}, {daytext(locale, date, true)}};
+        const bool isthere = hasday(plan.clock(), date);
+        if (!isthere) row.cells.insert(row.cells.end(), {nosuchdaycell, "", "", ""});
+        if (isthere) addlightcells(plan, civil, date, changes, row);
+        if (isthere) addlightcells(plan, sun, date, changes, row);
         std::string moon;
         for (const MoonPhase& each : phases)
             if (plan.clock().at(each.moment).date == date) moon = phasewords[each.phase];
@@ -207,16 +241,19 @@ PlanTable suntable(const Plan& plan, const Locale& locale) {
     return table;
 }
 
-std::string tabbedtext(const PlanTable& table) {
-    std::string text;
+std::string tabbedtext(const PlanTable& table, const std::string& title) {
+    std::string text = title + "\n";
     const auto addline = [&](const std::vector<std::string>& cells) {
         for (std::size_t i = 0; i < cells.size(); ++i)
             text += (i > 0 ? "\t" : "") + cells[i];
         text += "\n";
     };
     addline(table.headings);
-    for (const PlanTable::Row& row : table.rows)
-        addline(row.cells);
+    for (const PlanTable::Row& row : table.rows) {
+        std::vector<std::string> cells = row.cells;
+        std::copy(row.dated.begin(), row.dated.end(), cells.begin());
+        addline(cells);
+    }
     return text;
 }
 
@@ -245,6 +282,7 @@ std::string neededtext(const Passage& passage, const std::string& datum) {
 
 std::string accessverdict(const PlannedAccess& access, const Passage& passage, const std::string& whynot) {
     const std::string needed = "the level needed is " + metres(passage.needed(), 2);
+    if (!access.greatestheight && whynot == nosuchday) return whynot + "; " + needed + ".";
     if (!access.greatestheight) return "No prediction for these days: " + whynot + "; " + needed + ".";
     const std::string lacking = lackingwords(whynot);
     if (access.never) return "Never in these days: " + neverwords(access, passage) + "." + lacking;
@@ -279,7 +317,7 @@ std::string nowtext(const Plan& plan, Moment moment) {
     if (!now) return when + "no prediction.";
     const std::string high = waterwords(plan, "High", now->nexthigh, moment),
                       low = waterwords(plan, "Low", now->nextlow, moment);
-    const bool highfirst = !now->nextlow || (now->nexthigh && now->nexthigh->moment < now->nextlow->moment);
+    const bool highfirst = now->next() && now->next()->water.high;
     return when + metres(now->height) + ", " + tendency(now->rate) + "." + (highfirst ? high + low : low + high);
 }
 
@@ -287,9 +325,9 @@ std::string shortnowtext(const Plan& plan, Moment moment) {
     const auto now = plan.now(moment);
     if (!now) return "";
     std::string text = "Now " + metres(now->height) + ", " + tendency(now->rate);
-    const bool highfirst = now->nexthigh && (!now->nextlow || now->nexthigh->moment < now->nextlow->moment);
-    const auto& next = highfirst ? now->nexthigh : now->nextlow;
-    if (next) text += std::string(highfirst ? ", HW " : ", LW ") + clocktext(plan.clock().at(next->moment));
+    if (const auto& next = now->next())
+        text += std::string(next->water.high ? ", HW " : ", LW ") + clocktext(plan.clock().at(next->moment)) +
+                (next->water.stand ? " (stand)" : "");
     return text;
 }
 

@@ -10,8 +10,8 @@
 
 namespace tarvane {
 
-/// "Sat 18 Jul", names the system's.
-std::string daytext(const Locale& locale, Date date);
+/// "Sat 18 Jul", names the system's; with its year "Sat 18 Jul 2026".
+std::string daytext(const Locale& locale, Date date, bool year = false);
 
 /// "4.4 m"; a height that rounds to zero has no sign.
 std::string metres(double height, int decimals = 1);
@@ -21,6 +21,12 @@ std::string levelmetres(double height);
 
 /// A moment's clock time; on a day on which the clock is changed with its name behind it: "01:30 BST".
 std::string plainclock(const PortClock& clock, Moment moment);
+
+/// Whether the clock is changed on a day: it ends with another offset than the day before it.
+bool clockchangeson(const PortClock& clock, Date date);
+
+/// "times by the port's clock (Europe/Paris)", "times by zone time (UT)"
+std::string timesby(const PortClock& clock);
 
 /// "1 h 05 min", "40 min", "3 days"
 std::string durationtext(std::chrono::minutes duration);
@@ -34,7 +40,8 @@ struct PlanTable {
     struct Row {
         Moment moment;
         std::vector<std::string> cells;
-        std::vector<double> keys;  ///< by which the columns are sorted
+        std::vector<double> keys;        ///< by which the columns are sorted
+        std::vector<std::string> dated;  ///< its first cells again, their dates with the year
     };
     std::vector<Row> rows;
 };
@@ -44,8 +51,8 @@ PlanTable tidestable(const Plan& plan, const Locale& locale);
 PlanTable accesstable(const Plan& plan, const PlannedAccess& access, const Passage& passage, const Locale& locale);
 PlanTable suntable(const Plan& plan, const Locale& locale);
 
-/// A table as tab-separated text.
-std::string tabbedtext(const PlanTable& table);
+/// A table as tab-separated text: a line that tells what it is of, the headings, the rows; dates with their years.
+std::string tabbedtext(const PlanTable& table, const std::string& title);
 
 /// "Sat 18 Jul 05:40: 4.42 m, rising 0.8 m/h, 6.4 m over the bottom"
 std::string momenttext(const Plan& plan, Moment moment, const std::optional<Passage>& passage, const Locale& locale);
@@ -65,7 +72,7 @@ std::string accesstext(const Plan& plan, const PlannedAccess& access, const Pass
 std::string accessverdict(const PlannedAccess& access, const Passage& passage, const std::string& whynot);
 
 /// "Now 14:32: 3.4 m, rising 0.6 m/h. High water 5.1 m at 17:02, in 2 h 30 min. Low water 0.9 m at 23:20, in 8 h 48
-/// min.", whichever comes first before the other.
+/// min.", whichever comes first before the other; "at 17:02 (stand)" where the tide stands about it.
 std::string nowtext(const Plan& plan, Moment moment);
 
 /// The same in few words, of the next water alone: "Now 3.4 m, rising 0.6 m/h, HW 17:02"; empty without a prediction.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "dates/dateformats.h"
+#include "planner/planlimits.h"
 #include "planner/plantexts.h"
 #include "portdata/aboutwords.h"
 #include "portdata/recordfiles.h"
@@ -62,10 +63,12 @@ void replan(const MainContext& context, PlanView& view) {
     view.plan.reset();
     view.access = {};
     if (!view.whynot.empty()) return;
-    view.first = std::clamp(view.first, makedate(leastyear, 1, 2), makedate(mostyear, 11, 1));
-    view.plan = std::make_shared<Plan>(
-        PlanOf{view.port, view.known.iana(), view.first, view.settings.days, view.settings.clock},
-        context.services.zones);
+    const Date last = makedate(mostyear, 12, 31);
+    view.first = std::clamp(view.first, makedate(leastyear, 1, 2), last);
+    // The last days of all times are fewer than were asked for.
+    const int count = std::min(view.settings.days, static_cast<int>((last - view.first).count()) + 1);
+    view.plan = std::make_shared<Plan>(PlanOf{view.port, view.known.iana(), view.first, count, view.settings.clock},
+                                       context.services.zones);
     answeranew(view);
 }
 
@@ -88,7 +91,7 @@ void takeport(const MainContext& context, PlanView& view) {
 bool nochosenday(const PlanView& view) {
     const PlannedAccess& access = view.access;
     if (!access.greatestheight || access.never || !access.windows.empty()) return false;
-    for (Date date = view.first; date < view.first + days(view.settings.days); date += days(1))
+    for (Date date = view.first; date < view.first + days(view.plan->planof().days); date += days(1))
         if (view.settings.weekdays >> std::chrono::weekday(date).c_encoding() & 1U) return false;
     return true;
 }
@@ -187,7 +190,7 @@ PlanView yearview(const MainContext& context, const PlanView& view) {
 }
 
 void zoomplan(PlanView& view, double factor, Moment about) {
-    if (!view.plan) return;
+    if (!view.plan || view.from == view.to) return;
     const double shown = static_cast<double>((view.to - view.from).count());
     const double least = 3 * 3600, most = static_cast<double>((view.plan->ends() - view.plan->begins()).count());
     const double wanted = std::clamp(shown * factor, std::min(least, most), most);
@@ -205,7 +208,7 @@ void moveplan(PlanView& view, std::chrono::seconds by) {
 }
 
 void showday(PlanView& view, Date date) {
-    if (!view.plan) return;
+    if (!view.plan || !hasday(view.plan->clock(), date)) return;
     view.from = view.plan->clock().startof(date);
     view.to = view.plan->clock().startof(date + days(1));
     keepinside(view);
@@ -231,7 +234,7 @@ std::optional<Passage> passageof(const PlanView& view) {
 
 std::string plantitle(const PlanView& view, const Locale& locale) {
     if (!view.plan) return view.portname;
-    const Date first = view.first, last = first + days(view.settings.days - 1);
+    const Date first = view.first, last = first + days(view.plan->planof().days - 1);
     std::string dates = formatdate(locale, last, "d mmmm yyyy");
     if (first != last) {
         const bool month = monthof(first) == monthof(last), year = yearof(first) == yearof(last);
@@ -249,12 +252,11 @@ std::string answertext(const PlanView& view, const Locale& locale, std::optional
 
 std::string planfoot(const PlanView& view) {
     if (!view.plan) return view.whynot;
-    const std::string clock = view.plan->clock().description();
     // How good a port is that ships its mark tells, beside the name.
-    const std::string datum = view.known.datum(), trust = view.known.own ? trustclause(view.known) : "";
-    const bool named = clock.starts_with("this") || clock.starts_with("universal");
-    return std::string("Times by ") + (named ? "" : "the ") + clock + "; heights in metres above chart datum" +
-           (datum.empty() ? "" : " (" + datum + ")") + (trust.empty() ? "" : "; " + trust) +
+    const std::string trust = view.known.own ? trustclause(view.known) : "";
+    std::string clock = timesby(view.plan->clock());
+    clock.front() = 'T';
+    return clock + "; heights in metres above " + chartdatum(view.known.datum()) + (trust.empty() ? "" : "; " + trust) +
            ". Predictions: weather isn't counted.";
 }
 

@@ -45,7 +45,8 @@ PlanView openplanview(const MainContext& context);
 /// began today begin today there. True when anything changed.
 bool followport(const MainContext& context, PlanView& view);
 
-/// The days and the clock. A span is 1 to 31 days; years are 1 to 9999. All of the plan is shown then.
+/// The days and the clock. A span is 1 to 31 days, of years 1 to 9999: no days behind them are shown. All of the plan
+/// is shown then.
 void showdays(const MainContext& context, PlanView& view, Date first, int days);
 void showclock(const MainContext& context, PlanView& view, ClockChoice clock);
 

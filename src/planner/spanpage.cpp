@@ -9,7 +9,7 @@ namespace tarvane {
 namespace {
 
 constexpr double gap = 8;
-constexpr double leastpicture = 230;
+constexpr double goodpicture = 230, leastpicture = 165;
 constexpr double columnsapart = 14;
 constexpr std::size_t crowded = 10;  // days, from which on the picture has small type
 
@@ -118,17 +118,16 @@ void paintlist(Canvas& canvas, const Area& area, const WaterList& list, const Pa
     }
     if (list.days == pages.days.size()) return;
     const TextLook look{coloursof(Lighting::day).faint, pagetype::lesser};
-    const std::string words =
-        "No room here for the waters of the last " + std::to_string(pages.days.size() - list.days) + " days.";
+    const std::string words = "No room here for the waters of the last " +
+                              std::to_string(pages.days.size() - list.days) + " days: the almanac has them.";
     canvas.text({area.left, area.bottom - gap - canvas.textheight(look)}, words, look);
 }
-
-constexpr std::size_t boldcells = 2;  // when a window opens and closes
 
 /// The answer in a sentence where there is nothing to list, else the windows as a table in groups side by side.
 struct WindowList {
     std::string answer;
     PlanTable table;
+    std::size_t boldcells = 2;   ///< of each row: when a window opens and closes
     std::vector<double> widths;  ///< of its columns
     std::size_t groups = 1, lines = 0;
     double size = pagetype::lesser;
@@ -136,7 +135,33 @@ struct WindowList {
     bool whole() const { return groups * lines >= table.rows.size(); }
 };
 
-WindowList windowlist(const Canvas& canvas, const PagePlan& pages, double size, double width, double height) {
+/// "Sat 18 Jul 22:32 to Sun 03:26"
+std::string closewords(const PagePlan& pages, const PlannedWindow& window) {
+    const PortClock& clock = pages.plan.clock();
+    const Date from = clock.at(window.opens).date, until = clock.at(window.closes).date;
+    const std::string opens = daytext(pages.locale, from) + " " + plainclock(clock, window.opens),
+                      closes = plainclock(clock, window.closes), last = daytext(pages.locale, until);
+    const bool openbefore = window.window.cutatstart, openafter = window.window.cutatend;
+    if (openbefore && !openafter) return "until " + last + " " + closes;
+    if (openafter && !openbefore) return "from " + opens + " on";
+    if (from == until) return opens + " to " + closes;
+    const bool next = until - from == std::chrono::days(1);
+    return opens + " to " + (next ? pages.locale.dayabbreviation(weekdayof(until)) : last) + " " + closes;
+}
+
+/// Of so many windows that there is no room for more.
+PlanTable closetable(const PagePlan& pages) {
+    PlanTable table{{"Passable", "Depth"}, {}};
+    for (const PlannedWindow& each : pages.access->windows)
+        table.rows.push_back({each.opens,
+                              {closewords(pages, each), metres(each.window.greatestheight + pages.of.passage->bottom)},
+                              {},
+                              {}});
+    return table;
+}
+
+WindowList windowlist(const Canvas& canvas, const PagePlan& pages, bool close, double size, double width,
+                      double height) {
     WindowList list;
     list.size = size;
     const PlannedAccess& access = *pages.access;
@@ -144,12 +169,13 @@ WindowList windowlist(const Canvas& canvas, const PagePlan& pages, double size, 
         list.answer = accesstext(pages.plan, access, *pages.of.passage, pages.locale);
         return list;
     }
-    list.table = accesstable(pages.plan, access, *pages.of.passage, pages.locale);
+    list.boldcells = close ? 1 : 2;
+    list.table = close ? closetable(pages) : accesstable(pages.plan, access, *pages.of.passage, pages.locale);
     double group = columnsapart;
     for (std::size_t i = 0; i < list.table.headings.size(); ++i) {
         double widest = canvas.textwidth(list.table.headings[i], {0, pagetype::least});
         for (const PlanTable::Row& row : list.table.rows)
-            widest = std::max(widest, canvas.textwidth(row.cells[i], {0, size, i < boldcells}));
+            widest = std::max(widest, canvas.textwidth(row.cells[i], {0, size, i < list.boldcells}));
         list.widths.push_back(widest > 0 ? widest + columnsapart : 0);
         group += list.widths.back();
     }
@@ -160,12 +186,15 @@ WindowList windowlist(const Canvas& canvas, const PagePlan& pages, double size, 
     return list;
 }
 
-WindowList windowlist(const Canvas& canvas, const PagePlan& pages, double width, double height) {
+/// In a quarter of the page, or if need be in fewer words in a third of it.
+WindowList windowlist(const Canvas& canvas, const PagePlan& pages, double width, double page) {
     WindowList list;
-    for (const double size : sizes) {
-        list = windowlist(canvas, pages, size, width, size > pagetype::lesser ? height / 2 : height);
-        if (list.whole()) break;
-    }
+    for (const bool close : {false, true})
+        for (const double size : sizes) {
+            const double height = close ? page / 3 : size > pagetype::lesser ? page / 8 : page / 4;
+            list = windowlist(canvas, pages, close, size, width, height);
+            if (list.whole()) return list;
+        }
     return list;
 }
 
@@ -184,13 +213,14 @@ double paintwindows(Canvas& canvas, const Area& area, const WindowList& list, co
         double left = area.left + static_cast<double>(i / list.lines) * group;
         const double top = y + headline + static_cast<double>(i % list.lines) * line;
         if (i + 1 == room && rows > room) {
-            canvas.text({left, top}, "and " + std::to_string(rows - i) + " more", cell);
+            fittedtext(canvas, {left, top}, "and " + std::to_string(rows - i) + " more: see the planner's table", cell,
+                       group - columnsapart);
             break;
         }
         for (std::size_t j = 0; j < list.widths.size(); ++j) {
             if (i % list.lines == 0) canvas.text({left, y}, list.table.headings[j], head);
             TextLook shown = cell;
-            shown.bold = j < boldcells;
+            shown.bold = j < list.boldcells;
             canvas.text({left, top}, list.table.rows[i].cells[j], shown);
             left += list.widths[j];
         }
@@ -212,11 +242,16 @@ void paintspan(Canvas& canvas, const Area& area, const PagePlan& pages) {
     double top = pagehead(canvas, area, pages, spantitle(pages));
     const double bottom = pagefoot(canvas, area, pages, {0, pages.days.size(), "High waters are bold.", "", true});
     if (pages.access) {
-        const WindowList windows = windowlist(canvas, pages, area.width(), (bottom - top) / 4);
+        const WindowList windows = windowlist(canvas, pages, area.width(), bottom - top);
         top = paintwindows(canvas, {area.left, top, area.right, bottom}, windows, pages);
     }
-    const double room = bottom - top - leastpicture - 2 * gap - canvas.textheight({0, pagetype::lesser});
-    const WaterList waters = waterlist(canvas, pages, area.width(), room);
+    const auto listbeside = [&](double picture) {
+        const double room = bottom - top - picture - 2 * gap - canvas.textheight({0, pagetype::lesser});
+        return waterlist(canvas, pages, area.width(), room);
+    };
+    WaterList waters = listbeside(goodpicture);
+    if (waters.days < pages.days.size())
+        if (const WaterList more = listbeside(leastpicture); more.days == pages.days.size()) waters = more;
     const double list = bottom - heightof(canvas, waters, pages);
     paintlist(canvas, {area.left, list, area.right, bottom}, waters, pages);
     const PlanPicture picture{

@@ -41,7 +41,7 @@ std::string otherclocks(Date day, seconds shownahead, const std::string& iana, c
         const Moment until = std::min<Moment>(there->until, ends);
         if (there->ahead != shownahead) {
             told += (told.empty() ? "clocks there read " : ", ") + amountof(there->ahead - shownahead) +
-                    (there->ahead > shownahead ? " more (" : " less (") + there->abbreviation + ")";
+                    (there->ahead > shownahead ? " more (" : " less (") + zonename(*there) + ")";
             if (at > begins) told += " from " + shown(at);
             if (until < ends) told += " until " + shown(until);
         }

@@ -121,6 +121,41 @@ std::vector<std::string> identifiers(const HarmonicRecord& port, const Passage& 
     return all;
 }
 
+TEST(PlanCalendar, AWindowKeepsItsIdentifierWhateverDaysAreAskedFor) {
+    const Date first = makedate(2026, 2, 1);
+    const PlanOf of = london("Dover", first, 60);
+    // A level that neaps don't fall to, one that only the lowest of a year do; two windows a tide under a bridge.
+    for (const Passage& boat : {needing(1.3), needing(0.75), needing(2, 5)}) {
+        const auto identified = [&](Date from, int days, const WindowWishes& wishes) {
+            const Plan plan({of.port, of.iana, from, days}, systemzones);
+            const PlannedAccess access = plan.access(boat, wishes, false);
+            const auto names = valuesof(windowscalendar(plan, access, boat, dover, {}), "UID");
+            std::vector<std::pair<PlannedWindow, std::string>> all;
+            for (std::size_t i = 0; i < names.size(); ++i)
+                all.emplace_back(access.windows[i], names[i]);
+            return all;
+        };
+        const auto whole = identified(first, of.days, {});
+        ASSERT_FALSE(whole.empty());
+        std::size_t cut = 0;
+        for (int day = 0; day < 40; ++day)
+            for (const int length : {1, 20})
+                for (const auto& [window, name] : identified(first + std::chrono::days(day), length, {})) {
+                    const auto same = std::find_if(whole.begin(), whole.end(), [&, at = window](const auto& each) {
+                        return each.first.opens <= at.opens && at.closes <= each.first.closes;
+                    });
+                    ASSERT_NE(same, whole.end());
+                    EXPECT_EQ(name, same->second) << day << " " << length;
+                    cut += window.window.cutatstart;
+                }
+        EXPECT_GT(cut, 5U);
+        for (const auto& [window, name] : identified(first, of.days, {Daylight::part, 300}))
+            EXPECT_TRUE(std::any_of(whole.begin(), whole.end(), [&, at = window, called = name](const auto& each) {
+                return each.first.opens == at.opens && each.second == called;
+            })) << "whatever is wished";
+    }
+}
+
 TEST(PlanCalendar, IdentifiersAreAnEventsOwnAndStay) {
     const Date first = makedate(2026, 1, 1);
     for (const char* name : {"Dover", "Weymouth", "Southampton", "Le Havre", "Brest"}) {
@@ -161,8 +196,8 @@ std::string windowwords(const PlannedWindow& window) {
     std::ostringstream words;
     words << window.opens.time_since_epoch().count() << " " << window.closes.time_since_epoch().count() << " "
           << window.window.minutes() << " " << window.window.greatestheight << " " << window.window.leastmargin << " "
-          << window.window.daylightminutes << window.window.cutatstart << window.window.cutatend << window.opening.tide
-          << "\n";
+          << window.window.daylightminutes << window.window.cutatstart << window.window.cutatend << " "
+          << (window.opening ? window.opening->tide : 0) << " " << window.part << "\n";
     return words.str();
 }
 
@@ -184,12 +219,17 @@ TEST(PlanRun, WherePlansAreCutMakesNoDifference) {
         const Plan whole(of, systemzones);
         const PlannedAccess access = whole.access(row.boat, row.wishes, false);
         std::string wanted, found;
-        for (const PlannedWindow& each : access.windows)
+        for (PlannedWindow each : access.windows) {
+            whole.nameopening(each, row.boat);
             wanted += windowwords(each);
+        }
         WindowRun run(whole.clock(), row.wishes);
         for (const PlanOf& piece : plansonend(of, 3)) {
             const Plan plan(piece, systemzones);
-            for (const PlannedWindow& each : run.add(plan, plan.access(row.boat, {}, false)))
+            PlannedAccess some = plan.access(row.boat, {}, false);
+            for (PlannedWindow& each : some.windows)
+                plan.nameopening(each, row.boat);
+            for (const PlannedWindow& each : run.add(plan, some))
                 found += windowwords(each);
         }
         for (const PlannedWindow& each : run.finish())

@@ -12,6 +12,7 @@
 #include "paint/colours.h"
 #include "planner/almanacyear.h"
 #include "planner/planpages.h"
+#include "planner/plantexts.h"
 #include "platform/systemzones/systemzones.h"
 #include "text/singlebyte.h"
 
@@ -230,8 +231,17 @@ TEST(Pages, ASpanTellsItsWatersAndTheAnswer) {
     }
     const auto texts = painted(spanpage(boat, first, 7, pagezones, english), 0, papers[0]);
     EXPECT_EQ(counted(texts, "4.0 m of tide needed"), 1U);
-    EXPECT_EQ(counted(texts, "Sun 31 Oct 02:59 UT"), 1U);  // a window that closes behind the change of the clock
+    EXPECT_EQ(counted(texts, " to Sun 02:59 GMT"), 1U);  // a window that closes behind the change of the clock
 
+    // Windows of more than three weeks: each has room, in fewer words.
+    const Plan month({boat.port, boat.iana, makedate(2027, 10, 1), 25}, pagezones);
+    for (const auto& paper : papers) {
+        const auto close = painted(spanpage(boat, makedate(2027, 10, 1), 25, pagezones, english), 0, paper);
+        EXPECT_EQ(counted(close, " more"), 0U);
+        for (const PlannedWindow& each : month.access(*boat.passage, {}, false).windows)
+            EXPECT_TRUE(each.window.cutatstart || each.window.cutatend ||
+                        counted(close, plainclock(month.clock(), each.opens) + " to ") >= 1);
+    }
     boat.passage->bottom = -20;
     const auto never = painted(spanpage(boat, first, 7, pagezones, english), 0, papers[0]);
     EXPECT_EQ(counted(never, "Never in these days"), 1U);

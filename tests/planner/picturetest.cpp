@@ -225,6 +225,34 @@ TEST(PlanPicture, CutWindowsAndFarLevelsAreToldAsSuch) {
     EXPECT_EQ(far.count("at most 51.0 m, above the picture"), 1U);
 }
 
+TEST(PlanPicture, WatersComeBeforeWindowsAndLevelsAreAlwaysNamed) {
+    for (const auto& [port, most] : {std::pair{"Dover", 7}, {"Southampton", 3}})
+        for (const int count : {1, 3, 7, 14, 31})
+            for (const double level : {0.4, 1.6, 3.0, 6.4, 14.0}) {
+                const Date first = std::chrono::year{2026} / 7 / 14;
+                const Painted drawn(named(port), first, count, 1366, 330, boatof(level, 0), 13);
+                const Painted without(named(port), first, count, 1366, 330, boatof(99, 0), 13);
+                const std::string what = std::string(port) + std::to_string(count) + " " + std::to_string(level);
+                expectneat(drawn, what);
+                std::size_t names = 0;
+                for (const auto& each : drawn.canvas.texts)
+                    names += each.text.starts_with("needed ");
+                EXPECT_EQ(names, 1U) << what;
+                if (count > most) continue;
+                for (const PlannedWater& each : drawn.plan.waters()) {
+                    const std::string time = plainclock(drawn.plan.clock(), each.moment);
+                    EXPECT_TRUE(drawn.count(time) >= 1 || without.count(time) == 0) << time << what;
+                }
+            }
+    // All windows of a week over a low level have room over its line, where the low waters stand below it.
+    const Painted low(named("Dover"), std::chrono::year{2026} / 7 / 14, 7, 1366, 330, boatof(1.6, 0), 13);
+    std::size_t told = 0;
+    for (const PlannedWindow& each : low.access.windows)
+        told += low.count(plainclock(low.plan.clock(), each.opens) + "-") +
+                (each.window.cutatstart ? low.count("until") : 0);
+    EXPECT_EQ(told, low.access.windows.size());
+}
+
 TEST(PlanPicture, HeadsCallNoDayWhatItIsNot) {
     Painted drawn(named("Dover"), std::chrono::year{2026} / 7 / 1, 31, 700, 300);
     const auto springs = drawn.plan.springsandneaps();
@@ -267,9 +295,9 @@ TEST(PlanLabels, TheMoreImportantStay) {
         return Label{{std::to_string(int(x))}, {}, {x, 10}, importance};
     };
     LabelPlaces places(canvas, {0, 0, 400, 100});
-    const Area kept = places.takefree({100, 0, 150, 20});
-    EXPECT_EQ(kept.left, 100);
-    EXPECT_GE(places.takefree({100, 0, 150, 20}).left, 150);
+    EXPECT_EQ(places.takefirst({{390, 0, 410, 20}, {100, 0, 150, 20}})->left, 100);
+    EXPECT_EQ(places.takefirst({{140, 0, 160, 20}, {150, 0, 190, 20}})->left, 150);
+    EXPECT_FALSE(places.takefirst({{140, 0, 160, 20}, {-10, 0, 20, 20}}));
     std::vector<std::string> told;
     for (const Label& each : places.place({label(210, 1), label(220, 3), label(230, 2), label(-5, 1), label(120, 9)}))
         told.push_back(each.lines[0]);

@@ -66,6 +66,9 @@ TEST(PortClock, TellsWhatItGoesBy) {
     EXPECT_EQ(isomoment(rule.at(Moment(date(2027, 10, 30)) + 21h + 59min)), "2027-10-30T23:59+02:00");
     EXPECT_EQ(isomoment(rule.at(Moment(date(2027, 10, 30)) + 22h)), "2027-10-30T23:00+01:00");
     EXPECT_EQ(utname(-(3h + 30min)), "UT-3:30");
+    // Zones without letters.
+    for (const auto& [zone, name] : {std::pair{"America/Punta_Arenas", "UT-3"}, {"Australia/Eucla", "UT+8:45"}})
+        EXPECT_EQ(PortClock(ClockChoice::port, 0, zone, planzones).at(Moment(date(2027, 6, 1))).name, name);
 }
 
 /// A port of M2 alone, with its mean level.
@@ -130,10 +133,37 @@ TEST(Plan, EachOfADoubleWaterHasTheRangeOfItsTide) {
     const std::vector<PlannedWater> simple = planof(m2port(4, 2), "Europe/London", date(2026, 7, 14), 3).waters();
     for (const PlannedWater& each : simple)
         EXPECT_NEAR(each.water.springshare, std::abs(each.water.height - 4) / 2, 0.01);
-    // A stand: less than 2 hours and 0.1 m between two of a kind.
+    // Stands: a high and a low of the young flood 28 minutes and 2 cm apart, two highs less than 2 hours and 0.1 m.
     const Plan before = planof(shipped("Southampton"), "Europe/London", date(2026, 11, 23), 1);
     for (const PlannedWater& each : before.waters())
-        EXPECT_EQ(each.water.stand, each.water.height > 4.3 && each.moment > before.begins() + 12h);
+        EXPECT_EQ(each.water.stand, each.moment > before.begins() + 16h) << isomoment(before.clock().at(each.moment));
+}
+
+TEST(Plan, AStandIsNoTurnOfTheTide) {
+    // The young flood stands: a high of 1.909 m at 05:52 and a low of 1.906 m at 06:11, neither of which is the tide's.
+    const Plan plan = planof(shipped("Southampton"), "", date(2026, 6, 14), 1, ClockChoice::ut);
+    int slight = 0;
+    for (const PlannedWater& each : plan.waters()) {
+        if (each.moment == plan.begins() + 5h + 52min || each.moment == plan.begins() + 6h + 11min) {
+            EXPECT_TRUE(each.water.stand && each.water.slight);
+            ++slight;
+        }
+    }
+    EXPECT_EQ(slight, 2);
+    const auto next = plan.now(plan.begins() + 5h)->next();
+    EXPECT_TRUE(next->water.high && next->water.height > 4) << next->water.height;
+    // And wherever waters double, what is left as turns lies apart.
+    for (const char* name : {"Southampton", "Weymouth", "Swanage"}) {
+        const Plan month = planof(shipped(name), "", date(2026, 6, 1), 30, ClockChoice::ut);
+        std::vector<PlannedWater> turns;
+        for (const PlannedWater& each : month.waters())
+            if (!each.water.slight) turns.push_back(each);
+        EXPECT_LT(turns.size(), month.waters().size());
+        for (std::size_t i = 1; i < turns.size(); ++i)
+            EXPECT_TRUE(turns[i].moment - turns[i - 1].moment >= 2h ||
+                        std::abs(turns[i].water.height - turns[i - 1].water.height) >= 0.1)
+                << name << isomoment(month.clock().at(turns[i].moment));
+    }
 }
 
 TEST(Plan, WishesLeaveOutWhatIsDarkOrShort) {

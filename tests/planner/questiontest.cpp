@@ -33,13 +33,13 @@ TEST(PlanQuestion, ARefusalNamesItsField) {
         const char* typed;
         const char* refusal;
     } rows[] = {
-        {PlanField::draught, "", "Draught: write metres from 0 to 40, not \u201C\u201D"},
-        {PlanField::clearance, "41", "Clearance: write metres from 0 to 40, not \u201C41\u201D"},
-        {PlanField::bottom, "-41", "Bottom: write metres from -40 to 500, not \u201C-41\u201D"},
+        {PlanField::draught, "", "Draught: write metres from 0 to 50, not \u201C\u201D"},
+        {PlanField::clearance, "51", "Clearance: write metres from 0 to 50, not \u201C51\u201D"},
+        {PlanField::bottom, "-51", "Bottom: write metres from -50 to 1000, not \u201C-51\u201D"},
         {PlanField::airdraught, "", "Mast: write how high it stands above the water, in metres"},
         {PlanField::bridgelevel, " ",
          "Bridge's level: write how many metres above chart datum the level lies that its height is given for"},
-        {PlanField::least, "1441", "Least time: write minutes from 0 to 1440, not \u201C1441\u201D"},
+        {PlanField::least, "10081", "Least time: write minutes from 0 to 10080, not \u201C10081\u201D"},
     };
     for (const auto& row : rows) {
         PlanQuestion question = good;
@@ -82,14 +82,14 @@ TEST(PlanQuestion, StepsGoByTenthsAndQuartersWithinTheRange) {
     } rows[] = {{"1.9", PlanField::draught, 1, "2"},    {"1,9", PlanField::draught, -1, "1.8"},
                 {"1.85", PlanField::draught, 1, "1.9"}, {"1.85", PlanField::draught, -1, "1.8"},
                 {"0.05", PlanField::draught, -1, "0"},  {"0", PlanField::clearance, -1, "0"},
-                {"40", PlanField::draught, 3, "40"},    {"0.2", PlanField::bottom, -3, "-0.1"},
+                {"50", PlanField::draught, 3, "50"},    {"0.2", PlanField::bottom, -3, "-0.1"},
                 {"-0.1", PlanField::bottom, 1, "0"},    {"", PlanField::draught, 1, "0"},
                 {"", PlanField::bridge, 1, "20"},       {"", PlanField::bridge, -1, ""},
                 {"0.1", PlanField::bridge, -1, "0"},    {"0", PlanField::bridge, -1, ""},
                 {"", PlanField::least, 1, "15"},        {"20", PlanField::least, 1, "30"},
                 {"20", PlanField::least, -1, "15"},     {"15", PlanField::least, -1, "0"},
                 {"0", PlanField::least, -1, ""},        {"two", PlanField::bottom, 1, "two"},
-                {"300", PlanField::draught, -1, "40"}};
+                {"300", PlanField::draught, -1, "50"}};
     for (const auto& row : rows)
         EXPECT_EQ(stepped(row.text, row.field, row.steps), row.then) << row.text << " by " << row.steps;
 }
@@ -130,7 +130,7 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
         "null",
         "\xFF\xFE",
         "{\"days\": 1e999}",
-        R"({"days": 0, "clock": 4, "paper": 2, "daylight": -1, "leastminutes": 1441, "weekdays": 0, "draught": 1001})",
+        R"({"days": 0, "clock": 4, "paper": 2, "daylight": -1, "leastminutes": 10081, "weekdays": 0, "draught": 1001})",
         R"({"days": 32, "clock": -1, "paper": 18446744073709551615, "weekdays": 128, "bottoms": {"a": 1e9}})",
         R"({"bridges": {"a": 20, "b": {"height": 20}, "c": {"height": "20", "level": 3}, "d": null}})",
         R"({"bridges": [{"height": 20, "level": 3}]})",

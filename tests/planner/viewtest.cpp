@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "fakes/mainfixture.h"
+#include "planner/plancommands.h"
 #include "planner/plantexts.h"
 #include "planner/presenttide.h"
 #include "session/refresh.h"
@@ -31,7 +32,7 @@ struct PlanViewTest : LoadedMain {
 TEST_F(PlanViewTest, FollowsPortsAndWhatIsStoredOfThem) {
     PlanView view = opened();
     EXPECT_EQ(plantitle(view, scripted.locale), "Alder Quay, 9 to 15 April 2024, port's clock (Europe/London)");
-    EXPECT_NE(planfoot(view).find("chart datum (LAT)"), std::string::npos);
+    EXPECT_NE(planfoot(view).find(" above chart datum. "), std::string::npos);
     EXPECT_FALSE(followport(context, view));
     HarmonicRecord record = readport(area(), 1);
     record.Z0 += 1;
@@ -163,11 +164,16 @@ TEST_F(PlanViewTest, TheEndsOfTheCalendarHold) {
             for (const ClockChoice clock : {ClockChoice::port, ClockChoice::zone}) {
                 showclock(context, view, clock);
                 showdays(context, view, first, count);
-                EXPECT_TRUE(yearof(view.first) >= 1 && yearof(view.first + days(count - 1)) <= 9999);
+                const int shown = view.plan->planof().days;
+                EXPECT_TRUE(yearof(view.first) >= 1 && yearof(view.first + days(shown - 1)) <= 9999);
+                if (yearof(first) >= 99) {
+                    EXPECT_EQ(view.first, std::min(first, makedate(9999, 12, 31)));
+                }
+                EXPECT_EQ(shown, yearof(first) > 2000 ? 1 : count) << "none behind the last of all";
                 EXPECT_EQ(view.plan->clock().at(view.from).date, view.first);
                 EXPECT_FALSE(answertext(view, scripted.locale).empty());
                 EXPECT_FALSE(plantitle(view, scripted.locale).empty());
-                EXPECT_EQ(suntable(*view.plan, scripted.locale).rows.size(), static_cast<std::size_t>(count));
+                EXPECT_EQ(suntable(*view.plan, scripted.locale).rows.size(), static_cast<std::size_t>(shown));
             }
 }
 
@@ -178,6 +184,57 @@ TEST_F(PlanViewTest, AWholeYearIsOneEvenAtTheEndsOfTheCalendar) {
         const PlanView year = yearview(context, view);
         EXPECT_GT(year.plan->waters().size(), 1170U) << yearof(first);
         EXPECT_EQ(view.settings.days, 7);
+    }
+}
+
+TEST_F(PlanViewTest, ADayThatTheClockLeavesOutIsTold) {
+    replacefile(session.folders.programfolder + "/uk-about.csv",
+                std::string("number,name,country,timezone,datum,record_from,record_to,licence,source,"
+                            "time_error_median_min,time_error_p90_min,height_error_median_m,height_error_p90_m,"
+                            "mean_range_m\n1,Alder Quay,WS,Pacific/Apia,LAT,,,,,1,1,1,1,1\n"));
+    PlanView view = opened();
+    askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});
+    showdays(context, view, makedate(2011, 12, 30), 1);
+    EXPECT_EQ(answertext(view, scripted.locale),
+              "The clock leaves this day out, it does not exist there; the level needed is 3.40 m.");
+    for (const double factor : {0.5, 2.0})
+        zoomplan(view, factor, view.from);
+    EXPECT_EQ(view.to, view.from);
+    EXPECT_EQ(tidestable(*view.plan, scripted.locale).rows.at(0).cells.at(1), "no such day");
+    EXPECT_EQ(suntable(*view.plan, scripted.locale).rows.at(0).cells.at(1), "no such day");
+    showdays(context, view, makedate(2011, 12, 29), 3);
+    EXPECT_EQ(view.to - view.from, 48h);
+    EXPECT_NE(answertext(view, scripted.locale).find("One of these days is left out"), std::string::npos);
+    const auto rows = tidestable(*view.plan, scripted.locale).rows;
+    const auto leftout = std::find_if(rows.begin(), rows.end(), [](const auto& each) { return each.keys[2] == 0; });
+    ASSERT_TRUE(leftout != rows.end() && leftout != rows.begin());
+    EXPECT_TRUE((leftout - 1)->moment < leftout->moment && leftout->moment <= (leftout + 1)->moment);
+    showday(view, makedate(2011, 12, 30));
+    EXPECT_EQ(view.to - view.from, 48h) << "there is nothing of it to show";
+}
+
+TEST_F(PlanViewTest, ACopiedTableTellsWhatItIsOf) {
+    PlanView view = opened();
+    askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});
+    showdays(context, view, makedate(2025, 12, 31), 2);
+    const struct {
+        PlanTable table;
+        const char *heads, *dated;
+    } rows[] = {{tidestable(*view.plan, scripted.locale), "Day\tTime\tHeight\tWater\t", "\nThu 1 Jan 2026\t"},
+                {accesstable(*view.plan, view.access, *passageof(view), scripted.locale), "Opens\tCloses\tFor\t",
+                 "\tThu 1 Jan 2026 "},
+                {suntable(*view.plan, scripted.locale), "Day\tFirst light\t", "\nThu 1 Jan 2026\t"}};
+    for (const auto& row : rows) {
+        copyplantable(context, view, row.table);
+        const std::string text = scripted.clipboard.text();
+        EXPECT_TRUE(text.starts_with(
+            "Alder Quay, 31 December 2025 to 1 January 2026, port's clock (Europe/London); heights in metres above "
+            "chart datum\n" +
+            std::string(row.heads)))
+            << text;
+        EXPECT_NE(text.find(row.dated), std::string::npos) << text;
+        EXPECT_EQ(std::count(text.begin(), text.end(), '\t'),
+                  std::ptrdiff_t((row.table.headings.size() - 1) * (row.table.rows.size() + 1)));
     }
 }
 
@@ -221,17 +278,17 @@ TEST_F(PlanViewTest, ARefusalChangesNothing) {
     const std::size_t windows = view.access.windows.size();
     EXPECT_GT(windows, 5U);
     askquestion(context, view, {"deep", "9", "9", "", "", "", ""});
-    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write metres from 0 to 40, not \u201Cdeep\u201D");
+    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Draught: write metres from 0 to 50, not \u201Cdeep\u201D");
     EXPECT_EQ(view.access.windows.size(), windows);
     EXPECT_EQ(passageof(view)->clearance, 0.5);
     EXPECT_EQ(view.settings.bottoms.at("UK.hc/Alder Quay#1"), -1);
     askquestion(context, view, {"1.9", "0.5", "-1", "", "", "", ""});
     EXPECT_EQ(answertext(view, scripted.locale), answered);
     // As is what was stored before.
-    session.settings.userdepth = 600;
+    session.settings.userdepth = 1100;
     view.settings.bottoms.clear();
     EXPECT_TRUE(followport(context, view));
-    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Bottom: write metres from -40 to 500, not \u201C600\u201D");
+    EXPECT_EQ(answertext(view, scripted.locale), "\u26A0 Bottom: write metres from -50 to 1000, not \u201C1100\u201D");
     EXPECT_FALSE(passageof(view)) << "no boat of nothing is answered for";
     showdays(context, view, view.first, 3);
     EXPECT_FALSE(view.access.always || view.access.never || !view.access.windows.empty());

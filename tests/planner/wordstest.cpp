@@ -141,6 +141,29 @@ TEST(PlanWords, OffsetsStandWhereTheClockIsChangedInBetween) {
     EXPECT_NE(time(makedate(2026, 10, 25), 1).find(" UT"), std::string::npos);
 }
 
+TEST(PlanWords, TheDayOnWhichTheClockIsChangedSaysSo) {
+    static const SystemZones zones;
+    const struct {
+        const char* zone;
+        Date day;
+        const char* noon;
+    } rows[] = {{"Europe/London", makedate(2027, 3, 28), "12:00 BST"},
+                {"Europe/London", makedate(2027, 10, 31), "12:00 GMT"},
+                {"", makedate(2027, 3, 28), "12:00 UT+1"},                    // from its first moment on
+                {"", makedate(2027, 10, 30), "12:00 UT+1"},                   // an hour ahead of its end
+                {"America/Sao_Paulo", makedate(2018, 11, 4), "12:00 UT-2"}};  // no midnight
+    for (const auto& row : rows) {
+        const PortClock clock(ClockChoice::port, 0, row.zone, zones);
+        for (int aside = -1; aside <= 1; ++aside) {
+            const Moment noon = Moment(row.day + std::chrono::days(aside)) + 12h -
+                                clock.at(clock.startof(row.day + std::chrono::days(aside)) + 13h).ahead;
+            EXPECT_EQ(plainclock(clock, noon), aside == 0 ? row.noon : "12:00") << row.zone << aside;
+        }
+    }
+    const auto time = tidestable(simpleplan(makedate(2027, 3, 28), 1), ScriptedLocale()).rows[0].cells[1];
+    EXPECT_NE(time.find(" UT"), std::string::npos);
+}
+
 TEST(PlanWords, NowTellsTheNextWatersInTheirOrder) {
     const Plan plan = simpleplan(makedate(2026, 7, 14), 1);
     for (const PlannedWater& each : plan.waters()) {

@@ -140,11 +140,11 @@ TEST_F(FrmPlanner, WhatIsTypedIsAnsweredAtOnce) {
     type(field(PlanField::draught), "2.9");
     EXPECT_NE(answer(), answered);
     const std::string deeper = answer();
-    const auto table = tabbedtext(planner->windows->table());
+    const auto table = tabbedtext(planner->windows->table(), "");
     type(field(PlanField::draught), "x");
-    EXPECT_EQ(answer(), "\u26A0 Draught: write metres from 0 to 40, not \u201Cx\u201D");
+    EXPECT_EQ(answer(), "\u26A0 Draught: write metres from 0 to 50, not \u201Cx\u201D");
     EXPECT_TRUE(field(PlanField::draught).font().underline());
-    EXPECT_EQ(tabbedtext(planner->windows->table()), table);
+    EXPECT_EQ(tabbedtext(planner->windows->table(), ""), table);
     QApplication::processEvents();
     EXPECT_EQ(readplansettings(plansettingspath(session.folders)).draught, 2.9);
     type(field(PlanField::draught), "2.9");

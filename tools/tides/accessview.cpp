@@ -18,9 +18,9 @@ namespace {
 using Taker = std::function<void(const PlanPart&, const PlannedWindow&)>;
 using Closer = std::function<void(const PlanPart&, const WindowRun&)>;
 
-/// Hands over each port's windows in order, those over the midnight between two plans whole, and then what the port's
-/// days hold over all.
-void eachwindow(const ViewContext& context, const Taker& take, const Closer& close) {
+/// Hands over each port's windows in order, for calendars named, those over the midnight between two plans whole, and
+/// then what the port's days hold over all.
+void eachwindow(const ViewContext& context, bool named, const Taker& take, const Closer& close) {
     std::unique_ptr<PortClock> clock;
     std::unique_ptr<WindowRun> run;
     eachpart(context, true, [&](const PlanPart& part) {
@@ -28,7 +28,10 @@ void eachwindow(const ViewContext& context, const Taker& take, const Closer& clo
             clock = std::make_unique<PortClock>(part.plan->clock());
             run = std::make_unique<WindowRun>(*clock, context.plan.wishes);
         }
-        for (const PlannedWindow& each : run->add(*part.plan, part.access))
+        PlannedAccess access = part.access;
+        for (PlannedWindow& each : access.windows)
+            if (named) part.plan->nameopening(each, context.plan.passage);
+        for (const PlannedWindow& each : run->add(*part.plan, access))
             take(part, each);
         if (!part.last) return close(part, *run);
         for (const PlannedWindow& each : run->finish())
@@ -43,7 +46,7 @@ std::vector<Column> accesscolumns() {
 
 void accessrows(const ViewContext& context, RowWriter& writer, Absences& absences) {
     eachwindow(
-        context,
+        context, false,
         [&](const PlanPart& part, const PlannedWindow& window) {
             writer.row(windowcells(planport(context, *part.port), part.plan->clock(), window));
         },
@@ -52,7 +55,7 @@ void accessrows(const ViewContext& context, RowWriter& writer, Absences& absence
 
 void accesscalendar(const ViewContext& context, CalendarWriter& out, Absences& absences) {
     eachwindow(
-        context,
+        context, true,
         [&](const PlanPart& part, const PlannedWindow& window) {
             out.event(windowevent(planport(context, *part.port), part.port->port.record, part.plan->clock(), window,
                                   context.plan.passage, context.plan.now));
@@ -110,7 +113,7 @@ void accesstext(const ViewContext& context, std::ostream& out) {
         passagelines(context, part.port->known.datum(), out);
     };
     eachwindow(
-        context,
+        context, false,
         [&](const PlanPart& part, const PlannedWindow& window) {
             head(part);
             const Date date = part.plan->clock().at(window.opens).date;
@@ -126,6 +129,8 @@ void accesstext(const ViewContext& context, std::ostream& out) {
             const std::string verdict = accessverdict(all, context.plan.passage, run.whynot());
             if (!verdict.empty())
                 out << "\n" << verdict << "\n";
+            else if (run.whynot() == nosuchday)
+                out << "\nOne of these days is left out: it does not exist on this clock\n";
             else if (!run.whynot().empty())
                 out << "\nNo prediction for some of these days: " << run.whynot() << "\n";
         });

@@ -16,18 +16,12 @@ std::vector<Column> nowcolumns() {
             {"next_height"}};
 }
 
-/// Whichever comes first; nothing where neither does.
-std::optional<PlannedWater> nextwater(const TideNow& now) {
-    if (!now.nexthigh || !now.nextlow) return now.nexthigh ? now.nexthigh : now.nextlow;
-    return now.nexthigh->moment < now.nextlow->moment ? now.nexthigh : now.nextlow;
-}
-
 void nowrows(const ViewContext& context, RowWriter& writer, Absences& absences) {
     eachpart(context, false, [&](const PlanPart& part) {
         const PortClock& clock = part.plan->clock();
         const auto now = part.plan->now(context.plan.now);
         if (!now) return notelacking(absences, part);
-        const auto next = nextwater(*now);
+        const auto& next = now->next();
         writer.row({numbertext(part.port->port.number), part.port->name, isomoment(clock.at(context.plan.now)),
                     fixed(now->height, nowdecimals), fixed(now->rate, nowdecimals), tendencyword(now->rate),
                     next ? (next->water.high ? "high" : "low") : "", next ? isomoment(clock.at(next->moment)) : "",

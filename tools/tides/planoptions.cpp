@@ -5,17 +5,13 @@
 #include <charconv>
 #include <cmath>
 
+#include "planner/planlimits.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
 
 namespace {
-
-struct Bounds {
-    double least, most;
-};
-constexpr Bounds boatbounds{0, 50}, bottombounds{-50, 1000}, ceilingbounds{-50, 100};
 
 /// Plain decimals with a point or a comma, and a sign at most.
 std::optional<double> decimals(std::string text) {
@@ -27,17 +23,17 @@ std::optional<double> decimals(std::string text) {
     return value;
 }
 
-std::string takemetres(const char* option, Bounds bounds, const std::string& value, std::optional<double>& metres) {
+std::string takemetres(const char* option, PlanLimit limit, const std::string& value, std::optional<double>& metres) {
     metres = decimals(value);
-    if (metres && *metres >= bounds.least && *metres <= bounds.most) return "";
-    return std::string(option) + " takes metres from " + numbertext(bounds.least) + " to " + numbertext(bounds.most) +
+    if (metres && limit.holds(*metres)) return "";
+    return std::string(option) + " takes metres from " + numbertext(limit.least) + " to " + numbertext(limit.most) +
            ", not '" + value + "'";
 }
 
 /// Metres as they were typed into a box of the program, kept in single precision.
-std::string takestored(const char* option, float stored, std::optional<double> given, double& metres) {
+std::string takestored(const char* option, PlanLimit limit, float stored, std::optional<double> given, double& metres) {
     metres = given.value_or(val(shortest(stored)));
-    if (given || (stored >= boatbounds.least && stored <= boatbounds.most)) return "";
+    if (given || limit.holds(static_cast<double>(stored))) return "";
     return std::string("what is stored is no use; give ") + option;
 }
 
@@ -64,19 +60,19 @@ std::string takeclock(const std::string& value, PlanOptions& options) {
 }
 
 std::string takedraught(const std::string& value, PlanOptions& options) {
-    return takemetres("--draught", boatbounds, value, options.draught);
+    return takemetres("--draught", planlimits::draught, value, options.draught);
 }
 
 std::string takeclearance(const std::string& value, PlanOptions& options) {
-    return takemetres("--clearance", boatbounds, value, options.clearance);
+    return takemetres("--clearance", planlimits::clearance, value, options.clearance);
 }
 
 std::string takebottom(const std::string& value, PlanOptions& options) {
-    return takemetres("--bottom", bottombounds, value, options.bottom);
+    return takemetres("--bottom", planlimits::bottom, value, options.bottom);
 }
 
 std::string takeceiling(const std::string& value, PlanOptions& options) {
-    return takemetres("--ceiling", ceilingbounds, value, options.ceiling);
+    return takemetres("--ceiling", planlimits::ceiling, value, options.ceiling);
 }
 
 std::string takedaylight(const std::string& value, PlanOptions& options) {
@@ -88,7 +84,7 @@ std::string takedaylight(const std::string& value, PlanOptions& options) {
 }
 
 std::string takeleast(const std::string& value, PlanOptions& options) {
-    constexpr int most = 10080;  // a week
+    constexpr auto most = static_cast<int>(planlimits::leastminutes.most);
     const bool digits = value.find_first_not_of("0123456789") == std::string::npos && value.size() < 6;
     options.wishes.leastminutes = digits ? static_cast<int>(val(value)) : most + 1;
     if (options.wishes.leastminutes <= most) return "";
@@ -109,8 +105,11 @@ std::string takeweekdays(const std::string& value, PlanOptions& options) {
 }
 
 std::string takepassage(const PlanOptions& options, const Settings& settings, Passage& passage, WindowWishes& wishes) {
-    std::string fault = takestored("--draught", settings.currentdraught, options.draught, passage.draught);
-    if (fault.empty()) fault = takestored("--clearance", settings.currentukc, options.clearance, passage.clearance);
+    std::string fault =
+        takestored("--draught", planlimits::draught, settings.currentdraught, options.draught, passage.draught);
+    if (fault.empty())
+        fault =
+            takestored("--clearance", planlimits::clearance, settings.currentukc, options.clearance, passage.clearance);
     passage.bottom = options.bottom.value_or(0);
     passage.bridge = options.ceiling;
     wishes = options.wishes;

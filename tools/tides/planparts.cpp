@@ -82,7 +82,7 @@ std::vector<Column> plancolumns(std::span<const PlanColumn> columns) {
 
 bool lacksprediction(const Plan& plan, Date date) {
     const Moment from = plan.clock().startof(date), until = plan.clock().startof(date + std::chrono::days(1));
-    return !plan.height(from) || !plan.height(until - std::chrono::minutes(1));
+    return from >= until || !plan.height(from) || !plan.height(until - std::chrono::minutes(1));
 }
 
 void notelacking(Absences& absences, const PlanPart& part) {

@@ -51,6 +51,10 @@ void planwaterstext(const ViewContext& context, std::ostream& out) {
             const auto before = water;
             for (; water != plan.waters().end() && plan.clock().at(water->moment).date == date; ++water)
                 waterline(plan, *water, out);
+            if (!hasday(plan.clock(), date)) {
+                out << "  No such day: the clock leaves it out\n";
+                continue;
+            }
             if (lacks)
                 out << "No prediction" << (water == before ? ": " : " for some of it: ") << plan.whynot() << "\n";
             if (!lacks && water == before) out << "  No high or low water on this day\n";

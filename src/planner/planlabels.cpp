@@ -1,0 +1,275 @@
+#include "planner/planlabels.h"
+
+#include <array>
+#include <cmath>
+
+#include "paint/labels.h"
+#include "planner/plantexts.h"
+
+namespace tarvane {
+namespace {
+
+using pictureparts::floorof;
+using pictureparts::inset;
+using pictureparts::textlook;
+using std::chrono::days;
+
+/// A level that a passage asks for, where it is in the picture.
+struct Level {
+    double height = 0, y = 0;
+    bool above = false, below = false;
+    std::string name;
+
+    bool inside() const { return !above && !below; }
+};
+
+std::vector<Level> levelsof(const PlanPicture& picture, const PlanScale& scale) {
+    std::vector<Level> levels;
+    const auto add = [&](double height, const std::string& name) {
+        const double y = scale.y(height);
+        Level level{height, y, y<scale.plot.top, y> scale.plot.bottom, name + levelmetres(height)};
+        if (!level.inside()) level.name += level.above ? ", above the picture" : ", below the picture";
+        levels.push_back(level);
+    };
+    if (!picture.passage) return levels;
+    add(picture.passage->needed(), "needed ");
+    if (const auto ceiling = picture.passage->ceiling()) add(*ceiling, "at most ");
+    return levels;
+}
+
+/// Whether a level's line would strike a text out.
+bool onlevel(const std::vector<Level>& levels, const Area& text) {
+    return std::any_of(levels.begin(), levels.end(),
+                       [&](const Level& each) { return each.inside() && text.top < each.y && each.y < text.bottom; });
+}
+
+bool fewdays(const PlanScale& scale) {
+    return scale.to - scale.from < days(9);
+}
+
+bool shown(const PlanScale& scale, const PlannedWater& water) {
+    return water.moment >= scale.from && water.moment <= scale.to;
+}
+
+std::vector<Label> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
+                               const std::vector<Level>& levels) {
+    const double tall = canvas.textheight(textlook(picture, 0));
+    std::vector<Label> labels;
+    for (const PlannedWater& each : picture.plan.waters()) {
+        // Within the narrow curve of many days nobody could tell them from the tide's own.
+        if (!shown(scale, each) || (each.water.slight && !fewdays(scale))) continue;
+        const double y = scale.y(each.water.height);
+        Label label{{plainclock(picture.plan.clock(), each.moment), metres(each.water.height)},
+                    textlook(picture, picture.look.text, Anchor::middle, each.water.high),
+                    {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
+                    each.water.springshare + (each.water.high ? 10 : 0) - (each.water.slight ? 5 : 0)};
+        if (onlevel(levels, areaof(canvas, label))) label.behind = picture.look.paper;
+        labels.push_back(label);
+    }
+    return labels;
+}
+
+/// The curve's upper and lower edge in each column of the plot, one unit wide.
+class CurveColumns {
+  public:
+    CurveColumns(const PlanPicture& picture, const PlanScale& scale)
+        : left_(scale.plot.left), edges_(static_cast<std::size_t>(std::max(scale.plot.width(), 0.0)) + 2) {
+        for (const std::vector<Place>& piece : curvepieces(picture, scale, scale.from, scale.to))
+            for (const Place& each : piece) {
+                Edges& edges = edges_[columnof(each.x)];
+                edges.top = std::min(edges.top, each.y);
+                edges.bottom = std::max(edges.bottom, each.y);
+            }
+    }
+
+    bool crosses(const Area& area) const {
+        for (std::size_t column = columnof(area.left); column <= columnof(area.right); ++column)
+            if (edges_[column].top < area.bottom && edges_[column].bottom > area.top) return true;
+        return false;
+    }
+
+  private:
+    struct Edges {
+        double top = HUGE_VAL, bottom = -HUGE_VAL;
+    };
+
+    std::size_t columnof(double x) const {
+        return static_cast<std::size_t>(std::clamp(x - left_, 0.0, static_cast<double>(edges_.size() - 1)));
+    }
+
+    double left_;
+    std::vector<Edges> edges_;
+};
+
+/// Places for a level's name, the best first: on its line and under it from the left on, then in the rows farther and
+/// farther off.
+std::vector<Area> levelplaces(const PlanScale& scale, const Level& level, double width, double tall) {
+    const double left = scale.plot.left + inset, last = scale.plot.right - width - inset;
+    const double step = std::max(width / 4, 1.0), gap = inset / 2;
+    std::vector<double> rows;
+    const double start = std::clamp(level.y, scale.plot.top, scale.plot.bottom);
+    for (double aside = 0; aside < scale.plot.height(); aside += tall)
+        for (const double top : {start - aside - tall - gap, start + aside + gap})
+            if (top >= scale.plot.top && top + tall <= scale.plot.bottom) rows.push_back(top);
+    if (rows.empty()) rows.push_back(scale.plot.top);
+    std::vector<Area> places;
+    for (const double top : rows)
+        for (double x = left; x <= std::max(last, left); x += step)
+            places.push_back({x, top, x + width, top + tall});
+    return places;
+}
+
+bool overlap(const Area& one, const Area& other) {
+    return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
+}
+
+/// Where nothing is free, the first place that no other level's name has: the waters' labels there give way.
+Area forced(const std::vector<Area>& choices, const std::vector<Area>& names) {
+    const auto place = std::find_if(choices.begin(), choices.end(), [&](const Area& each) {
+        return std::none_of(names.begin(), names.end(), [&](const Area& name) { return overlap(each, name); });
+    });
+    return place == choices.end() ? choices.front() : *place;
+}
+
+/// The places in the order in which they are wanted: beside the line, within some rows of it, anywhere; of each first
+/// those that don't lie on the curve.
+std::vector<Area> inorder(const std::vector<Area>& all, const Level& level, double tall, const CurveColumns& curve) {
+    constexpr double rows[] = {1, 4, HUGE_VAL};
+    std::vector<Area> wanted;
+    double nearer = -HUGE_VAL;
+    for (const double within : rows) {
+        for (const bool clear : {true, false})
+            for (const Area& each : all) {
+                const double aside = level.inside() ? std::max(each.top - level.y, level.y - each.bottom) : 0;
+                if (aside >= nearer && aside < within * tall && curve.crosses(each) != clear) wanted.push_back(each);
+            }
+        nearer = within * tall;
+    }
+    return wanted;
+}
+
+/// Paints a level's name, which is always told: over the curve where nothing else is left. Returned: where.
+Area paintlevelname(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Level& level,
+                    const CurveColumns& curve, LabelPlaces& places, const std::vector<Area>& names) {
+    const TextLook look = textlook(picture, picture.look.needed, Anchor::left, true);
+    const double width = canvas.textwidth(level.name, look), tall = canvas.textheight(look);
+    const std::vector<Area> all = levelplaces(scale, level, width, tall);
+    const std::optional<Area> found = places.takefirst(inorder(all, level, tall, curve));
+    const Area area = found ? *found : forced(all, names);
+    if (!found) places.take(area);
+    const std::array corners{Place{area.left, area.top}, Place{area.right, area.top}, Place{area.right, area.bottom},
+                             Place{area.left, area.bottom}};
+    canvas.fill(corners, picture.look.paper, 0.8);
+    canvas.text({area.left, area.top}, level.name, look);
+    return area;
+}
+
+/// How windows' times are told: in one line or two, under the level's line or over it.
+struct WindowForm {
+    bool oneline, under;
+};
+
+std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
+                                const WindowForm& form) {
+    std::vector<Label> labels;
+    const TextLook look = textlook(picture, picture.look.needed, Anchor::middle, true);
+    const double tall = canvas.textheight(look) * (form.oneline ? 1 : 2), foot = floorof(picture, scale);
+    const double top = form.under ? foot + inset / 2 : foot - tall - inset;
+    for (const PlannedWindow& each : picture.access->windows) {
+        const Moment opens = std::max(each.opens, scale.from), closes = std::min(each.closes, scale.to);
+        if (opens >= closes) continue;
+        // A window that goes on beyond the plan doesn't open or close at its end.
+        const bool openbefore = each.window.cutatstart, openafter = each.window.cutatend;
+        if (openbefore && openafter) continue;
+        const std::string first = plainclock(picture.plan.clock(), each.opens);
+        const std::string last = plainclock(picture.plan.clock(), each.closes);
+        const std::string from = openbefore  ? "until"
+                                 : openafter ? "from"
+                                             : first + "-",
+                          until = openafter ? first : last, between = openbefore || openafter ? " " : "";
+        const double middle = (scale.x(opens) + scale.x(closes)) / 2;
+        Label label{{from + between + until}, look, {middle, top}, 0, picture.look.paper};
+        if (!form.oneline) label.lines = {from, until};
+        labels.push_back(label);
+    }
+    return labels;
+}
+
+/// Moved sideways where only that keeps it in the plot.
+Label inside(const Canvas& canvas, const Area& plot, Label label) {
+    const Area area = areaof(canvas, label);
+    label.middle.x += std::max(plot.left - area.left, 0.0) + std::min(plot.right - area.right, 0.0);
+    return label;
+}
+
+/// All in the first form in which all have room, else in the one in which the most have, the others as they can be.
+std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
+                                     LabelPlaces& places) {
+    if (!picture.passage || !picture.access) return {};
+    // Over many days on end two lines would cut the curve in two; the table tells them all.
+    std::vector<std::vector<Label>> forms;
+    std::vector<Label> best;
+    LabelPlaces taken = places;
+    std::vector<bool> told;
+    for (const WindowForm& form : {WindowForm{true, true}, {false, true}, {true, false}, {false, false}}) {
+        if (!form.oneline && !fewdays(scale)) continue;
+        LabelPlaces trial = places;
+        std::vector<Label> placed;
+        std::vector<bool> having;
+        forms.push_back(windowlabels(canvas, picture, scale, form));
+        for (Label& each : forms.back()) {
+            each = inside(canvas, scale.plot, each);
+            const auto found = trial.placefirst({each});
+            having.push_back(found.has_value());
+            if (found) placed.push_back(*found);
+        }
+        if (told.empty() || placed.size() > best.size()) {
+            best = std::move(placed);
+            taken = std::move(trial);
+            told = std::move(having);
+        }
+        if (best.size() == told.size()) break;
+    }
+    if (best.size() < told.size() && !fewdays(scale)) return {};
+    for (std::size_t i = 0; i < told.size(); ++i) {
+        std::vector<Label> choices;
+        for (const std::vector<Label>& form : forms)
+            if (!told[i]) choices.push_back(form[i]);
+        if (const auto found = taken.placefirst(choices)) best.push_back(*found);
+    }
+    places = std::move(taken);
+    return best;
+}
+
+}  // namespace
+
+void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    const std::vector<Level> levels = levelsof(picture, scale);
+    for (const Level& each : levels) {
+        if (!each.inside()) continue;
+        const std::array line{Place{scale.plot.left, each.y}, Place{scale.plot.right, each.y}};
+        canvas.line(line, {picture.look.needed, 1.5 * pictureparts::strokeof(picture), LineStyle::dashed});
+    }
+    LabelPlaces places(canvas, scale.plot);
+    std::vector<Label> labels = places.place(waterlabels(canvas, picture, scale, levels));
+    // The turns themselves are to be seen too.
+    for (const PlannedWater& each : picture.plan.waters()) {
+        if (!shown(scale, each)) continue;
+        const double x = scale.x(each.moment), y = scale.y(each.water.height), aside = inset / 2;
+        places.take({x - aside, y - aside, x + aside, y + aside});
+    }
+    const std::vector<Label> windows = placewindowlabels(canvas, picture, scale, places);
+    labels.insert(labels.end(), windows.begin(), windows.end());
+    if (!levels.empty()) {
+        const CurveColumns curve(picture, scale);
+        std::vector<Area> names;
+        for (const Level& each : levels) {
+            names.push_back(paintlevelname(canvas, picture, scale, each, curve, places, names));
+            std::erase_if(labels, [&](const Label& label) { return overlap(areaof(canvas, label), names.back()); });
+        }
+    }
+    for (const Label& each : labels)
+        paintlabel(canvas, each);
+}
+
+}  // namespace tarvane

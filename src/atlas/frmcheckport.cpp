@@ -85,6 +85,7 @@ CheckTable::CheckTable() {
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
+    setWordWrap(false);
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                     QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
 }
@@ -302,22 +303,24 @@ void frmcheckport::tidyline(int row) {
     const auto place = static_cast<std::size_t>(row);
     if (place >= waters.size()) return;
     TableWater& water = waters[place];
-    const std::string before = water.date, unread = dateleft.row == row ? dateleft.text : "";
+    const std::string before = water.date + water.time, unread = dateleft.row == row ? dateleft.text : "";
     dateleft = {};
     water.date = tidydate(water.date, dates());
+    water.time = tidytime(water.time);
     if (water.date.empty() && !isempty(water) && row > 0) water.date = waters[place - 1].date;
     const auto put = [this](std::size_t at) {
         table->item(static_cast<int>(at), datecolumn)->setText(screentext(of.check.waters[at].date));
     };
     filling = true;
     put(place);
+    table->item(row, timecolumn)->setText(screentext(water.time));
     if (!unread.empty() && !datefault(unread).empty() && datefault(water.date).empty())
         for (std::size_t behind = place + 1; behind < waters.size() && waters[behind].date == unread; ++behind) {
             waters[behind].date = water.date;
             put(behind);
         }
     filling = false;
-    if (water.date == before) return;
+    if (water.date + water.time == before) return;
     showresult();
     keepsoon();
 }

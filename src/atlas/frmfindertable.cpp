@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <numeric>
 
@@ -28,6 +29,16 @@ std::string zonetext(const WorldPort& port, const FinderSight& sight) {
     const PortClock clock(ClockChoice::port, zonehoursof(record), zone, sight.zones);
     return (clock.byrule() ? "Zone " + port.zoneletter : zone) + ", " + utname(clock.at(sight.now).ahead);
 }
+
+/// Cut in its middle, so that what the clock is ahead stays to be read.
+class ZoneDelegate : public QStyledItemDelegate {
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideMiddle;
+    }
+};
 
 }  // namespace
 
@@ -117,6 +128,7 @@ FinderTable::FinderTable(const FinderSight& sight) : model_(*this, sight) {
     setExpandsOnDoubleClick(false);
     setIconSize({marksize, marksize});
     header()->setSectionsMovable(false);
+    setItemDelegateForColumn(zone, new ZoneDelegate(this));
     sizecolumns();
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) {
         if (index.column() == star && onstar) onstar(placeof(index));

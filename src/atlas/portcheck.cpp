@@ -184,7 +184,7 @@ PortClock clockof(TableClock choice, const HarmonicRecord& port, const std::stri
 }
 
 std::string addedwords(std::size_t added, const std::vector<int>& leftout) {
-    constexpr std::size_t most = 5;
+    constexpr std::size_t most = 3;
     std::string words = added == 1 ? "1 line added" : numbertext(static_cast<int>(added)) + " lines added";
     if (leftout.empty()) return words;
     const bool one = leftout.size() == 1, more = leftout.size() > most;
@@ -193,7 +193,7 @@ std::string addedwords(std::size_t added, const std::vector<int>& leftout) {
     for (std::size_t i = 0; i < named; ++i)
         words += (i == 0 ? "" : i + 1 < named || more ? ", " : " and ") + numbertext(leftout[i]);
     if (more) words += " and " + numbertext(static_cast<int>(leftout.size() - most)) + " more";
-    return words + (one ? " is left out: its note says why" : " are left out: their notes say why");
+    return words + " left out: see Note";
 }
 
 CheckResult checkwaters(const HarmonicRecord& port, const std::string& iana, const TableCheck& check,

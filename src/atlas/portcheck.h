@@ -42,7 +42,7 @@ PortClock clockof(TableClock choice, const HarmonicRecord& port, const std::stri
 CheckResult checkwaters(const HarmonicRecord& port, const std::string& iana, const TableCheck& check,
                         const Zones& zones);
 
-/// "12 lines added; lines 3 and 4 are left out: their notes say why", by their numbers.
+/// "12 lines added; lines 3 and 4 left out: see Note", by their numbers.
 std::string addedwords(std::size_t added, const std::vector<int>& leftout);
 
 /// "4 min early and 0.03 m too low", "on time and as high as the table": the prediction against the table.

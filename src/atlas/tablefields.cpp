@@ -116,6 +116,14 @@ std::optional<int> readtime(const std::string& typed) {
     return hours < 24 ? std::optional(hours * 60 + std::stoi(minute)) : std::nullopt;
 }
 
+std::string tidytime(const std::string& typed) {
+    std::string text = trim(typed);
+    const auto minute = readtime(text);
+    if (!minute || !takehalfday(text)) return typed;
+    const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
+    return two(*minute / 60) + ":" + two(*minute % 60);
+}
+
 std::optional<double> readheight(const std::string& typed) {
     const auto amount = readamount(typed);
     return amount && std::abs(amount->metres) <= mostmetres ? std::optional(amount->metres) : std::nullopt;

@@ -20,6 +20,9 @@ std::optional<int> readhalfday(const std::string& typed);
 /// Minutes of the day: "6:12", "06:12", "0612", "06h12", "6.12", "6:12 am".
 std::optional<int> readtime(const std::string& typed);
 
+/// A time with "am" or "pm" as "16:33"; any other text as it is.
+std::string tidytime(const std::string& typed);
+
 struct Amount {
     double metres = 0;
     bool unit = false;  ///< is said

@@ -205,7 +205,7 @@ class WatersReader {
         // Two columns of such numbers can be either way round.
         if (dot) swappable = swappable && looksheight(field);
         dotted = dotted || dot;
-        water.time = text;
+        water.time = tidytime(text);
         at += half ? 2 : 1;
         return true;
     }

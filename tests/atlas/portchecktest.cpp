@@ -177,9 +177,9 @@ TEST_F(PastedWaters, LinesAreReadAsTablesHaveThem) {
         {"Sa 04.04.2026 04:33 5,1 m", "2026-04-04|04:33|5,1|"},
         {"Samstag, 4. April 2026\u00A004:33   5,1 m  HW", "2026-04-04|04:33|5,1|high"},
         {"04/04/2026 (Saturday) 04:33:00 | 5.1", "2026-04-04|04:33:00|5.1|"},
-        {"\"4/4/2026\",\"4:33 AM\",\"16.8 ft\",\"High\"", "2026-04-04|4:33 AM|16.8 ft|high"},
+        {"\"4/4/2026\",\"4:33 AM\",\"16.8 ft\",\"High\"", "2026-04-04|04:33|16.8 ft|high"},
         {"2026-04-04T04:33 16.8' H", "2026-04-04|04:33|16.8'|high"},
-        {"04:33pm 241 cm", "|04:33pm|241 cm|"},
+        {"04:33pm 241 cm", "|16:33|241 cm|"},
         {"04h56 5.1", "|04h56|5.1|"},
         {"4.56 5.1", "|4.56|5.1|"},
         {"04.56 5.10", "|04.56|5.10|"},
@@ -190,7 +190,7 @@ TEST_F(PastedWaters, LinesAreReadAsTablesHaveThem) {
         {"2026 04 04 0433 5.1", "2026-04-04|0433|5.1|"},
         {"04/04/2026 0433 5.1 1042 0.9 1655 5.3", "2026-04-04|0433|5.1| / 2026-04-04|1042|0.9| / 2026-04-04|1655|5.3|"},
         {"0433 5.1 HW 1042 0.9 LW", "|0433|5.1|high / |1042|0.9|low"},
-        {"high water 4:33 am 5 low water 10:42 am 1", "|4:33 am|5|high / |10:42 am|1|low"},
+        {"high water 4:33 am 5 low water 10:42 am 1", "|04:33|5|high / |10:42|1|low"},
         {"0433 5.1 LW 1042 0.9", "0433 5.1 LW 1042 0.9|||"},
         {"0433 5.1 1042 0.9 1655", "0433 5.1 1042 0.9 1655|||"},
         {"31/04/2026 0433 5.1", "31/04/2026|0433|5.1|"},
@@ -232,11 +232,9 @@ TEST(TableFields, AreReadInEveryUsualForm) {
     for (const char* text : {"", "m", "31", "100 ft", "5.4.1", "5e1", "inf", "5 fathoms"})
         EXPECT_FALSE(readheight(text)) << text;
     EXPECT_EQ(addedwords(1, {}), "1 line added");
-    EXPECT_EQ(addedwords(9, {3}), "9 lines added; line 3 is left out: its note says why");
-    EXPECT_EQ(addedwords(9, {3, 4, 7}), "9 lines added; lines 3, 4 and 7 are left out: their notes say why");
-    EXPECT_EQ(addedwords(9, {1, 2, 3, 4, 5, 6}),
-              "9 lines added; lines 1, 2, 3, 4, 5 and 1 more are left out: their notes "
-              "say why");
+    EXPECT_EQ(addedwords(9, {3}), "9 lines added; line 3 left out: see Note");
+    EXPECT_EQ(addedwords(9, {3, 4, 7}), "9 lines added; lines 3, 4 and 7 left out: see Note");
+    EXPECT_EQ(addedwords(9, {1, 2, 3, 4, 5}), "9 lines added; lines 1, 2, 3 and 2 more left out: see Note");
 }
 
 }  // namespace

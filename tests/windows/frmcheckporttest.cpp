@@ -103,14 +103,15 @@ TEST_F(FrmCheckPort, ADateThatIsMendedIsThatOfItsLinesToo) {
     form.cmdPaste->click();
     EXPECT_EQ(form.check().waters.size(), 4U);
     EXPECT_EQ(cell(form, 2, frmcheckport::datecolumn), "14 Jully 2026");
-    EXPECT_TRUE(shown(*form.lblSaid).starts_with("4 lines added; lines 1, 2 and 3 are left out"))
-        << shown(*form.lblSaid);
+    EXPECT_TRUE(shown(*form.lblSaid).starts_with("4 lines added; lines 1, 2 and 3 left out")) << shown(*form.lblSaid);
     form.table->setCurrentCell(0, frmcheckport::datecolumn);
     type("Tue 14 July 2026");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     for (const int row : {0, 1, 2})
         EXPECT_EQ(cell(form, row, frmcheckport::datecolumn), "2026-07-14") << row;
     EXPECT_EQ(cell(form, 3, frmcheckport::datecolumn), "2026-07-15");
+    form.table->item(3, frmcheckport::timecolumn)->setText("7:00 pm");
+    EXPECT_EQ(cell(form, 3, frmcheckport::timecolumn), "19:00");
     scripted.clipboard.contents = "16/7/2026";
     form.table->setCurrentCell(3, frmcheckport::datecolumn);
     form.cmdPaste->click();

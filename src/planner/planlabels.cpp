@@ -131,6 +131,14 @@ Area forced(const std::vector<Area>& choices, const std::vector<Area>& names) {
     return place == choices.end() ? choices.front() : *place;
 }
 
+/// Whether it would seem to name another level's line.
+bool nearother(const Area& area, const Level& level, const std::vector<Level>& levels) {
+    const auto aside = [&](const Level& each) { return std::abs((area.top + area.bottom) / 2 - each.y); };
+    return level.inside() && std::any_of(levels.begin(), levels.end(), [&](const Level& each) {
+               return each.inside() && aside(each) < aside(level);
+           });
+}
+
 /// The places in the order in which they are wanted: beside the line, within some rows of it, anywhere; of each first
 /// those that don't lie on the curve.
 std::vector<Area> inorder(const std::vector<Area>& all, const Level& level, double tall, const CurveColumns& curve) {
@@ -148,20 +156,31 @@ std::vector<Area> inorder(const std::vector<Area>& all, const Level& level, doub
     return wanted;
 }
 
-/// Paints a level's name, which is always told: over the curve where nothing else is left. Returned: where.
-Area paintlevelname(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Level& level,
-                    const CurveColumns& curve, LabelPlaces& places, const std::vector<Area>& names) {
-    const TextLook look = textlook(picture, picture.look.needed, Anchor::left, true);
+/// What levels' names are set among.
+struct NamedPlot {
+    const PlanPicture& picture;
+    const PlanScale& scale;
+    const std::vector<Level>& levels;
+    CurveColumns curve{picture, scale};
+    std::vector<Area> names = {};  ///< painted already
+};
+
+/// Paints a level's name, which is always told: over the curve where nothing else is left.
+void paintlevelname(Canvas& canvas, NamedPlot& plot, const Level& level, LabelPlaces& places) {
+    const TextLook look = textlook(plot.picture, plot.picture.look.needed, Anchor::left, true);
     const double width = canvas.textwidth(level.name, look), tall = canvas.textheight(look);
-    const std::vector<Area> all = levelplaces(scale, level, width, tall);
-    const std::optional<Area> found = places.takefirst(inorder(all, level, tall, curve));
-    const Area area = found ? *found : forced(all, names);
+    const std::vector<Area> all = levelplaces(plot.scale, level, width, tall);
+    std::vector<Area> own = all;
+    std::erase_if(own, [&](const Area& each) { return nearother(each, level, plot.levels); });
+    std::optional<Area> found = places.takefirst(inorder(own, level, tall, plot.curve));
+    if (!found) found = places.takefirst(inorder(all, level, tall, plot.curve));
+    const Area area = found ? *found : forced(all, plot.names);
     if (!found) places.take(area);
     const std::array corners{Place{area.left, area.top}, Place{area.right, area.top}, Place{area.right, area.bottom},
                              Place{area.left, area.bottom}};
-    canvas.fill(corners, picture.look.paper, 0.8);
+    canvas.fill(corners, plot.picture.look.paper, 0.8);
     canvas.text({area.left, area.top}, level.name, look);
-    return area;
+    plot.names.push_back(area);
 }
 
 /// How windows' times are told: in one line or two, under the level's line or over it.
@@ -207,12 +226,15 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
                                      LabelPlaces& places) {
     if (!picture.passage || !picture.access) return {};
     // Over many days on end two lines would cut the curve in two; the table tells them all.
+    // Between two levels' lines they would hide the windows themselves.
+    const auto ceiling = picture.passage->ceiling();
+    const bool bridged = ceiling && scale.y(*ceiling) >= scale.plot.top;
     std::vector<std::vector<Label>> forms;
     std::vector<Label> best;
     LabelPlaces taken = places;
     std::vector<bool> told;
     for (const WindowForm& form : {WindowForm{true, true}, {false, true}, {true, false}, {false, false}}) {
-        if (!form.oneline && !fewdays(scale)) continue;
+        if ((!form.oneline && !fewdays(scale)) || (!form.under && bridged)) continue;
         LabelPlaces trial = places;
         std::vector<Label> placed;
         std::vector<bool> having;
@@ -261,11 +283,11 @@ void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale
     const std::vector<Label> windows = placewindowlabels(canvas, picture, scale, places);
     labels.insert(labels.end(), windows.begin(), windows.end());
     if (!levels.empty()) {
-        const CurveColumns curve(picture, scale);
-        std::vector<Area> names;
+        NamedPlot plot{picture, scale, levels};
         for (const Level& each : levels) {
-            names.push_back(paintlevelname(canvas, picture, scale, each, curve, places, names));
-            std::erase_if(labels, [&](const Label& label) { return overlap(areaof(canvas, label), names.back()); });
+            paintlevelname(canvas, plot, each, places);
+            std::erase_if(labels,
+                          [&](const Label& label) { return overlap(areaof(canvas, label), plot.names.back()); });
         }
     }
     for (const Label& each : labels)

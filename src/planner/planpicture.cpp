@@ -85,13 +85,16 @@ void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     const double perhour = scale.plot.width() / (static_cast<double>((scale.to - scale.from).count()) / 3600);
     const double digits = canvas.textwidth("00", look);
     const int step = static_cast<int>(stepof(ladder, perhour, digits * 1.8));
+    double behind = -HUGE_VAL;
     eachhour(picture, scale, [&](Moment at, int hour) {
         const double x = scale.x(at);
         const std::array places{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
         if (hour == 0 || hour % step != 0) return;
         canvas.line(places, {picture.look.grid, 0.5});
-        if (step <= 12 && x + digits / 2 <= picture.area.right)
-            canvas.text({x, scale.plot.bottom + inset / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
+        // An hour that comes twice may have room for its name once.
+        if (step > 12 || x + digits / 2 > picture.area.right || x - digits / 2 < behind) return;
+        behind = x + 0.8 * digits;
+        canvas.text({x, scale.plot.bottom + inset / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
     });
 }
 

@@ -59,11 +59,13 @@ void StatusBar::show(const MainView& view) {
     fill();
 }
 
-void StatusBar::shownow(const std::string& text) {
-    const QString shown = screentext(text);
+void StatusBar::shownow(const std::string& brief, const std::string& whole) {
+    const QString told = screentext(whole);
+    statusnow->setToolTip(told);
+    statusnow->setAccessibleDescription(told);
+    const QString shown = screentext(brief);
     if (shown == statusnow->text()) return;
     statusnow->setText(shown);
-    statusnow->setToolTip("The tide at this moment, on the port's own clock: " + shown);
     fill();
 }
 

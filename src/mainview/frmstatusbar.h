@@ -16,8 +16,8 @@ class StatusBar : public QStatusBar {
 
     void show(const MainView& view);
 
-    /// The present tide, in few words.
-    void shownow(const std::string& text);
+    /// The present tide: few words that stand there, all of them in the tool tip.
+    void shownow(const std::string& brief, const std::string& whole);
 
     /// The line of what tides are on show was clicked.
     std::function<void()> onclick;

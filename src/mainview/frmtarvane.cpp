@@ -62,7 +62,8 @@ void frmtarvane::showview() {
 }
 
 void frmtarvane::shownow() {
-    statusbar->shownow(presenttidetext(context, present));
+    const PresentTexts texts = presenttidetexts(context, present);
+    statusbar->shownow(texts.brief, texts.whole);
 }
 
 void frmtarvane::copyview() {

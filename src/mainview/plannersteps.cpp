@@ -33,14 +33,17 @@ void showdate(MainContext& context, Date date) {
     drawtidecurve(context.session, context.surfaces);
 }
 
-std::string presenttidetext(const MainContext& context, PresentTide& present) {
+PresentTexts presenttidetexts(const MainContext& context, PresentTide& present) {
     const Session& session = context.session;
     const Settings& settings = session.settings;
-    if (settings.currentport < 1 || settings.currentport > portcount(settings.hcfile)) return "";
+    if (settings.currentport < 1 || settings.currentport > portcount(settings.hcfile)) return {};
     const HarmonicRecord port = readport(settings.hcfile, settings.currentport);
     const PortKnown known = whatisknown(knownarea(session.folders, settings.hcfile), port, settings.currentport);
     const Moment now = context.services.clock.moment();
-    return shortnowtext(present.at(port, known.iana(), ClockChoice::port, context.services.zones, now), now);
+    const Plan& today = present.at(port, known.iana(), ClockChoice::port, context.services.zones, now);
+    const std::string brief = shortnowtext(today, now);
+    if (brief.empty()) return {};
+    return {brief, nowtext(today, now) + "\nTimes by the " + today.clock().description()};
 }
 
 }  // namespace tarvane

@@ -17,7 +17,12 @@ void chooseport(MainContext& context, const std::string& area, std::int16_t numb
 /// Shows a day, as entering its date does.
 void showdate(MainContext& context, Date date);
 
-/// "Now 3.4 m, rising 0.6 m/h, HW 17:02", on the port's clock; empty without a prediction.
-std::string presenttidetext(const MainContext& context, PresentTide& present);
+/// The present tide on the port's own clock; both empty without a prediction.
+struct PresentTexts {
+    std::string brief;  ///< "Now 3.4 m, rising 0.6 m/h, HW 17:02 BST"
+    std::string whole;  ///< with both next waters, the time to go to them, and which clock that is
+};
+
+PresentTexts presenttidetexts(const MainContext& context, PresentTide& present);
 
 }  // namespace tarvane

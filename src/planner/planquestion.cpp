@@ -19,14 +19,13 @@ struct FieldRule {
     bool optional = false;
 };
 
-constexpr std::array<FieldRule, planfields> rules{
-    {{"Draught", planlimits::draught, "metres", 0.1, 0},
-     {"Clearance", planlimits::clearance, "metres", 0.1, 0},
-     {"Bottom", planlimits::bottom, "metres", 0.1, 0},
-     {"Bridge", planlimits::bridge, "metres", 0.1, 20, true},
-     {"Mast", planlimits::airdraught, "metres", 0.1, 15, true},
-     {"Bridge's level", planlimits::bridgelevel, "metres", 0.1, 5, true},
-     {"Least time", planlimits::leastminutes, "minutes", 15, 15, true}}};
+constexpr std::array<FieldRule, planfields> rules{{{"Draught", planlimits::draught, "metres", 0.1, 0},
+                                                   {"Clearance", planlimits::clearance, "metres", 0.1, 0},
+                                                   {"Bottom", planlimits::bottom, "metres", 0.1, 0},
+                                                   {"Bridge", planlimits::bridge, "metres", 0.1, 20, true},
+                                                   {"Mast", planlimits::airdraught, "metres", 0.1, 15, true},
+                                                   {"Bridge's level", planlimits::bridgelevel, "metres", 0.1, 5, true},
+                                                   {"Least time", planlimits::leastminutes, "minutes", 15, 15, true}}};
 
 std::string fieldtext(double value) {
     // Stored singles read as they were typed.

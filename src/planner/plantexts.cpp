@@ -325,9 +325,11 @@ std::string shortnowtext(const Plan& plan, Moment moment) {
     const auto now = plan.now(moment);
     if (!now) return "";
     std::string text = "Now " + metres(now->height) + ", " + tendency(now->rate);
-    if (const auto& next = now->next())
-        text += std::string(next->water.high ? ", HW " : ", LW ") + clocktext(plan.clock().at(next->moment)) +
+    if (const auto& next = now->next()) {
+        const ClockTime time = plan.clock().at(next->moment);
+        text += std::string(next->water.high ? ", HW " : ", LW ") + clocktext(time) + " " + time.name +
                 (next->water.stand ? " (stand)" : "");
+    }
     return text;
 }
 

@@ -75,7 +75,8 @@ std::string accessverdict(const PlannedAccess& access, const Passage& passage, c
 /// min.", whichever comes first before the other; "at 17:02 (stand)" where the tide stands about it.
 std::string nowtext(const Plan& plan, Moment moment);
 
-/// The same in few words, of the next water alone: "Now 3.4 m, rising 0.6 m/h, HW 17:02"; empty without a prediction.
+/// The same in few words, of the next water alone and with the clock's name: "Now 3.4 m, rising 0.6 m/h, HW 17:02 BST";
+/// empty without a prediction.
 std::string shortnowtext(const Plan& plan, Moment moment);
 
 }  // namespace tarvane

@@ -48,22 +48,27 @@ TEST_F(PlannerSteps, ADayIsShownAsIfEntered) {
 
 TEST_F(PlannerSteps, ThePresentTideIsToldWhateverDayIsOnShow) {
     PresentTide present;
-    const std::string text = presenttidetext(context, present);
+    const auto brief = [&] { return presenttidetexts(context, present).brief; };
+    const std::string text = brief();
     // In summer time and to the minute; the day's table is without it, in rows of ten.
-    EXPECT_EQ(text, "Now 3.6 m, rising 1.2 m/h, HW 18:03");
+    EXPECT_EQ(text, "Now 3.6 m, rising 1.2 m/h, HW 18:03 UT+1");
+    const std::string whole = presenttidetexts(context, present).whole;
+    EXPECT_TRUE(whole.starts_with("Now 15:32: 3.6 m, rising 1.2 m/h. High water 5.5 m at 18:03, in 2 h 31 min. Low"))
+        << whole;
+    EXPECT_NE(whole.find("\nTimes by the port's clock"), std::string::npos) << whole;
     EXPECT_NE(session.daytable.daystide1.find("17:00   5.5"), std::string::npos) << session.daytable.daystide1;
     showdate(context, makedate(2026, 10, 25));
-    EXPECT_EQ(presenttidetext(context, present), text);
+    EXPECT_EQ(brief(), text);
     scripted.clock.set(1990, 1, 1);
-    EXPECT_EQ(presenttidetext(context, present), "") << "no prediction";
+    EXPECT_EQ(brief(), "") << "no prediction";
     scripted.clock.set(2024, 4, 9, 14, 32);
     for (const int number : {0, 5, -1}) {
         session.settings.currentport = static_cast<std::int16_t>(number);
-        EXPECT_EQ(presenttidetext(context, present), "") << number;
+        EXPECT_EQ(brief(), "") << number;
     }
     session.settings.currentport = 1;
     std::filesystem::remove(area());
-    EXPECT_EQ(presenttidetext(context, present), "");
+    EXPECT_EQ(brief(), "");
 }
 
 }  // namespace

@@ -2,12 +2,12 @@
 #include <cmath>
 #include <memory>
 
+#include "dates/englishlocale.h"
 #include "planner/plancalendar.h"
 #include "planner/planrun.h"
 #include "planner/plantexts.h"
 #include "portdata/aboutwords.h"
 #include "text/numbers.h"
-#include "dates/englishlocale.h"
 #include "tides/planparts.h"
 #include "tides/textforms.h"
 

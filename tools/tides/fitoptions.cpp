@@ -7,17 +7,12 @@
 
 #include "portdata/portscsv.h"
 #include "text/singlebyte.h"
-#include "tides/options.h"
+#include "tides/commonoptions.h"
 #include "tides/valueoptions.h"
 
 namespace tarvane {
 
 namespace {
-
-std::string takearea(const std::string& value, FitOptions& options) {
-    options.area = value;
-    return "";
-}
 
 std::string takenear(const std::string& value, FitOptions& options) {
     options.near.push_back(argumenttext(value));
@@ -52,19 +47,15 @@ std::string takename(const std::string& value, FitOptions& options) {
     return fault.empty() ? "" : "--name: " + fault;
 }
 
-std::string takeformat(const std::string& value, FitOptions& options) {
-    return parseformat(value, options.format);
-}
-
 constexpr std::array<ValueOption<FitOptions>, 6> valueoptions{{
-    {"--area", "AREA", "the sea area, by its name or its file, in place of the stored one", takearea},
+    {"--area", "AREA", "the sea area, by its name or its file, in place of the stored one", takearea<FitOptions>},
     {"--near", "NUMBER|NAME", "a port by its number, its name or a part of its name; to be given for two", takenear, 2},
     {"--readings", "FILE.csv", "the heights read: a line date,time,height and below it YYYY-MM-DD,hh:mm,metres",
      takereadings},
     {"--position", "LAT,LON", "where the place lies, degrees north and east; the nearer port then counts more",
      takeposition},
     {"--name", "NAME", "what the place is called", takename},
-    {"--format", "text|csv|json", "how the result is written; text when left out", takeformat},
+    {"--format", "text|csv|json", "how the result is written; text when left out", takeformat<FitOptions>},
 }};
 
 constexpr const char* notes =
@@ -76,27 +67,17 @@ constexpr const char* notes =
     "CSV is a table of one port as hcbuild takes it; its name and position are empty where they are not given.\n"
     "Nothing is written but to standard output. Exit status: 0; or 2 with one line on standard error.";
 
+constexpr Subcommand<FitOptions> command{
+    "tides fit", "Constants for a place between two ports, fitted to heights read there on one day.\n", notes,
+    valueoptions};
+
 }  // namespace
 
 std::string parsefitoptions(const std::vector<std::string>& arguments, FitOptions& options) {
-    CLI::App app{"Constants for a place between two ports, fitted to heights read there on one day.\n", "tides fit"};
-    app.allow_extras();  // told in our own words
-    app.set_help_flag("-h,--help", "prints this and exits");
-    const std::vector<CLI::Option*> values = addvalues<FitOptions>(app, valueoptions);
-    app.get_formatter()->column_width(30);
-    app.footer(notes);
-    try {
-        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-    } catch (const CLI::CallForHelp&) {
-        options.answer = app.help();
-        return "";
-    } catch (const CLI::ParseError& fault) {
-        return fault.what();
-    }
-    for (const std::string& unknown : app.remaining())
-        return "there is no option " + inquotes(unknown) + "; tides fit --help lists them";
-    const std::string fault = takevalues<FitOptions>(values, valueoptions, options);
-    if (!fault.empty()) return fault;
+    std::vector<std::string> words;
+    const std::string fault = parsesubcommand(command, arguments, options, words);
+    if (!fault.empty() || !options.answer.empty()) return fault;
+    if (!words.empty()) return nosuchoption(words.front(), command.name);
     if (options.near.size() != 2) return "tides fit needs two ports, each behind a --near";
     return options.readings.empty() ? "tides fit needs the heights read, a file behind --readings" : "";
 }

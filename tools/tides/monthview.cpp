@@ -1,9 +1,9 @@
 // The month table of the desktop program, one port and one month. It predicts by itself only to tell why a day has no
 // waters.
+#include "dates/englishlocale.h"
 #include "dates/summertime.h"
 #include "output/monthtable.h"
 #include "text/numbers.h"
-#include "dates/englishlocale.h"
 #include "tides/textforms.h"
 #include "tides/views.h"
 

@@ -7,6 +7,7 @@
 #include "text/numbers.h"
 #include "text/programcaption.h"
 #include "text/singlebyte.h"
+#include "tides/commonoptions.h"
 #include "tides/valueoptions.h"
 
 namespace tarvane {
@@ -22,21 +23,6 @@ std::optional<int> wholenumber(std::string_view text) {
     return number;
 }
 
-std::string takearea(const std::string& value, Options& options) {
-    options.area = value;
-    return "";
-}
-
-std::string takeport(const std::string& value, Options& options) {
-    options.port = argumenttext(value);
-    return "";
-}
-
-std::string takedate(const std::string& value, Options& options) {
-    options.date = parseisodate(value);
-    return options.date ? "" : inquotes(value) + " is no date; write a day that exists as YYYY-MM-DD";
-}
-
 std::string takedays(const std::string& value, Options& options) {
     const auto days = wholenumber(value);
     if (!days || *days < 1 || *days > mostdays) {
@@ -45,11 +31,6 @@ std::string takedays(const std::string& value, Options& options) {
     options.days = *days;
     options.daysgiven = true;
     return "";
-}
-
-std::string takesummer(const std::string& value, Options& options) {
-    options.summer = value == "on";
-    return value == "on" || value == "off" ? "" : "--summer takes on or off, not " + inquotes(value);
 }
 
 std::string takeformat(const std::string& value, Options& options) {
@@ -68,10 +49,11 @@ constexpr std::size_t boatoptions = 7;  // from here on those of a boat's passag
 constexpr std::array<ValueOption<Options>, 14> valueoptions{{
     {"--area", "AREA|all", "the sea area, by its name or its file, in place of the stored one; or all of them",
      takearea},
-    {"--port", "NUMBER|NAME|all", "a port by its number, its name or a part of its name, or every port", takeport},
-    {"--date", "YYYY-MM-DD", "the first day, in place of today", takedate},
+    {"--port", "NUMBER|NAME|all", "a port by its number, its name or a part of its name, or every port",
+     takeport<Options>},
+    {"--date", "YYYY-MM-DD", "the first day, in place of today", takedate<Options>},
     {"--days", "N", "how many days, 1 to 3660", takedays},
-    {"--summer", "on|off", "adjust for summer time or not, in place of the stored choice", takesummer},
+    {"--summer", "on|off", "adjust for summer time or not, in place of the stored choice", takesummer<Options>},
     {"--format", "text|csv|json|ics", "how the result is written; text when left out", takeformat},
     {"--clock", "port|ut|zone", "the clock of --waters, --access and --now; the port's own when left out",
      takeplan<takeclock>},
@@ -157,7 +139,7 @@ std::string takegiven(const CommandLine& line, Options& options) {
     if (line.portwords->count() == 0) return "";
     const std::string words = CLI::detail::join(line.portwords->results(), " ");
     if (options.port) return "the port is given twice, as " + inquotes(*options.port) + " and as " + inquotes(words);
-    return takeport(words, options);
+    return takeport<Options>(words, options);
 }
 
 /// Options that the view has no use for but a reader would think it had.
@@ -195,7 +177,7 @@ std::string parseoptions(const std::vector<std::string>& arguments, Options& opt
         return fault.what();
     }
     for (const std::string& unknown : line.app.remaining())
-        if (unknown != "--") return "there is no option " + inquotes(unknown) + "; tides --help lists them";
+        if (unknown != "--") return nosuchoption(unknown, "tides");
     std::string fault = takeview(line, options);
     if (fault.empty()) fault = takegiven(line, options);
     return fault.empty() ? checkview(line, options) : fault;

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "tides/options.h"
+#include "tides/commonoptions.h"
 #include "tides/valueoptions.h"
 
 namespace tarvane {
@@ -18,37 +18,13 @@ std::string takediamond(const std::string& value, StreamsOptions& options) {
     return "";
 }
 
-std::string takearea(const std::string& value, StreamsOptions& options) {
-    options.area = value;
-    return "";
-}
-
-std::string takeport(const std::string& value, StreamsOptions& options) {
-    options.port = argumenttext(value);
-    return "";
-}
-
-std::string takedate(const std::string& value, StreamsOptions& options) {
-    options.date = parseisodate(value);
-    return options.date ? "" : inquotes(value) + " is no date; write a day that exists as YYYY-MM-DD";
-}
-
-std::string takesummer(const std::string& value, StreamsOptions& options) {
-    options.summer = value == "on";
-    return value == "on" || value == "off" ? "" : "--summer takes on or off, not " + inquotes(value);
-}
-
-std::string takeformat(const std::string& value, StreamsOptions& options) {
-    return parseformat(value, options.format);
-}
-
 constexpr std::array<ValueOption<StreamsOptions>, 6> valueoptions{{
     {"--diamond", "FILE:ID", "the diamond: its file (.l20, .l30 or .l40) and its letter", takediamond},
-    {"--area", "AREA", "the sea area, by its name or its file, in place of the stored one", takearea},
-    {"--port", "NUMBER|NAME", "the diamond's reference port, in place of the stored port", takeport},
-    {"--date", "YYYY-MM-DD", "the day, in place of today", takedate},
-    {"--summer", "on|off", "adjust for summer time or not, in place of the stored choice", takesummer},
-    {"--format", "text|csv|json", "how the result is written; text when left out", takeformat},
+    {"--area", "AREA", "the sea area, by its name or its file, in place of the stored one", takearea<StreamsOptions>},
+    {"--port", "NUMBER|NAME", "the diamond's reference port, in place of the stored port", takeport<StreamsOptions>},
+    {"--date", "YYYY-MM-DD", "the day, in place of today", takedate<StreamsOptions>},
+    {"--summer", "on|off", "adjust for summer time or not, in place of the stored choice", takesummer<StreamsOptions>},
+    {"--format", "text|csv|json", "how the result is written; text when left out", takeformat<StreamsOptions>},
 }};
 
 constexpr const char* notes =
@@ -60,27 +36,16 @@ constexpr const char* notes =
     "over an hour, and approximate.\n"
     "Nothing is written but to standard output. Exit status: 0; or 2 with one line on standard error.";
 
+constexpr Subcommand<StreamsOptions> command{
+    "tides streams", "The tidal streams at a diamond through the hours of a day's high waters.\n", notes, valueoptions};
+
 }  // namespace
 
 std::string parsestreamsoptions(const std::vector<std::string>& arguments, StreamsOptions& options) {
-    CLI::App app{"The tidal streams at a diamond through the hours of a day's high waters.\n", "tides streams"};
-    app.allow_extras();  // told in our own words
-    app.set_help_flag("-h,--help", "prints this and exits");
-    const std::vector<CLI::Option*> values = addvalues<StreamsOptions>(app, valueoptions);
-    app.get_formatter()->column_width(30);
-    app.footer(notes);
-    try {
-        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-    } catch (const CLI::CallForHelp&) {
-        options.answer = app.help();
-        return "";
-    } catch (const CLI::ParseError& fault) {
-        return fault.what();
-    }
-    for (const std::string& unknown : app.remaining())
-        return "there is no option " + inquotes(unknown) + "; tides streams --help lists them";
-    const std::string fault = takevalues<StreamsOptions>(values, valueoptions, options);
-    if (!fault.empty()) return fault;
+    std::vector<std::string> words;
+    const std::string fault = parsesubcommand(command, arguments, options, words);
+    if (!fault.empty() || !options.answer.empty()) return fault;
+    if (!words.empty()) return nosuchoption(words.front(), command.name);
     return options.letter.empty() ? "tides streams needs a diamond, behind --diamond as FILE:ID" : "";
 }
 

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "dates/englishlocale.h"
 #include "dates/summertime.h"
 #include "portdata/aboutwords.h"
 #include "portdata/coordinates.h"
 #include "session/otherclocks.h"
 #include "text/numbers.h"
 #include "text/singlebyte.h"
-#include "dates/englishlocale.h"
 
 namespace tarvane {
 

@@ -48,4 +48,44 @@ std::string takevalues(const std::vector<CLI::Option*>& values, std::span<const 
     return "";
 }
 
+inline std::string nosuchoption(const std::string& word, const char* command) {
+    return "there is no option '" + word + "'; " + command + " --help lists them";
+}
+
+/// A command behind `tides`, of options that take a value.
+template <class Options>
+struct Subcommand {
+    const char* name;   ///< "tides fit"
+    const char* about;  ///< what it does, above the options in the help
+    const char* notes;  ///< and below them
+    std::span<const ValueOption<Options>> table;
+};
+
+/// Fills `options`; the help, when that is asked for, goes to their answer, and nothing else is asked for then. What is
+/// no option with a value goes to `words`, one that looks like an option being refused. The fault, empty when there is
+/// none.
+template <class Options>
+std::string parsesubcommand(const Subcommand<Options>& command, const std::vector<std::string>& arguments,
+                            Options& options, std::vector<std::string>& words) {
+    CLI::App app{command.about, command.name};
+    app.allow_extras();  // told in our own words
+    app.set_help_flag("-h,--help", "prints this and exits");
+    const std::vector<CLI::Option*> values = addvalues<Options>(app, command.table);
+    app.get_formatter()->column_width(30);
+    app.footer(command.notes);
+    try {
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::CallForHelp&) {
+        options.answer = app.help();
+        return "";
+    } catch (const CLI::ParseError& fault) {
+        return fault.what();
+    }
+    for (const std::string& word : app.remaining()) {
+        if (word.starts_with('-') && word != "--") return nosuchoption(word, command.name);
+        if (word != "--") words.push_back(word);
+    }
+    return takevalues<Options>(values, command.table, options);
+}
+
 }  // namespace tarvane

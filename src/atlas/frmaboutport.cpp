@@ -4,7 +4,10 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <functional>
 
 #include "atlas/frmcheckport.h"
 #include "paint/frmlightpalette.h"
@@ -21,7 +24,8 @@ constexpr int linewidth = 62, leastwidth = 24;  // characters
 /// As large as what is in it, with lines of the usual width, where the screen has room for that.
 class RoomyArea : public QScrollArea {
   public:
-    explicit RoomyArea(QWidget* contents) {
+    /// `tallat` gives the height that the contents take at a width: nested layouts give too much.
+    RoomyArea(QWidget* contents, std::function<int(int width)> tallat) : tall(std::move(tallat)) {
         setFrameShape(QFrame::NoFrame);
         setWidgetResizable(true);
         setWidget(contents);
@@ -30,10 +34,13 @@ class RoomyArea : public QScrollArea {
     QSize sizeHint() const override {
         const int more = fontMetrics().averageCharWidth() * (linewidth - leastwidth);
         const int wide = widget()->layout()->totalMinimumSize().width() + more;
-        return {wide, widget()->layout()->totalHeightForWidth(wide)};
+        return {wide, tall(wide)};
     }
 
     QSize minimumSizeHint() const override { return {0, fontMetrics().lineSpacing() * 6}; }
+
+  private:
+    std::function<int(int width)> tall;
 };
 
 QLabel* plainlabel(const char* name) {
@@ -105,9 +112,16 @@ void frmaboutport::buildlayout() {
     scrolled->addLayout(middle, 1);
     auto* whole = new QVBoxLayout(this);
     // The buttons stay in view, and the window opens at its head.
-    whole->addWidget(area = new RoomyArea(contents), 1);
+    whole->addWidget(area = new RoomyArea(contents, [this](int wide) { return tallat(wide); }), 1);
     whole->addSpacing(fontMetrics().height() / 2);
     whole->addLayout(buttons);
+}
+
+int frmaboutport::tallat(int wide) const {
+    const int gap = style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing, nullptr, this);
+    const int note = lblKept->text().isEmpty() ? 0 : lblKept->heightForWidth(wide) + gap;
+    const int texts = lines->heightForWidth(wide - constants->width() - gap);
+    return lblName->sizeHint().height() + gap + note + std::max(texts, constants->height()) + gap;
 }
 
 QLayout* frmaboutport::buildhead() {
@@ -186,8 +200,7 @@ void frmaboutport::cmdCheck_Click() {
     context.services.windows.showmodal(check);
     fill();
     // A line more may need the room.
-    const int lacking =
-        area->widget()->layout()->totalHeightForWidth(area->viewport()->width()) - area->viewport()->height();
+    const int lacking = tallat(area->viewport()->width()) - area->viewport()->height();
     if (lacking <= 0) return;
     resize(width(), height() + lacking);
     fitscreen(*this);

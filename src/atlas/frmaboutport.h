@@ -32,6 +32,7 @@ class frmaboutport : public ModalDialog {
   private:
     void buildlayout();
     QLayout* buildhead();
+    int tallat(int wide) const;
     void fill();
     void fillconstants();
     void cmdCheck_Click();

@@ -270,8 +270,9 @@ void finderkeystroke(benchmark::State& state) {
     std::size_t keys = 0;
     for (auto _ : state) {
         const double before = spent;
-        for (const char* text : {"sydney", "san francisco", "newport us", "st malo france", "near 50.1 n 1.4 w",
-                                 "near brest", "nagasky", "sydny australia", "halifx cnada", "irland", "cork", "xyzzy qwert yuiop"}) {
+        for (const char* text :
+             {"sydney", "san francisco", "newport us", "st malo france", "near 50.1 n 1.4 w", "near brest", "nagasky",
+              "sydny australia", "halifx cnada", "irland", "cork", "xyzzy qwert yuiop"}) {
             window.txtFind->clear();
             for (const char* letter = text; *letter != 0; ++letter, ++keys) {
                 const auto pressed = Clock::now();

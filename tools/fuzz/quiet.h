@@ -4,9 +4,9 @@
 
 #include <string>
 
+#include "dates/englishlocale.h"
 #include "platform/canvas.h"
 #include "platform/services.h"
-#include "dates/englishlocale.h"
 
 namespace tarvane::fuzz {
 

@@ -1,5 +1,5 @@
-// Lines of official tables as they are copied from elsewhere. Must not guess: a line
-// that can be meant in two ways isn't read, and keeps its text.
+// Lines of official tables as they are copied from elsewhere. Must not guess: a line that can be meant in two ways isn't
+// read, and keeps its text.
 #pragma once
 
 #include <string>

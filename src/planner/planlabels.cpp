@@ -27,7 +27,9 @@ std::vector<Level> levelsof(const PlanPicture& picture, const PlanScale& scale) 
     std::vector<Level> levels;
     const auto add = [&](double height, const std::string& name) {
         const double y = scale.y(height);
-        Level level{height, y, y<scale.plot.top, y> scale.plot.bottom, name + levelmetres(height)};
+        Level level{.height = height, .y = y, .name = name + levelmetres(height)};
+        level.above = y < scale.plot.top;
+        level.below = y > scale.plot.bottom;
         if (!level.inside()) level.name += level.above ? ", above the picture" : ", below the picture";
         levels.push_back(level);
     };

@@ -33,9 +33,14 @@ WriteOutcome writekept(const std::string& path, const KeptState& found, const Ke
     return replacefile(path, text(untold));
 }
 
+std::string keptfault(const std::string& path, const KeptState& found, const std::string& missing) {
+    if (!found.readable) return path + " can't be read: " + missing;
+    return found.whole ? "" : path + " isn't understood whole: what could be read of it is used";
+}
+
 std::string tellkept(const std::string& path, const KeptState& found, const std::string& missing,
                      const KeptText& text) {
-    if (!found.readable) return path + " can't be read: " + missing + ".";
+    if (!found.readable) return keptfault(path, found, missing) + ".";
     if (found.whole && found.untold.empty()) return "";
     std::string copies = found.untold;
     WriteOutcome kept;

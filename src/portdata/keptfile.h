@@ -27,6 +27,9 @@ std::string readkept(const std::string& path, KeptState& state);
 /// read, or when the copy fails.
 WriteOutcome writekept(const std::string& path, const KeptState& found, const KeptText& text);
 
+/// What is wrong with a file that was found so, one line for a program that must not write; empty when nothing is.
+std::string keptfault(const std::string& path, const KeptState& found, const std::string& missing);
+
 /// What the user has to be told of a file that was found so, a sentence that names where the copy lies; empty when that
 /// is nothing. It is told once: the file is written anew for that. `missing` says what a file lacks that can't be read:
 /// "no favourites are listed".

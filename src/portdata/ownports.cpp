@@ -12,6 +12,8 @@
 namespace tarvane {
 namespace {
 
+constexpr const char* missing = "neither what you entered nor your checks are known";
+
 std::string filenameof(const std::string& path) {
     return path.substr(path.find_last_of('/') + 1);
 }
@@ -84,7 +86,12 @@ WriteOutcome writeownports(const std::string& path, const OwnPorts& ports) {
 std::string tellownports(const ProgramFolders& folders) {
     const std::string path = ownportspath(folders);
     const OwnPorts ports = readownports(path);
-    return tellkept(path, ports.state, "neither what you entered nor your checks are known", textof(ports));
+    return tellkept(path, ports.state, missing, textof(ports));
+}
+
+std::string ownportsfault(const ProgramFolders& folders) {
+    const std::string path = ownportspath(folders);
+    return keptfault(path, readownports(path).state, missing);
 }
 
 AreaNotes areanotes(const ProgramFolders& folders, const std::string& hcfile) {

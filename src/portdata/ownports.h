@@ -76,6 +76,9 @@ WriteOutcome writeownports(const std::string& path, const OwnPorts& ports);
 /// What the user has to be told of the file, once; empty when that is nothing.
 std::string tellownports(const ProgramFolders& folders);
 
+/// What is wrong with it, for a program that must not write.
+std::string ownportsfault(const ProgramFolders& folders);
+
 /// The notes of an area, by its path.
 AreaNotes areanotes(const ProgramFolders& folders, const std::string& hcfile);
 

@@ -41,6 +41,18 @@ TEST_F(About, TextTellsItInASailorsWords) {
     EXPECT_TRUE(has(unknown, "Nothing is known of where this port's constants come from")) << unknown;
 }
 
+TEST_F(About, NotesThatArentUnderstoodAreToldAndLeftAsTheyAre) {
+    const ProgramFolders folders = foldersof(environment);
+    std::filesystem::create_directories(folders.configfolder());
+    const std::string path = ownportspath(folders);
+    putfile(path, "{\"areas\": 3}");
+    const Outcome outcome = run("about creek");
+    EXPECT_EQ(outcome.err, "tides: " + path + " isn't understood whole: what could be read of it is used\n");
+    EXPECT_TRUE(has(outcome.out, "Creek"));
+    EXPECT_EQ(filetext(path), "{\"areas\": 3}");
+    EXPECT_EQ(run("--list").err, "");
+}
+
 TEST_F(About, AnOwnPortHasNoFigureOfTheShippedOne) {
     HarmonicRecord harbour = portnamed("Harbour"), before = harbour;
     harbour.TimeZoneLetter = before.TimeZoneLetter = "P";

@@ -10,6 +10,7 @@
 #include "text/singlebyte.h"
 #include "tides/portchoice.h"
 #include "tides/textforms.h"
+#include "tides/views.h"
 
 namespace tarvane {
 
@@ -117,6 +118,8 @@ std::string prepareareas(const Options& options, const TidesEnvironment& environ
     if (!fault.empty()) return fault;
     const AreasChoice choice = pickports(options, common.settings, areas);
     if (!choice.fault.empty()) return choice.fault;
+    const std::string notes = options.view == &aboutview ? ownportsfault(folders) : "";
+    if (!notes.empty()) err << "tides: " << plaintext(notes) << "\n";
     for (std::size_t i = 0; i < areas.size(); ++i) {
         if (choice.numbers[i].empty()) continue;
         contexts.push_back(common);

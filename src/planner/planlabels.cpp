@@ -74,9 +74,9 @@ std::vector<Label> waterlabels(const Canvas& canvas, const PlanPicture& picture,
 /// The curve's upper and lower edge in each column of the plot, one unit wide.
 class CurveColumns {
   public:
-    CurveColumns(const PlanPicture& picture, const PlanScale& scale)
+    CurveColumns(const PlanScale& scale, const CurvePieces& curve)
         : left_(scale.plot.left), edges_(static_cast<std::size_t>(std::max(scale.plot.width(), 0.0)) + 2) {
-        for (const std::vector<Place>& piece : curvepieces(picture, scale, scale.from, scale.to))
+        for (const std::vector<Place>& piece : curve)
             for (const Place& each : piece) {
                 Edges& edges = edges_[columnof(each.x)];
                 edges.top = std::min(edges.top, each.y);
@@ -163,7 +163,7 @@ struct NamedPlot {
     const PlanPicture& picture;
     const PlanScale& scale;
     const std::vector<Level>& levels;
-    CurveColumns curve{picture, scale};
+    CurveColumns curve;
     std::vector<Area> names = {};  ///< painted already
 };
 
@@ -267,7 +267,7 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
 
 }  // namespace
 
-void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const CurvePieces& curve) {
     const std::vector<Level> levels = levelsof(picture, scale);
     for (const Level& each : levels) {
         if (!each.inside()) continue;
@@ -285,7 +285,7 @@ void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale
     const std::vector<Label> windows = placewindowlabels(canvas, picture, scale, places);
     labels.insert(labels.end(), windows.begin(), windows.end());
     if (!levels.empty()) {
-        NamedPlot plot{picture, scale, levels};
+        NamedPlot plot{picture, scale, levels, CurveColumns(scale, curve)};
         for (const Level& each : levels) {
             paintlevelname(canvas, plot, each, places);
             std::erase_if(labels,

@@ -9,7 +9,8 @@
 namespace tarvane {
 
 /// What gives way to what: windows' times to waters, the lesser water to the greater; levels' names are always told.
-void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale);
+/// `curve` is that of the part shown.
+void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const CurvePieces& curve);
 
 /// What the parts of a picture have in common.
 namespace pictureparts {

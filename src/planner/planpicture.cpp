@@ -220,8 +220,7 @@ void paintseabed(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
         canvas.fill(Area{scale.plot.left, y, scale.plot.right, scale.plot.bottom}, picture.look.seabed);
 }
 
-void paintcurve(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
-    const auto pieces = curvepieces(picture, scale, scale.from, scale.to);
+void paintcurve(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const CurvePieces& pieces) {
     for (const std::vector<Place>& piece : pieces)
         canvas.line(piece, {picture.look.curve, 2 * strokeof(picture)});
     if (!pieces.empty()) return;
@@ -256,8 +255,9 @@ void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scal
     painthours(canvas, picture, scale);
     paintseabed(canvas, picture, scale);
     paintwindows(canvas, picture, scale);
-    paintcurve(canvas, picture, scale);
-    paintplanlabels(canvas, picture, scale);
+    const CurvePieces curve = curvepieces(picture, scale, scale.from, scale.to);
+    paintcurve(canvas, picture, scale, curve);
+    paintplanlabels(canvas, picture, scale, curve);
 }
 
 void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment now) {

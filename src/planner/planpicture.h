@@ -52,7 +52,8 @@ void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
 
 /// The curve from one moment to another, a place a unit of width and at each water, in as many pieces as days without a
 /// prediction part it.
-std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
+using CurvePieces = std::vector<std::vector<Place>>;
+CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
 
 /// A moon of a phase, 0 new to 3 last quarter, as the north sees it.
 void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const Colours& look);

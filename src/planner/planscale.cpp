@@ -84,8 +84,7 @@ PlanScale scaleof(const PlanPicture& picture, const Canvas& canvas) {
     return scale;
 }
 
-std::vector<std::vector<Place>> curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from,
-                                            Moment to) {
+CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to) {
     std::vector<std::vector<Place>> pieces;
     bool apart = true;
     const auto take = [&](Moment at) {

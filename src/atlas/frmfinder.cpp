@@ -58,6 +58,7 @@ void frmfinder::buildlayout() {
     txtFind->setAccessibleName("Find");
     txtFind->setPlaceholderText("Port, area or country; near 50.1 N 1.4 W; near Brest");
     txtFind->setClearButtonEnabled(true);
+    lightclearmark(*txtFind, colours);
     txtFind->setMaxLength(80);
     ports = new FinderTable({world, context.services.zones, colours, context.services.clock.moment()});
     lblFound = named<QLabel>("lblFound");

@@ -1,5 +1,8 @@
 #include "paint/frmlightpalette.h"
 
+#include <QPainter>
+#include <QToolButton>
+
 #include "platform/qt/appearance.h"
 
 namespace tarvane {
@@ -27,6 +30,21 @@ QPalette paletteof(const Colours& colours) {
     palette.setColor(QPalette::HighlightedText, colour(colours.paper));
     palette.setColor(QPalette::Link, colour(colours.curve));
     return palette;
+}
+
+void lightclearmark(QLineEdit& box, const Colours& colours) {
+    auto* const button = box.findChild<QToolButton*>();
+    if (!button) return;
+    constexpr int size = 32, inset = 9;
+    QPixmap mark(size, size);
+    mark.fill(Qt::transparent);
+    QPainter painter(&mark);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor::fromRgb(colours.text), 3));
+    painter.drawLine(inset, inset, size - inset, size - inset);
+    painter.drawLine(inset, size - inset, size - inset, inset);
+    painter.end();
+    button->setIcon(QIcon(mark));
 }
 
 Lighting lightingof(bool night) {

@@ -195,7 +195,7 @@ QWidget* frmplanner::buildquestion() {
         selectonclick(fields[i]);
         fields[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 7);
         // The room is for the tables, where no hint needs it.
-        if (i % 3 < 2) fields[i]->setMaximumWidth(fontMetrics().averageCharWidth() * 11);
+        if (i % 3 < 2) fields[i]->setMaximumWidth(fontMetrics().averageCharWidth() * 8);
         const int row = static_cast<int>(i / 3), column = static_cast<int>(i % 3) * 2;
         grid->addWidget(captionof(place.caption, fields[i]), row, column, Qt::AlignRight | Qt::AlignVCenter);
         grid->addLayout(withsteps(static_cast<PlanField>(i)), row, column + 1);

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "atlas/aboutlines.h"
-#include "atlas/frmkeptnote.h"
+#include "platform/qt/keptnote.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 

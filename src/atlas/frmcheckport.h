@@ -12,7 +12,7 @@
 #include <functional>
 
 #include "atlas/aboutlines.h"
-#include "atlas/frmkeptnote.h"
+#include "platform/qt/keptnote.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 

@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "atlas/frmfindertable.h"
-#include "atlas/frmkeptnote.h"
+#include "platform/qt/keptnote.h"
 #include "platform/qt/modaldialog.h"
 #include "session/session.h"
 

@@ -36,6 +36,7 @@ frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(op
     setFont(own);
     buildlayout();
     buildmenus();
+    lblKept->tell(tellplansettings(plansettingspath(context.session.folders)));
     fillports();
     fillfields();
     showall();

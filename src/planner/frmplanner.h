@@ -21,6 +21,7 @@
 #include "planner/planview.h"
 #include "planner/presenttide.h"
 #include "platform/qt/datebox.h"
+#include "platform/qt/keptnote.h"
 
 namespace tarvane {
 
@@ -48,6 +49,7 @@ class frmplanner : public QMainWindow {
     DateBox* DTPicker = nullptr;
     QLabel *lblDayName = nullptr, *lblNow = nullptr, *lblNeeded = nullptr, *lblAnswer = nullptr, *lblCursor = nullptr,
            *lblFoot = nullptr, *lblSaid = nullptr;
+    KeptNote* lblKept = nullptr;
     QGroupBox* fraQuestion = nullptr;
     std::array<QLineEdit*, planfields> fields{};
     std::array<class StepArrows*, planfields> steps{};  ///< one beside each field

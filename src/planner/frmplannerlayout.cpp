@@ -108,6 +108,7 @@ void frmplanner::buildlayout() {
     auto* whole = new QWidget;
     auto* rows = new QVBoxLayout(whole);
     rows->addWidget(new FoldingBox(buildports(), builddays(), 1, 0));
+    rows->addWidget(lblKept = new KeptNote);
     rows->addWidget(lblNow);
     rows->addWidget(split, 1);
     rows->addWidget(lblFoot);

@@ -1,9 +1,9 @@
 #include "planner/plansettings.h"
 
 #include <cmath>
-#include <nlohmann/json.hpp>
 
 #include "planner/planlimits.h"
+#include "portdata/jsonmembers.h"
 
 namespace tarvane {
 namespace {
@@ -11,22 +11,16 @@ namespace {
 using nlohmann::json;
 
 constexpr double mostmetres = 1000;
+constexpr int unset = -1;  // a paper
 
-void take(const json& object, const char* name, bool& value) {
-    if (const auto at = object.find(name); at != object.end() && at->is_boolean()) value = at->get<bool>();
-}
-
-/// A whole number from `least` to `most`, also of an enumeration.
+/// A whole number within the limit, also of an enumeration; another leaves the value, as null does.
 template <typename Whole>
-void take(const json& object, const char* name, int least, int most, Whole& value) {
-    const auto at = object.find(name);
-    if (at == object.end() || !at->is_number_integer()) return;
-    const auto number = at->get<std::int64_t>();
-    if (number >= least && number <= most) value = static_cast<Whole>(number);
-}
-
-void take(const json& object, const char* name, PlanLimit limit, int& value) {
-    take(object, name, static_cast<int>(limit.least), static_cast<int>(limit.most), value);
+void take(const JsonMembers& members, const char* name, PlanLimit limit, Whole& value) {
+    const json* member = members.at(name);
+    if (!member || member->is_null()) return;
+    const bool good = member->is_number_integer() && limit.holds(member->get<double>());
+    if (good) value = static_cast<Whole>(member->get<int>());
+    members.whole() = members.whole() && good;
 }
 
 std::optional<double> metresof(const json& value) {
@@ -35,20 +29,68 @@ std::optional<double> metresof(const json& value) {
     return std::abs(number) <= mostmetres ? std::optional(number) : std::nullopt;
 }
 
-void take(const json& object, const char* name, std::optional<double>& value) {
-    if (const auto at = object.find(name); at != object.end()) value = metresof(*at);
+/// Null where it isn't set.
+void take(const JsonMembers& members, const char* name, std::optional<double>& value) {
+    const json* member = members.at(name);
+    if (!member) return;
+    value = metresof(*member);
+    members.whole() = members.whole() && (value || member->is_null());
 }
 
-void takebridges(const json& object, std::map<std::string, Bridge>& bridges) {
-    const auto at = object.find("bridges");
-    if (at == object.end() || !at->is_object()) return;
-    for (const auto& [port, value] : at->items()) {
-        std::optional<double> height, level;
-        if (!value.is_object()) continue;
-        take(value, "height", height);
-        take(value, "level", level);
-        if (height && level) bridges[port] = {*height, *level};
+void takebottoms(const JsonMembers& members, std::map<std::string, double>& bottoms) {
+    const json* all = members.at("bottoms");
+    if (!all) return;
+    members.whole() = members.whole() && all->is_object();
+    if (!all->is_object()) return;
+    for (const auto& [port, value] : all->items()) {
+        const auto bottom = metresof(value);
+        if (bottom) bottoms[port] = *bottom;
+        members.whole() = members.whole() && bottom;
     }
+}
+
+void takebridges(const JsonMembers& members, std::map<std::string, Bridge>& bridges) {
+    const json* all = members.at("bridges");
+    if (!all) return;
+    members.whole() = members.whole() && all->is_object();
+    if (!all->is_object()) return;
+    for (const auto& [port, value] : all->items()) {
+        const JsonMembers bridge(value, members.whole());
+        std::optional<double> height, level;
+        take(bridge, "height", height);
+        take(bridge, "level", level);
+        if (height && level)
+            bridges[port] = {*height, *level};
+        else
+            members.whole() = false;
+    }
+}
+
+void takesettings(const json& object, PlanSettings& settings) {
+    const JsonMembers members(object, settings.state.whole);
+    const auto upto = [](auto last) { return PlanLimit{0, static_cast<double>(last)}; };
+    members.take("openatstart", settings.openatstart);
+    members.take("night", settings.night);
+    take(members, "days", planlimits::days, settings.days);
+    take(members, "clock", upto(ClockChoice::computer), settings.clock);
+    int paper = unset;
+    take(members, "paper", {unset, static_cast<double>(Paper::letter)}, paper);
+    if (paper != unset) settings.paper = static_cast<Paper>(paper);
+    members.take("asked", settings.asked);
+    members.take("twilight", settings.twilight);
+    take(members, "daylight", upto(Daylight::whole), settings.daylight);
+    take(members, "leastminutes", planlimits::leastminutes, settings.leastminutes);
+    take(members, "weekdays", PlanLimit{1, everyweekday}, settings.weekdays);
+    take(members, "draught", settings.draught);
+    take(members, "clearance", settings.clearance);
+    take(members, "airdraught", settings.airdraught);
+    takebottoms(members, settings.bottoms);
+    takebridges(members, settings.bridges);
+    members.take("untold", settings.state.untold);
+}
+
+json orlack(const std::optional<double>& value) {
+    return value ? json(*value) : json(nullptr);
 }
 
 json bridgesof(const PlanSettings& settings) {
@@ -58,8 +100,27 @@ json bridgesof(const PlanSettings& settings) {
     return bridges;
 }
 
-json orlack(const std::optional<double>& value) {
-    return value ? json(*value) : json(nullptr);
+KeptText textof(const PlanSettings& settings) {
+    return [settings](const std::string& untold) {
+        json object{{"openatstart", settings.openatstart},
+                    {"night", settings.night},
+                    {"days", settings.days},
+                    {"clock", static_cast<int>(settings.clock)},
+                    {"paper", settings.paper ? static_cast<int>(*settings.paper) : unset},
+                    {"asked", settings.asked},
+                    {"twilight", settings.twilight},
+                    {"daylight", static_cast<int>(settings.daylight)},
+                    {"leastminutes", settings.leastminutes},
+                    {"weekdays", settings.weekdays},
+                    {"draught", orlack(settings.draught)},
+                    {"clearance", orlack(settings.clearance)},
+                    {"airdraught", orlack(settings.airdraught)},
+                    {"bottoms", settings.bottoms},
+                    {"bridges", bridgesof(settings)}};
+        if (!untold.empty()) object["untold"] = untold;
+        constexpr int indent = 2;
+        return object.dump(indent, ' ', false, json::error_handler_t::replace) + "\n";
+    };
 }
 
 }  // namespace
@@ -70,46 +131,18 @@ std::string plansettingspath(const ProgramFolders& folders) {
 
 PlanSettings readplansettings(const std::string& path) {
     PlanSettings settings;
-    const json object = json::parse(wholetext(path), nullptr, false);
-    if (!object.is_object()) return settings;
-    take(object, "openatstart", settings.openatstart);
-    take(object, "night", settings.night);
-    take(object, "days", planlimits::days, settings.days);
-    take(object, "clock", 0, static_cast<int>(ClockChoice::computer), settings.clock);
-    if (int paper = -1; take(object, "paper", 0, 1, paper), paper >= 0) settings.paper = static_cast<Paper>(paper);
-    take(object, "asked", settings.asked);
-    take(object, "twilight", settings.twilight);
-    take(object, "daylight", 0, static_cast<int>(Daylight::whole), settings.daylight);
-    take(object, "leastminutes", planlimits::leastminutes, settings.leastminutes);
-    take(object, "weekdays", 1, static_cast<int>(everyweekday), settings.weekdays);
-    take(object, "draught", settings.draught);
-    take(object, "clearance", settings.clearance);
-    take(object, "airdraught", settings.airdraught);
-    takebridges(object, settings.bridges);
-    if (const auto at = object.find("bottoms"); at != object.end() && at->is_object())
-        for (const auto& [port, value] : at->items())
-            if (const auto bottom = metresof(value)) settings.bottoms[port] = *bottom;
+    const std::string text = readkept(path, settings.state);
+    if (!text.empty()) takesettings(json::parse(text, nullptr, false), settings);
     return settings;
 }
 
 WriteOutcome writeplansettings(const std::string& path, const PlanSettings& settings) {
-    const json object{{"openatstart", settings.openatstart},
-                      {"night", settings.night},
-                      {"days", settings.days},
-                      {"clock", static_cast<int>(settings.clock)},
-                      {"paper", settings.paper ? json(static_cast<int>(*settings.paper)) : json(nullptr)},
-                      {"asked", settings.asked},
-                      {"twilight", settings.twilight},
-                      {"daylight", static_cast<int>(settings.daylight)},
-                      {"leastminutes", settings.leastminutes},
-                      {"weekdays", settings.weekdays},
-                      {"draught", orlack(settings.draught)},
-                      {"clearance", orlack(settings.clearance)},
-                      {"airdraught", orlack(settings.airdraught)},
-                      {"bridges", bridgesof(settings)},
-                      {"bottoms", settings.bottoms}};
-    constexpr int indent = 2;
-    return replacefile(path, object.dump(indent, ' ', false, json::error_handler_t::replace) + "\n");
+    return writekept(path, readplansettings(path).state, textof(settings));
+}
+
+std::string tellplansettings(const std::string& path) {
+    const PlanSettings settings = readplansettings(path);
+    return tellkept(path, settings.state, "the planner begins as at its first start", textof(settings));
 }
 
 }  // namespace tarvane

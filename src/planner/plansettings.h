@@ -11,6 +11,7 @@
 #include "planner/planlimits.h"
 #include "platform/drawings.h"
 #include "portdata/configuration.h"
+#include "portdata/keptfile.h"
 
 namespace tarvane {
 
@@ -39,6 +40,8 @@ struct PlanSettings {
     /// By port, "UK.hc/Cherbourg".
     std::map<std::string, double> bottoms;
     std::map<std::string, Bridge> bridges;
+
+    KeptState state;  ///< of the file
 };
 
 /// Where they are kept.
@@ -48,6 +51,10 @@ std::string plansettingspath(const ProgramFolders& folders);
 /// another kind is left at that of a first start.
 PlanSettings readplansettings(const std::string& path);
 
+/// Writes them over what stands there, of which a copy is kept when it isn't understood whole.
 WriteOutcome writeplansettings(const std::string& path, const PlanSettings& settings);
+
+/// What the user has to be told of the file, a sentence, once; empty when that is nothing.
+std::string tellplansettings(const std::string& path);
 
 }  // namespace tarvane

@@ -33,6 +33,12 @@ class JsonMembers {
         whole_ = whole_ && (!value || value->is_string());
     }
 
+    void take(const char* name, bool& is) const {
+        const json* value = at(name);
+        if (value && value->is_boolean()) is = value->get<bool>();
+        whole_ = whole_ && (!value || value->is_boolean());
+    }
+
     void take(const char* name, double& number) const {
         const json* value = at(name);
         const bool good = value && value->is_number() && std::isfinite(value->get<double>());

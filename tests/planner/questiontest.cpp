@@ -139,7 +139,30 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
         ASSERT_TRUE(replacefile(path, std::string(text)));
         EXPECT_EQ(flat(readplansettings(path)), flat(first)) << text;
         EXPECT_TRUE(readplansettings(path).bottoms.empty()) << text;
+        EXPECT_EQ(readplansettings(path).state.whole, *text == 0) << text;
     }
+}
+
+TEST(PlanSettings, WhatIsntUnderstoodIsKeptBesideThemAndToldOnce) {
+    const fakes::TemporaryFolder folder;
+    const std::string path = folder / "Planner.json", copy = path + ".broken";
+    PlanSettings settings;
+    settings.draught = 2.1;
+    settings.bridges = {{"UK.hc/Dover", {20.5, 6.8}}};
+    ASSERT_TRUE(writeplansettings(path, settings));
+    EXPECT_TRUE(readplansettings(path).state.whole);
+    EXPECT_EQ(tellplansettings(path), "");
+    const std::string broken = R"({"bottoms": {"UK.hc/Dover": -2, "UK.hc/Leith": "two"}, "colour": 3})";
+    ASSERT_TRUE(replacefile(path, broken));
+    PlanSettings read = readplansettings(path);
+    EXPECT_EQ(read.bottoms.size(), 1U);
+    read.days = 3;
+    ASSERT_TRUE(writeplansettings(path, read));
+    EXPECT_EQ(wholetext(copy), broken);
+    EXPECT_NE(tellplansettings(path).find("Planner.json wasn't understood whole."), std::string::npos);
+    EXPECT_EQ(tellplansettings(path), "");
+    EXPECT_EQ(readplansettings(path).days, 3);
+    EXPECT_TRUE(readplansettings(path).state.whole);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "atlas/frmkeptnote.h"
+#include "platform/qt/keptnote.h"
 
 #include "platform/qt/screentext.h"
 

@@ -94,7 +94,9 @@ std::string stepped(const std::string& text, PlanField field, int steps) {
     const double at = *value / rule.step;
     const double wanted = (steps > 0 ? std::floor(at + tolerance) : std::ceil(at - tolerance)) + steps;
     if (rule.optional && *value <= rule.limit.least && steps < 0) return "";
-    return fieldtext(std::clamp(wanted * rule.step, rule.limit.least, rule.limit.most));
+    std::string then = fieldtext(std::clamp(wanted * rule.step, rule.limit.least, rule.limit.most));
+    if (text.find(',') != std::string::npos) std::replace(then.begin(), then.end(), '.', ',');
+    return then;
 }
 
 PlanQuestion prefilledquestion(const PlanSettings& settings, const Settings& stored, const std::string& port) {
@@ -111,15 +113,16 @@ PlanQuestion prefilledquestion(const PlanSettings& settings, const Settings& sto
             settings.leastminutes > 0 ? numbertext(settings.leastminutes) : ""};
 }
 
-void keepquestion(const QuestionRead& read, const Settings& stored, const std::string& port, PlanSettings& settings) {
+void keepquestion(const QuestionRead& read, const Settings& stored, const std::string& port, bool bottomtyped,
+                  PlanSettings& settings) {
     // What is as stored for the classic window goes on following that.
     const auto differing = [](double typed, float as) {
         return fieldtext(typed) == fieldtext(static_cast<double>(as)) ? std::nullopt : std::optional(typed);
     };
     settings.draught = differing(read.passage.draught, stored.currentdraught);
     settings.clearance = differing(read.passage.clearance, stored.currentukc);
-    settings.bottoms.erase(port);
-    if (const auto bottom = differing(read.passage.bottom, stored.userdepth)) settings.bottoms[port] = *bottom;
+    // A sill that was typed must not come to lie deeper with a depth for the main window's heights.
+    if (bottomtyped) settings.bottoms[port] = read.passage.bottom;
     settings.bridges.erase(port);
     if (read.passage.bridge) {
         settings.airdraught = read.passage.airdraught;

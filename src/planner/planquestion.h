@@ -33,14 +33,15 @@ std::optional<double> typednumber(std::string_view text);
 QuestionRead readquestion(const PlanQuestion& question);
 
 /// A field's text after so many steps up, or down below zero: tenths of a metre, quarters of an hour. An empty one
-/// begins at what is usual and is empty again below its least; one that is no number, or would leave its range, stays.
+/// begins at what is usual and is empty again below its least; one that is no number stays.
 std::string stepped(const std::string& text, PlanField field, int steps);
 
 /// The fields as they come up: what was typed in the planner, else what is stored for the classic window. `port` is its
 /// key among the bottoms and bridges; metres.
 PlanQuestion prefilledquestion(const PlanSettings& settings, const Settings& stored, const std::string& port);
 
-/// Keeps what was read where it isn't what is stored.
-void keepquestion(const QuestionRead& read, const Settings& stored, const std::string& port, PlanSettings& settings);
+/// Keeps what was read: draught and clearance where they aren't what is stored, the bottom where the user typed it.
+void keepquestion(const QuestionRead& read, const Settings& stored, const std::string& port, bool bottomtyped,
+                  PlanSettings& settings);
 
 }  // namespace tarvane

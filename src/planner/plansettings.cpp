@@ -1,6 +1,7 @@
 #include "planner/plansettings.h"
 
 #include <cmath>
+#include <tuple>
 
 #include "planner/planlimits.h"
 #include "portdata/jsonmembers.h"
@@ -100,6 +101,27 @@ json bridgesof(const PlanSettings& settings) {
     return bridges;
 }
 
+template <typename Value>
+void takechange(const Value& before, const Value& now, Value& stands) {
+    if (now != before) stands = now;
+}
+
+/// Port by port.
+template <typename Value>
+void takechange(const std::map<std::string, Value>& before, const std::map<std::string, Value>& now,
+                std::map<std::string, Value>& stands) {
+    for (const auto& [port, value] : before)
+        if (!now.contains(port)) stands.erase(port);
+    for (const auto& [port, value] : now)
+        if (const auto was = before.find(port); was == before.end() || was->second != value) stands[port] = value;
+}
+
+constexpr auto eachsetting =
+    std::tuple(&PlanSettings::openatstart, &PlanSettings::night, &PlanSettings::days, &PlanSettings::clock,
+               &PlanSettings::paper, &PlanSettings::asked, &PlanSettings::twilight, &PlanSettings::daylight,
+               &PlanSettings::leastminutes, &PlanSettings::weekdays, &PlanSettings::draught, &PlanSettings::clearance,
+               &PlanSettings::airdraught, &PlanSettings::bottoms, &PlanSettings::bridges);
+
 KeptText textof(const PlanSettings& settings) {
     return [settings](const std::string& untold) {
         json object{{"openatstart", settings.openatstart},
@@ -136,8 +158,10 @@ PlanSettings readplansettings(const std::string& path) {
     return settings;
 }
 
-WriteOutcome writeplansettings(const std::string& path, const PlanSettings& settings) {
-    return writekept(path, readplansettings(path).state, textof(settings));
+WriteOutcome changeplansettings(const std::string& path, const PlanSettings& before, const PlanSettings& now) {
+    PlanSettings stands = readplansettings(path);
+    std::apply([&](auto... member) { (takechange(before.*member, now.*member, stands.*member), ...); }, eachsetting);
+    return writekept(path, stands.state, textof(stands));
 }
 
 std::string tellplansettings(const std::string& path) {

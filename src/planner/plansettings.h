@@ -51,8 +51,9 @@ std::string plansettingspath(const ProgramFolders& folders);
 /// another kind is left at that of a first start.
 PlanSettings readplansettings(const std::string& path);
 
-/// Writes them over what stands there, of which a copy is kept when it isn't understood whole.
-WriteOutcome writeplansettings(const std::string& path, const PlanSettings& settings);
+/// Writes what is other in `now` than it was in `before`; all else stays as it stands there, where another run of the
+/// program may have changed it. A copy is kept of a file that isn't understood whole.
+WriteOutcome changeplansettings(const std::string& path, const PlanSettings& before, const PlanSettings& now);
 
 /// What the user has to be told of the file, a sentence, once; empty when that is nothing.
 std::string tellplansettings(const std::string& path);

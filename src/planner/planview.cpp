@@ -82,6 +82,7 @@ void takeport(const MainContext& context, PlanView& view) {
     view.portname = trim(view.port.PortName);
     view.known = whatisknown(knownarea(context.session.folders, view.area), view.port, view.number);
     view.stored = storedvalues(settings);
+    view.bottomtyped = false;
     view.question = prefilledquestion(view.settings, settings, portkey(view));
     view.read = readquestion(view.question);
     view.refusal = view.read.refusal;
@@ -106,12 +107,14 @@ void keepinside(PlanView& view) {
 
 PlanView openplanview(const MainContext& context) {
     PlanView view;
-    view.settings = readplansettings(plansettingspath(context.session.folders));
+    view.settings = view.kept = readplansettings(plansettingspath(context.session.folders));
     view.first = context.session.onshow.tidedate;
     takeport(context, view);
     replan(context, view);
     showwhole(view);
     view.today = todayof(context, view);
+    // Where the port keeps another date than this computer.
+    if (view.first == context.services.clock.now().today) showdays(context, view, view.today, view.settings.days);
     return view;
 }
 
@@ -151,18 +154,21 @@ Date todayof(const MainContext& context, const PlanView& view) {
 
 bool followmidnight(const MainContext& context, PlanView& view) {
     const Date before = std::exchange(view.today, todayof(context, view));
-    if (view.first != before || view.today != before + days(1)) return false;
+    // After a sleep it may be several.
+    if (view.first != before || view.today <= before) return false;
     showdays(context, view, view.today, view.settings.days);
     return true;
 }
 
 void askquestion(const MainContext& context, PlanView& view, const PlanQuestion& question) {
+    const std::size_t bottom = static_cast<std::size_t>(PlanField::bottom);
+    view.bottomtyped = view.bottomtyped || question[bottom] != view.question[bottom];
     view.question = question;
     const QuestionRead read = readquestion(question);
     view.refusal = read.refusal;
     if (!read.refusal.empty()) return;
     view.read = read;
-    keepquestion(read, context.session.settings, portkey(view), view.settings);
+    keepquestion(read, context.session.settings, portkey(view), view.bottomtyped, view.settings);
     answeranew(view);
 }
 
@@ -174,10 +180,13 @@ void answeranew(PlanView& view) {
     view.access = view.plan->access(*passage, {wishes.daylight, wishes.leastminutes, wishes.weekdays}, wishes.twilight);
 }
 
-bool keepsettings(MainContext& context, const PlanView& view) {
+bool keepsettings(MainContext& context, PlanView& view) {
     const std::string path = plansettingspath(context.session.folders);
-    const WriteOutcome written = writeplansettings(path, view.settings);
-    if (!written) answer(context, "The planner's settings could not be kept: " + path + ": " + written.reason());
+    const WriteOutcome written = changeplansettings(path, view.kept, view.settings);
+    if (written)
+        view.kept = view.settings;
+    else
+        answer(context, "The planner's settings could not be kept: " + path + ": " + written.reason());
     return written;
 }
 

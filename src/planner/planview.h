@@ -19,7 +19,8 @@ namespace tarvane {
 
 struct PlanView {
     PlanSettings settings;
-    std::string area;  ///< path of the sea area's file
+    PlanSettings kept;  ///< as they were read or written last
+    std::string area;   ///< path of the sea area's file
     std::int16_t number = 0;
     HarmonicRecord port;
     std::string portname;
@@ -29,6 +30,7 @@ struct PlanView {
     Date today{};                   ///< as it was when the clock was last looked at
     std::array<float, 3> stored{};  ///< draught, clearance and depth of the classic window
     PlanQuestion question;
+    bool bottomtyped = false;    ///< since the port came up
     QuestionRead read;           ///< of the last question that could be meant; refused where there was none yet
     std::string refusal;         ///< why the one that stands in the fields can't; empty when it can
     std::shared_ptr<Plan> plan;  ///< none without a port
@@ -63,8 +65,8 @@ void askquestion(const MainContext& context, PlanView& view, const PlanQuestion&
 /// The wishes of the settings were changed, or the question is asked no more.
 void answeranew(PlanView& view);
 
-/// Writes the settings. False when they can't be; why is told in the answer line.
-bool keepsettings(MainContext& context, const PlanView& view);
+/// Writes what has changed of the settings. False when it can't be; why is told in the answer line.
+bool keepsettings(MainContext& context, PlanView& view);
 
 /// The same port, clock and question over the whole year that the first day lies in: for what is saved, not shown.
 PlanView yearview(const MainContext& context, const PlanView& view);

@@ -60,7 +60,7 @@ TEST(PlanQuestion, WhatIsAsStoredGoesOnFollowingThat) {
     stored.userdepth = -2;
     PlanSettings settings;
     EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Dover"), (PlanQuestion{"1.9", "0.5", "-2", "", "", "", ""}));
-    keepquestion(readquestion({"1.90", "0.7", "3", "20", "18", "5", "30"}), stored, "UK.hc/Dover", settings);
+    keepquestion(readquestion({"1.90", "0.7", "3", "20", "18", "5", "30"}), stored, "UK.hc/Dover", true, settings);
     EXPECT_FALSE(settings.draught);
     stored.currentdraught = 2.2F;
     EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Dover"),
@@ -68,8 +68,13 @@ TEST(PlanQuestion, WhatIsAsStoredGoesOnFollowingThat) {
     EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Leith"),
               (PlanQuestion{"2.2", "0.7", "-2", "", "18", "", "30"}))
         << "a bottom and a bridge are of their port, the mast is of the boat";
-    keepquestion(readquestion({"2.2", "0.7", "-2", "", "", "", ""}), stored, "UK.hc/Dover", settings);
-    EXPECT_TRUE(settings.bottoms.empty() && settings.bridges.empty());
+    keepquestion(readquestion({"2.2", "0.7", "-2", "", "", "", ""}), stored, "UK.hc/Dover", true, settings);
+    EXPECT_TRUE(settings.bridges.empty());
+    stored.userdepth = 5;
+    EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Dover")[2], "-2") << "a bottom that was typed stays";
+    keepquestion(readquestion({"2.2", "0.7", "5", "", "", "", ""}), stored, "UK.hc/Leith", false, settings);
+    stored.userdepth = 6;
+    EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Leith")[2], "6");
     EXPECT_EQ(settings.airdraught, 18) << "the next bridge finds the mast as it was";
 }
 
@@ -79,7 +84,7 @@ TEST(PlanQuestion, StepsGoByTenthsAndQuartersWithinTheRange) {
         PlanField field;
         int steps;
         const char* then;
-    } rows[] = {{"1.9", PlanField::draught, 1, "2"},    {"1,9", PlanField::draught, -1, "1.8"},
+    } rows[] = {{"1.9", PlanField::draught, 1, "2"},    {"1,9", PlanField::draught, -1, "1,8"},
                 {"1.85", PlanField::draught, 1, "1.9"}, {"1.85", PlanField::draught, -1, "1.8"},
                 {"0.05", PlanField::draught, -1, "0"},  {"0", PlanField::clearance, -1, "0"},
                 {"50", PlanField::draught, 3, "50"},    {"0.2", PlanField::bottom, -3, "-0.1"},
@@ -112,7 +117,7 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
     all.draught = 2.1;
     all.bridges = {{"UK.hc/Dover", {20.5, 6.8}}};
     all.bottoms = {{"UK.hc/B\u00F8m\u00E5", -2}, {"UK.hc/\xFF", 3}};
-    ASSERT_TRUE(writeplansettings(path, all));
+    ASSERT_TRUE(changeplansettings(path, {}, all));
     const PlanSettings read = readplansettings(path);
     const auto flat = [](const PlanSettings& s) {
         return std::tuple(s.openatstart, s.night, s.days, s.clock, s.paper, s.asked, s.twilight, s.daylight,
@@ -121,8 +126,8 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
     EXPECT_EQ(flat(read), flat(all));
     EXPECT_EQ(read.bottoms.at("UK.hc/B\u00F8m\u00E5"), -2);
     std::filesystem::create_directory(folder / "folder");
-    EXPECT_FALSE(writeplansettings(folder / "folder", all));
-    EXPECT_FALSE(writeplansettings(folder / "nowhere/Planner.json", all));
+    EXPECT_FALSE(changeplansettings(folder / "folder", {}, all));
+    EXPECT_FALSE(changeplansettings(folder / "nowhere/Planner.json", {}, all));
     const char* const texts[] = {
         "",
         "{",
@@ -143,21 +148,43 @@ TEST(PlanSettings, ComeBackAsTheyWereWritten) {
     }
 }
 
+TEST(PlanSettings, TwoRunsOfTheProgramTakeNothingFromEachOther) {
+    const fakes::TemporaryFolder folder;
+    const std::string path = folder / "Planner.json";
+    PlanSettings first;
+    first.bottoms = {{"UK.hc/Dover", 1}, {"UK.hc/Leith", 2}};
+    ASSERT_TRUE(changeplansettings(path, {}, first));
+    PlanSettings one = first, other = first;
+    one.bottoms["UK.hc/Dover"] = -2;
+    one.bridges["UK.hc/Dover"] = {20, 5};
+    one.night = true;
+    ASSERT_TRUE(changeplansettings(path, first, one));
+    other.draught = 1.7;
+    other.bottoms.erase("UK.hc/Leith");
+    ASSERT_TRUE(changeplansettings(path, first, other));
+    const PlanSettings both = readplansettings(path);
+    EXPECT_EQ(both.bottoms, (std::map<std::string, double>{{"UK.hc/Dover", -2}}));
+    EXPECT_EQ(both.bridges, one.bridges);
+    EXPECT_EQ(both.draught, 1.7);
+    EXPECT_TRUE(both.night);
+}
+
 TEST(PlanSettings, WhatIsntUnderstoodIsKeptBesideThemAndToldOnce) {
     const fakes::TemporaryFolder folder;
     const std::string path = folder / "Planner.json", copy = path + ".broken";
     PlanSettings settings;
     settings.draught = 2.1;
     settings.bridges = {{"UK.hc/Dover", {20.5, 6.8}}};
-    ASSERT_TRUE(writeplansettings(path, settings));
+    ASSERT_TRUE(changeplansettings(path, {}, settings));
     EXPECT_TRUE(readplansettings(path).state.whole);
     EXPECT_EQ(tellplansettings(path), "");
     const std::string broken = R"({"bottoms": {"UK.hc/Dover": -2, "UK.hc/Leith": "two"}, "colour": 3})";
     ASSERT_TRUE(replacefile(path, broken));
-    PlanSettings read = readplansettings(path);
+    const PlanSettings read = readplansettings(path);
     EXPECT_EQ(read.bottoms.size(), 1U);
-    read.days = 3;
-    ASSERT_TRUE(writeplansettings(path, read));
+    PlanSettings changed = read;
+    changed.days = 3;
+    ASSERT_TRUE(changeplansettings(path, read, changed));
     EXPECT_EQ(wholetext(copy), broken);
     EXPECT_NE(tellplansettings(path).find("Planner.json wasn't understood whole."), std::string::npos);
     EXPECT_EQ(tellplansettings(path), "");

@@ -1,6 +1,7 @@
 #include "planner/frmplanner.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCompleter>
 #include <QMenu>
@@ -43,7 +44,7 @@ frmplanner::frmplanner(MainContext& maincontext) : context(maincontext), view(op
     connectcontrols();
     connectquestion();
     shownight(view.settings.night);
-    resize(picture->sizeHint().width(), picture->sizeHint().height() * 4);
+    resize(picture->sizeHint().width() * 7 / 6, picture->sizeHint().height() * 3);
     fitscreen(*this);
     centreon(*this, nullptr);
     picture->setFocus();
@@ -89,8 +90,13 @@ void frmplanner::connectcontrols() {
         follow();
     });
     connect(cmbPort->lineEdit(), &QLineEdit::returnPressed, this, [this] { chooseport(cmbPort->currentText()); });
-    connect(cmbPort->lineEdit(), &QLineEdit::editingFinished, this,
-            [this] { cmbPort->setEditText(cmbPort->itemText(cmbPort->currentIndex())); });
+    connect(cmbPort->lineEdit(), &QLineEdit::editingFinished, this, [this] { leaveport(); });
+    for (QComboBox* box : {cmbPort, cmbSpan, cmbClock, cmbDaylight})
+        box->installEventFilter(this);
+    // A letter or Tab may lead to what lies beyond the part in view.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && area->widget()->isAncestorOf(now)) area->ensureWidgetVisible(now);
+    });
     connect(pages, &QTabWidget::currentChanged, this, [this] { showpage(); });
     for (PlanTableBox* table : {tides, windows, sunandmoon}) {
         table->onmoment = [this](Moment at) { leap(at); };
@@ -192,6 +198,21 @@ void frmplanner::chooseport(const QString& text) {
     if (onport) onport(static_cast<std::int16_t>(hits.front().place + 1));
     follow();
     picture->setFocus();
+}
+
+/// What was typed of a port's name and left by Tab or a click: the port that it names, or a word that it names none.
+void frmplanner::leaveport() {
+    const QString text = cmbPort->currentText(), standing = cmbPort->itemText(cmbPort->currentIndex());
+    if (text == standing) return;
+    cmbPort->setEditText(standing);
+    const std::vector<PortHit> hits = findports(view.ports, text.toStdString());
+    if (text.trimmed().isEmpty()) return;
+    if (hits.size() == 1 && onport) {
+        onport(static_cast<std::int16_t>(hits.front().place + 1));
+        return follow();
+    }
+    tell(hits.empty() ? "No port of this sea area is called so"
+                      : "Several ports of this sea area may be meant: press Enter for the first, or choose one");
 }
 
 void frmplanner::follow() {
@@ -364,11 +385,28 @@ void frmplanner::leap(Moment at) {
 
 void frmplanner::tell(const std::string& text) {
     lblSaid->setText(screentext(text));
+    lblSaid->setVisible(!text.empty());
 }
 
 /// What can't be kept is told here too, where the user looks.
 void frmplanner::keep() {
     if (!keepsettings(context, view)) tell(context.session.view.answer);
+}
+
+bool frmplanner::eventFilter(QObject* watched, QEvent* event) {
+    auto* const box = qobject_cast<QComboBox*>(watched);
+    if (box && event->type() == QEvent::Wheel && !box->hasFocus() && !box->isAncestorOf(focusWidget())) {
+        event->ignore();
+        return true;
+    }
+    // Its letter leads to the question and doesn't put it away.
+    if (watched == fraQuestion && event->type() == QEvent::Shortcut) {
+        fraQuestion->setChecked(true);
+        fields[0]->setFocus(Qt::ShortcutFocusReason);
+        fields[0]->selectAll();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void frmplanner::keyPressEvent(QKeyEvent* event) {

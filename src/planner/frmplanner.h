@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
@@ -43,6 +44,7 @@ class frmplanner : public QMainWindow {
     void follow();
 
     PlanPictureBox* picture = nullptr;
+    QScrollArea* area = nullptr;
     QComboBox *cmbPort = nullptr, *cmbSpan = nullptr, *cmbClock = nullptr, *cmbDaylight = nullptr;
     QToolButton *cmdPreviousWeek = nullptr, *cmdPreviousDay = nullptr, *cmdNextDay = nullptr, *cmdNextWeek = nullptr,
                 *cmdToday = nullptr, *cmdFind = nullptr, *cmdMap = nullptr, *cmdAbout = nullptr;
@@ -65,6 +67,7 @@ class frmplanner : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void buildlayout();
@@ -100,6 +103,7 @@ class frmplanner : public QMainWindow {
     void typedate();
     void ask();
     void chooseport(const QString& text);
+    void leaveport();
     void leap(Moment at);
     void tell(const std::string& text);
     void keep();

@@ -1,7 +1,6 @@
 // The planner's controls and where they lie.
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QScrollArea>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -30,6 +29,8 @@ QComboBox* choicebox(const char* name, const QStringList& rows, const char* word
     auto* box = named<QComboBox>(name);
     box->addItems(rows);
     box->setAccessibleName(words);
+    // The wheel is the window's until the box is clicked.
+    box->setFocusPolicy(Qt::StrongFocus);
     return box;
 }
 
@@ -90,7 +91,8 @@ void frmplanner::buildlayout() {
     lblAnswer = textlabel("lblAnswer", true);
     lblCursor = textlabel("lblCursor", false);
     lblFoot = textlabel("lblFoot", false);
-    lblSaid = textlabel("lblSaid", false);
+    lblSaid = textlabel("lblSaid", true);
+    lblSaid->setVisible(false);
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.15);
     larger.setBold(true);
@@ -112,17 +114,26 @@ void frmplanner::buildlayout() {
     rows->addWidget(lblNow);
     rows->addWidget(split, 1);
     rows->addWidget(lblFoot);
-    auto* foot = new QHBoxLayout;
-    foot->addWidget(lblCursor, 1);
-    foot->addWidget(lblSaid, 1);
-    rows->addLayout(foot);
-    // Where the screen has less room than all of it needs, the lower part is scrolled to.
-    auto* area = named<QScrollArea>("area");
+    // Where the screen has less room than all of it needs, the lower part is scrolled to. What is said of a moment or a
+    // command stays in view.
+    area = named<QScrollArea>("area");
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(whole);
-    setCentralWidget(area);
+    auto* window = new QWidget;
+    auto* parts = new QVBoxLayout(window);
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->setSpacing(0);
+    parts->addWidget(area, 1);
+    auto* foot = new QVBoxLayout;
+    foot->setContentsMargins(rows->contentsMargins().left(), 0, rows->contentsMargins().right(),
+                             fontMetrics().height() / 4);
+    foot->setSpacing(0);
+    foot->addWidget(lblSaid);
+    foot->addWidget(lblCursor);
+    parts->addLayout(foot);
+    setCentralWidget(window);
 }
 
 QWidget* frmplanner::buildports() {
@@ -185,6 +196,7 @@ QWidget* frmplanner::builddays() {
 QWidget* frmplanner::buildquestion() {
     fraQuestion = named<QGroupBox>("fraQuestion", "&When can I go?");
     fraQuestion->setCheckable(true);
+    fraQuestion->installEventFilter(this);
     auto* grid = new QGridLayout;
     for (std::size_t i = 0; i < planfields; ++i) {
         const FieldPlace& place = fieldplaces[i];
@@ -207,7 +219,7 @@ QWidget* frmplanner::buildquestion() {
     rows->addLayout(grid);
     auto* days = new QHBoxLayout;
     days->setSpacing(2);
-    auto* only = new QLabel("Only on");
+    auto* only = captionof("Onl&y on", nullptr);
     only->setToolTip("None pressed: every day is as good");
     days->addWidget(only);
     for (std::size_t i = 0; i < weekdays.size(); ++i) {
@@ -221,6 +233,7 @@ QWidget* frmplanner::buildquestion() {
         weekdays[i]->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         days->addWidget(weekdays[i]);
     }
+    only->setBuddy(weekdays[0]);
     rows->addLayout(days);
     rows->addWidget(lblNeeded);
     rows->addWidget(lblAnswer, 1);

@@ -39,7 +39,7 @@ void PlanPictureBox::redraw() {
 }
 
 QSize PlanPictureBox::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 11};
+    return {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 14};
 }
 
 std::optional<PlanPicture> PlanPictureBox::picture() const {

@@ -8,6 +8,11 @@
 #include "platform/qt/screentext.h"
 
 namespace tarvane {
+namespace {
+
+constexpr int rowsmeasured = 32;  // by which the columns get their widths: rows are of one form
+
+}  // namespace
 
 PlanTableBox::PlanTableBox(const char* name, const char* accessiblename) {
     setObjectName(QLatin1String(name));
@@ -24,7 +29,7 @@ PlanTableBox::PlanTableBox(const char* name, const char* accessiblename) {
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
-    horizontalHeader()->setResizeContentsPrecision(0);
+    horizontalHeader()->setResizeContentsPrecision(rowsmeasured);
     setSortingEnabled(true);
     sortByColumn(0, Qt::AscendingOrder);
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { choose(index.row()); });

@@ -251,6 +251,9 @@ TEST_F(PlanViewTest, DaysThatBeginTodayFollowOverMidnight) {
     scripted.clock.set(2024, 4, 10, 0, 0);
     EXPECT_FALSE(followmidnight(context, view)) << "its days begin tomorrow";
     EXPECT_EQ(view.first, makedate(2024, 4, 10));
+    scripted.clock.set(2024, 4, 14, 6, 0);
+    EXPECT_TRUE(followmidnight(context, view)) << "the computer slept";
+    EXPECT_EQ(view.first, makedate(2024, 4, 14));
 }
 
 TEST_F(PlanViewTest, DaysThatBeginTodayDoSoAtAPortWithAnotherDate) {
@@ -265,6 +268,13 @@ TEST_F(PlanViewTest, DaysThatBeginTodayDoSoAtAPortWithAnotherDate) {
         EXPECT_EQ(view.first, makedate(2024, 1, date)) << port;
         EXPECT_EQ(view.plan->begins(), view.from) << port;
     }
+    session.settings.currentport = 5;
+    session.onshow.tidedate = makedate(2024, 1, 9);
+    EXPECT_EQ(opened().first, makedate(2024, 1, 10));
+    session.onshow.tidedate = makedate(2024, 1, 8);
+    EXPECT_EQ(opened().first, makedate(2024, 1, 8));
+    session.settings.currentport = 1;
+    EXPECT_FALSE(followport(context, view));
     showdays(context, view, makedate(2024, 1, 12), 7);
     session.settings.currentport = 5;
     EXPECT_TRUE(followport(context, view));

@@ -229,6 +229,41 @@ TEST_F(FrmPlanner, TheQuestionIsAskedByMouseAlone) {
     EXPECT_EQ(view().plan->ends() - view().plan->begins(), 240h);
 }
 
+TEST_F(FrmPlanner, LettersLeadToWhatTheyName) {
+    planner->resize(683, 340);
+    QApplication::processEvents();
+    QTest::keyClick(planner, Qt::Key_W, Qt::AltModifier);
+    EXPECT_EQ(infocus(*planner), "txtDraught");
+    EXPECT_FALSE(field(PlanField::draught).visibleRegion().isEmpty()) << "it is scrolled to";
+    EXPECT_TRUE(view().settings.asked);
+    planner->fraQuestion->setChecked(false);
+    QTest::keyClick(planner, Qt::Key_W, Qt::AltModifier);
+    EXPECT_TRUE(view().settings.asked) << "and asked again";
+    planner->picture->setFocus();
+    for (QComboBox* box : {planner->cmbSpan, planner->cmbClock, planner->cmbDaylight, planner->cmbPort}) {
+        const int row = box->currentIndex();
+        const QPointF place = box->rect().center();
+        QWheelEvent event(place, box->mapToGlobal(place), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(box, &event);
+        EXPECT_EQ(box->currentIndex(), row) << box->objectName().toStdString() << ": nobody has clicked it";
+    }
+    planner->DTPicker->setFocus();
+    type(*planner->DTPicker, "31/2/2026");
+    QTest::keyClick(planner->DTPicker, Qt::Key_Return);
+    EXPECT_FALSE(planner->lblSaid->visibleRegion().isEmpty()) << "why is told in view";
+    QLineEdit* name = planner->cmbPort->lineEdit();
+    for (const auto& [text, port, told] : {std::tuple("ceda", "Cedar Head", ""),
+                                           {"r", "Cedar Head", "Several ports"},
+                                           {"xyz", "Cedar Head", "No port"}}) {
+        name->setFocus();
+        type(*name, text);
+        planner->cmbPort->completer()->popup()->hide();
+        planner->picture->setFocus();
+        EXPECT_EQ(name->text(), port) << text;
+        EXPECT_TRUE(shown(*planner->lblSaid).starts_with(told)) << shown(*planner->lblSaid);
+    }
+}
+
 TEST_F(FrmPlanner, AYearIsSavedWhateverDaysAreShown) {
     const auto saved = [&](const char* entry, const char* proposed) {
         const std::string path = folder / "saved";

@@ -95,7 +95,8 @@ void frmplanner::connectcontrols() {
         box->installEventFilter(this);
     // A letter or Tab may lead to what lies beyond the part in view.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now && area->widget()->isAncestorOf(now)) area->ensureWidgetVisible(now);
+        if (!now || !area->widget()->isAncestorOf(now)) return;
+        if (now != picture || picture->visibleRegion().isEmpty()) area->ensureWidgetVisible(now);
     });
     connect(pages, &QTabWidget::currentChanged, this, [this] { showpage(); });
     for (PlanTableBox* table : {tides, windows, sunandmoon}) {
@@ -399,14 +400,17 @@ bool frmplanner::eventFilter(QObject* watched, QEvent* event) {
         event->ignore();
         return true;
     }
-    // Its letter leads to the question and doesn't put it away.
-    if (watched == fraQuestion && event->type() == QEvent::Shortcut) {
-        fraQuestion->setChecked(true);
-        fields[0]->setFocus(Qt::ShortcutFocusReason);
-        fields[0]->selectAll();
+    if (event->type() != QEvent::Shortcut || (watched != fraQuestion && watched != lblOnly))
+        return QMainWindow::eventFilter(watched, event);
+    // Their letters lead there: they neither put the question away nor press a day.
+    if (watched == lblOnly) {
+        weekdays[0]->setFocus(Qt::ShortcutFocusReason);
         return true;
     }
-    return QMainWindow::eventFilter(watched, event);
+    fraQuestion->setChecked(true);
+    fields[0]->setFocus(Qt::ShortcutFocusReason);
+    fields[0]->selectAll();
+    return true;
 }
 
 void frmplanner::keyPressEvent(QKeyEvent* event) {

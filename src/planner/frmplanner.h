@@ -50,7 +50,7 @@ class frmplanner : public QMainWindow {
                 *cmdToday = nullptr, *cmdFind = nullptr, *cmdMap = nullptr, *cmdAbout = nullptr;
     DateBox* DTPicker = nullptr;
     QLabel *lblDayName = nullptr, *lblNow = nullptr, *lblNeeded = nullptr, *lblAnswer = nullptr, *lblCursor = nullptr,
-           *lblFoot = nullptr, *lblSaid = nullptr;
+           *lblFoot = nullptr, *lblSaid = nullptr, *lblOnly = nullptr;
     KeptNote* lblKept = nullptr;
     QGroupBox* fraQuestion = nullptr;
     std::array<QLineEdit*, planfields> fields{};

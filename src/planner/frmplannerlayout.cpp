@@ -219,9 +219,10 @@ QWidget* frmplanner::buildquestion() {
     rows->addLayout(grid);
     auto* days = new QHBoxLayout;
     days->setSpacing(2);
-    auto* only = captionof("Onl&y on", nullptr);
-    only->setToolTip("None pressed: every day is as good");
-    days->addWidget(only);
+    lblOnly = captionof("Onl&y on", nullptr);
+    lblOnly->setToolTip("None pressed: every day is as good");
+    lblOnly->installEventFilter(this);
+    days->addWidget(lblOnly);
     for (std::size_t i = 0; i < weekdays.size(); ++i) {
         const int sundayfirst = static_cast<int>((i + 1) % 7);
         const QString name = QString::fromStdString(context.services.locale.dayname(sundayfirst));
@@ -233,7 +234,7 @@ QWidget* frmplanner::buildquestion() {
         weekdays[i]->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         days->addWidget(weekdays[i]);
     }
-    only->setBuddy(weekdays[0]);
+    lblOnly->setBuddy(weekdays[0]);
     rows->addLayout(days);
     rows->addWidget(lblNeeded);
     rows->addWidget(lblAnswer, 1);

@@ -239,6 +239,9 @@ TEST_F(FrmPlanner, LettersLeadToWhatTheyName) {
     planner->fraQuestion->setChecked(false);
     QTest::keyClick(planner, Qt::Key_W, Qt::AltModifier);
     EXPECT_TRUE(view().settings.asked) << "and asked again";
+    QTest::keyClick(planner, Qt::Key_Y, Qt::AltModifier);
+    QTest::qWait(150);
+    EXPECT_TRUE(planner->weekdays[0]->hasFocus() && !planner->weekdays[0]->isChecked());
     planner->picture->setFocus();
     for (QComboBox* box : {planner->cmbSpan, planner->cmbClock, planner->cmbDaylight, planner->cmbPort}) {
         const int row = box->currentIndex();

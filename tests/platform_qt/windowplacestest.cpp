@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTest>
 #include <QWidget>
 
 #include "fakes/temporaryfolder.h"
@@ -29,6 +30,17 @@ TEST(WindowPlaces, ASizeIsOfTheScreenThatItWasChosenOn) {
         window.hide();
         EXPECT_NE(filetext(folder / "Windows.json").find(here), std::string::npos);
     }
+}
+
+TEST(WindowPlaces, AProgramThatIsKilledHasThemToo) {
+    const fakes::TemporaryFolder folder;
+    WindowPlaces places(folder / "Windows.json");
+    qApp->installEventFilter(&places);
+    QWidget window;
+    window.setObjectName("frmany");
+    window.show();
+    window.resize(313, 211);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return filetext(folder / "Windows.json").find("313") != std::string::npos; }));
 }
 
 }  // namespace

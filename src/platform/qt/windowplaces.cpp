@@ -1,5 +1,6 @@
 #include "platform/qt/windowplaces.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QJsonDocument>
@@ -11,6 +12,7 @@
 namespace tarvane {
 namespace {
 
+constexpr int settling = 1000;  // ms
 constexpr const char* restored = "placerestored";
 constexpr int leastseen = 60;  // so much of a window's head lies on a screen
 
@@ -37,7 +39,11 @@ QString sizetext(QSize size) {
 }  // namespace
 
 WindowPlaces::WindowPlaces(const std::string& path)
-    : path_(path), places_(QJsonDocument::fromJson(QByteArray::fromStdString(wholetext(path))).object()) {}
+    : path_(path), places_(QJsonDocument::fromJson(QByteArray::fromStdString(wholetext(path))).object()) {
+    settled_.setSingleShot(true);
+    settled_.setInterval(settling);
+    connect(&settled_, &QTimer::timeout, this, [this] { keepall(); });
+}
 
 void WindowPlaces::restore(QWidget& window) const {
     const QJsonObject place = places_[window.objectName()].toObject();
@@ -68,9 +74,16 @@ void WindowPlaces::keep(const QWidget& window) {
     replacefile(path_, QJsonDocument(places_).toJson().toStdString());
 }
 
+void WindowPlaces::keepall() {
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && isours(*window)) keep(*window);
+}
+
 bool WindowPlaces::eventFilter(QObject* watched, QEvent* event) {
     auto* window = qobject_cast<QWidget*>(watched);
     const bool shown = event->type() == QEvent::Show, hidden = event->type() == QEvent::Hide;
+    const bool moved = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+    if (moved && window && window->isVisible() && isours(*window)) settled_.start();
     if (window && (shown || hidden) && !event->spontaneous() && isours(*window)) {
         if (hidden) keep(*window);
         if (shown && !window->property(restored).toBool()) {

@@ -4,6 +4,7 @@
 
 #include <QJsonObject>
 #include <QObject>
+#include <QTimer>
 #include <string>
 
 class QWidget;
@@ -22,6 +23,10 @@ class WindowPlaces : public QObject {
     void restore(QWidget& window) const;
     void keep(const QWidget& window);
 
+    /// Of all that are up, once none has been moved for a while: nobody knows how the program ends.
+    void keepall();
+
+    QTimer settled_;
     std::string path_;
     QJsonObject places_;
 };

@@ -91,11 +91,20 @@ std::string goodness(const PortKnown& known, bool checked) {
     return known.own && checked ? ownwords(*known.own) : trustwords(known);
 }
 
+/// Whose the constants were, as those that ship are to be credited.
+std::string sourcewords(const std::string& source) {
+    constexpr const char* byway = ", by way of the Neaps tide database";
+    if (source == "TICON-4")
+        return source + ": Hart-Davis, Dettmering, Seitz (2025), SEANOE, https://doi.org/10.17882/109129" + byway;
+    const bool ships = source.starts_with("US National Oceanic") || source.starts_with("Kartverket");
+    return source + (ships ? byway : "");
+}
+
 void addsource(const PortAbout& about, std::vector<AboutLine>& lines) {
     const std::string datum = datumwords(about.datum);
     lines.push_back({"Heights above", about.datum + (datum.empty() ? "" : ", " + datum) +
                                           ", as the gauge's record has it: not official chart datum"});
-    lines.push_back({"Source", about.source});
+    lines.push_back({"Source", sourcewords(about.source)});
     lines.push_back({"Licence", about.licence + ", modified"});
     std::string record = recordwords(about);
     if (!about.recordfrom.empty() && !about.recordto.empty())

@@ -69,6 +69,12 @@ bool isempty(const TableWater& water) {
     return water == TableWater{};
 }
 
+/// True where no clock shows the port's zone time, which is in whole hours: its tables are in its own.
+bool clocksapart(const AboutOf& of, const Services& services) {
+    const auto offset = services.zones.offsetat(of.known.iana(), services.clock.moment());
+    return offset && offset->ahead % std::chrono::hours(1) != std::chrono::seconds(0);
+}
+
 }  // namespace
 
 CheckTable::CheckTable() {
@@ -140,6 +146,7 @@ frmcheckport::frmcheckport(MainContext& maincontext, const std::string& hcfile, 
       of(aboutof(maincontext.session.folders, hcfile, number)) {
     setProperty(ownlight, true);
     setPalette(paletteof(coloursof(lightingof(nightison()))));
+    if (of.check.waters.empty() && clocksapart(of, context.services)) of.check.clock = TableClock::port;
     setWindowTitle("Check This Port - " + screentext(trimmedname(of.port)));
     buildlayout();
     keeplater = new QTimer(this);

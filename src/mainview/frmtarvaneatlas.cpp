@@ -7,6 +7,7 @@
 #include "mainview/frmtarvane.h"
 #include "mainview/plannersteps.h"
 #include "paint/frmlightpalette.h"
+#include "platform/qt/nightlight.h"
 #include "portdata/recordfiles.h"
 #include "text/singlebyte.h"
 
@@ -23,9 +24,8 @@ World& frmtarvane::worldports() {
 void frmtarvane::openfinder(const std::string& text) {
     keeprecent();
     World& ports = worldports();
-    const bool night = planner && planner->planview().settings.night;
     QWidget* over = QApplication::activeWindow();
-    frmfinder window(context, ports, lightingof(night), over ? over : this);
+    frmfinder window(context, ports, lightingof(nightison()), over ? over : this);
     window.onabout = [&](std::size_t place) {
         const WorldPort& port = ports.ports[place];
         frmaboutport about(context, ports.areas[port.area].path, port.number, &window);

@@ -30,7 +30,9 @@ struct PortKnown {
 struct AreaKnown {
     AboutTable table;
     AreaNotes notes;
-    std::optional<std::set<HarmonicBytes>> shipped;  ///< of an area of the user's own that ships too, as it ships
+    /// Its records as they ship, without numbers and positions, of an area that may have been changed since: one that
+    /// isn't among them is nobody's but the user's, whatever his notes say.
+    std::optional<std::set<HarmonicBytes>> shipped;
 };
 
 /// By the area's path.

@@ -96,6 +96,31 @@ TEST_F(OwnPortsTest, ANoteHoldsAsLongAsItsRecordDoes) {
     EXPECT_EQ(wholetext(path()), text) << "nothing was changed";
 }
 
+TEST_F(OwnPortsTest, ConstantsThatDontShipAreTheUsersWithoutANoteToo) {
+    std::filesystem::create_directory(folders.programfolder + "/Supplied");
+    std::filesystem::copy(area, folders.programfolder + "/Supplied/UK.hc");
+    const HarmonicRecord birch = readport(area, 2);
+    HarmonicRecord changed = birch;
+    const auto own = [&] {
+        writeport(area, 2, changed);
+        return known(2).own.has_value();
+    };
+    EXPECT_FALSE(own());
+    changed.PortLat = 50;
+    EXPECT_FALSE(own()) << "its tides are as they were";
+    changed.Z0 += 1;
+    EXPECT_TRUE(own());
+    changed = birch;
+    changed.TimeZoneLetter = "F";
+    EXPECT_TRUE(own());
+    changed = birch;
+    EXPECT_FALSE(own()) << "as it was once more";
+    EXPECT_TRUE(noteport(folders, area, 2, portnamed("Birch", 3), birch, made(OwnHow::corrected)));
+    EXPECT_FALSE(own()) << "what ships is no one's own, whatever is noted";
+    putports({portnamed("Birch"), portnamed("Cedar")});
+    EXPECT_FALSE(known(1).own || known(2).own) << "others are gone";
+}
+
 TEST_F(OwnPortsTest, NotesFollowTheirPortsThroughDeletionsAndInsertions) {
     const auto checked = [&](int number, const char* height) {
         keepcheck(folders, area, readport(area, static_cast<std::int16_t>(number)), number,

@@ -132,6 +132,14 @@ TEST_F(Areas, AnOutputThatFailsEndsTheRun) {
             EXPECT_EQ(told, room == 0 || !has(line, "list")) << line << err.str();
         }
     }
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+             {"--version"}, {"--help"}, {"about", "--help"}, {"fit", "--help"}, {"streams", "--help"}}) {
+        FullBuffer buffer(0);
+        std::ostream out(&buffer);
+        std::ostringstream err;
+        EXPECT_EQ(runtides(arguments, environment, out, err), 2) << arguments.front();
+        EXPECT_EQ(err.str(), "tides: the result could not be written\n");
+    }
 }
 
 }  // namespace

@@ -104,10 +104,7 @@ int runfit(const std::vector<std::string>& arguments, const TidesEnvironment& en
     FitOptions options;
     FittedPlace place;
     std::string fault = parsefitoptions(arguments, options);
-    if (fault.empty() && !options.answer.empty()) {
-        out << options.answer << std::flush;
-        return 0;
-    }
+    if (fault.empty() && !options.answer.empty()) return printanswer(options.answer, out, err);
     if (fault.empty()) fault = fitplace(options, environment, place);
     if (fault.empty()) {
         if (!place.acrossnorth.empty()) {

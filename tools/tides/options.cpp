@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <ostream>
 
 #include "text/numbers.h"
 #include "text/programcaption.h"
 #include "text/singlebyte.h"
 #include "tides/commonoptions.h"
+#include "tides/runtides.h"
 #include "tides/valueoptions.h"
 
 namespace tarvane {
@@ -185,6 +187,12 @@ std::string parseoptions(const std::vector<std::string>& arguments, Options& opt
 
 std::string inquotes(const std::string& text) {
     return "'" + text + "'";
+}
+
+int printanswer(const std::string& answer, std::ostream& out, std::ostream& err) {
+    if (out << answer << std::flush) return 0;
+    err << "tides: the result could not be written\n";
+    return refused;
 }
 
 std::string argumenttext(const std::string& argument) {

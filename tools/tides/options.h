@@ -1,6 +1,7 @@
 // The command line of `tides`: what it may hold, and what is wrong with one. Must not read files or the clock.
 #pragma once
 
+#include <iosfwd>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,5 +47,8 @@ std::string parseformat(const std::string& value, OutputFormat& format);
 std::string argumenttext(const std::string& argument);
 
 std::string inquotes(const std::string& text);
+
+/// Prints what --help or --version asks for; the exit status.
+int printanswer(const std::string& answer, std::ostream& out, std::ostream& err);
 
 }  // namespace tarvane

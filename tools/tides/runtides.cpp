@@ -85,10 +85,7 @@ int runtides(const std::vector<std::string>& arguments, const TidesEnvironment& 
     const bool about = !arguments.empty() && arguments.front() == "about";
     std::string fault =
         about ? parseabout({arguments.begin() + 1, arguments.end()}, options) : parseoptions(arguments, options);
-    if (fault.empty() && !options.answer.empty()) {
-        out << options.answer << std::flush;
-        return 0;
-    }
+    if (fault.empty() && !options.answer.empty()) return printanswer(options.answer, out, err);
     if (fault.empty()) fault = prepare(options, environment, contexts, err);
     if (fault.empty()) {
         // everything that can be wrong has been found by now, so that results needn't be held back: ten years of all

@@ -141,10 +141,7 @@ int runstreams(const std::vector<std::string>& arguments, const TidesEnvironment
     StreamsOptions options;
     StreamsInHand streams;
     std::string fault = parsestreamsoptions(arguments, options);
-    if (fault.empty() && !options.answer.empty()) {
-        out << options.answer << std::flush;
-        return 0;
-    }
+    if (fault.empty() && !options.answer.empty()) return printanswer(options.answer, out, err);
     if (fault.empty()) fault = preparestreams(options, environment, streams);
     if (fault.empty()) {
         if (!streams.doubt.empty()) err << "tides: " << plaintext(streams.doubt) << "\n";

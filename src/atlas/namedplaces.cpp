@@ -8,7 +8,7 @@
 namespace tarvane {
 namespace {
 
-constexpr std::array<NamedPlace, 30> places{{
+constexpr std::array<NamedPlace, 33> places{{
     {"Cork", {51.85, -8.28}},       {"Cobh", {51.85, -8.29}},      {"Kinsale", {51.70, -8.50}},
     {"Crosshaven", {51.80, -8.30}}, {"Waterford", {52.26, -7.11}}, {"Limerick", {52.66, -8.63}},
     {"Cowes", {50.76, -1.30}},      {"Lymington", {50.75, -1.53}}, {"Poole", {50.71, -1.99}},
@@ -18,6 +18,7 @@ constexpr std::array<NamedPlace, 30> places{{
     {"Ostend", {51.23, 2.92}},      {"Zeebrugge", {51.33, 3.20}},  {"Rotterdam", {51.90, 4.48}},
     {"Amsterdam", {52.38, 4.90}},   {"Hamburg", {53.54, 9.97}},    {"Havana", {23.14, -82.35}},
     {"Kolkata", {22.55, 88.33}},    {"Yangon", {16.77, 96.17}},    {"Ho Chi Minh City", {10.77, 106.71}},
+    {"London", {51.50, -0.05}},     {"Antwerp", {51.23, 4.40}},    {"Bremen", {53.12, 8.73}},
     {"Jakarta", {-6.10, 106.88}},   {"Shanghai", {31.24, 121.50}}, {"Busan", {35.10, 129.04}},
 }};
 

@@ -19,20 +19,29 @@ struct ShortName {
     const char* names;
 };
 
-constexpr std::array<ShortName, 8> shortnames{{{"United States", "us usa america"},
-                                               {"United Kingdom", "uk gb great britain"},
-                                               {"New Zealand", "nz aotearoa"},
-                                               {"Netherlands", "nl holland"},
-                                               {"Ireland", "eire"},
-                                               {"South Africa", "rsa"},
-                                               {"Papua New Guinea", "png"},
-                                               {"Virgin Islands", "usvi bvi"}}};
+constexpr std::array<ShortName, 16> shortnames{{{"United States", "us usa america"},
+                                                {"United Kingdom", "uk gb great britain england scotland wales"},
+                                                {"New Zealand", "nz aotearoa"},
+                                                {"Netherlands", "nl holland nederland"},
+                                                {"Germany", "deutschland"},
+                                                {"Spain", "espana"},
+                                                {"Norway", "norge"},
+                                                {"Denmark", "danmark"},
+                                                {"Italy", "italia"},
+                                                {"Brazil", "brasil"},
+                                                {"Japan", "nippon"},
+                                                {"Mexico", "mejico"},
+                                                {"Ireland", "eire"},
+                                                {"South Africa", "rsa"},
+                                                {"Papua New Guinea", "png"},
+                                                {"Virgin Islands", "usvi bvi"}}};
 
 constexpr const char* whatnear =
     "Near what? A place such as \u201Cnear 50.1 N 1.4 W\u201D, \u201Cnear 50 06.2 N 1 24 "
     "W\u201D or \u201Cnear -33.85, 151.2\u201D, or a port";
 
 constexpr std::size_t mostwords = 5;
+constexpr std::size_t mostnear = 5;  // of a place, ahead of the ports that have its name in theirs
 
 std::string countryof(const WorldPort& port) {
     if (!port.about) return "";
@@ -85,6 +94,14 @@ std::optional<std::string> behindnear(std::string_view text) {
     if (lowercase(trimmed.substr(0, near.size())) != near) return std::nullopt;
     if (trimmed.size() > near.size() && trimmed[near.size()] != ' ') return std::nullopt;
     return trim(trimmed.substr(near.size()));
+}
+
+/// Puts the first of some ports ahead of others, each once.
+void addahead(const std::vector<FoundPort>& first, std::vector<FoundPort>& ports) {
+    for (std::size_t i = 0; i < std::min(mostnear, first.size()); ++i) {
+        std::erase_if(ports, [&](const FoundPort& each) { return each.place == first[i].place; });
+        ports.insert(ports.begin() + static_cast<std::ptrdiff_t>(i), first[i]);
+    }
 }
 
 /// No name, but perhaps the beginning of a place.
@@ -304,7 +321,7 @@ Found Finder::findnear(std::string_view text) const {
     std::string where = from ? placetext(*from) : "";
     if (!from && !isnoname(text)) {
         const std::vector<FoundPort> hits = search(text);
-        const NamedPlace* named = hits.empty() || hits.front().fit == Fit::nearmiss ? namedplace(text) : nullptr;
+        const NamedPlace* named = hits.empty() || hits.front().fit != Fit::whole ? namedplace(text) : nullptr;
         if (named) return byplace(named->at, named->name);
         if (hits.empty()) return {{}, {}, "No port is called so; " + std::string(whatnear)};
         from = entries[hits.front().place].at;
@@ -325,9 +342,14 @@ Found Finder::find(std::string_view text) const {
     if (inhand) found.from = entries[*inhand].at;
     if (!found.told.empty()) return found;
     const bool fits = !found.ports.empty() && found.ports.front().fit != Fit::nearmiss;
-    if (fits) {
+    const NamedPlace* place = fits && found.ports.front().fit == Fit::whole ? nullptr : namedplace(text);
+    if (fits && place) {
+        found.told = "No port is called so; the nearest to " + std::string(place->name) + ", then " +
+                     portstext(found.ports.size()) + " with a name like it";
+        addahead(byplace(place->at, place->name).ports, found.ports);
+    } else if (fits) {
         found.told = portstext(found.ports.size());
-    } else if (const NamedPlace* place = namedplace(text)) {
+    } else if (place) {
         found = byplace(place->at, place->name);
         found.told = "No port is called so; " + found.told;
     } else if (found.ports.empty()) {

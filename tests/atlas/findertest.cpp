@@ -109,6 +109,12 @@ TEST_F(FinderOfAll, ATownWithoutAPortListsWhatIsAboutIt) {
     EXPECT_EQ(cork.told, "No port is called so; 2427 ports, the nearest to Cork first");
     EXPECT_EQ(first(cork, 1), Names{"Ballycotton, uk"});
     EXPECT_EQ(first(finder.find("near cork"), 1), Names{"Ballycotton, uk"});
+    const Found london = finder.find("london");
+    EXPECT_TRUE(told(london.ports.front().place).ends_with(", uk")) << told(london.ports.front().place);
+    EXPECT_GT(london.ports.size(), 5U) << "then those that have it in their names";
+    EXPECT_EQ(first(finder.find("near london"), 1), first(london, 1));
+    for (const char* country : {"deutschland", "espa\u00F1a", "scotland", "nippon"})
+        EXPECT_GE(finder.find(country).ports.size(), 10U) << country;
     // One that has become a port needs no entry; one that lies elsewhere has a wrong position.
     for (const NamedPlace& each : namedplaces()) {
         const Found found = finder.find(each.name);

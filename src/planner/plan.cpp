@@ -15,6 +15,9 @@ using std::chrono::minutes;
 /// So many days are looked at ahead of a plan and behind it: ranges and springs are told by what lies around.
 constexpr int margin = 9;
 
+/// So far ahead of a window the water is sought that it opens behind.
+constexpr auto yearback = days(366);
+
 Date spanstart(Moment begins, std::int16_t zonehours) {
     return floor<days>(begins - hours(zonehours)) - days(margin);
 }
@@ -138,16 +141,18 @@ Plan::Plan(const PlanOf& of, const Zones& zones)
         if (each.moment >= begins_ && each.moment < ends_) waters_.push_back(each);
 }
 
-/// The last of all waters before a moment at which she doesn't pass, be it outside the plan: a window may have been
-/// open for weeks.
+/// The last of all waters within a year before a moment at which she doesn't pass, be it outside the plan: a window may
+/// have been open for weeks.
 std::optional<PlannedWater> Plan::openingbefore(Moment moment, const Passage& passage) const {
-    constexpr int atonce = 30, most = 366;  // days
+    constexpr int atonce = 30;  // days
+    const Moment earliest = moment - yearback;
     // A span's first waters may share a name with some ahead of it.
-    if (const auto near = lastbarring(around_, origin_ + days(1), moment, passage)) return near;
-    const Date start = tides_.firstday();
-    for (int back = atonce; back <= most; back += atonce) {
-        const TideSpan earlier(of_.port, start - days(back + 1), atonce + margin);
-        const Moment from = originof(of_.port, start - days(back));
+    if (const auto near = lastbarring(around_, std::max(origin_ + days(1), earliest), moment, passage)) return near;
+    Date start = tides_.firstday();
+    while (originof(of_.port, start) > earliest) {
+        start -= days(atonce);
+        const TideSpan earlier(of_.port, start - days(1), atonce + margin);
+        const Moment from = std::max(originof(of_.port, start), earliest);
         if (const auto far = lastbarring(namedwaters(of_.port, earlier), from, moment, passage)) return far;
     }
     return std::nullopt;
@@ -157,12 +162,29 @@ void Plan::nameopening(PlannedWindow& window, const Passage& passage) const {
     const auto opening = openingbefore(window.opens, passage);
     if (!opening) return;
     window.opening = opening->name;
-    const double from = spanhours(opening->moment), to = spanhours(window.opens);
-    if (from < 0 || from >= to) return;
+    if (spanhours(opening->moment) >= 0) {
+        window.part = partof(tides_, opening->moment, window.opens, passage);
+        return;
+    }
+    // Days beyond both, for what a step at midnight makes of windows there.
+    const Date first = spanstart(opening->moment, zonehoursof(of_.port)) + days(margin - 2);
+    const int count = static_cast<int>(std::chrono::ceil<days>(window.opens - Moment(first)).count()) + 2;
+    window.part = partof(TideSpan(of_.port, first, count), opening->moment, window.opens, passage);
+}
+
+/// Which of the windows since a water one is that opens at a moment or is open there since the start of the plan.
+int Plan::partof(const TideSpan& tides, Moment water, Moment opens, const Passage& passage) const {
+    const Moment origin = originof(of_.port, tides.firstday());
+    const auto hoursof = [&](Moment moment) { return static_cast<double>((moment - origin).count()) / 3600; };
+    const double from = hoursof(water), to = hoursof(opens);
+    if (from >= to) return 0;
     // Windows since that water, whether the plan holds them or not; of one that the plan cuts the last is a part.
-    const std::vector<Window> before = accessof(tides_, {from, to}, passage, {}, {}).windows;
-    const bool itself = !before.empty() && window.opens - (origin_ + minutes(before.back().closes)) <= minutes(1);
-    window.part = static_cast<int>(before.size()) - (itself ? 1 : 0);
+    const std::vector<Window> before = accessof(tides, {from, to}, passage, {}, {}).windows;
+    const auto reaches = [&](const Window& last) {
+        const bool predicted = tides.height(static_cast<double>(last.closes + 1) / 60).has_value();
+        return opens - (origin + minutes(last.closes)) <= minutes(1) || (last.cutatend && predicted);
+    };
+    return static_cast<int>(before.size()) - (!before.empty() && reaches(before.back()) ? 1 : 0);
 }
 
 /// Whether a day of the span that lies within the plan has no prediction: those around may.

@@ -117,6 +117,7 @@ class Plan {
   private:
     bool lacksdays() const;
     std::optional<PlannedWater> openingbefore(Moment moment, const Passage& passage) const;
+    int partof(const TideSpan& tides, Moment water, Moment opens, const Passage& passage) const;
     double spanhours(Moment moment) const;
     Moment momentof(double spanhours) const;
 

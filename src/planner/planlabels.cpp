@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <numeric>
 
 #include "paint/labels.h"
 #include "planner/plantexts.h"
@@ -54,17 +55,17 @@ bool shown(const PlanScale& scale, const PlannedWater& water) {
 }
 
 std::vector<Label> waterlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
-                               const std::vector<Level>& levels) {
+                               const std::vector<Level>& levels, bool slight) {
     const double tall = canvas.textheight(textlook(picture, 0));
     std::vector<Label> labels;
     for (const PlannedWater& each : picture.plan.waters()) {
         // Within the narrow curve of many days nobody could tell them from the tide's own.
-        if (!shown(scale, each) || (each.water.slight && !fewdays(scale))) continue;
+        if (!shown(scale, each) || each.water.slight != slight || (slight && !fewdays(scale))) continue;
         const double y = scale.y(each.water.height);
         Label label{{plainclock(picture.plan.clock(), each.moment), metres(each.water.height)},
                     textlook(picture, picture.look.text, Anchor::middle, each.water.high),
                     {scale.x(each.moment), each.water.high ? y - 2 * tall : y + inset},
-                    each.water.springshare + (each.water.high ? 10 : 0) - (each.water.slight ? 5 : 0)};
+                    each.water.springshare + (each.water.high ? 10 : 0)};
         if (onlevel(levels, areaof(canvas, label))) label.behind = picture.look.paper;
         labels.push_back(label);
     }
@@ -223,7 +224,19 @@ Label inside(const Canvas& canvas, const Area& plot, Label label) {
     return label;
 }
 
-/// All in the first form in which all have room, else in the one in which the most have, the others as they can be.
+/// The numbers below `count`, so that those ahead of any one are spread evenly over all: every 2nd, every 4th, ...
+/// last.
+std::vector<std::size_t> evenly(std::size_t count) {
+    std::vector<std::size_t> order(count);
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    const auto step = [](std::size_t number) { return number & (~number + 1); };  // 0, which is a multiple of all, 0
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t one, std::size_t other) { return step(one) - 1 > step(other) - 1; });
+    return order;
+}
+
+/// All in the first form in which all have room, else in the one in which the most have, the others as they can be;
+/// over many days those that have room lie evenly.
 std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
                                      LabelPlaces& places) {
     if (!picture.passage || !picture.access) return {};
@@ -239,12 +252,13 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
         if ((!form.oneline && !fewdays(scale)) || (!form.under && bridged)) continue;
         LabelPlaces trial = places;
         std::vector<Label> placed;
-        std::vector<bool> having;
         forms.push_back(windowlabels(canvas, picture, scale, form));
-        for (Label& each : forms.back()) {
+        std::vector<bool> having(forms.back().size(), false);
+        for (const std::size_t i : evenly(forms.back().size())) {
+            Label& each = forms.back()[i];
             each = inside(canvas, scale.plot, each);
             const auto found = trial.placefirst({each});
-            having.push_back(found.has_value());
+            having[i] = found.has_value();
             if (found) placed.push_back(*found);
         }
         if (told.empty() || placed.size() > best.size()) {
@@ -254,8 +268,7 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
         }
         if (best.size() == told.size()) break;
     }
-    if (best.size() < told.size() && !fewdays(scale)) return {};
-    for (std::size_t i = 0; i < told.size(); ++i) {
+    for (const std::size_t i : evenly(told.size())) {
         std::vector<Label> choices;
         for (const std::vector<Label>& form : forms)
             if (!told[i]) choices.push_back(form[i]);
@@ -263,6 +276,27 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
     }
     places = std::move(taken);
     return best;
+}
+
+/// Waters that are turns of the tide, then windows, then what is slight.
+std::vector<Label> placelabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
+                               const std::vector<Level>& levels, LabelPlaces& places) {
+    // The turns themselves are to be seen too.
+    const auto keepturns = [&](bool slight) {
+        for (const PlannedWater& each : picture.plan.waters()) {
+            if (!shown(scale, each) || each.water.slight != slight) continue;
+            const double x = scale.x(each.moment), y = scale.y(each.water.height), aside = inset / 2;
+            places.take({x - aside, y - aside, x + aside, y + aside});
+        }
+    };
+    std::vector<Label> labels = places.place(waterlabels(canvas, picture, scale, levels, false));
+    keepturns(false);
+    const std::vector<Label> windows = placewindowlabels(canvas, picture, scale, places);
+    const std::vector<Label> slight = places.place(waterlabels(canvas, picture, scale, levels, true));
+    keepturns(true);
+    labels.insert(labels.end(), windows.begin(), windows.end());
+    labels.insert(labels.end(), slight.begin(), slight.end());
+    return labels;
 }
 
 }  // namespace
@@ -275,15 +309,7 @@ void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale
         canvas.line(line, {picture.look.needed, 1.5 * pictureparts::strokeof(picture), LineStyle::dashed});
     }
     LabelPlaces places(canvas, scale.plot);
-    std::vector<Label> labels = places.place(waterlabels(canvas, picture, scale, levels));
-    // The turns themselves are to be seen too.
-    for (const PlannedWater& each : picture.plan.waters()) {
-        if (!shown(scale, each)) continue;
-        const double x = scale.x(each.moment), y = scale.y(each.water.height), aside = inset / 2;
-        places.take({x - aside, y - aside, x + aside, y + aside});
-    }
-    const std::vector<Label> windows = placewindowlabels(canvas, picture, scale, places);
-    labels.insert(labels.end(), windows.begin(), windows.end());
+    std::vector<Label> labels = placelabels(canvas, picture, scale, levels, places);
     if (!levels.empty()) {
         NamedPlot plot{picture, scale, levels, CurveColumns(scale, curve)};
         for (const Level& each : levels) {

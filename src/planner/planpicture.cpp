@@ -143,7 +143,7 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     const double top = scale.plot.top - 2 * line - inset;
     canvas.fill(Area{scale.plot.left, top, scale.plot.right, scale.plot.top}, picture.look.band);
     const std::string form = dayform(canvas, picture, scale);
-    bool first = true;
+    bool monthless = true;
     for (DayHead& head : dayheads(picture, scale)) {
         const auto weekday = std::chrono::weekday(head.date);
         const bool weekend = weekday == std::chrono::Saturday || weekday == std::chrono::Sunday;
@@ -160,9 +160,13 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         // The short form where the whole word is too wide.
         if (!head.tide.empty() && canvas.textwidth(head.tide, small) > room)
             head.tide = head.tide == "springs" ? "sp" : "np";
-        // Numbers alone need their month somewhere.
-        if (form == "d" && (first || dayof(head.date) == 1)) head.tide = formatdate(picture.locale, head.date, "mmm");
-        first = false;
+        // Numbers alone need their month somewhere: where nothing else is told, and on a day as wide as it.
+        monthless = monthless || dayof(head.date) == 1;
+        const std::string month = formatdate(picture.locale, head.date, "mmm");
+        if (form == "d" && monthless && head.tide.empty() && head.phase < 0 && canvas.textwidth(month, small) <= room) {
+            head.tide = month;
+            monthless = false;
+        }
         const bool told = !head.tide.empty() && canvas.textwidth(head.tide, small) <= room;
         const double beside = told && head.phase >= 0 ? canvas.textwidth(head.tide, small) / 2 + radius + inset : 0;
         const double lower = top + inset / 2 + line;

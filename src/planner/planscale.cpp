@@ -88,7 +88,8 @@ CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale, Mome
     std::vector<std::vector<Place>> pieces;
     bool apart = true;
     const auto take = [&](Moment at) {
-        const auto height = picture.plan.height(at);
+        // At the end the day behind may go on with a step.
+        const auto height = picture.plan.height(std::min(at, to - std::chrono::seconds(1)));
         if (height && apart) pieces.emplace_back();
         if (height) pieces.back().push_back({scale.x(at), scale.y(*height)});
         apart = !height;

@@ -118,19 +118,28 @@ std::string alwayswords(const PlannedAccess& access, const Passage& passage) {
     return words;
 }
 
+/// The time of day that a cell of light shows, in minutes; ahead of and behind all for what isn't one.
+double lightkey(const Plan& plan, std::optional<Moment> shown, bool lit) {
+    if (!shown) return lit ? HUGE_VAL : -1;
+    const ClockTime time = plan.clock().at(*shown);
+    return time.hour() * 60 + time.minuteofhour();
+}
+
 /// The first moment within a day's light and the last one; words for a day that is all light or all dark.
 void addlightcells(const Plan& plan, const std::vector<std::pair<Moment, Moment>>& light, Date date, bool changes,
                    PlanTable::Row& row) {
     const Moment noon = plan.clock().startof(date) + std::chrono::hours(12);
     const bool lit = std::any_of(light.begin(), light.end(),
                                  [&](const auto& each) { return each.first <= noon && noon < each.second; });
-    std::string from = lit ? "all day" : "none", until = from;
+    std::optional<Moment> from, until;
     for (const auto& [begins, ends] : light) {
-        if (plan.clock().at(begins).date == date && begins > plan.begins()) from = timecell(plan, begins, changes);
-        if (plan.clock().at(ends).date == date && ends < plan.ends()) until = timecell(plan, ends, changes);
+        if (plan.clock().at(begins).date == date && begins > plan.begins()) from = begins;
+        if (plan.clock().at(ends).date == date && ends < plan.ends()) until = ends;
     }
-    row.cells.push_back(from);
-    row.cells.push_back(until);
+    for (const std::optional<Moment>& each : {from, until}) {
+        row.cells.push_back(each ? timecell(plan, *each, changes) : lit ? "all day" : "none");
+        row.keys.push_back(lightkey(plan, each, lit));
+    }
 }
 
 }  // namespace
@@ -228,14 +237,16 @@ PlanTable suntable(const Plan& plan, const Locale& locale) {
         const Date date = plan.planof().first + days(i);
         PlanTable::Row row{plan.clock().startof(date), {daytext(locale, date)}, {}, {daytext(locale, date, true)}};
         const bool isthere = hasday(plan.clock(), date);
+        row.keys.push_back(keyof(row.moment));
         if (!isthere) row.cells.insert(row.cells.end(), {nosuchdaycell, "", "", ""});
+        if (!isthere) row.keys.insert(row.keys.end(), 4, -2);
         if (isthere) addlightcells(plan, civil, date, changes, row);
         if (isthere) addlightcells(plan, sun, date, changes, row);
-        std::string moon;
+        int moon = -1;
         for (const MoonPhase& each : phases)
-            if (plan.clock().at(each.moment).date == date) moon = phasewords[each.phase];
-        row.cells.push_back(moon);
-        row.keys.assign(row.cells.size(), keyof(row.moment));
+            if (plan.clock().at(each.moment).date == date) moon = each.phase;
+        row.cells.push_back(moon < 0 ? "" : phasewords[moon]);
+        row.keys.push_back(moon);
         table.rows.push_back(row);
     }
     return table;

@@ -6,10 +6,12 @@
 #include <set>
 #include <sstream>
 
+#include "fakes/temporaryfolder.h"
 #include "fakes/testport.h"
 #include "planner/plancalendar.h"
 #include "planner/planrun.h"
 #include "platform/systemzones/systemzones.h"
+#include "portdata/portscsv.h"
 #include "text/csvrows.h"
 #include "text/singlebyte.h"
 
@@ -154,6 +156,18 @@ TEST(PlanCalendar, AWindowKeepsItsIdentifierWhateverDaysAreAskedFor) {
                 return each.first.opens == at.opens && each.second == called;
             })) << "whatever is wished";
     }
+}
+
+TEST(PlanCalendar, AWindowThatIsOpenForWeeksIsOneWhereverAPlanBegins) {
+    // Never below the level from the last of February on, but for steps at midnight of a falling tide.
+    const auto ports = readportscsv(filetext(TARVANE_DATA "/us-south-east-ports.csv")).ports;
+    const auto names = [&](Date first, int days) {
+        const Plan plan({ports.at(16), "America/New_York", first, days}, systemzones);
+        return valuesof(windowscalendar(plan, plan.access(needing(0.5), {}, false), needing(0.5), dover, {}), "UID");
+    };
+    const auto whole = names(makedate(2026, 3, 1), 40);
+    EXPECT_EQ(names(makedate(2026, 3, 13), 20).at(0), whole.at(0));
+    EXPECT_FALSE(whole.at(0).starts_with("passage-always"));
 }
 
 TEST(PlanCalendar, IdentifiersAreAnEventsOwnAndStay) {

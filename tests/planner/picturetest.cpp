@@ -225,6 +225,42 @@ TEST(PlanPicture, CutWindowsAndFarLevelsAreToldAsSuch) {
     EXPECT_EQ(far.count("at most 51.0 m, above the picture"), 1U);
 }
 
+TEST(PlanPicture, TheCurveEndsAsItsDayDoes) {
+    for (int day = 1; day < 15; ++day) {
+        const Painted drawn(named("Southampton"), makedate(2026, 1, static_cast<unsigned>(day)), 1, 800, 3000);
+        const auto curve = RecordingCanvas::of(drawn.canvas.lines, drawn.picture.look.curve).at(0).places;
+        EXPECT_NEAR(curve.back().y, drawn.scale.y(*drawn.plan.height(drawn.plan.ends() - 1s)), 0.01) << day;
+    }
+}
+
+TEST(PlanPicture, WindowsHaveTheirTimesOverManyDaysAndBeforeStands) {
+    for (const auto& [count, least] : {std::pair(9, 6), {14, 6}, {31, 5}}) {
+        const Painted drawn(named("Dover"), makedate(2026, 7, 14), count, 1366, 400, boatof(3, 0));
+        std::vector<double> told;
+        for (const auto& each : drawn.canvas.texts)
+            if (each.text.size() == 11 && each.text[5] == '-') told.push_back(each.area.left);
+        EXPECT_GE(static_cast<int>(told.size()), least) << count;
+        EXPECT_TRUE(std::any_of(told.begin(), told.end(), [](double x) { return x > 800; })) << count;
+    }
+    // Waters of a stand have no place that a window's times want.
+    const Painted week(named("Southampton"), makedate(2026, 11, 23), 7, 1366, 400, boatof(2.9, 0));
+    for (const PlannedWindow& each : week.access.windows)
+        EXPECT_TRUE(std::any_of(week.canvas.texts.begin(), week.canvas.texts.end(), [&](const auto& text) {
+            return text.text.ends_with(plainclock(week.plan.clock(), each.closes)) || each.window.cutatend;
+        })) << isomoment(week.plan.clock().at(each.closes));
+}
+
+TEST(PlanPicture, TheMonthTakesNoDayFromTheTideOrTheMoon) {
+    Painted drawn(named("Dover"), makedate(2026, 11, 23), 31, 1100, 300);
+    std::size_t tides = 0, months = 0;
+    for (const auto& each : drawn.canvas.texts) {
+        tides += each.text == "sp" || each.text == "np" || each.text == "springs" || each.text == "neaps";
+        months += each.text == "Nov" || each.text == "Dec";
+    }
+    EXPECT_EQ(tides, drawn.plan.springsandneaps().size());
+    EXPECT_EQ(months, 2U);
+}
+
 TEST(PlanPicture, WatersComeBeforeWindowsAndLevelsAreAlwaysNamed) {
     for (const auto& [port, most] : {std::pair{"Dover", 7}, {"Southampton", 3}})
         for (const int count : {1, 3, 7, 14, 31})
@@ -240,6 +276,7 @@ TEST(PlanPicture, WatersComeBeforeWindowsAndLevelsAreAlwaysNamed) {
                 EXPECT_EQ(names, 1U) << what;
                 if (count > most) continue;
                 for (const PlannedWater& each : drawn.plan.waters()) {
+                    if (each.water.slight) continue;  // gives way to windows
                     const std::string time = plainclock(drawn.plan.clock(), each.moment);
                     EXPECT_TRUE(drawn.count(time) >= 1 || without.count(time) == 0) << time << what;
                 }

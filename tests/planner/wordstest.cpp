@@ -141,6 +141,26 @@ TEST(PlanWords, OffsetsStandWhereTheClockIsChangedInBetween) {
     EXPECT_NE(time(makedate(2026, 10, 25), 1).find(" UT"), std::string::npos);
 }
 
+TEST(PlanWords, LightIsSortedByItsTimesOfDay) {
+    const ScriptedLocale locale;
+    HarmonicRecord north = simpleport();
+    north.PortLat = 69;
+    static const SystemZones zones;
+    const PlanTable table = suntable(Plan({north, "", makedate(2026, 1, 1), 366, ClockChoice::ut}, zones), locale);
+    for (const PlanTable::Row& one : table.rows) {
+        ASSERT_EQ(one.keys.size(), one.cells.size());
+        for (const PlanTable::Row& other : table.rows)
+            for (std::size_t column = 1; column < 5; ++column) {
+                const std::string &early = one.cells[column], &late = other.cells[column];
+                const bool times = std::isdigit(early[0]) && std::isdigit(late[0]);
+                const bool sorted = times ? early < late : early == "none" ? late != "none" : late == "all day";
+                if (early == "all day" || !sorted) continue;
+                EXPECT_LT(one.keys[column], other.keys[column]) << early << late;
+            }
+        EXPECT_EQ(one.keys[5] < 0, one.cells[5].empty());
+    }
+}
+
 TEST(PlanWords, TheDayOnWhichTheClockIsChangedSaysSo) {
     static const SystemZones zones;
     const struct {

@@ -12,6 +12,7 @@
 #include "paint/labels.h"
 #include "planner/plantexts.h"
 #include "platform/systemzones/systemzones.h"
+#include "sunmoon/lunarphases.h"
 #include "text/singlebyte.h"
 
 namespace tarvane {
@@ -251,14 +252,20 @@ TEST(PlanPicture, WindowsHaveTheirTimesOverManyDaysAndBeforeStands) {
 }
 
 TEST(PlanPicture, TheMonthTakesNoDayFromTheTideOrTheMoon) {
-    Painted drawn(named("Dover"), makedate(2026, 11, 23), 31, 1100, 300);
-    std::size_t tides = 0, months = 0;
-    for (const auto& each : drawn.canvas.texts) {
-        tides += each.text == "sp" || each.text == "np" || each.text == "springs" || each.text == "neaps";
-        months += each.text == "Nov" || each.text == "Dec";
+    for (int day = 1; day <= 30; ++day) {
+        const Painted drawn(named("Dover"), makedate(2026, 11, static_cast<unsigned>(day)), 31, 1250, 300);
+        std::size_t tides = 0, months = 0, moons = 0;
+        for (const auto& each : drawn.canvas.texts) {
+            tides += each.text == "sp" || each.text == "np" || each.text == "springs" || each.text == "neaps";
+            months += each.text == "Nov" || each.text == "Dec";
+        }
+        for (const auto& each : drawn.canvas.lines)
+            moons += each.places.size() == 37;
+        EXPECT_EQ(tides, drawn.plan.springsandneaps().size()) << day;
+        EXPECT_EQ(moons, phasesbetween(drawn.plan.begins(), drawn.plan.ends()).size()) << day;
+        // The last day alone may be one of the moon's.
+        EXPECT_GE(months, day == 1 ? 1U : 2U) << day;
     }
-    EXPECT_EQ(tides, drawn.plan.springsandneaps().size());
-    EXPECT_EQ(months, 2U);
 }
 
 TEST(PlanPicture, WatersComeBeforeWindowsAndLevelsAreAlwaysNamed) {

@@ -216,7 +216,9 @@ std::string passagewords(const PagePlan& pages) {
 std::string placewords(const PageOf& of) {
     std::string words = anglewords(of.port.PortLat, "N", "S") + " " + anglewords(of.port.PortLong, "E", "W");
     if (of.number > 0) words += ", no. " + std::to_string(of.number);
-    if (!of.area.empty()) words += (of.number > 0 ? " of " : ", ") + of.area;
+    std::string area = of.area;
+    if (area.ends_with(".hc") || area.ends_with(".HC")) area.resize(area.size() - 3);
+    if (!area.empty()) words += (of.number > 0 ? " of " : ", ") + area;
     return words;
 }
 

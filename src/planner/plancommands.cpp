@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "dates/dateformats.h"
 #include "dates/isomoments.h"
 #include "files/filenames.h"
 #include "planner/plancalendar.h"
@@ -21,11 +22,23 @@ PlanPort planport(const PlanView& view) {
             trustclause(view.known)};
 }
 
+std::string datedname(const PlanView& view, const std::string& kind, const std::string& date,
+                      const std::string& ending) {
+    return safefilename(view.portname + " " + kind + " " + date + ending);
+}
+
 /// "Cherbourg tides 2026-07-18.csv", of a year "Cherbourg tides 2026.csv"
 std::string proposedname(const PlanView& view, const std::string& kind, const std::string& ending) {
     const std::string day = isodate(view.first);
-    const bool year = view.settings.days > mostplandays;
-    return safefilename(view.portname + " " + kind + " " + (year ? day.substr(0, 4) : day) + ending);
+    return datedname(view, kind, view.settings.days > mostplandays ? day.substr(0, 4) : day, ending);
+}
+
+/// "Cherbourg month 2026-07.pdf", "Cherbourg almanac 2026.pdf"
+std::string sheetname(const PlanView& view, Sheet sheet) {
+    const std::string day = isodate(view.first);
+    if (sheet == Sheet::month) return datedname(view, "month", day.substr(0, day.rfind('-')), ".pdf");
+    if (sheet == Sheet::almanac) return datedname(view, "almanac", day.substr(0, day.find('-')), ".pdf");
+    return proposedname(view, "tides", ".pdf");
 }
 
 std::optional<std::string> choosefile(MainContext& context, const std::string& title, const std::string& name,
@@ -57,9 +70,24 @@ void savetext(MainContext& context, const PlanView& view, const FileKind& kind, 
 constexpr const char* tables = "Tables (*.csv)|*.csv";
 constexpr const char* calendars = "Calendars (*.ics)|*.ics";
 
+/// Of a part of the plan the part: "Cherbourg, 18 July 2026 06:00 to 19 July 2026 14:00, port's clock (Europe/Paris)",
+/// without times where it is of whole days.
+std::string showntitle(const PlanView& view, const Locale& locale) {
+    const PortClock& clock = view.plan->clock();
+    if (view.from <= view.plan->begins() && view.to >= view.plan->ends()) return plantitle(view, locale);
+    const auto day = [&](Moment moment) { return formatdate(locale, clock.at(moment).date, "d mmmm yyyy"); };
+    const auto starts = [&](Moment moment) { return clock.startof(clock.at(moment).date) == moment; };
+    std::string from = day(view.from), to = day(view.to - std::chrono::seconds(1));
+    if (!starts(view.from) || !starts(view.to)) {
+        from += " " + plainclock(clock, view.from);
+        to = (day(view.to) == day(view.from) ? "" : day(view.to) + " ") + plainclock(clock, view.to);
+    }
+    return view.portname + ", " + from + (from == to ? "" : " to " + to) + ", " + clock.description();
+}
+
 Drawing drawingof(const MainContext& context, const PlanView& view, double width, double height) {
     const Locale& locale = context.services.locale;
-    return {plantitle(view, locale), width, height, [&view, &locale, width, height](Canvas& canvas) {
+    return {showntitle(view, locale), width, height, [&view, &locale, width, height](Canvas& canvas) {
                 const PlanPicture picture{.plan = *view.plan,
                                           .locale = locale,
                                           .look = coloursof(Lighting::day),
@@ -68,7 +96,7 @@ Drawing drawingof(const MainContext& context, const PlanView& view, double width
                                           .to = view.to,
                                           .passage = passageof(view),
                                           .access = &view.access,
-                                          .title = plantitle(view, locale),
+                                          .title = showntitle(view, locale),
                                           .trust = trustclause(view.known)};
                 paintplan(canvas, picture, scaleof(picture, canvas));
             }};
@@ -156,10 +184,8 @@ void printsheet(MainContext& context, const PlanView& view, Sheet sheet) {
 }
 
 void savesheet(MainContext& context, const PlanView& view, Sheet sheet) {
-    constexpr const char* kinds[] = {"tides", "month", "almanac"};
     if (!view.plan) return answer(context, view.whynot);
-    const auto path = choosefile(context, "Save As PDF", proposedname(view, kinds[static_cast<int>(sheet)], ".pdf"),
-                                 "Pages (*.pdf)|*.pdf");
+    const auto path = choosefile(context, "Save As PDF", sheetname(view, sheet), "Pages (*.pdf)|*.pdf");
     if (path)
         writedocument(context, *path,
                       context.services.drawings.pdf(bookletof(context, view, sheet), paperof(context, view)));

@@ -186,10 +186,18 @@ void paintlevelname(Canvas& canvas, NamedPlot& plot, const Level& level, LabelPl
     plot.names.push_back(area);
 }
 
-/// How windows' times are told: in one line or two, under the level's line or over it.
+/// How windows' times are told: in one line or two, under the level's line or over it. A label without lines has no
+/// room so.
 struct WindowForm {
     bool oneline, under;
 };
+
+/// Whether a label would seem to tell of another window as well.
+bool coversother(const PlanPicture& picture, const PlanScale& scale, const Area& label, const PlannedWindow& own) {
+    return std::any_of(picture.access->windows.begin(), picture.access->windows.end(), [&](const PlannedWindow& each) {
+        return &each != &own && scale.x(each.opens) < label.right && label.left < scale.x(each.closes);
+    });
+}
 
 std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
                                 const WindowForm& form) {
@@ -212,6 +220,7 @@ std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture
         const double middle = (scale.x(opens) + scale.x(closes)) / 2;
         Label label{{from + between + until}, look, {middle, top}, 0, picture.look.paper};
         if (!form.oneline) label.lines = {from, until};
+        if (!fewdays(scale) && coversother(picture, scale, areaof(canvas, label), each)) label.lines.clear();
         labels.push_back(label);
     }
     return labels;
@@ -236,11 +245,10 @@ std::vector<std::size_t> evenly(std::size_t count) {
 }
 
 /// All in the first form in which all have room, else in the one in which the most have, the others as they can be;
-/// over many days those that have room lie evenly.
+/// over many days those that have room beside their neighbours.
 std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
                                      LabelPlaces& places) {
     if (!picture.passage || !picture.access) return {};
-    // Over many days on end two lines would cut the curve in two; the table tells them all.
     // Between two levels' lines they would hide the windows themselves.
     const auto ceiling = picture.passage->ceiling();
     const bool bridged = ceiling && scale.y(*ceiling) >= scale.plot.top;
@@ -249,7 +257,7 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
     LabelPlaces taken = places;
     std::vector<bool> told;
     for (const WindowForm& form : {WindowForm{true, true}, {false, true}, {true, false}, {false, false}}) {
-        if ((!form.oneline && !fewdays(scale)) || (!form.under && bridged)) continue;
+        if (!form.under && bridged) continue;
         LabelPlaces trial = places;
         std::vector<Label> placed;
         forms.push_back(windowlabels(canvas, picture, scale, form));
@@ -257,7 +265,7 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
         for (const std::size_t i : evenly(forms.back().size())) {
             Label& each = forms.back()[i];
             each = inside(canvas, scale.plot, each);
-            const auto found = trial.placefirst({each});
+            const auto found = each.lines.empty() ? std::nullopt : trial.placefirst({each});
             having[i] = found.has_value();
             if (found) placed.push_back(*found);
         }
@@ -271,7 +279,7 @@ std::vector<Label> placewindowlabels(const Canvas& canvas, const PlanPicture& pi
     for (const std::size_t i : evenly(told.size())) {
         std::vector<Label> choices;
         for (const std::vector<Label>& form : forms)
-            if (!told[i]) choices.push_back(form[i]);
+            if (!told[i] && !form[i].lines.empty()) choices.push_back(form[i]);
         if (const auto found = taken.placefirst(choices)) best.push_back(*found);
     }
     places = std::move(taken);

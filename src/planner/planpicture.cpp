@@ -157,8 +157,9 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
             break;
         }
         const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
-        // The short form where the whole word is too wide.
-        if (!head.tide.empty() && canvas.textwidth(head.tide, small) > room)
+        // With the moon's room beside it; the short form where the whole word is too wide.
+        const double moon = head.phase < 0 ? 0 : 2 * radius + inset / 2;
+        if (!head.tide.empty() && canvas.textwidth(head.tide, small) + moon > room)
             head.tide = head.tide == "springs" ? "sp" : "np";
         // Numbers alone need their month somewhere: where nothing else is told, and on a day as wide as it.
         monthless = monthless || dayof(head.date) == 1;
@@ -167,12 +168,12 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
             head.tide = month;
             monthless = false;
         }
-        const bool told = !head.tide.empty() && canvas.textwidth(head.tide, small) <= room;
-        const double beside = told && head.phase >= 0 ? canvas.textwidth(head.tide, small) / 2 + radius + inset : 0;
-        const double lower = top + inset / 2 + line;
-        if (told) canvas.text({middle, lower}, head.tide, small);
-        if (head.phase >= 0 && room > 2 * radius && middle + beside + radius < head.right)
-            paintmoon(canvas, {middle + beside, lower + line / 2}, radius, head.phase, picture.look);
+        const double wide = canvas.textwidth(head.tide, small), lower = top + inset / 2 + line;
+        const bool told = !head.tide.empty() && wide <= room, both = told && moon > 0 && wide + moon <= room;
+        if (told) canvas.text({both ? middle - moon / 2 : middle, lower}, head.tide, small);
+        if (head.phase >= 0 && room > 2 * radius && (both || !told))
+            paintmoon(canvas, {both ? middle + (wide + moon) / 2 - radius : middle, lower + line / 2}, radius,
+                      head.phase, picture.look);
         const std::array edge{Place{head.right, top}, Place{head.right, scale.plot.top}};
         canvas.line(edge, {picture.look.grid, 1});
         // Of the day, not of the hour: some days begin without a midnight.

@@ -13,6 +13,15 @@ constexpr double goodpicture = 230, leastpicture = 165;
 constexpr double columnsapart = 14;
 constexpr std::size_t crowded = 10;  // days, from which on the picture has small type
 
+/// Behind the height of a water about which the tide stands.
+constexpr const char* standmark = "st";
+
+bool anystand(const PagePlan& pages) {
+    const auto stands = [](const PlannedWater& each) { return each.water.stand; };
+    return std::any_of(pages.days.begin(), pages.days.end(),
+                       [&](const DayFacts& day) { return std::any_of(day.waters.begin(), day.waters.end(), stands); });
+}
+
 /// One column of the waters: the days from one to behind another.
 struct WaterColumn {
     std::size_t first = 0, last = 0;
@@ -57,6 +66,7 @@ WaterList filled(const PagePlan& pages, std::size_t columns, std::size_t lines) 
 WaterList waterlist(const Canvas& canvas, const PagePlan& pages, double size, double width, double height) {
     const TextLook bold{0, size, true};
     double widest = canvas.textwidth("00:00*  -00.0", bold);
+    if (anystand(pages)) widest += 3 + canvas.textwidth(standmark, {0, size});
     for (const DayFacts& day : pages.days)
         widest = std::max({widest, canvas.textwidth(daytext(pages.locale, day.date) + "*", bold),
                            canvas.textwidth(day.missing, {0, size})});
@@ -97,6 +107,7 @@ void paintcolumn(Canvas& canvas, Place top, const WaterList& list, const WaterCo
             canvas.text({top.x, y}, watertime(pages, day, each.moment), water);
             water.anchor = Anchor::right;
             canvas.text({top.x + heightend, y}, waterheight(each.water), water);
+            if (each.water.stand) canvas.text({top.x + heightend + 3, y}, standmark, lesser);
         }
         if (day.missing.empty()) continue;
         y += line;
@@ -240,7 +251,8 @@ std::string spantitle(const PagePlan& pages) {
 
 void paintspan(Canvas& canvas, const Area& area, const PagePlan& pages) {
     double top = pagehead(canvas, area, pages, spantitle(pages));
-    const double bottom = pagefoot(canvas, area, pages, {0, pages.days.size(), "High waters are bold.", "", true});
+    const std::string marks = std::string("High waters are bold") + (anystand(pages) ? ", st: the tide stands." : ".");
+    const double bottom = pagefoot(canvas, area, pages, {0, pages.days.size(), marks, "", true});
     if (pages.access) {
         const WindowList windows = windowlist(canvas, pages, area.width(), bottom - top);
         top = paintwindows(canvas, {area.left, top, area.right, bottom}, windows, pages);

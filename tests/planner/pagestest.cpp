@@ -207,6 +207,19 @@ TEST(Pages, ADayWithoutAPredictionSaysSo) {
     EXPECT_EQ(counted(painted(almanac(flatport(), 2026, pagezones, english), 8, papers[0]), "Marina, Outer Basin"), 1U);
 }
 
+TEST(Pages, AStandIsMarkedAndTheAreaIsToldWithoutItsEnding) {
+    PageOf of = pageof("Southampton", "Europe/London");
+    of.area = "UK.hc";
+    const Plan plan({of.port, of.iana, makedate(2026, 11, 24), 2}, pagezones);
+    const auto stands = std::count_if(plan.waters().begin(), plan.waters().end(),
+                                      [](const PlannedWater& each) { return each.water.stand; });
+    const auto texts = painted(spanpage(of, makedate(2026, 11, 24), 2, pagezones, english), 0, papers[0]);
+    EXPECT_EQ(std::count_if(texts.begin(), texts.end(), [](const auto& each) { return each.text == "st"; }), stands);
+    EXPECT_GT(stands, 0);
+    EXPECT_EQ(counted(texts, "no. 84 of UK"), 1U);
+    EXPECT_EQ(counted(texts, ".hc"), 0U);
+}
+
 TEST(Pages, ASpanTellsItsWatersAndTheAnswer) {
     PageOf boat = pageof("Dover", "Europe/London");
     boat.passage = Passage{1.5, 0.5, -2, std::nullopt, 0, 0};

@@ -146,9 +146,12 @@ TEST(PlanWords, LightIsSortedByItsTimesOfDay) {
     HarmonicRecord north = simpleport();
     north.PortLat = 69;
     static const SystemZones zones;
-    const PlanTable table = suntable(Plan({north, "", makedate(2026, 1, 1), 366, ClockChoice::ut}, zones), locale);
+    const Plan plan({north, "", makedate(2026, 1, 1), 366, ClockChoice::ut}, zones);
+    const PlanTable table = suntable(plan, locale);
     for (const PlanTable::Row& one : table.rows) {
         ASSERT_EQ(one.keys.size(), one.cells.size());
+        EXPECT_EQ(one.keys[5] < 0, one.cells[5].empty());
+        if (dayof(plan.clock().at(one.moment).date) % 10 > 0) continue;
         for (const PlanTable::Row& other : table.rows)
             for (std::size_t column = 1; column < 5; ++column) {
                 const std::string &early = one.cells[column], &late = other.cells[column];
@@ -157,7 +160,6 @@ TEST(PlanWords, LightIsSortedByItsTimesOfDay) {
                 if (early == "all day" || !sorted) continue;
                 EXPECT_LT(one.keys[column], other.keys[column]) << early << late;
             }
-        EXPECT_EQ(one.keys[5] < 0, one.cells[5].empty());
     }
 }
 

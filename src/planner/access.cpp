@@ -50,106 +50,48 @@ Heights heightswithin(const TideSpan& span, double from, double to) {
     return heights;
 }
 
-/// Open water, and the first and the last minute of it at which the tide itself suffices.
-struct OpenWater {
-    Stretch stretch;
-    long first = 0, last = 0;
-
-    bool lasts() const { return first <= last; }
-};
-
-/// Cut to minutes; opening later and closing earlier, never the other way round.
-OpenWater cuttominutes(const TideSpan& span, const Stretch& open, double floor, double ceiling) {
+/// Cut to minutes at which the tide itself suffices; opening later and closing earlier, never the other way round.
+Window cuttominutes(const TideSpan& span, Stretch between, const Stretch& open, double floor, double ceiling) {
     constexpr double aside = 0.01;  // minutes, more than a passing is out
     const auto suffices = [&](long minute) {
         const auto height = span.height(static_cast<double>(minute) / 60);
         return height && *height >= floor && *height <= ceiling;
     };
-    OpenWater water{open, std::lround(std::ceil(open.from * 60 - aside)),
-                    std::lround(std::floor(open.to * 60 + aside))};
-    while (water.lasts() && !suffices(water.first))
-        ++water.first;
-    while (water.lasts() && !suffices(water.last))
-        --water.last;
-    return water;
-}
-
-enum class Parting { tide, step, ghostbefore, ghostbehind };
-
-/// What parts two stretches. Where the tide goes the same way on both sides of the midnight that ends or begins the
-/// gap, the step has made the gap. When that beside the midnight only rises or falls through the level as well, the
-/// tide passes the level once, and the step shows that twice: what is left of it is a ghost.
-Parting partingof(const TideSpan& span, const Stretch& before, const Stretch& behind) {
-    const std::vector<TideRun>& runs = span.runs();
-    const auto lastof = std::lower_bound(runs.begin(), runs.end(), before.to - touching,
-                                         [](const TideRun& run, double at) { return run.to < at; });
-    if (lastof == runs.end() || lastof + 1 == runs.end()) return Parting::tide;
-    const TideRun &run = *lastof, &next = *(lastof + 1);
-    const double midnight = run.to;
-    if (next.from != midnight || next.day == run.day || (run.first < run.last) != (next.first < next.last))
-        return Parting::tide;
-    const bool stepcloses = before.to > midnight - touching, stepopens = std::abs(behind.from - midnight) < touching;
-    if (stepopens) return behind.to < next.to - touching ? Parting::ghostbehind : Parting::step;
-    if (!stepcloses || behind.from > next.to) return Parting::tide;
-    return before.from > run.from + touching ? Parting::ghostbefore : Parting::step;
-}
-
-/// All that is passable at some minute: water that midnight's step alone parts, or that no minute does, is one; of a
-/// passing that the step shows twice what closes earlier or opens later is left. A day on both sides of the time looked
-/// at tells what lies at its ends.
-std::vector<OpenWater> openwater(const TideSpan& span, Stretch between, double floor, double ceiling) {
-    constexpr double day = 24;
-    std::vector<OpenWater> waters;
-    for (const Stretch& each : passable(span, {between.from - day, between.to + day}, floor, ceiling)) {
-        const OpenWater water = cuttominutes(span, each, floor, ceiling);
-        if (!water.lasts()) continue;
-        if (waters.empty()) {
-            waters.push_back(water);
-            continue;
-        }
-        OpenWater& last = waters.back();
-        const Parting parting = partingof(span, last.stretch, each);
-        if (water.first - last.last <= 1 || parting == Parting::step)
-            last = {{last.stretch.from, each.to}, last.first, water.last};
-        else if (parting == Parting::ghostbefore)
-            last = water;
-        else if (parting == Parting::tide)
-            waters.push_back(water);
-    }
-    return waters;
-}
-
-/// Of open water what lies within a time; nothing when that is no minute.
-std::optional<Window> windowwithin(const TideSpan& span, Stretch between, const OpenWater& water, double floor,
-                                   double ceiling) {
-    const Stretch open{std::max(water.stretch.from, between.from), std::min(water.stretch.to, between.to)};
-    if (open.to <= open.from) return std::nullopt;
-    const OpenWater cut = cuttominutes(span, open, floor, ceiling);
-    if (!cut.lasts()) return std::nullopt;
     Window window;
-    window.opens = cut.first;
-    window.closes = cut.last;
+    window.opens = std::lround(std::ceil(open.from * 60 - aside));
+    window.closes = std::lround(std::floor(open.to * 60 + aside));
+    while (window.opens <= window.closes && !suffices(window.opens))
+        ++window.opens;
+    while (window.closes >= window.opens && !suffices(window.closes))
+        --window.closes;
     window.cutatstart = open.from < between.from + touching || !span.height(open.from - touching);
     window.cutatend = open.to > between.to - touching || !span.height(open.to + touching);
     return window;
 }
 
+/// A window that a step at midnight parts for less than a minute is one.
 std::vector<Window> windowsof(const TideSpan& span, Stretch between, double floor, double ceiling) {
     std::vector<Window> windows;
-    for (const OpenWater& each : openwater(span, between, floor, ceiling))
-        if (const auto window = windowwithin(span, between, each, floor, ceiling)) windows.push_back(*window);
+    for (const Stretch& open : passable(span, between, floor, ceiling)) {
+        const Window window = cuttominutes(span, between, open, floor, ceiling);
+        if (window.closes < window.opens) continue;
+        if (!windows.empty() && window.opens - windows.back().closes <= 1) {
+            windows.back().closes = window.closes;
+            windows.back().cutatend = window.cutatend;
+        } else {
+            windows.push_back(window);
+        }
+    }
     return windows;
 }
 
 /// What a window that is cut at an edge goes on for in a stretch beyond it.
-Window::Beyond beyondof(const TideSpan& span, Stretch stretch, double edge, double floor, double ceiling,
+Window::Beyond beyondof(const TideSpan& span, Stretch stretch, long edge, double floor, double ceiling,
                         const Stretches& daylight) {
-    for (const OpenWater& each : openwater(span, stretch, floor, ceiling)) {
-        if (each.stretch.from > edge + touching || each.stretch.to < edge - touching) continue;
-        const auto window = windowwithin(span, stretch, each, floor, ceiling);
-        if (!window) continue;
-        const double from = static_cast<double>(window->opens) / 60, to = static_cast<double>(window->closes) / 60;
-        return {window->minutes(), std::lround(60 * sharedhours(daylight, from, to))};
+    for (const Window& each : windowsof(span, stretch, floor, ceiling)) {
+        if (each.opens > edge + 1 || each.closes < edge - 1) continue;
+        const double from = static_cast<double>(each.opens) / 60, to = static_cast<double>(each.closes) / 60;
+        return {each.minutes(), std::lround(60 * sharedhours(daylight, from, to))};
     }
     return {};
 }
@@ -194,9 +136,9 @@ Access accessof(const TideSpan& span, Stretch between, const Passage& passage, c
         window.daylightminutes = std::lround(60 * window.daylight);
         constexpr double day = 24;
         if (window.cutatstart)
-            window.before = beyondof(span, {between.from - day, between.from}, between.from, floor, ceiling, daylight);
+            window.before = beyondof(span, {between.from - day, between.from}, window.opens, floor, ceiling, daylight);
         if (window.cutatend)
-            window.after = beyondof(span, {between.to, between.to + day}, between.to, floor, ceiling, daylight);
+            window.after = beyondof(span, {between.to, between.to + day}, window.closes, floor, ceiling, daylight);
         if (!wished(window, wishes)) continue;
         const Heights heights = heightswithin(span, from, to);
         window.greatestheight = heights.greatest;

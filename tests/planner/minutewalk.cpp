@@ -1,7 +1,5 @@
 #include "planner/minutewalk.h"
 
-#include <algorithm>
-
 #include "engine/height.h"
 
 namespace tarvane::tests {
@@ -29,36 +27,6 @@ std::vector<WalkedWater> MinuteWalk::waters() const {
     return found;
 }
 
-bool MinuteWalk::oneway(long from, long to) const {
-    bool rises = true, falls = true;
-    for (long minute = from; minute < to; ++minute) {
-        if ((minute + 1) % minutesofday == 0) continue;
-        rises = rises && height(minute + 1) > height(minute);
-        falls = falls && height(minute + 1) < height(minute);
-    }
-    return rises || falls;
-}
-
-std::vector<WalkedWindow> MinuteWalk::withoutsteps(const std::vector<WalkedWindow>& windows) const {
-    std::vector<WalkedWindow> found;
-    for (const WalkedWindow& each : windows) {
-        const long before = found.empty() ? -1 : found.back().last;
-        const bool opens = each.first % minutesofday == 0, closes = (before + 1) % minutesofday == 0;
-        const long midnight = opens ? each.first : before + 1;
-        const bool bystep = !found.empty() && (opens || closes) && each.first - before < minutesofday &&
-                            oneway(std::min(before, midnight - 2), std::max(each.first, midnight + 1));
-        if (!bystep)
-            found.push_back(each);
-        else if (opens && !oneway(before, each.last + 1))
-            found.back().last = each.last;
-        else if (closes && oneway(found.back().first - 1, each.first))
-            found.back() = each;
-        else if (closes)
-            found.back().last = each.last;
-    }
-    return found;
-}
-
 std::vector<WalkedWindow> MinuteWalk::windows(double floor, double ceiling) const {
     std::vector<WalkedWindow> found;
     bool open = false;
@@ -68,7 +36,7 @@ std::vector<WalkedWindow> MinuteWalk::windows(double floor, double ceiling) cons
         if (passable) found.back().last = minute;
         open = passable;
     }
-    return withoutsteps(found);
+    return found;
 }
 
 }  // namespace tarvane::tests

@@ -25,17 +25,10 @@ class MinuteWalk {
 
     /// Turns with three minutes of one day on them.
     std::vector<WalkedWater> waters() const;
-
-    /// Where the heights, but for the step at midnight, only rise or only fall from one window to the next that begins
-    /// at midnight or behind one that ends there, the level is passed once or, with a turn in what lies beside the
-    /// midnight, not at all: of the first the part that is cut off isn't told, of the second the gap.
     std::vector<WalkedWindow> windows(double floor, double ceiling) const;
     double height(long minute) const { return heights[static_cast<std::size_t>(minute)]; }
 
   private:
-    bool oneway(long from, long to) const;  ///< apart from steps from day to day
-    std::vector<WalkedWindow> withoutsteps(const std::vector<WalkedWindow>& windows) const;
-
     std::vector<double> heights;
 };
 

@@ -166,7 +166,7 @@ void Plan::nameopening(PlannedWindow& window, const Passage& passage) const {
         window.part = partof(tides_, opening->moment, window.opens, passage);
         return;
     }
-    // Days beyond both, for what a step at midnight makes of windows there.
+    // Days beyond both, for the windows at their ends.
     const Date first = spanstart(opening->moment, zonehoursof(of_.port)) + days(margin - 2);
     const int count = static_cast<int>(std::chrono::ceil<days>(window.opens - Moment(first)).count()) + 2;
     window.part = partof(TideSpan(of_.port, first, count), opening->moment, window.opens, passage);
@@ -180,11 +180,8 @@ int Plan::partof(const TideSpan& tides, Moment water, Moment opens, const Passag
     if (from >= to) return 0;
     // Windows since that water, whether the plan holds them or not; of one that the plan cuts the last is a part.
     const std::vector<Window> before = accessof(tides, {from, to}, passage, {}, {}).windows;
-    const auto reaches = [&](const Window& last) {
-        const bool predicted = tides.height(static_cast<double>(last.closes + 1) / 60).has_value();
-        return opens - (origin + minutes(last.closes)) <= minutes(1) || (last.cutatend && predicted);
-    };
-    return static_cast<int>(before.size()) - (!before.empty() && reaches(before.back()) ? 1 : 0);
+    const bool itself = !before.empty() && opens - (origin + minutes(before.back().closes)) <= minutes(1);
+    return static_cast<int>(before.size()) - (itself ? 1 : 0);
 }
 
 /// Whether a day of the span that lies within the plan has no prediction: those around may.

@@ -23,14 +23,6 @@ PlannedWindow joined(const PlannedWindow& first, const PlannedWindow& second) {
     return both;
 }
 
-/// Whether a plan's end cuts a window there, and no lack of a prediction; a minute or more beside it may lack some
-/// water where a step at midnight is in between.
-bool cutbyplan(const Plan& plan, const PlannedWindow& window, bool atend) {
-    const Moment edge = atend ? window.closes : window.opens, aside = atend ? edge + minutes(1) : edge - minutes(1);
-    return (atend ? window.window.cutatend : window.window.cutatstart) &&
-           (edge == (atend ? plan.ends() : plan.begins()) || plan.height(aside));
-}
-
 }  // namespace
 
 std::vector<PlanOf> plansonend(const PlanOf& of, int most) {
@@ -46,8 +38,8 @@ std::vector<PlanOf> plansonend(const PlanOf& of, int most) {
 /// A window that is cut at the edge between two plans goes on behind it; where it doesn't the water turned within that
 /// minute, if there is a prediction on both sides.
 void WindowRun::join(const Plan& plan, std::vector<PlannedWindow>& windows) {
-    const bool cut = !windows.empty() && cutbyplan(plan, windows.front(), false);
-    if (open_ && cut) {
+    const bool cut = !windows.empty() && windows.front().window.cutatstart && windows.front().opens == plan.begins();
+    if (open_ && cut && windows.front().opens - open_->closes <= minutes(1)) {
         windows.front() = joined(*open_, windows.front());
     } else {
         if (cut && predicted_) {
@@ -80,7 +72,7 @@ std::vector<PlannedWindow> WindowRun::add(const Plan& plan, const PlannedAccess&
     takeoverall(plan, access);
     begun_ = true;
     predicted_ = plan.height(plan.ends() - minutes(1)).has_value();
-    if (!windows.empty() && cutbyplan(plan, windows.back(), true)) {
+    if (!windows.empty() && windows.back().window.cutatend && plan.ends() - windows.back().closes <= minutes(1)) {
         open_ = windows.back();
         windows.pop_back();
     }

@@ -88,7 +88,7 @@ std::string takedate(const TableWater& line, std::size_t number, DateBefore& bef
         before = {readisodate(line.date), 0};
         if (!before.date) before.unread = number;
         const bool nothing = trim(line.time + line.height).empty();
-        if (!before.date && nothing) return "This line isn't understood: type its date, time and height";
+        if (!before.date && nothing) return linefault(line.date);
         return datefault(line.date);
     }
     if (before.unread != 0)

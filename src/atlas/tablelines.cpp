@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "atlas/pastesigns.h"
 #include "dates/englishlocale.h"
 #include "dates/isomoments.h"
 #include "dates/typeddate.h"
@@ -164,20 +165,24 @@ struct LineRead {
     bool operator==(const LineRead&) const = default;
 };
 
-/// Reads waters field by field: a time and a height each, and their kinds all before or all behind.
+/// Where the kinds of a line's waters stand.
+enum class KindPlace { before, between, behind };
+
+/// Reads waters field by field: a time and a height each, and their kinds all in the same place.
 class WatersReader {
   public:
-    WatersReader(Fields line, bool before) : fields(line), kindbefore(before) {}
+    WatersReader(Fields line, KindPlace place, PmMeaning meaning) : fields(line), kinds(place), pm(meaning) {}
 
     /// False when anything else stands there. A single time may be without its height.
     bool read(bool whole, std::vector<TableWater>& waters) {
         while (at < fields.size()) {
             TableWater water;
-            if (kindbefore) takekind(water);
+            if (kinds == KindPlace::before) takekind(water);
             if (!taketime(water)) return false;
             const bool alone = at == fields.size() && waters.empty() && !whole && !dotted;
+            if (kinds == KindPlace::between) takekind(water);
             if (!alone && !takeheight(water)) return false;
-            if (!kindbefore) takekind(water);
+            if (kinds == KindPlace::behind) takekind(water);
             waters.push_back(water);
         }
         return !waters.empty() && !(dotted && swappable);
@@ -185,6 +190,10 @@ class WatersReader {
 
   private:
     void takekind(TableWater& water) {
+        if (pm == PmMeaning::kind && at < fields.size() && (ispm(fields[at]) || isbm(fields[at]))) {
+            water.kind = ispm(fields[at++]) ? "high" : "low";
+            return;
+        }
         for (const std::size_t words : {2U, 1U}) {
             if (at + words > fields.size()) continue;
             const auto kind = readkind(joined(fields.subspan(at, words)));
@@ -198,7 +207,9 @@ class WatersReader {
     bool taketime(TableWater& water) {
         if (at == fields.size()) return false;
         const std::string& field = fields[at];
-        const bool half = at + 1 < fields.size() && readhalfday(fields[at + 1]);
+        const bool halves = pm == PmMeaning::halfday;
+        if (!halves && lowercase(field).find_first_of("ap") != std::string::npos) return false;
+        const bool half = halves && at + 1 < fields.size() && readhalfday(fields[at + 1]);
         const std::string text = half ? field + " " + fields[at + 1] : field;
         const bool dot = dottedtime(field) && !half;
         if (!dot && !surelytime(text) && !(onlydigits(field, 3, 4) && readtime(text))) return false;
@@ -223,31 +234,32 @@ class WatersReader {
     }
 
     Fields fields;
-    bool kindbefore;
+    KindPlace kinds;
+    PmMeaning pm;
     std::size_t at = 0;
     bool dotted = false, swappable = true;
 };
 
 /// Every way to read fields as waters.
-std::vector<LineRead> watersin(Fields fields, bool whole, const std::string& date) {
+std::vector<LineRead> watersin(Fields fields, bool whole, const std::string& date, PmMeaning pm) {
     std::vector<LineRead> ways;
-    for (const bool before : {true, false}) {
+    for (const KindPlace kinds : {KindPlace::before, KindPlace::between, KindPlace::behind}) {
         LineRead line{date, {}};
-        const bool read = WatersReader(fields, before).read(whole, line.waters);
+        const bool read = WatersReader(fields, kinds, pm).read(whole, line.waters);
         if (read && std::find(ways.begin(), ways.end(), line) == ways.end()) ways.push_back(line);
     }
     return ways;
 }
 
 /// Every way to read a line, with its date before its waters, behind them, alone, or without one.
-std::vector<LineRead> waysof(Fields fields, const DateReading& dates) {
+std::vector<LineRead> waysof(Fields fields, const DateReading& dates, PmMeaning pm) {
     constexpr std::size_t longest = 4;
-    std::vector<LineRead> ways = watersin(fields, false, "");
+    std::vector<LineRead> ways = watersin(fields, false, "", pm);
     const auto add = [&](Fields day, Fields rest) {
         const TidiedDate tidied = tidieddate(day, dates);
         if (!tidied.date) return;
         const std::string date = datetext(tidied, dates);
-        for (const LineRead& way : rest.empty() ? std::vector{LineRead{date, {}}} : watersin(rest, false, date))
+        for (const LineRead& way : rest.empty() ? std::vector{LineRead{date, {}}} : watersin(rest, false, date, pm))
             if (std::find(ways.begin(), ways.end(), way) == ways.end()) ways.push_back(way);
     };
     for (std::size_t length = 1; length <= std::min(longest, fields.size()); ++length) {
@@ -258,16 +270,32 @@ std::vector<LineRead> waysof(Fields fields, const DateReading& dates) {
 }
 
 /// What can be read of a line: all of it, or its waters behind a date that can't be, or nothing.
-LineRead lineof(Fields fields, const DateReading& dates) {
-    const std::vector<LineRead> ways = waysof(fields.first(std::min(fields.size(), mostfields + 1)), dates);
+LineRead lineof(Fields fields, const DateReading& dates, PmMeaning pm) {
+    const std::vector<LineRead> ways = waysof(fields.first(std::min(fields.size(), mostfields + 1)), dates, pm);
     if (fields.size() > mostfields)
         return {leftcharacters(joined(fields.first(mostfields)), longestraw), {TableWater{}}};
     if (ways.size() == 1) return ways[0];
     for (std::size_t behind = 1; ways.empty() && behind < fields.size(); ++behind) {
-        const auto rest = watersin(fields.subspan(behind), true, joined(fields.first(behind)));
+        const auto rest = watersin(fields.subspan(behind), true, joined(fields.first(behind)), pm);
         if (rest.size() == 1) return rest[0];
     }
     return {leftcharacters(joined(fields), longestraw), {TableWater{}}};
+}
+
+struct PastedLine {
+    std::string whole;
+    LineFields fields;  ///< none without figures
+};
+
+std::vector<PastedLine> linesof(const std::string& text) {
+    std::vector<PastedLine> lines;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find('\n', at), text.size());
+        const std::string whole = text.substr(at, end - at);
+        at = end + 1;
+        lines.push_back({whole, hasdigit(whole) ? fieldsof(whole) : LineFields{}});
+    }
+    return lines;
 }
 
 /// A height as its table has it, metres without their unit.
@@ -316,15 +344,23 @@ std::string datefault(const std::string& tidied) {
     return isodate(*other) + " is a " + EnglishLocale().dayname(static_cast<int>(weekday));
 }
 
+std::string linefault(const std::string& left) {
+    const LineFields fields = fieldsof(left);
+    return std::any_of(fields.begin(), fields.end(), ispm)
+               ? "PM may be the afternoon or high water: type date, time and height"
+               : "This line isn't understood: type its date, time and height";
+}
+
 std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, std::string date) {
+    const std::vector<PastedLine> lines = linesof(text);
+    std::vector<LineFields> figures;
+    for (const PastedLine& line : lines)
+        if (!line.fields.empty()) figures.push_back(line.fields);
+    const PmMeaning pm = pmmeaning(figures);
     std::vector<TableWater> waters;
     std::string unit;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = std::min(text.find('\n', at), text.size());
-        const std::string whole = text.substr(at, end - at);
-        at = end + 1;
-        const std::vector<std::string> fields = fieldsof(whole);
-        const LineRead line = hasdigit(whole) ? lineof(fields, dates) : LineRead{};
+    for (const auto& [whole, fields] : lines) {
+        const LineRead line = fields.empty() ? LineRead{} : lineof(fields, dates, pm);
         const bool read = !line.waters.empty() && !line.waters[0].time.empty();
         if (!read) unit = unitin(whole).value_or(unit);
         const auto known = readisodate(date);

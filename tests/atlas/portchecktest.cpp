@@ -215,6 +215,26 @@ TEST_F(PastedWaters, OnlyADateThatWasReadGoesOnToTheLinesBehind) {
     EXPECT_EQ(read("0433 5.1", "2026-04-04"), "2026-04-04|0433|5.1|") << "that of the line before";
 }
 
+TEST_F(PastedWaters, PmIsTheAfternoonOrHighWaterAsTheWholePasteShows) {
+    const struct {
+        const char *text, *read;
+    } rows[] = {{"2026-04-04 09:53 PM 5,95", "2026-04-04 09:53 PM 5,95|||"},
+                {"09h53 PM 5,95", "|09h53|5,95|high"},
+                {"09h53PM 5,95", "09h53PM 5,95|||"},
+                {"09:53 PM 5,95\n16:05 BM 1,2", "|09:53|5,95|high / |16:05|1,2|low"},
+                {"09:53 PM 5,95\n22:05 PM 5,8", "|09:53|5,95|high / |22:05|5,8|high"},
+                {"09:53 5,95 PM\n10:05 PM 5,8", "|09:53|5,95|high / |10:05|5,8|high"},
+                {"PM 09:53 5,95\n10:05 PM 5,8", "|09:53|5,95|high / |10:05|5,8|high"},
+                {"09:53 PM 5.9\n04:05 AM 1.2", "|21:53|5.9| / |04:05|1.2|"},
+                {"09:53 PM 5.9 HW", "|21:53|5.9|high"},
+                {"09:53 PM 5.9\n4:05pm 1.2", "|21:53|5.9| / |16:05|1.2|"},
+                {"04:05 AM 1.2\n16:05 PM 5.8", "04:05 AM 1.2||| / 16:05 PM 5.8|||"},
+                {"pleine mer 09:53 5,9 basse mer 16:05 1,2", "|09:53|5,9|high / |16:05|1,2|low"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(text), expected) << text;
+    EXPECT_EQ(linefault("09:53 PM 5,95"), "PM may be the afternoon or high water: type date, time and height");
+}
+
 TEST(TableFields, AreReadInEveryUsualForm) {
     const std::pair<const char*, int> times[] = {
         {"6:12", 372},   {"0612", 372},    {"06h12", 372},      {"6.12", 372}, {"6:12 am", 372},

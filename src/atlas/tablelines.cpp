@@ -298,6 +298,37 @@ std::vector<PastedLine> linesof(const std::string& text) {
     return lines;
 }
 
+bool dateholds(const LineRead& line) {
+    return line.date.empty() || readisodate(line.date);
+}
+
+/// Day and month the other way round. Year and month first is everybody's.
+std::string otherorder(std::string form) {
+    if (form.starts_with("YYYY") && form.find('M') < form.find('D')) return form;
+    for (char& letter : form)
+        letter = letter == 'D' ? 'M' : letter == 'M' ? 'D' : letter;
+    return form;
+}
+
+/// Lines in the one order of day and month under which all their dates are days and on their weekdays; in the system's
+/// where both or none are so.
+std::vector<LineRead> readlines(const std::vector<PastedLine>& lines, const DateReading& dates, PmMeaning pm) {
+    constexpr const char* usual = "DD/MM/YYYY";
+    const std::string& own = dates.conventions.dateformat;
+    const DateConventions turned{otherorder(own.empty() ? usual : own), dates.conventions.dateseparator};
+    std::vector<LineRead> reads, others;
+    bool holds = true, otherholds = true;
+    for (const PastedLine& line : lines) {
+        reads.push_back(line.fields.empty() ? LineRead{} : lineof(line.fields, dates, pm));
+        others.push_back(line.fields.empty() ? LineRead{}
+                                             : lineof(line.fields, {turned, dates.locale, dates.today}, pm));
+        const bool held = dateholds(reads.back()), otherheld = dateholds(others.back());
+        holds = holds && (held || !otherheld);
+        otherholds = otherholds && (otherheld || !held);
+    }
+    return otherholds && !holds ? others : reads;
+}
+
 /// A height as its table has it, metres without their unit.
 std::string heightwith(const std::string& unit, const std::string& height) {
     const auto amount = readamount(height);
@@ -356,11 +387,12 @@ std::vector<TableWater> pastedwaters(const std::string& text, const DateReading&
     std::vector<LineFields> figures;
     for (const PastedLine& line : lines)
         if (!line.fields.empty()) figures.push_back(line.fields);
-    const PmMeaning pm = pmmeaning(figures);
+    const std::vector<LineRead> reads = readlines(lines, dates, pmmeaning(figures));
     std::vector<TableWater> waters;
     std::string unit;
-    for (const auto& [whole, fields] : lines) {
-        const LineRead line = fields.empty() ? LineRead{} : lineof(fields, dates, pm);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const LineRead& line = reads[i];
+        const std::string& whole = lines[i].whole;
         const bool read = !line.waters.empty() && !line.waters[0].time.empty();
         if (!read) unit = unitin(whole).value_or(unit);
         const auto known = readisodate(date);

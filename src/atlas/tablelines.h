@@ -31,7 +31,8 @@ std::string linefault(const std::string& left);
 /// Lines copied from elsewhere, "Sat 14/07/2026 0612 5.4 1130 0.9" or parts of it, between blanks, tabs, semicolons,
 /// or commas that are no decimal ones: one of each water. A line without a date has that of the line before, `date` at
 /// first, be it understood or not; a date alone is that of the lines behind it. What can't be read stands as the date
-/// of its line. "PM" is a half of the day or high water, whichever the whole text shows. A heading's unit is that of
+/// of its line. "PM" is a half of the day or high water, whichever the whole text shows; the order of day
+/// and month is the system's unless dates or weekdays hold only in the other one. A heading's unit is that of
 /// the heights below it that have none.
 std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, std::string date = "");
 

@@ -235,6 +235,32 @@ TEST_F(PastedWaters, PmIsTheAfternoonOrHighWaterAsTheWholePasteShows) {
     EXPECT_EQ(linefault("09:53 PM 5,95"), "PM may be the afternoon or high water: type date, time and height");
 }
 
+TEST_F(PastedWaters, AllDatesAreInTheOneOrderInWhichTheyHold) {
+    const std::string ends = " 0433 5.1";
+    const struct {
+        std::vector<const char*> typed, read;
+    } rows[] = {{{"04/05/2026"}, {"2026-05-04"}},
+                {{"04/11/2026", "04/13/2026"}, {"2026-04-11", "2026-04-13"}},
+                {{"04/11/2026", "13/11/2026"}, {"2026-11-04", "2026-11-13"}},
+                {{"Sun 04/05/2026", "04/06/2026"}, {"2026-04-05", "2026-04-06"}},
+                {{"Mon 04/05/2026", "04/06/2026"}, {"2026-05-04", "2026-06-04"}},
+                {{"04/13/2026", "13/04/2026", "04/05/2026"}, {"04/13/2026", "2026-04-13", "2026-05-04"}},
+                {{"04/13/2026", "5 Apil 2026"}, {"2026-04-13", "5 Apil 2026"}}};
+    for (const auto& [typed, expected] : rows) {
+        std::string text, all;
+        for (std::size_t i = 0; i < typed.size(); ++i) {
+            text += typed[i] + ends + "\n";
+            all += (i > 0 ? " / " : "") + std::string(expected[i]) + "|0433|5.1|";
+        }
+        EXPECT_EQ(read(text), all) << text;
+    }
+    conventions.dateformat = "MM/DD/YYYY";
+    EXPECT_EQ(read("04/05/2026 0433 5.1"), "2026-04-05|0433|5.1|");
+    EXPECT_EQ(read("13/04/2026 0433 5.1"), "2026-04-13|0433|5.1|");
+    conventions.dateformat = "YYYY-MM-DD";
+    EXPECT_EQ(read("Mon 2026-04-05 0433 5.1"), "Mon 2026-04-05|0433|5.1|") << "4 May is no way to read it";
+}
+
 TEST(TableFields, AreReadInEveryUsualForm) {
     const std::pair<const char*, int> times[] = {
         {"6:12", 372},   {"0612", 372},    {"06h12", 372},      {"6.12", 372}, {"6:12 am", 372},

@@ -16,6 +16,8 @@ constexpr int earliestyear = 1900, latestyear = 2200;
 constexpr std::size_t longestraw = 200;  // characters
 constexpr std::size_t mostfields = 40;   // of a line that is one of a table
 
+constexpr char nextday = '?';  // behind a date that seems to be over
+
 using Fields = std::span<const std::string>;
 
 bool isfigure(char c) {
@@ -367,6 +369,7 @@ std::string tidydate(const std::string& typed, const DateReading& dates) {
 
 std::string datefault(const std::string& tidied) {
     if (readisodate(tidied)) return "";
+    if (tidied.ends_with(nextday)) return "Earlier than the line before: is this the next day? Type its date";
     const std::string text = trim(tidied);
     const std::size_t blank = text.rfind(' ');
     const auto other = blank == std::string::npos ? std::nullopt : readisodate(text.substr(blank + 1));
@@ -382,14 +385,15 @@ std::string linefault(const std::string& left) {
                : "This line isn't understood: type its date, time and height";
 }
 
-std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, std::string date) {
+std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before) {
     const std::vector<PastedLine> lines = linesof(text);
     std::vector<LineFields> figures;
     for (const PastedLine& line : lines)
         if (!line.fields.empty()) figures.push_back(line.fields);
     const std::vector<LineRead> reads = readlines(lines, dates, pmmeaning(figures));
     std::vector<TableWater> waters;
-    std::string unit;
+    std::string unit, date = before.date;
+    int latest = readtime(before.time).value_or(0);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const LineRead& line = reads[i];
         const std::string& whole = lines[i].whole;
@@ -398,7 +402,14 @@ std::vector<TableWater> pastedwaters(const std::string& text, const DateReading&
         const auto known = readisodate(date);
         const bool sameday = known && weekdayof(line.date, dates) && ison(*known, line.date, dates);
         if (!line.date.empty() && !sameday) date = line.date;
+        if (!line.date.empty()) latest = 0;
+        if (read && line.date.empty() && readtime(line.waters[0].time).value_or(0) < latest) {
+            // Each mark more is a day of its own to be typed.
+            date += nextday;
+            latest = 0;
+        }
         for (TableWater water : line.waters) {
+            latest = std::max(latest, readtime(water.time).value_or(0));
             water.date = date;
             water.height = heightwith(unit, water.height);
             waters.push_back(water);

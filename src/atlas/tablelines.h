@@ -22,18 +22,19 @@ struct DateReading {
 /// weekday named as "Sun 2026-07-14".
 std::string tidydate(const std::string& typed, const DateReading& dates);
 
-/// Why that isn't the date of a line, "2026-07-14 is a Tuesday"; empty when it is one.
+/// Why that isn't the date of a line, "2026-07-14 is a Tuesday", or that a time before it is later; empty when it is
+/// one.
 std::string datefault(const std::string& tidied);
 
 /// Why a line isn't read that stands as its own date.
 std::string linefault(const std::string& left);
 
 /// Lines copied from elsewhere, "Sat 14/07/2026 0612 5.4 1130 0.9" or parts of it, between blanks, tabs, semicolons,
-/// or commas that are no decimal ones: one of each water. A line without a date has that of the line before, `date` at
-/// first, be it understood or not; a date alone is that of the lines behind it. What can't be read stands as the date
-/// of its line. "PM" is a half of the day or high water, whichever the whole text shows; the order of day
-/// and month is the system's unless dates or weekdays hold only in the other one. A heading's unit is that of
-/// the heights below it that have none.
-std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, std::string date = "");
+/// or commas that are no decimal ones: one of each water. A line without a date has that of the line before, `before`
+/// at first, be it understood or not, with a "?" behind it where its time is earlier; a date alone is that of the lines
+/// behind it. What can't be read stands as the date of its line. "PM" is a half of the day or high water, whichever the
+/// whole text shows; the order of day and month is the system's unless dates or weekdays hold only in the other one. A
+/// heading's unit is that of the heights below it that have none.
+std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before = {});
 
 }  // namespace tarvane

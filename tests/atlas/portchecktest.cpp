@@ -146,9 +146,9 @@ TEST_F(PortCheckTest, WhatAllWatersShareIsNamed) {
 }
 
 struct PastedWaters : testing::Test {
-    std::string read(const std::string& text, const std::string& date = "") const {
+    std::string read(const std::string& text, const TableWater& before = {}) const {
         std::string all;
-        for (const TableWater& water : pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, date))
+        for (const TableWater& water : pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, before))
             all += (all.empty() ? "" : " / ") + water.date + "|" + water.time + "|" + water.height + "|" + water.kind;
         return all;
     }
@@ -212,7 +212,7 @@ TEST_F(PastedWaters, OnlyADateThatWasReadGoesOnToTheLinesBehind) {
                 {"Date Height (ft)\n4/4/2026 0433 16.8\n1042 2 m", "2026-04-04|0433|16.8 ft| / 2026-04-04|1042|2|"}};
     for (const auto& [text, expected] : rows)
         EXPECT_EQ(read(text), expected) << text;
-    EXPECT_EQ(read("0433 5.1", "2026-04-04"), "2026-04-04|0433|5.1|") << "that of the line before";
+    EXPECT_EQ(read("0433 5.1", {"2026-04-04", "", "", ""}), "2026-04-04|0433|5.1|") << "that of the line before";
 }
 
 TEST_F(PastedWaters, PmIsTheAfternoonOrHighWaterAsTheWholePasteShows) {
@@ -225,9 +225,9 @@ TEST_F(PastedWaters, PmIsTheAfternoonOrHighWaterAsTheWholePasteShows) {
                 {"09:53 PM 5,95\n22:05 PM 5,8", "|09:53|5,95|high / |22:05|5,8|high"},
                 {"09:53 5,95 PM\n10:05 PM 5,8", "|09:53|5,95|high / |10:05|5,8|high"},
                 {"PM 09:53 5,95\n10:05 PM 5,8", "|09:53|5,95|high / |10:05|5,8|high"},
-                {"09:53 PM 5.9\n04:05 AM 1.2", "|21:53|5.9| / |04:05|1.2|"},
+                {"04:05 AM 1.2\n09:53 PM 5.9", "|04:05|1.2| / |21:53|5.9|"},
                 {"09:53 PM 5.9 HW", "|21:53|5.9|high"},
-                {"09:53 PM 5.9\n4:05pm 1.2", "|21:53|5.9| / |16:05|1.2|"},
+                {"4:05pm 1.2\n09:53 PM 5.9", "|16:05|1.2| / |21:53|5.9|"},
                 {"04:05 AM 1.2\n16:05 PM 5.8", "04:05 AM 1.2||| / 16:05 PM 5.8|||"},
                 {"pleine mer 09:53 5,9 basse mer 16:05 1,2", "|09:53|5,9|high / |16:05|1,2|low"}};
     for (const auto& [text, expected] : rows)
@@ -259,6 +259,22 @@ TEST_F(PastedWaters, AllDatesAreInTheOneOrderInWhichTheyHold) {
     EXPECT_EQ(read("13/04/2026 0433 5.1"), "2026-04-13|0433|5.1|");
     conventions.dateformat = "YYYY-MM-DD";
     EXPECT_EQ(read("Mon 2026-04-05 0433 5.1"), "Mon 2026-04-05|0433|5.1|") << "4 May is no way to read it";
+}
+
+TEST_F(PastedWaters, ATimeBeforeTheLastOneDoesntInheritItsDate) {
+    const struct {
+        const char *text, *read;
+    } rows[] = {{"0956 5\n2214 5\n0509 1\n1036 5\n0600 1",
+                 "2026-04-04|0956|5| / 2026-04-04|2214|5| / 2026-04-04?|0509|1| / 2026-04-04?|1036|5| / "
+                 "2026-04-04??|0600|1|"},
+                {"0333 5", "2026-04-04?|0333|5|"},
+                {"Sat 0333 5", "2026-04-04|0333|5|"},
+                {"5/4/2026\n0333 5 1600 5 0930 1\n1010 2",
+                 "2026-04-05|0333|5| / 2026-04-05|1600|5| / 2026-04-05|0930|1| / 2026-04-05?|1010|2|"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(text, {"2026-04-04", "04:33", "5.1", ""}), expected) << text;
+    EXPECT_EQ(read("0956 5\n0509 1"), "|0956|5| / ?|0509|1|");
+    EXPECT_EQ(datefault("2026-04-04?"), "Earlier than the line before: is this the next day? Type its date");
 }
 
 TEST(TableFields, AreReadInEveryUsualForm) {

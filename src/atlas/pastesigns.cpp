@@ -1,6 +1,7 @@
 #include "atlas/pastesigns.h"
 
 #include <algorithm>
+#include <set>
 
 #include "atlas/tablefields.h"
 #include "text/singlebyte.h"
@@ -39,6 +40,23 @@ bool iskindat(const LineFields& line, std::size_t at) {
     return (at + 1 < line.size() && istime(line[at + 1])) || (at > 0 && readamount(line[at - 1]));
 }
 
+std::set<std::string> unitsin(const std::vector<std::string>& lines) {
+    std::set<std::string> named;
+    for (const std::string& line : lines) {
+        std::string word;
+        for (const char c : lowercase(line) + " ") {
+            // "p.m." names no metres.
+            if ((c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80 || (c == '.' && word.size() == 1)) {
+                word += c;
+                continue;
+            }
+            if (const auto metres = unitmetres(word)) named.insert(*metres == 1 ? "" : *metres < 0.1 ? " cm" : " ft");
+            word.clear();
+        }
+    }
+    return named;
+}
+
 }  // namespace
 
 bool ispm(const std::string& field) {
@@ -60,6 +78,13 @@ PmMeaning pmmeaning(const std::vector<LineFields>& lines) {
         }
     }
     return half == kind ? PmMeaning::either : half ? PmMeaning::halfday : PmMeaning::kind;
+}
+
+PasteUnit pasteunit(const std::vector<std::string>& headings, const std::vector<std::string>& unread) {
+    const std::set<std::string> named = unitsin(headings);
+    if (named.size() == 1) return {*named.begin(), true};
+    const std::set<std::string> others = unitsin(unread);
+    return {"", named.empty() && std::all_of(others.begin(), others.end(), [](auto& name) { return name.empty(); })};
 }
 
 }  // namespace tarvane

@@ -21,4 +21,13 @@ bool ispm(const std::string& field);
 /// True of "BM" and "b.m." alone.
 bool isbm(const std::string& field);
 
+/// The unit of heights that come without one.
+struct PasteUnit {
+    std::string name;   ///< "", " ft" or " cm" as it stands behind a height
+    bool known = true;  ///< false where it may be another
+};
+
+/// Of lines without figures, and of those with figures that are no waters: these may name a unit of something else.
+PasteUnit pasteunit(const std::vector<std::string>& headings, const std::vector<std::string>& unread);
+
 }  // namespace tarvane

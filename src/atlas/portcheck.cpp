@@ -102,6 +102,8 @@ CheckLine readline(const TableWater& line, std::size_t number, const PortClock& 
     const auto minute = readtime(line.time);
     if (!minute) return {.fault = "No time: type one such as 06:12"};
     const auto height = readheight(line.height);
+    if (line.height.ends_with(doubtfulheight))
+        return {.fault = "In which unit is this height? Type metres such as 5.4"};
     if (!height) return {.fault = "No height: type metres such as 5.4"};
     const auto kind = readkind(line.kind);
     if (!kind) return {.fault = "Type high or low, or nothing"};

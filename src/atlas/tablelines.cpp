@@ -331,31 +331,33 @@ std::vector<LineRead> readlines(const std::vector<PastedLine>& lines, const Date
     return otherholds && !holds ? others : reads;
 }
 
+bool hastime(const LineRead& line) {
+    return !line.waters.empty() && !line.waters[0].time.empty();
+}
+
 /// A height as its table has it, metres without their unit.
-std::string heightwith(const std::string& unit, const std::string& height) {
+std::string heightwith(const PasteUnit& unit, const std::string& height) {
     const auto amount = readamount(height);
-    if (amount && !amount->unit) return height + unit;
+    if (amount && !amount->unit) return height + (unit.known ? unit.name : doubtfulheight);
     const bool metres = height.ends_with('m') && !height.ends_with("cm");
     return metres ? trim(height.substr(0, height.size() - 1)) : height;
 }
 
-/// The unit that a heading names; nothing where it names none or several.
-std::optional<std::string> unitin(const std::string& line) {
-    std::optional<std::string> named;
-    std::string word;
-    for (const char c : lowercase(line) + " ") {
-        if ((c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80) {
-            word += c;
-            continue;
+/// The unit of the heights that have none of their own.
+PasteUnit unitof(const std::vector<PastedLine>& lines, const std::vector<LineRead>& reads) {
+    std::vector<std::string> headings, unread;
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (lines[i].fields.empty())
+            headings.push_back(lines[i].whole);
+        else if (!hastime(reads[i]))
+            unread.push_back(lines[i].whole);
+    PasteUnit unit = pasteunit(headings, unread);
+    for (const LineRead& line : reads)
+        for (const TableWater& water : line.waters) {
+            const auto amount = readamount(water.height);
+            unit.known = unit.known && (!amount || amount->unit || readheight(water.height + unit.name));
         }
-        const auto metres = unitmetres(word);
-        word.clear();
-        if (!metres) continue;
-        const std::string name = *metres == 1 ? "" : *metres < 0.1 ? " cm" : " ft";
-        if (named && *named != name) return std::nullopt;
-        named = name;
-    }
-    return named;
+    return unit;
 }
 
 }  // namespace
@@ -392,18 +394,15 @@ std::vector<TableWater> pastedwaters(const std::string& text, const DateReading&
         if (!line.fields.empty()) figures.push_back(line.fields);
     const std::vector<LineRead> reads = readlines(lines, dates, pmmeaning(figures));
     std::vector<TableWater> waters;
-    std::string unit, date = before.date;
+    const PasteUnit unit = unitof(lines, reads);
+    std::string date = before.date;
     int latest = readtime(before.time).value_or(0);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const LineRead& line = reads[i];
-        const std::string& whole = lines[i].whole;
-        const bool read = !line.waters.empty() && !line.waters[0].time.empty();
-        if (!read) unit = unitin(whole).value_or(unit);
+    for (const LineRead& line : reads) {
         const auto known = readisodate(date);
         const bool sameday = known && weekdayof(line.date, dates) && ison(*known, line.date, dates);
         if (!line.date.empty() && !sameday) date = line.date;
         if (!line.date.empty()) latest = 0;
-        if (read && line.date.empty() && readtime(line.waters[0].time).value_or(0) < latest) {
+        if (hastime(line) && line.date.empty() && readtime(line.waters[0].time).value_or(0) < latest) {
             // Each mark more is a day of its own to be typed.
             date += nextday;
             latest = 0;

@@ -26,6 +26,9 @@ std::string tidydate(const std::string& typed, const DateReading& dates);
 /// one.
 std::string datefault(const std::string& tidied);
 
+/// Stands behind a height whose unit isn't known.
+inline constexpr const char* doubtfulheight = " ?";
+
 /// Why a line isn't read that stands as its own date.
 std::string linefault(const std::string& left);
 
@@ -33,8 +36,9 @@ std::string linefault(const std::string& left);
 /// or commas that are no decimal ones: one of each water. A line without a date has that of the line before, `before`
 /// at first, be it understood or not, with a "?" behind it where its time is earlier; a date alone is that of the lines
 /// behind it. What can't be read stands as the date of its line. "PM" is a half of the day or high water, whichever the
-/// whole text shows; the order of day and month is the system's unless dates or weekdays hold only in the other one. A
-/// heading's unit is that of the heights below it that have none.
+/// whole text shows; the order of day and month is the system's unless dates or weekdays hold only in the other one.
+/// Heights without a unit are in the one that headings name, or metres; where one can't be, or headings contradict each
+/// other, all of them have `doubtfulheight` behind them.
 std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before = {});
 
 }  // namespace tarvane

@@ -100,6 +100,7 @@ TEST_F(PortCheckTest, ALineThatCantBeMeantSaysWhyAndIsLeftOut) {
                 {{date, "", "5.4", ""}, "No time: type one such as 06:12"},
                 {{date, "06:12", "high", ""}, "No height: type metres such as 5.4"},
                 {{date, "06:12", "54", ""}, "No height: type metres such as 5.4"},
+                {{date, "06:12", "20 ?", ""}, "In which unit is this height? Type metres such as 5.4"},
                 {{date, "06:12", "nan", ""}, "No height: type metres such as 5.4"},
                 {{date, "06:12", "5.4", "slack"}, "Type high or low, or nothing"},
                 {{"", " ", "", ""}, emptyline}};
@@ -275,6 +276,23 @@ TEST_F(PastedWaters, ATimeBeforeTheLastOneDoesntInheritItsDate) {
         EXPECT_EQ(read(text, {"2026-04-04", "04:33", "5.1", ""}), expected) << text;
     EXPECT_EQ(read("0956 5\n0509 1"), "|0956|5| / ?|0509|1|");
     EXPECT_EQ(datefault("2026-04-04?"), "Earlier than the line before: is this the next day? Type its date");
+}
+
+TEST_F(PastedWaters, OneUnitIsThatOfAllHeightsWithoutOne) {
+    const struct {
+        const char *text, *read;
+    } rows[] = {{"0424 110 0953 595 1644 20", "|0424|110 ?| / |0953|595 ?| / |1644|20 ?|"},
+                {"0424 20\n0953 595\n1644 2 m", "|0424|20 ?| / |0953|595 ?| / |1644|2|"},
+                {"Height (cm)\n0424 110 0953 595", "|0424|110 cm| / |0953|595 cm|"},
+                {"0424 16\n0953 2\nHeights in ft.", "|0424|16 ft| / |0953|2 ft|"},
+                {"Height (ft), times a.m./p.m.\n0424 16", "|0424|16 ft|"},
+                {"Height (ft)\n0424 110", "|0424|110 ?|"},
+                {"Heights in metres\nBench mark 3.2 ft above pier\n09:53 5.9",
+                 "Bench mark 3.2 ft above pier||| / Bench mark 3.2 ft above pier|09:53|5.9|"},
+                {"Heights in feet\nDepths in metres\n0424 5.1", "|0424|5.1 ?|"},
+                {"0424 5.1\nTables of 2026 in feet", "|0424|5.1 ?| / Tables of 2026 in feet|||"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(text), expected) << text;
 }
 
 TEST(TableFields, AreReadInEveryUsualForm) {

@@ -13,8 +13,9 @@ namespace tarvane {
 namespace {
 
 constexpr int earliestyear = 1900, latestyear = 2200;
-constexpr std::size_t longestraw = 200;  // characters
-constexpr std::size_t mostfields = 40;   // of a line that is one of a table
+constexpr std::size_t longestraw = 200;    // characters
+constexpr std::size_t longestline = 4000;  // bytes
+constexpr std::size_t mostfields = 40;     // of a line that is one of a table
 
 constexpr char nextday = '?';  // behind a date that seems to be over
 
@@ -289,13 +290,20 @@ struct PastedLine {
     LineFields fields;  ///< none without figures
 };
 
-std::vector<PastedLine> linesof(const std::string& text) {
+/// At most so many with figures, and one more.
+std::vector<PastedLine> linesof(const std::string& text, std::size_t most) {
     std::vector<PastedLine> lines;
-    for (std::size_t at = 0; at < text.size();) {
+    std::size_t figures = 0;
+    for (std::size_t at = 0; at < text.size() && figures <= most;) {
         const std::size_t end = std::min(text.find('\n', at), text.size());
-        const std::string whole = text.substr(at, end - at);
+        PastedLine line{text.substr(at, std::min(end - at, longestline)), {}};
+        if (hasdigit(line.whole)) line.fields = fieldsof(line.whole);
+        // Too many fields are never read.
+        if (end - at > longestline && !line.fields.empty())
+            line.fields.resize(std::max(line.fields.size(), mostfields + 1), "...");
+        figures += !line.fields.empty();
+        lines.push_back(line);
         at = end + 1;
-        lines.push_back({whole, hasdigit(whole) ? fieldsof(whole) : LineFields{}});
     }
     return lines;
 }
@@ -387,8 +395,10 @@ std::string linefault(const std::string& left) {
                : "This line isn't understood: type its date, time and height";
 }
 
-std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before) {
-    const std::vector<PastedLine> lines = linesof(text);
+std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before,
+                                     std::size_t room) {
+    const std::size_t most = 2 * (room + 1);  // a date alone and a water each
+    const std::vector<PastedLine> lines = linesof(text.substr(0, longestpaste), most);
     std::vector<LineFields> figures;
     for (const PastedLine& line : lines)
         if (!line.fields.empty()) figures.push_back(line.fields);
@@ -414,6 +424,7 @@ std::vector<TableWater> pastedwaters(const std::string& text, const DateReading&
             waters.push_back(water);
         }
     }
+    if (figures.size() > most || text.size() > longestpaste) waters.resize(std::max(waters.size(), room + 1));
     return waters;
 }
 

@@ -29,6 +29,9 @@ std::string datefault(const std::string& tidied);
 /// Stands behind a height whose unit isn't known.
 inline constexpr const char* doubtfulheight = " ?";
 
+/// Bytes of a text that can be a table.
+inline constexpr std::size_t longestpaste = 1'000'000;
+
 /// Why a line isn't read that stands as its own date.
 std::string linefault(const std::string& left);
 
@@ -39,6 +42,8 @@ std::string linefault(const std::string& left);
 /// whole text shows; the order of day and month is the system's unless dates or weekdays hold only in the other one.
 /// Heights without a unit are in the one that headings name, or metres; where one can't be, or headings contradict each
 /// other, all of them have `doubtfulheight` behind them.
-std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before = {});
+/// Reads no further than `longestpaste` and gives more than `room` lines where there may be more than those.
+std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before,
+                                     std::size_t room);
 
 }  // namespace tarvane

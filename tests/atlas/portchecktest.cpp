@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <tuple>
@@ -149,7 +150,7 @@ TEST_F(PortCheckTest, WhatAllWatersShareIsNamed) {
 struct PastedWaters : testing::Test {
     std::string read(const std::string& text, const TableWater& before = {}) const {
         std::string all;
-        for (const TableWater& water : pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, before))
+        for (const TableWater& water : pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, before, 400))
             all += (all.empty() ? "" : " / ") + water.date + "|" + water.time + "|" + water.height + "|" + water.kind;
         return all;
     }
@@ -293,6 +294,24 @@ TEST_F(PastedWaters, OneUnitIsThatOfAllHeightsWithoutOne) {
                 {"0424 5.1\nTables of 2026 in feet", "|0424|5.1 ?| / Tables of 2026 in feet|||"}};
     for (const auto& [text, expected] : rows)
         EXPECT_EQ(read(text), expected) << text;
+}
+
+TEST_F(PastedWaters, NoMoreIsReadThanHasRoom) {
+    const auto lines = [&](std::size_t count, const std::string& line) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i)
+            text += line;
+        const auto start = std::chrono::steady_clock::now();
+        const auto waters = pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, {}, 400);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1)) << line.substr(0, 40);
+        return waters.size();
+    };
+    EXPECT_EQ(lines(400, "04/04/2026\n0433 5.1\n"), 400U);
+    for (const std::size_t count : {401, 200'000})
+        EXPECT_GT(lines(count, "04/04/2026 0433 5.1\n"), 400U) << count;
+    EXPECT_GT(lines(2000, "04/04/2026\n"), 400U) << "what is behind them isn't known";
+    EXPECT_GT(lines(300'000, "\u00A0 1"), 400U);
+    EXPECT_EQ(read("0433" + std::string(5000, ' ') + "5.1").substr(0, 8), "0433 ...");
 }
 
 TEST(TableFields, AreReadInEveryUsualForm) {

@@ -107,7 +107,7 @@ CheckLine readline(const TableWater& line, std::size_t number, const PortClock& 
     if (!height) return {.fault = "No height: type metres such as 5.4"};
     const auto kind = readkind(line.kind);
     if (!kind) return {.fault = "Type high or low, or nothing"};
-    const auto moment = momentat(clock, *before.date, *minute);
+    const auto moment = momentat(clock, *before.date + days(*minute / 1440), *minute % 1440);
     if (!moment) return {.fault = "The clocks leave this time out on that day"};
     return {"", *moment, *height, *kind};
 }

@@ -116,6 +116,7 @@ std::optional<int> readtime(const std::string& typed) {
     int hours = std::stoi(hour);
     if (half && (hours < 1 || hours > 12)) return std::nullopt;
     if (half) hours = hours % 12 + *half;
+    if (!half && hours == 24 && std::stoi(minute) == 0) return hours * 60;
     return hours < 24 ? std::optional(hours * 60 + std::stoi(minute)) : std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 #include "atlas/tablelines.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 
 #include "atlas/pastesigns.h"
@@ -74,7 +75,11 @@ std::optional<unsigned> weekdayof(const std::string& field, const Locale& locale
 
 std::optional<unsigned> weekdayof(const std::string& field, const DateReading& dates) {
     const auto own = weekdayof(field, dates.locale);
-    return own ? own : weekdayof(field, EnglishLocale());
+    if (const auto english = own ? own : weekdayof(field, EnglishLocale())) return english;
+    constexpr std::array german{"so", "mo", "di", "mi", "do", "fr", "sa"};
+    const std::string word = lowercase(field.substr(0, field.find('.')));
+    const auto* const day = std::find(german.begin(), german.end(), word);
+    return day == german.end() ? std::nullopt : std::optional(static_cast<unsigned>(day - german.begin()));
 }
 
 std::optional<Date> dateoftext(const std::string& text, const DateReading& dates) {
@@ -133,8 +138,12 @@ bool decimalcomma(const std::string& field) {
 }
 
 void addfield(std::string field, std::vector<std::string>& fields) {
-    while (!field.empty() && (field.back() == ',' || field.back() == ':'))
+    while (!field.empty() && std::string_view(",:*").find(field.back()) != std::string_view::npos)
         field.pop_back();
+    // "4th"
+    for (const char* ordinal : {"st", "nd", "rd", "th"})
+        if (field.ends_with(ordinal) && onlydigits(field.substr(0, field.size() - 2), 1, 2))
+            field.resize(field.size() - 2);
     if (const std::size_t comma = field.find(','); comma != std::string::npos && !decimalcomma(field)) {
         addfield(field.substr(0, comma), fields);
         return addfield(field.substr(comma + 1), fields);

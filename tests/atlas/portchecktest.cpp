@@ -86,6 +86,9 @@ TEST_F(PortCheckTest, AWaterIsMeantOnTheTablesOwnClock) {
     // 01:30 of that night is left out in London, and comes twice in October.
     const auto fault = [&](const char* date) { return checked({{date, "01:30", "1", ""}}, TableClock::port).waters; };
     EXPECT_EQ(fault("2026-03-29").at(0).fault, "The clocks leave this time out on that day");
+    const auto water = checked({{"2026-07-14", "24:00", "1", ""}, {"2026-07-15", "00:00", "1", ""}}).waters;
+    EXPECT_EQ(water[0].given, water[1].given);
+    EXPECT_EQ(water[0].fault, water[1].fault);
     EXPECT_EQ(fault("2026-10-25").at(0).given, makedate(2026, 10, 25) + minutes(30));
 }
 
@@ -168,6 +171,8 @@ TEST_F(PastedWaters, LinesAreReadAsTablesHaveThem) {
     } rows[] = {
         {"06:12 5.4", "|06:12|5.4|"},
         {"2026-07-14\t06:12\t5,4\tHW\r", "2026-07-14|06:12|5,4|high"},
+        {"Mi 15.07.2026 06:12* 5,4*", "2026-07-15|06:12|5,4|"},
+        {"Tue 14th Jul 2026 24:00 5.4", "2026-07-14|24:00|5.4|"},
         {"14/07/2026,06:12,5.4", "2026-07-14|06:12|5.4|"},
         {"14/07/2026,0612,5.4,low", "2026-07-14|0612|5.4|low"},
         {"14 Jul 2026 0612 5.4m", "2026-07-14|0612|5.4|"},
@@ -258,6 +263,9 @@ TEST_F(PastedWaters, AllDatesAreInTheOneOrderInWhichTheyHold) {
     }
     conventions.dateformat = "MM/DD/YYYY";
     EXPECT_EQ(read("04/05/2026 0433 5.1"), "2026-04-05|0433|5.1|");
+    locale.days = {"dimanche", "lundi", "mardi", "mercredi", "jeudi", "vendredi", "samedi"};
+    EXPECT_EQ(read("Di. 2026-04-07 0433 5.1"), "Di. 2026-04-07|0433|5.1|") << "that is dimanche here";
+    EXPECT_EQ(read("Do. 2026-04-09 0433 5.1"), "2026-04-09|0433|5.1|");
     EXPECT_EQ(read("13/04/2026 0433 5.1"), "2026-04-13|0433|5.1|");
     conventions.dateformat = "YYYY-MM-DD";
     EXPECT_EQ(read("Mon 2026-04-05 0433 5.1"), "Mon 2026-04-05|0433|5.1|") << "4 May is no way to read it";
@@ -316,12 +324,12 @@ TEST_F(PastedWaters, NoMoreIsReadThanHasRoom) {
 
 TEST(TableFields, AreReadInEveryUsualForm) {
     const std::pair<const char*, int> times[] = {
-        {"6:12", 372},   {"0612", 372},    {"06h12", 372},      {"6.12", 372}, {"6:12 am", 372},
-        {"12:05 am", 5}, {"12:05PM", 725}, {"04:33 p.m.", 993}, {"4pm", 960},  {"06:12:00", 372}};
+        {"6:12", 372},    {"0612", 372},       {"06h12", 372}, {"6.12", 372},     {"6:12 am", 372}, {"12:05 am", 5},
+        {"12:05PM", 725}, {"04:33 p.m.", 993}, {"4pm", 960},   {"06:12:00", 372}, {"24:00", 1440}};
     for (const auto& [text, minute] : times)
         EXPECT_EQ(readtime(text), minute) << text;
     for (const char* text :
-         {"13:05 pm", "0:05 am", "24:00", "6:60", "6", "6:1", "06:12:30", "6-12", "am", "2026-07-14"})
+         {"13:05 pm", "0:05 am", "24:01", "24:00 am", "6:60", "6", "6:1", "06:12:30", "6-12", "am", "2026-07-14"})
         EXPECT_FALSE(readtime(text)) << text;
     const std::pair<const char*, double> heights[] = {{"5.4", 5.4},       {"5,4 m", 5.4},      {"10 ft", 3.048},
                                                       {"10'", 3.048},     {"240 cm", 2.4},     {"\u22120.2", -0.2},

@@ -372,7 +372,8 @@ void frmcheckport::paste() {
     const std::string text = trim(context.services.clipboard.text());
     std::vector<TableWater>& waters = of.check.waters;
     const std::size_t before = waters.size();
-    const std::vector<TableWater> lines = pastedwaters(text, dates(), waters.empty() ? "" : waters.back().date);
+    const std::vector<TableWater> lines = pastedwaters(text, dates(), waters.empty() ? TableWater{} : waters.back(),
+                                                       mostlines - std::min(mostlines, before));
     const int row = table->currentRow(), column = table->currentColumn();
     const bool part = lines.empty() || lines[0].time.empty() || lines[0].height.empty();
     const bool figures = text.find_first_of("0123456789") != std::string::npos;

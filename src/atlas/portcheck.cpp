@@ -88,7 +88,7 @@ std::string takedate(const TableWater& line, std::size_t number, DateBefore& bef
         before = {readisodate(line.date), 0};
         if (!before.date) before.unread = number;
         const bool nothing = trim(line.time + line.height).empty();
-        if (!before.date && nothing) return "This line isn't understood: type its date, time and height";
+        if (!before.date && nothing) return linefault(line.date);
         return datefault(line.date);
     }
     if (before.unread != 0)
@@ -102,10 +102,12 @@ CheckLine readline(const TableWater& line, std::size_t number, const PortClock& 
     const auto minute = readtime(line.time);
     if (!minute) return {.fault = "No time: type one such as 06:12"};
     const auto height = readheight(line.height);
+    if (line.height.ends_with(doubtfulheight))
+        return {.fault = "In which unit is this height? Type metres such as 5.4"};
     if (!height) return {.fault = "No height: type metres such as 5.4"};
     const auto kind = readkind(line.kind);
     if (!kind) return {.fault = "Type high or low, or nothing"};
-    const auto moment = momentat(clock, *before.date, *minute);
+    const auto moment = momentat(clock, *before.date + days(*minute / 1440), *minute % 1440);
     if (!moment) return {.fault = "The clocks leave this time out on that day"};
     return {"", *moment, *height, *kind};
 }

@@ -88,8 +88,10 @@ std::optional<WaterKind> readkind(const std::string& typed) {
         return std::find(words.begin(), words.end(), word) != words.end();
     };
     if (word.empty()) return WaterKind::either;
-    if (among({"high", "hw", "h", "high water", "hochwasser"})) return WaterKind::high;
-    if (among({"low", "lw", "l", "low water", "nw", "niedrigwasser"})) return WaterKind::low;
+    if (among({"high", "hw", "h", "high water", "hochwasser", "pleine mer", "pleamar", "preamar"}))
+        return WaterKind::high;
+    if (among({"low", "lw", "l", "low water", "nw", "niedrigwasser", "basse mer", "bajamar", "baixa-mar"}))
+        return WaterKind::low;
     return std::nullopt;
 }
 
@@ -97,6 +99,7 @@ std::optional<int> readtime(const std::string& typed) {
     std::string text = lowercase(trim(typed));
     const auto half = takehalfday(text);
     const std::size_t mark = text.find_first_of(":h.");
+    if (half && mark != std::string::npos && text[mark] == 'h') return std::nullopt;
     std::string hour = text, minute = "00";
     if (mark != std::string::npos) {
         hour = text.substr(0, mark);
@@ -113,6 +116,7 @@ std::optional<int> readtime(const std::string& typed) {
     int hours = std::stoi(hour);
     if (half && (hours < 1 || hours > 12)) return std::nullopt;
     if (half) hours = hours % 12 + *half;
+    if (!half && hours == 24 && std::stoi(minute) == 0) return hours * 60;
     return hours < 24 ? std::optional(hours * 60 + std::stoi(minute)) : std::nullopt;
 }
 

@@ -17,7 +17,7 @@ std::optional<WaterKind> readkind(const std::string& typed);
 /// 12 for "pm", 0 for "am".
 std::optional<int> readhalfday(const std::string& typed);
 
-/// Minutes of the day: "6:12", "06:12", "0612", "06h12", "6.12", "6:12 am".
+/// Minutes of the day: "6:12", "06:12", "0612", "06h12", "6.12", "6:12 am"; 1440 for "24:00", the end of the day.
 std::optional<int> readtime(const std::string& typed);
 
 /// A time with "am" or "pm" as "16:33"; any other text as it is.

@@ -1,8 +1,10 @@
 #include "atlas/tablelines.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 
+#include "atlas/pastesigns.h"
 #include "dates/englishlocale.h"
 #include "dates/isomoments.h"
 #include "dates/typeddate.h"
@@ -12,8 +14,11 @@ namespace tarvane {
 namespace {
 
 constexpr int earliestyear = 1900, latestyear = 2200;
-constexpr std::size_t longestraw = 200;  // characters
-constexpr std::size_t mostfields = 40;   // of a line that is one of a table
+constexpr std::size_t longestraw = 200;    // characters
+constexpr std::size_t longestline = 4000;  // bytes
+constexpr std::size_t mostfields = 40;     // of a line that is one of a table
+
+constexpr char nextday = '?';  // behind a date that seems to be over
 
 using Fields = std::span<const std::string>;
 
@@ -70,7 +75,11 @@ std::optional<unsigned> weekdayof(const std::string& field, const Locale& locale
 
 std::optional<unsigned> weekdayof(const std::string& field, const DateReading& dates) {
     const auto own = weekdayof(field, dates.locale);
-    return own ? own : weekdayof(field, EnglishLocale());
+    if (const auto english = own ? own : weekdayof(field, EnglishLocale())) return english;
+    constexpr std::array german{"so", "mo", "di", "mi", "do", "fr", "sa"};
+    const std::string word = lowercase(field.substr(0, field.find('.')));
+    const auto* const day = std::find(german.begin(), german.end(), word);
+    return day == german.end() ? std::nullopt : std::optional(static_cast<unsigned>(day - german.begin()));
 }
 
 std::optional<Date> dateoftext(const std::string& text, const DateReading& dates) {
@@ -129,8 +138,12 @@ bool decimalcomma(const std::string& field) {
 }
 
 void addfield(std::string field, std::vector<std::string>& fields) {
-    while (!field.empty() && (field.back() == ',' || field.back() == ':'))
+    while (!field.empty() && std::string_view(",:*").find(field.back()) != std::string_view::npos)
         field.pop_back();
+    // "4th"
+    for (const char* ordinal : {"st", "nd", "rd", "th"})
+        if (field.ends_with(ordinal) && onlydigits(field.substr(0, field.size() - 2), 1, 2))
+            field.resize(field.size() - 2);
     if (const std::size_t comma = field.find(','); comma != std::string::npos && !decimalcomma(field)) {
         addfield(field.substr(0, comma), fields);
         return addfield(field.substr(comma + 1), fields);
@@ -164,20 +177,24 @@ struct LineRead {
     bool operator==(const LineRead&) const = default;
 };
 
-/// Reads waters field by field: a time and a height each, and their kinds all before or all behind.
+/// Where the kinds of a line's waters stand.
+enum class KindPlace { before, between, behind };
+
+/// Reads waters field by field: a time and a height each, and their kinds all in the same place.
 class WatersReader {
   public:
-    WatersReader(Fields line, bool before) : fields(line), kindbefore(before) {}
+    WatersReader(Fields line, KindPlace place, PmMeaning meaning) : fields(line), kinds(place), pm(meaning) {}
 
     /// False when anything else stands there. A single time may be without its height.
     bool read(bool whole, std::vector<TableWater>& waters) {
         while (at < fields.size()) {
             TableWater water;
-            if (kindbefore) takekind(water);
+            if (kinds == KindPlace::before) takekind(water);
             if (!taketime(water)) return false;
             const bool alone = at == fields.size() && waters.empty() && !whole && !dotted;
+            if (kinds == KindPlace::between) takekind(water);
             if (!alone && !takeheight(water)) return false;
-            if (!kindbefore) takekind(water);
+            if (kinds == KindPlace::behind) takekind(water);
             waters.push_back(water);
         }
         return !waters.empty() && !(dotted && swappable);
@@ -185,6 +202,10 @@ class WatersReader {
 
   private:
     void takekind(TableWater& water) {
+        if (pm == PmMeaning::kind && at < fields.size() && (ispm(fields[at]) || isbm(fields[at]))) {
+            water.kind = ispm(fields[at++]) ? "high" : "low";
+            return;
+        }
         for (const std::size_t words : {2U, 1U}) {
             if (at + words > fields.size()) continue;
             const auto kind = readkind(joined(fields.subspan(at, words)));
@@ -198,7 +219,9 @@ class WatersReader {
     bool taketime(TableWater& water) {
         if (at == fields.size()) return false;
         const std::string& field = fields[at];
-        const bool half = at + 1 < fields.size() && readhalfday(fields[at + 1]);
+        const bool halves = pm == PmMeaning::halfday;
+        if (!halves && lowercase(field).find_first_of("ap") != std::string::npos) return false;
+        const bool half = halves && at + 1 < fields.size() && readhalfday(fields[at + 1]);
         const std::string text = half ? field + " " + fields[at + 1] : field;
         const bool dot = dottedtime(field) && !half;
         if (!dot && !surelytime(text) && !(onlydigits(field, 3, 4) && readtime(text))) return false;
@@ -223,31 +246,32 @@ class WatersReader {
     }
 
     Fields fields;
-    bool kindbefore;
+    KindPlace kinds;
+    PmMeaning pm;
     std::size_t at = 0;
     bool dotted = false, swappable = true;
 };
 
 /// Every way to read fields as waters.
-std::vector<LineRead> watersin(Fields fields, bool whole, const std::string& date) {
+std::vector<LineRead> watersin(Fields fields, bool whole, const std::string& date, PmMeaning pm) {
     std::vector<LineRead> ways;
-    for (const bool before : {true, false}) {
+    for (const KindPlace kinds : {KindPlace::before, KindPlace::between, KindPlace::behind}) {
         LineRead line{date, {}};
-        const bool read = WatersReader(fields, before).read(whole, line.waters);
+        const bool read = WatersReader(fields, kinds, pm).read(whole, line.waters);
         if (read && std::find(ways.begin(), ways.end(), line) == ways.end()) ways.push_back(line);
     }
     return ways;
 }
 
 /// Every way to read a line, with its date before its waters, behind them, alone, or without one.
-std::vector<LineRead> waysof(Fields fields, const DateReading& dates) {
+std::vector<LineRead> waysof(Fields fields, const DateReading& dates, PmMeaning pm) {
     constexpr std::size_t longest = 4;
-    std::vector<LineRead> ways = watersin(fields, false, "");
+    std::vector<LineRead> ways = watersin(fields, false, "", pm);
     const auto add = [&](Fields day, Fields rest) {
         const TidiedDate tidied = tidieddate(day, dates);
         if (!tidied.date) return;
         const std::string date = datetext(tidied, dates);
-        for (const LineRead& way : rest.empty() ? std::vector{LineRead{date, {}}} : watersin(rest, false, date))
+        for (const LineRead& way : rest.empty() ? std::vector{LineRead{date, {}}} : watersin(rest, false, date, pm))
             if (std::find(ways.begin(), ways.end(), way) == ways.end()) ways.push_back(way);
     };
     for (std::size_t length = 1; length <= std::min(longest, fields.size()); ++length) {
@@ -258,43 +282,99 @@ std::vector<LineRead> waysof(Fields fields, const DateReading& dates) {
 }
 
 /// What can be read of a line: all of it, or its waters behind a date that can't be, or nothing.
-LineRead lineof(Fields fields, const DateReading& dates) {
-    const std::vector<LineRead> ways = waysof(fields.first(std::min(fields.size(), mostfields + 1)), dates);
+LineRead lineof(Fields fields, const DateReading& dates, PmMeaning pm) {
+    const std::vector<LineRead> ways = waysof(fields.first(std::min(fields.size(), mostfields + 1)), dates, pm);
     if (fields.size() > mostfields)
         return {leftcharacters(joined(fields.first(mostfields)), longestraw), {TableWater{}}};
     if (ways.size() == 1) return ways[0];
     for (std::size_t behind = 1; ways.empty() && behind < fields.size(); ++behind) {
-        const auto rest = watersin(fields.subspan(behind), true, joined(fields.first(behind)));
+        const auto rest = watersin(fields.subspan(behind), true, joined(fields.first(behind)), pm);
         if (rest.size() == 1) return rest[0];
     }
     return {leftcharacters(joined(fields), longestraw), {TableWater{}}};
 }
 
+struct PastedLine {
+    std::string whole;
+    LineFields fields;  ///< none without figures
+};
+
+/// At most so many with figures, and one more.
+std::vector<PastedLine> linesof(const std::string& text, std::size_t most) {
+    std::vector<PastedLine> lines;
+    std::size_t figures = 0;
+    for (std::size_t at = 0; at < text.size() && figures <= most;) {
+        const std::size_t end = std::min(text.find('\n', at), text.size());
+        PastedLine line{text.substr(at, std::min(end - at, longestline)), {}};
+        if (hasdigit(line.whole)) line.fields = fieldsof(line.whole);
+        // Too many fields are never read.
+        if (end - at > longestline && !line.fields.empty())
+            line.fields.resize(std::max(line.fields.size(), mostfields + 1), "...");
+        figures += !line.fields.empty();
+        lines.push_back(line);
+        at = end + 1;
+    }
+    return lines;
+}
+
+bool dateholds(const LineRead& line) {
+    return line.date.empty() || readisodate(line.date);
+}
+
+/// Day and month the other way round. Year and month first is everybody's.
+std::string otherorder(std::string form) {
+    if (form.starts_with("YYYY") && form.find('M') < form.find('D')) return form;
+    for (char& letter : form)
+        letter = letter == 'D' ? 'M' : letter == 'M' ? 'D' : letter;
+    return form;
+}
+
+/// Lines in the one order of day and month under which all their dates are days and on their weekdays; in the system's
+/// where both or none are so.
+std::vector<LineRead> readlines(const std::vector<PastedLine>& lines, const DateReading& dates, PmMeaning pm) {
+    constexpr const char* usual = "DD/MM/YYYY";
+    const std::string& own = dates.conventions.dateformat;
+    const DateConventions turned{otherorder(own.empty() ? usual : own), dates.conventions.dateseparator};
+    std::vector<LineRead> reads, others;
+    bool holds = true, otherholds = true;
+    for (const PastedLine& line : lines) {
+        reads.push_back(line.fields.empty() ? LineRead{} : lineof(line.fields, dates, pm));
+        others.push_back(line.fields.empty() ? LineRead{}
+                                             : lineof(line.fields, {turned, dates.locale, dates.today}, pm));
+        const bool held = dateholds(reads.back()), otherheld = dateholds(others.back());
+        holds = holds && (held || !otherheld);
+        otherholds = otherholds && (otherheld || !held);
+    }
+    return otherholds && !holds ? others : reads;
+}
+
+bool hastime(const LineRead& line) {
+    return !line.waters.empty() && !line.waters[0].time.empty();
+}
+
 /// A height as its table has it, metres without their unit.
-std::string heightwith(const std::string& unit, const std::string& height) {
+std::string heightwith(const PasteUnit& unit, const std::string& height) {
     const auto amount = readamount(height);
-    if (amount && !amount->unit) return height + unit;
+    if (amount && !amount->unit) return height + (unit.known ? unit.name : doubtfulheight);
     const bool metres = height.ends_with('m') && !height.ends_with("cm");
     return metres ? trim(height.substr(0, height.size() - 1)) : height;
 }
 
-/// The unit that a heading names; nothing where it names none or several.
-std::optional<std::string> unitin(const std::string& line) {
-    std::optional<std::string> named;
-    std::string word;
-    for (const char c : lowercase(line) + " ") {
-        if ((c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80) {
-            word += c;
-            continue;
+/// The unit of the heights that have none of their own.
+PasteUnit unitof(const std::vector<PastedLine>& lines, const std::vector<LineRead>& reads) {
+    std::vector<std::string> headings, unread;
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (lines[i].fields.empty())
+            headings.push_back(lines[i].whole);
+        else if (!hastime(reads[i]))
+            unread.push_back(lines[i].whole);
+    PasteUnit unit = pasteunit(headings, unread);
+    for (const LineRead& line : reads)
+        for (const TableWater& water : line.waters) {
+            const auto amount = readamount(water.height);
+            unit.known = unit.known && (!amount || amount->unit || readheight(water.height + unit.name));
         }
-        const auto metres = unitmetres(word);
-        word.clear();
-        if (!metres) continue;
-        const std::string name = *metres == 1 ? "" : *metres < 0.1 ? " cm" : " ft";
-        if (named && *named != name) return std::nullopt;
-        named = name;
-    }
-    return named;
+    return unit;
 }
 
 }  // namespace
@@ -308,6 +388,7 @@ std::string tidydate(const std::string& typed, const DateReading& dates) {
 
 std::string datefault(const std::string& tidied) {
     if (readisodate(tidied)) return "";
+    if (tidied.ends_with(nextday)) return "Earlier than the line before: is this the next day? Type its date";
     const std::string text = trim(tidied);
     const std::size_t blank = text.rfind(' ');
     const auto other = blank == std::string::npos ? std::nullopt : readisodate(text.substr(blank + 1));
@@ -316,26 +397,43 @@ std::string datefault(const std::string& tidied) {
     return isodate(*other) + " is a " + EnglishLocale().dayname(static_cast<int>(weekday));
 }
 
-std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, std::string date) {
+std::string linefault(const std::string& left) {
+    const LineFields fields = fieldsof(left);
+    return std::any_of(fields.begin(), fields.end(), ispm)
+               ? "PM may be the afternoon or high water: type date, time and height"
+               : "This line isn't understood: type its date, time and height";
+}
+
+std::vector<TableWater> pastedwaters(const std::string& text, const DateReading& dates, const TableWater& before,
+                                     std::size_t room) {
+    const std::size_t most = 2 * (room + 1);  // a date alone and a water each
+    const std::vector<PastedLine> lines = linesof(text.substr(0, longestpaste), most);
+    std::vector<LineFields> figures;
+    for (const PastedLine& line : lines)
+        if (!line.fields.empty()) figures.push_back(line.fields);
+    const std::vector<LineRead> reads = readlines(lines, dates, pmmeaning(figures));
     std::vector<TableWater> waters;
-    std::string unit;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = std::min(text.find('\n', at), text.size());
-        const std::string whole = text.substr(at, end - at);
-        at = end + 1;
-        const std::vector<std::string> fields = fieldsof(whole);
-        const LineRead line = hasdigit(whole) ? lineof(fields, dates) : LineRead{};
-        const bool read = !line.waters.empty() && !line.waters[0].time.empty();
-        if (!read) unit = unitin(whole).value_or(unit);
+    const PasteUnit unit = unitof(lines, reads);
+    std::string date = before.date;
+    int latest = readtime(before.time).value_or(0);
+    for (const LineRead& line : reads) {
         const auto known = readisodate(date);
         const bool sameday = known && weekdayof(line.date, dates) && ison(*known, line.date, dates);
         if (!line.date.empty() && !sameday) date = line.date;
+        if (!line.date.empty()) latest = 0;
+        if (hastime(line) && line.date.empty() && readtime(line.waters[0].time).value_or(0) < latest) {
+            // Each mark more is a day of its own to be typed.
+            date += nextday;
+            latest = 0;
+        }
         for (TableWater water : line.waters) {
+            latest = std::max(latest, readtime(water.time).value_or(0));
             water.date = date;
             water.height = heightwith(unit, water.height);
             waters.push_back(water);
         }
     }
+    if (figures.size() > most || text.size() > longestpaste) waters.resize(std::max(waters.size(), room + 1));
     return waters;
 }
 

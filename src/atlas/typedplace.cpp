@@ -26,7 +26,7 @@ bool isdigit(char32_t letter) {
 
 /// Marks of degrees, minutes and seconds, and what parts latitude from longitude.
 bool isbetween(char32_t letter) {
-    return std::u32string_view(U" \t\u00A0\u202F,;/°º˚'′’´\"″”").find(letter) != std::u32string_view::npos;
+    return std::u32string_view(U" \t\r\n\u00A0\u202F,;/°º˚'′’´\"″”").find(letter) != std::u32string_view::npos;
 }
 
 /// Decimal commas as points. Beside a point one parts the numbers, unless letters do that.
@@ -38,9 +38,35 @@ std::u32string pointed(std::u32string text) {
     return text;
 }
 
+/// A dash between figures beside letters of hemispheres parts degrees from minutes.
+std::u32string undashed(std::u32string text) {
+    if (text.find_first_of(U"nsew") == std::u32string::npos) return text;
+    for (std::size_t i = 1; i + 1 < text.size(); ++i)
+        if (text[i] == U'-' && isdigit(text[i - 1]) && isdigit(text[i + 1])) text[i] = U' ';
+    return text;
+}
+
+/// "lat 50.1 lon -1.4" without its words, latitude first; any other text as it is.
+std::string unnamed(const std::string& text) {
+    struct Name {
+        std::size_t at = std::string::npos, end = 0;
+    };
+    const auto find = [&](std::initializer_list<std::string_view> words) {
+        for (const std::string_view word : words)
+            if (const std::size_t at = text.find(word); at != std::string::npos)
+                return Name{at, std::min(text.find_first_not_of(".:= ", at + word.size()), text.size())};
+        return Name{};
+    };
+    const Name lat = find({"latitude", "lat"}), lon = find({"longitude", "long", "lon", "lng"});
+    const std::size_t first = std::min(lat.at, lon.at);
+    if (std::max(lat.at, lon.at) == std::string::npos || text.find_first_not_of(" \t\r\n") != first) return text;
+    if (lat.at < lon.at) return text.substr(lat.end, lon.at - lat.end) + " " + text.substr(lon.end);
+    return text.substr(lat.end) + " " + text.substr(lon.end, lat.at - lon.end);
+}
+
 /// Nothing where anything else stands in the text.
 std::optional<std::vector<Part>> partsof(std::string_view utf8) {
-    const std::u32string text = pointed(codepoints(lowercase(utf8)));
+    const std::u32string text = undashed(pointed(codepoints(unnamed(lowercase(utf8)))));
     std::vector<Part> found;
     for (std::size_t i = 0; i < text.size();) {
         if (isbetween(text[i])) {

@@ -62,6 +62,12 @@ TEST(Places, AreReadAsPersonsTypeThem) {
                            {"-33.85,151.2", -33.85, 151.2},
                            {"-33,85 151,2", -33.85, 151.2},
                            {"\u221233,85; +151,2", -33.85, 151.2},
+                           {"50.1 N 1.4 W\n", 50.1, -1.4},
+                           {"50.1 N\r\n1.4 W", 50.1, -1.4},
+                           {"-33.85\n151.2", -33.85, 151.2},
+                           {"50-06N 001-24W", 50.1, -1.4},
+                           {"lat 50.1 lon -1.4", 50.1, -1.4},
+                           {"Longitude: 1\u00B0 24' W, Latitude: 50\u00B0 6' N", 50.1, -1.4},
                            {"90 -180", 90, -180}}) {
         const auto read = readplace(row.typed);
         ASSERT_TRUE(read) << row.typed;
@@ -87,6 +93,10 @@ TEST(Places, AreReadAsPersonsTypeThem) {
                               "50 N 1 W 3 E",
                               "1 2 3 4 N 1 W",
                               "inf 3",
+                              "lat 50 6 lon -1 24",
+                              "50-06N -001-24W",
+                              "lat 50.1",
+                              "3 lat 50.1 lon -1.4",
                               "1e1 2",
                               "50 N 1 X",
                               "Sydney",

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <tuple>
@@ -85,6 +86,9 @@ TEST_F(PortCheckTest, AWaterIsMeantOnTheTablesOwnClock) {
     // 01:30 of that night is left out in London, and comes twice in October.
     const auto fault = [&](const char* date) { return checked({{date, "01:30", "1", ""}}, TableClock::port).waters; };
     EXPECT_EQ(fault("2026-03-29").at(0).fault, "The clocks leave this time out on that day");
+    const auto water = checked({{"2026-07-14", "24:00", "1", ""}, {"2026-07-15", "00:00", "1", ""}}).waters;
+    EXPECT_EQ(water[0].given, water[1].given);
+    EXPECT_EQ(water[0].fault, water[1].fault);
     EXPECT_EQ(fault("2026-10-25").at(0).given, makedate(2026, 10, 25) + minutes(30));
 }
 
@@ -100,6 +104,7 @@ TEST_F(PortCheckTest, ALineThatCantBeMeantSaysWhyAndIsLeftOut) {
                 {{date, "", "5.4", ""}, "No time: type one such as 06:12"},
                 {{date, "06:12", "high", ""}, "No height: type metres such as 5.4"},
                 {{date, "06:12", "54", ""}, "No height: type metres such as 5.4"},
+                {{date, "06:12", "20 ?", ""}, "In which unit is this height? Type metres such as 5.4"},
                 {{date, "06:12", "nan", ""}, "No height: type metres such as 5.4"},
                 {{date, "06:12", "5.4", "slack"}, "Type high or low, or nothing"},
                 {{"", " ", "", ""}, emptyline}};
@@ -146,9 +151,9 @@ TEST_F(PortCheckTest, WhatAllWatersShareIsNamed) {
 }
 
 struct PastedWaters : testing::Test {
-    std::string read(const std::string& text, const std::string& date = "") const {
+    std::string read(const std::string& text, const TableWater& before = {}) const {
         std::string all;
-        for (const TableWater& water : pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, date))
+        for (const TableWater& water : pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, before, 400))
             all += (all.empty() ? "" : " / ") + water.date + "|" + water.time + "|" + water.height + "|" + water.kind;
         return all;
     }
@@ -166,6 +171,8 @@ TEST_F(PastedWaters, LinesAreReadAsTablesHaveThem) {
     } rows[] = {
         {"06:12 5.4", "|06:12|5.4|"},
         {"2026-07-14\t06:12\t5,4\tHW\r", "2026-07-14|06:12|5,4|high"},
+        {"Mi 15.07.2026 06:12* 5,4*", "2026-07-15|06:12|5,4|"},
+        {"Tue 14th Jul 2026 24:00 5.4", "2026-07-14|24:00|5.4|"},
         {"14/07/2026,06:12,5.4", "2026-07-14|06:12|5.4|"},
         {"14/07/2026,0612,5.4,low", "2026-07-14|0612|5.4|low"},
         {"14 Jul 2026 0612 5.4m", "2026-07-14|0612|5.4|"},
@@ -212,17 +219,117 @@ TEST_F(PastedWaters, OnlyADateThatWasReadGoesOnToTheLinesBehind) {
                 {"Date Height (ft)\n4/4/2026 0433 16.8\n1042 2 m", "2026-04-04|0433|16.8 ft| / 2026-04-04|1042|2|"}};
     for (const auto& [text, expected] : rows)
         EXPECT_EQ(read(text), expected) << text;
-    EXPECT_EQ(read("0433 5.1", "2026-04-04"), "2026-04-04|0433|5.1|") << "that of the line before";
+    EXPECT_EQ(read("0433 5.1", {"2026-04-04", "", "", ""}), "2026-04-04|0433|5.1|") << "that of the line before";
+}
+
+TEST_F(PastedWaters, PmIsTheAfternoonOrHighWaterAsTheWholePasteShows) {
+    const struct {
+        const char *text, *read;
+    } rows[] = {{"2026-04-04 09:53 PM 5,95", "2026-04-04 09:53 PM 5,95|||"},
+                {"09h53 PM 5,95", "|09h53|5,95|high"},
+                {"09h53PM 5,95", "09h53PM 5,95|||"},
+                {"09:53 PM 5,95\n16:05 BM 1,2", "|09:53|5,95|high / |16:05|1,2|low"},
+                {"09:53 PM 5,95\n22:05 PM 5,8", "|09:53|5,95|high / |22:05|5,8|high"},
+                {"09:53 5,95 PM\n10:05 PM 5,8", "|09:53|5,95|high / |10:05|5,8|high"},
+                {"PM 09:53 5,95\n10:05 PM 5,8", "|09:53|5,95|high / |10:05|5,8|high"},
+                {"04:05 AM 1.2\n09:53 PM 5.9", "|04:05|1.2| / |21:53|5.9|"},
+                {"09:53 PM 5.9 HW", "|21:53|5.9|high"},
+                {"4:05pm 1.2\n09:53 PM 5.9", "|16:05|1.2| / |21:53|5.9|"},
+                {"04:05 AM 1.2\n16:05 PM 5.8", "04:05 AM 1.2||| / 16:05 PM 5.8|||"},
+                {"pleine mer 09:53 5,9 basse mer 16:05 1,2", "|09:53|5,9|high / |16:05|1,2|low"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(text), expected) << text;
+    EXPECT_EQ(linefault("09:53 PM 5,95"), "PM may be the afternoon or high water: type date, time and height");
+}
+
+TEST_F(PastedWaters, AllDatesAreInTheOneOrderInWhichTheyHold) {
+    const std::string ends = " 0433 5.1";
+    const struct {
+        std::vector<const char*> typed, read;
+    } rows[] = {{{"04/05/2026"}, {"2026-05-04"}},
+                {{"04/11/2026", "04/13/2026"}, {"2026-04-11", "2026-04-13"}},
+                {{"04/11/2026", "13/11/2026"}, {"2026-11-04", "2026-11-13"}},
+                {{"Sun 04/05/2026", "04/06/2026"}, {"2026-04-05", "2026-04-06"}},
+                {{"Mon 04/05/2026", "04/06/2026"}, {"2026-05-04", "2026-06-04"}},
+                {{"04/13/2026", "13/04/2026", "04/05/2026"}, {"04/13/2026", "2026-04-13", "2026-05-04"}},
+                {{"04/13/2026", "5 Apil 2026"}, {"2026-04-13", "5 Apil 2026"}}};
+    for (const auto& [typed, expected] : rows) {
+        std::string text, all;
+        for (std::size_t i = 0; i < typed.size(); ++i) {
+            text += typed[i] + ends + "\n";
+            all += (i > 0 ? " / " : "") + std::string(expected[i]) + "|0433|5.1|";
+        }
+        EXPECT_EQ(read(text), all) << text;
+    }
+    conventions.dateformat = "MM/DD/YYYY";
+    EXPECT_EQ(read("04/05/2026 0433 5.1"), "2026-04-05|0433|5.1|");
+    locale.days = {"dimanche", "lundi", "mardi", "mercredi", "jeudi", "vendredi", "samedi"};
+    EXPECT_EQ(read("Di. 2026-04-07 0433 5.1"), "Di. 2026-04-07|0433|5.1|") << "that is dimanche here";
+    EXPECT_EQ(read("Do. 2026-04-09 0433 5.1"), "2026-04-09|0433|5.1|");
+    EXPECT_EQ(read("13/04/2026 0433 5.1"), "2026-04-13|0433|5.1|");
+    conventions.dateformat = "YYYY-MM-DD";
+    EXPECT_EQ(read("Mon 2026-04-05 0433 5.1"), "Mon 2026-04-05|0433|5.1|") << "4 May is no way to read it";
+}
+
+TEST_F(PastedWaters, ATimeBeforeTheLastOneDoesntInheritItsDate) {
+    const struct {
+        const char *text, *read;
+    } rows[] = {{"0956 5\n2214 5\n0509 1\n1036 5\n0600 1",
+                 "2026-04-04|0956|5| / 2026-04-04|2214|5| / 2026-04-04?|0509|1| / 2026-04-04?|1036|5| / "
+                 "2026-04-04??|0600|1|"},
+                {"0333 5", "2026-04-04?|0333|5|"},
+                {"Sat 0333 5", "2026-04-04|0333|5|"},
+                {"5/4/2026\n0333 5 1600 5 0930 1\n1010 2",
+                 "2026-04-05|0333|5| / 2026-04-05|1600|5| / 2026-04-05|0930|1| / 2026-04-05?|1010|2|"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(text, {"2026-04-04", "04:33", "5.1", ""}), expected) << text;
+    EXPECT_EQ(read("0956 5\n0509 1"), "|0956|5| / ?|0509|1|");
+    EXPECT_EQ(datefault("2026-04-04?"), "Earlier than the line before: is this the next day? Type its date");
+}
+
+TEST_F(PastedWaters, OneUnitIsThatOfAllHeightsWithoutOne) {
+    const struct {
+        const char *text, *read;
+    } rows[] = {{"0424 110 0953 595 1644 20", "|0424|110 ?| / |0953|595 ?| / |1644|20 ?|"},
+                {"0424 20\n0953 595\n1644 2 m", "|0424|20 ?| / |0953|595 ?| / |1644|2|"},
+                {"Height (cm)\n0424 110 0953 595", "|0424|110 cm| / |0953|595 cm|"},
+                {"0424 16\n0953 2\nHeights in ft.", "|0424|16 ft| / |0953|2 ft|"},
+                {"Height (ft), times a.m./p.m.\n0424 16", "|0424|16 ft|"},
+                {"Height (ft)\n0424 110", "|0424|110 ?|"},
+                {"Heights in metres\nBench mark 3.2 ft above pier\n09:53 5.9",
+                 "Bench mark 3.2 ft above pier||| / Bench mark 3.2 ft above pier|09:53|5.9|"},
+                {"Heights in feet\nDepths in metres\n0424 5.1", "|0424|5.1 ?|"},
+                {"0424 5.1\nTables of 2026 in feet", "|0424|5.1 ?| / Tables of 2026 in feet|||"}};
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(read(text), expected) << text;
+}
+
+TEST_F(PastedWaters, NoMoreIsReadThanHasRoom) {
+    const auto lines = [&](std::size_t count, const std::string& line) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i)
+            text += line;
+        const auto start = std::chrono::steady_clock::now();
+        const auto waters = pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, {}, 400);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1)) << line.substr(0, 40);
+        return waters.size();
+    };
+    EXPECT_EQ(lines(400, "04/04/2026\n0433 5.1\n"), 400U);
+    for (const std::size_t count : {401, 200'000})
+        EXPECT_GT(lines(count, "04/04/2026 0433 5.1\n"), 400U) << count;
+    EXPECT_GT(lines(2000, "04/04/2026\n"), 400U) << "what is behind them isn't known";
+    EXPECT_GT(lines(300'000, "\u00A0 1"), 400U);
+    EXPECT_EQ(read("0433" + std::string(5000, ' ') + "5.1").substr(0, 8), "0433 ...");
 }
 
 TEST(TableFields, AreReadInEveryUsualForm) {
     const std::pair<const char*, int> times[] = {
-        {"6:12", 372},   {"0612", 372},    {"06h12", 372},      {"6.12", 372}, {"6:12 am", 372},
-        {"12:05 am", 5}, {"12:05PM", 725}, {"04:33 p.m.", 993}, {"4pm", 960},  {"06:12:00", 372}};
+        {"6:12", 372},    {"0612", 372},       {"06h12", 372}, {"6.12", 372},     {"6:12 am", 372}, {"12:05 am", 5},
+        {"12:05PM", 725}, {"04:33 p.m.", 993}, {"4pm", 960},   {"06:12:00", 372}, {"24:00", 1440}};
     for (const auto& [text, minute] : times)
         EXPECT_EQ(readtime(text), minute) << text;
     for (const char* text :
-         {"13:05 pm", "0:05 am", "24:00", "6:60", "6", "6:1", "06:12:30", "6-12", "am", "2026-07-14"})
+         {"13:05 pm", "0:05 am", "24:01", "24:00 am", "6:60", "6", "6:1", "06:12:30", "6-12", "am", "2026-07-14"})
         EXPECT_FALSE(readtime(text)) << text;
     const std::pair<const char*, double> heights[] = {{"5.4", 5.4},       {"5,4 m", 5.4},      {"10 ft", 3.048},
                                                       {"10'", 3.048},     {"240 cm", 2.4},     {"\u22120.2", -0.2},

@@ -176,7 +176,7 @@ void readownnotes(const std::string& folder, Random&) {
     TableCheck check = of.check;
     const DateConventions conventions{"DD/MM/YYYY", "/"};
     const DateReading dates{conventions, services.locale, services.clock.now().today};
-    for (const TableWater& water : pastedwaters(wholetext(ownportspath(folders)), dates))
+    for (const TableWater& water : pastedwaters(wholetext(ownportspath(folders)), dates, {}, 400))
         check.waters.push_back(water);
     sheettext(aboutsheet(of, services.clock.moment(), services.zones));
     keepcheck(folders, of.hcfile, of.port, of.number, check);

@@ -309,9 +309,8 @@ TEST_F(PastedWaters, NoMoreIsReadThanHasRoom) {
         std::string text;
         for (std::size_t i = 0; i < count; ++i)
             text += line;
-        const auto start = std::chrono::steady_clock::now();
         const auto waters = pastedwaters(text, {conventions, locale, makedate(2026, 11, 23)}, {}, 400);
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1)) << line.substr(0, 40);
+        EXPECT_LT(waters.size(), 1000U) << line.substr(0, 40);
         return waters.size();
     };
     EXPECT_EQ(lines(400, "04/04/2026\n0433 5.1\n"), 400U);

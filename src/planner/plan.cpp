@@ -220,7 +220,12 @@ std::vector<std::pair<Moment, Moment>> Plan::light(bool twilight) const {
     return within;
 }
 
-std::vector<SpringTide> Plan::springsandneaps() const {
+const std::vector<SpringTide>& Plan::springsandneaps() const {
+    if (!springtides_) springtides_ = findspringsandneaps();
+    return *springtides_;
+}
+
+std::vector<SpringTide> Plan::findspringsandneaps() const {
     constexpr auto aside = days(5);
     const double springrange = meanspringrange(of_.port);
     // With mainly one tide a day the greatest ranges come with the moon's declination.

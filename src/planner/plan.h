@@ -109,13 +109,14 @@ class Plan {
     std::vector<std::pair<Moment, Moment>> light(bool twilight) const;
 
     /// None of a port with mainly one tide a day.
-    std::vector<SpringTide> springsandneaps() const;
+    const std::vector<SpringTide>& springsandneaps() const;
 
     /// Nothing outside the plan or on a day without a prediction.
     std::optional<TideNow> now(Moment moment) const;
 
   private:
     bool lacksdays() const;
+    std::vector<SpringTide> findspringsandneaps() const;
     std::optional<PlannedWater> openingbefore(Moment moment, const Passage& passage) const;
     int partof(const TideSpan& tides, Moment water, Moment opens, const Passage& passage) const;
     double spanhours(Moment moment) const;
@@ -130,6 +131,7 @@ class Plan {
     Light light_;                       ///< in the span's hours
     std::vector<PlannedWater> around_;  ///< of the plan and some days on both sides
     std::vector<PlannedWater> waters_;
+    mutable std::optional<std::vector<SpringTide>> springtides_;  ///< once they were asked for
 };
 
 }  // namespace tarvane

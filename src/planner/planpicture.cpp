@@ -124,7 +124,7 @@ struct DayHead {
 std::vector<DayHead> dayheads(const PlanPicture& picture, const PlanScale& scale) {
     const PortClock& clock = picture.plan.clock();
     const auto phases = phasesbetween(picture.plan.begins(), picture.plan.ends());
-    const auto springs = picture.plan.springsandneaps();
+    const auto& springs = picture.plan.springsandneaps();
     std::vector<DayHead> heads;
     for (Date date = clock.at(scale.from).date; clock.startof(date) < scale.to; date += days(1)) {
         DayHead head{date, scale.x(std::max(clock.startof(date), scale.from)),
@@ -213,7 +213,8 @@ void paintwindows(Canvas& canvas, const PlanPicture& picture, const PlanScale& s
             const double first = shape.front().x, last = shape.back().x;
             shape.push_back({last, foot});
             shape.push_back({first, foot});
-            canvas.fill(shape, picture.look.passable);
+            // The curve is painted over its edge.
+            canvas.fillrough(shape, picture.look.passable);
             hatch(canvas, shape, {picture.look.hatch, 0.7 * strokeof(picture)});
         }
 }

@@ -38,33 +38,34 @@ void take(const JsonMembers& members, const char* name, std::optional<double>& v
     members.whole() = members.whole() && (value || member->is_null());
 }
 
-void takebottoms(const JsonMembers& members, std::map<std::string, double>& bottoms) {
-    const json* all = members.at("bottoms");
+/// Every member of an object that has one a port; `take` says whether it is what it should be.
+template <typename Take>
+void takeports(const JsonMembers& members, const char* name, Take take) {
+    const json* all = members.at(name);
     if (!all) return;
     members.whole() = members.whole() && all->is_object();
     if (!all->is_object()) return;
-    for (const auto& [port, value] : all->items()) {
+    for (const auto& [port, value] : all->items())
+        if (!take(port, value)) members.whole() = false;
+}
+
+void takebottoms(const JsonMembers& members, std::map<std::string, double>& bottoms) {
+    takeports(members, "bottoms", [&](const std::string& port, const json& value) {
         const auto bottom = metresof(value);
         if (bottom) bottoms[port] = *bottom;
-        members.whole() = members.whole() && bottom;
-    }
+        return bottom.has_value();
+    });
 }
 
 void takebridges(const JsonMembers& members, std::map<std::string, Bridge>& bridges) {
-    const json* all = members.at("bridges");
-    if (!all) return;
-    members.whole() = members.whole() && all->is_object();
-    if (!all->is_object()) return;
-    for (const auto& [port, value] : all->items()) {
+    takeports(members, "bridges", [&](const std::string& port, const json& value) {
         const JsonMembers bridge(value, members.whole());
         std::optional<double> height, level;
         take(bridge, "height", height);
         take(bridge, "level", level);
-        if (height && level)
-            bridges[port] = {*height, *level};
-        else
-            members.whole() = false;
-    }
+        if (height && level) bridges[port] = {*height, *level};
+        return height && level;
+    });
 }
 
 void takesettings(const json& object, PlanSettings& settings) {

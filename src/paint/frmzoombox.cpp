@@ -22,11 +22,12 @@ ZoomBox::ZoomBox(const char* name, const char* accessiblename, double step, QWid
 
 void ZoomBox::setlook(const Colours& wanted) {
     look = &wanted;
+    painted = {};
     redraw();
 }
 
 void ZoomBox::redraw() {
-    painted = {};
+    stale = true;
     update();
 }
 
@@ -36,13 +37,17 @@ void ZoomBox::zoomturned(int turned, QPointF about) {
 
 void ZoomBox::showstill(QPainter& painter) {
     const double ratio = devicePixelRatioF();
-    if (painted.isNull() || painted.size() != size() * ratio) {
+    if (painted.size() != size() * ratio) {
         painted = QPixmap(size() * ratio);
-        painted.setDevicePixelRatio(ratio);
         painted.fill(QColor::fromRgb(look->paper));
+        stale = true;
+    }
+    if (stale) {
+        painted.setDevicePixelRatio(ratio);
         QPainter stillpainter(&painted);
         PainterCanvas canvas(stillpainter, font());
         paintstill(canvas);
+        stale = false;
     }
     painter.drawPixmap(0, 0, painted);
 }

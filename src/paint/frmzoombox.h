@@ -21,7 +21,7 @@ class ZoomBox : public QWidget {
     /// `step` is how much nearer one click of the wheel or one key goes.
     ZoomBox(const char* name, const char* accessiblename, double step, QWidget* parent);
 
-    /// Paints all that stands still, in the box's logical pixels.
+    /// Paints all that stands still, in the box's logical pixels, over all of the box: what stood there may be there still.
     virtual void paintstill(Canvas& canvas) = 0;
 
     /// Shows so many times as little, about a place that stays where it is.
@@ -41,7 +41,8 @@ class ZoomBox : public QWidget {
     const Colours* look;
 
   private:
-    QPixmap painted;  ///< null when it is to be painted anew
+    QPixmap painted;
+    bool stale = true;  ///< and to be painted over
 };
 
 }  // namespace tarvane

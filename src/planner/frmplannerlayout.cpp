@@ -10,6 +10,7 @@
 #include "platform/qt/foldingbox.h"
 #include "platform/qt/named.h"
 #include "platform/qt/screentext.h"
+#include "platform/qt/steadybox.h"
 #include "platform/qt/stepcontrol.h"
 
 namespace tarvane {
@@ -236,13 +237,12 @@ QWidget* frmplanner::buildquestion() {
     }
     lblOnly->setBuddy(weekdays[0]);
     rows->addLayout(days);
-    rows->addWidget(lblNeeded);
-    rows->addWidget(lblAnswer, 1);
     lblAnswer->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     // What stands above stays where it is, however long they become.
     lblNeeded->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     lblNeeded->setMinimumHeight(lblNeeded->fontMetrics().lineSpacing() * 2);
     lblAnswer->setMinimumHeight(QFontMetrics(lblAnswer->font()).lineSpacing() * 4);
+    rows->addWidget(new SteadyBox({lblNeeded, lblAnswer}, fontMetrics().averageCharWidth() * 30), 1);
     return fraQuestion;
 }
 

@@ -61,6 +61,7 @@ void PlanPictureBox::paintstill(Canvas& canvas) {
         paintplan(canvas, *shown, scale);
         return;
     }
+    canvas.fill(Area{0, 0, double(width()), double(height())}, look->paper);
     const TextLook words{look->text, double(QFontInfo(font()).pixelSize()), false, Anchor::middle};
     canvas.text({width() / 2.0, height() / 2.0}, view.whynot, words);
 }

@@ -3,14 +3,16 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 #include "platform/qt/screentext.h"
+#include "platform/qt/textwidths.h"
 
 namespace tarvane {
 namespace {
 
-constexpr int rowsmeasured = 32;  // by which the columns get their widths: rows are of one form
+constexpr std::size_t rowsmeasured = 32;
 
 }  // namespace
 
@@ -29,7 +31,6 @@ PlanTableBox::PlanTableBox(const char* name, const char* accessiblename) {
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
-    horizontalHeader()->setResizeContentsPrecision(rowsmeasured);
     setSortingEnabled(true);
     sortByColumn(0, Qt::AscendingOrder);
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { choose(index.row()); });
@@ -43,6 +44,16 @@ void PlanTableBox::choose(int row) {
 void PlanTableBox::showtable(PlanTable table) {
     model_.replace(std::move(table));
     resizeColumnsToContents();
+}
+
+int PlanTableBox::sizeHintForColumn(int column) const {
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const auto& rows = model_.table.rows;
+    TextWidths& widths = textwidthsof(font());
+    double widest = 0;
+    for (std::size_t row = 0; row < std::min(rows.size(), rowsmeasured); ++row)
+        widest = std::max(widest, textwidthof(rows[row].cells[static_cast<std::size_t>(column)], font(), widths));
+    return static_cast<int>(std::ceil(widest)) + 2 * margin;
 }
 
 bool PlanTableBox::event(QEvent* event) {

@@ -22,6 +22,9 @@ class PlanTableBox : public QTableView {
     /// As it is sorted.
     const PlanTable& table() const { return model_.table; }
 
+    /// By the first rows: all are of one form.
+    int sizeHintForColumn(int column) const override;
+
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -22,18 +22,21 @@ using std::chrono::days;
 using std::chrono::hours;
 using std::chrono::minutes;
 
-constexpr double hatchstep = 7;
-
-void paintlight(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
-    const auto fill = [&](bool twilight, Rgb colour) {
-        for (const auto& [begins, ends] : picture.plan.light(twilight)) {
-            const double left = scale.x(std::max(begins, scale.from)), right = scale.x(std::min(ends, scale.to));
-            if (left < right) canvas.fill(Area{left, scale.plot.top, right, scale.plot.bottom}, colour);
+/// On paper, which is the day.
+void paintdark(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    const auto fillbetween = [&](const std::vector<std::pair<Moment, Moment>>& light, Rgb colour) {
+        Moment dark = scale.from;
+        const auto fillto = [&](Moment end) {
+            if (dark < end) canvas.fill(Area{scale.x(dark), scale.plot.top, scale.x(end), scale.plot.bottom}, colour);
+        };
+        for (const auto& [begins, ends] : light) {
+            fillto(std::min(begins, scale.to));
+            dark = std::max(dark, ends);
         }
+        fillto(scale.to);
     };
-    canvas.fill(scale.plot, picture.look.night);
-    fill(true, picture.look.twilight);
-    fill(false, picture.look.paper);
+    fillbetween(picture.plan.light(false), picture.look.twilight);
+    fillbetween(picture.plan.light(true), picture.look.night);
 }
 
 /// The least step of a ladder that keeps marks so far apart, or its last.
@@ -85,6 +88,7 @@ void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     const double perhour = scale.plot.width() / (static_cast<double>((scale.to - scale.from).count()) / 3600);
     const double digits = canvas.textwidth("00", look);
     const int step = static_cast<int>(stepof(ladder, perhour, digits * 1.8));
+    if (step >= 24) return;
     double behind = -HUGE_VAL;
     eachhour(picture, scale, [&](Moment at, int hour) {
         const double x = scale.x(at);
@@ -92,7 +96,7 @@ void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         if (hour == 0 || hour % step != 0) return;
         canvas.line(places, {picture.look.grid, 0.5});
         // An hour that comes twice may have room for its name once.
-        if (step > 12 || x + digits / 2 > picture.area.right || x - digits / 2 < behind) return;
+        if (x + digits / 2 > picture.area.right || x - digits / 2 < behind) return;
         behind = x + 0.8 * digits;
         canvas.text({x, scale.plot.bottom + inset / 2}, (hour < 10 ? "0" : "") + std::to_string(hour), look);
     });
@@ -182,41 +186,13 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     }
 }
 
-/// Lines that rise to the right, through a shape of any form.
-void hatch(Canvas& canvas, const std::vector<Place>& shape, const LineLook& look) {
-    double least = HUGE_VAL, greatest = -HUGE_VAL;
-    for (const Place& each : shape) {
-        least = std::min(least, each.x + each.y);
-        greatest = std::max(greatest, each.x + each.y);
-    }
-    for (double sum = std::ceil(least / hatchstep) * hatchstep; sum < greatest; sum += hatchstep) {
-        std::vector<double> crossed;  // x of the places where the line meets the shape's edge
-        for (std::size_t i = 0; i < shape.size(); ++i) {
-            const Place &one = shape[i], &other = shape[(i + 1) % shape.size()];
-            const double first = one.x + one.y - sum, second = other.x + other.y - sum;
-            if ((first < 0) != (second < 0)) crossed.push_back(one.x + (other.x - one.x) * first / (first - second));
-        }
-        std::sort(crossed.begin(), crossed.end());
-        for (std::size_t i = 0; i + 1 < crossed.size(); i += 2) {
-            const std::array places{Place{crossed[i], sum - crossed[i]}, Place{crossed[i + 1], sum - crossed[i + 1]}};
-            canvas.line(places, look);
-        }
-    }
-}
-
 void paintwindows(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     if (!picture.passage || !picture.access) return;
     const double foot = floorof(picture, scale);
+    const HatchLook look{picture.look.passable, picture.look.hatch, 0.7 * strokeof(picture)};
     for (const PlannedWindow& window : picture.access->windows)
-        for (std::vector<Place>& shape : curvepieces(picture, scale, window.opens, window.closes)) {
-            if (shape.size() < 2) continue;
-            const double first = shape.front().x, last = shape.back().x;
-            shape.push_back({last, foot});
-            shape.push_back({first, foot});
-            // The curve is painted over its edge.
-            canvas.fillrough(shape, picture.look.passable);
-            hatch(canvas, shape, {picture.look.hatch, 0.7 * strokeof(picture)});
-        }
+        for (const std::vector<Place>& piece : curvepieces(picture, scale, window.opens, window.closes))
+            canvas.fillhatched(piece, foot, look);
 }
 
 void paintseabed(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
@@ -255,7 +231,7 @@ void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scal
         canvas.text({scale.plot.left, picture.area.top + inset}, picture.title, look);
         painttrustline(canvas, picture, scale.plot.left + canvas.textwidth(picture.title, look));
     }
-    paintlight(canvas, picture, scale);
+    paintdark(canvas, picture, scale);
     paintheads(canvas, picture, scale);
     paintheights(canvas, picture, scale);
     painthours(canvas, picture, scale);

@@ -32,6 +32,15 @@ struct LineLook {
     LineStyle style = LineStyle::solid;
 };
 
+/// What fills a shape, and lines rising to the right that mark it where colours can't be told apart.
+struct HatchLook {
+    Rgb filling = 0, lines = 0;
+    double width = 1;  ///< of a line
+    double step = 7;   ///< from line to line along the level
+
+    bool operator==(const HatchLook&) const = default;
+};
+
 /// Which part of a text stands at its place.
 enum class Anchor { left, middle, right };
 
@@ -57,6 +66,9 @@ class Canvas {
 
     /// The same of a shape whose edge a line will cover: it needn't be smooth.
     virtual void fillrough(std::span<const Place> corners, Rgb colour) { fill(corners, colour, 1); }
+
+    /// What lies between a curve, its places from left to right, and the level `foot`. A line will cover the curve.
+    virtual void fillhatched(std::span<const Place> curve, double foot, const HatchLook& look) = 0;
 
     virtual void line(std::span<const Place> places, const LineLook& look) = 0;
 

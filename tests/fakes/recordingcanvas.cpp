@@ -18,6 +18,14 @@ void RecordingCanvas::fill(std::span<const Place> corners, Rgb colour, double) {
     fills.push_back({{corners.begin(), corners.end()}, colour});
 }
 
+void RecordingCanvas::fillhatched(std::span<const Place> curve, double foot, const HatchLook& look) {
+    if (curve.size() < 2) return;
+    Shape shape{{curve.begin(), curve.end()}, look.filling};
+    shape.places.push_back({curve.back().x, foot});
+    shape.places.push_back({curve.front().x, foot});
+    fills.push_back(shape);
+}
+
 void RecordingCanvas::line(std::span<const Place> places, const LineLook& look) {
     lines.push_back({{places.begin(), places.end()}, look.colour});
 }

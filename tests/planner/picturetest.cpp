@@ -187,16 +187,21 @@ TEST(PlanPicture, WindowsAndLightLieBetweenTheirTimes) {
         ASSERT_EQ(level.size(), 1U);
         EXPECT_EQ(level[0].places[0].y, foot);
         for (const bool twilight : {true, false}) {
-            std::vector<std::pair<double, double>> wanted;
+            // What is dark lies between what is light.
+            std::vector<double> edges{drawn.scale.plot.left};
             for (const auto& [begins, ends] : drawn.plan.light(twilight))
-                wanted.emplace_back(drawn.scale.x(begins), drawn.scale.x(ends));
+                edges.insert(edges.end(), {drawn.scale.x(begins), drawn.scale.x(ends)});
+            edges.push_back(drawn.scale.plot.right);
+            std::vector<std::pair<double, double>> wanted;
+            for (std::size_t i = 0; i < edges.size(); i += 2)
+                if (edges[i] < edges[i + 1]) wanted.emplace_back(edges[i], edges[i + 1]);
             std::vector<std::pair<double, double>> painted;
-            for (const auto& each : RecordingCanvas::of(drawn.canvas.fills, twilight ? look.twilight : look.paper))
+            for (const auto& each : RecordingCanvas::of(drawn.canvas.fills, twilight ? look.night : look.twilight))
                 if (each.places.size() == 2 && each.places[0].y == drawn.scale.plot.top &&
                     each.places[1].y == drawn.scale.plot.bottom)
                     painted.emplace_back(each.places[0].x, each.places[1].x);
             EXPECT_EQ(painted, wanted);
-            EXPECT_EQ(wanted.size(), static_cast<std::size_t>(count));
+            EXPECT_EQ(wanted.size(), static_cast<std::size_t>(count) + 1);
         }
     }
 }

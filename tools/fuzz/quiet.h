@@ -61,6 +61,7 @@ struct QuietCanvas : Canvas {
     double textheight(const TextLook& look) const override { return look.size; }
     void fill(const Area&, Rgb) override {}
     void fill(std::span<const Place>, Rgb, double) override {}
+    void fillhatched(std::span<const Place>, double, const HatchLook&) override {}
     void line(std::span<const Place>, const LineLook&) override {}
     void text(Place, const std::string&, const TextLook&) override {}
 };

@@ -3,10 +3,16 @@
 #include <QPaintEngine>
 #include <QPolygonF>
 #include <algorithm>
+#include <array>
 #include <cmath>
+
+#include "platform/qt/hatching.h"
 
 namespace tarvane {
 namespace {
+
+/// Rows: from a hundred on the toolkit calls other threads to help, which takes longer than to paint what is narrow.
+constexpr double lowpiece = 40;
 
 QPolygonF polygonof(std::span<const Place> places) {
     QPolygonF polygon;
@@ -14,6 +20,28 @@ QPolygonF polygonof(std::span<const Place> places) {
     for (const Place& each : places)
         polygon << QPointF(each.x, each.y);
     return polygon;
+}
+
+bool higher(const Place& one, const Place& other) {
+    return one.y < other.y;
+}
+
+/// What lies under a curve and between two levels, `top` above `bottom`.
+std::vector<Place> bandunder(std::span<const Place> curve, double top, double bottom) {
+    std::vector<Place> shape;
+    for (std::size_t i = 0; i < curve.size(); ++i) {
+        shape.push_back({curve[i].x, std::clamp(curve[i].y, top, bottom)});
+        if (i + 1 == curve.size()) break;
+        const Place &from = curve[i], &to = curve[i + 1];
+        std::array levels{top, bottom};
+        if (from.y > to.y) std::swap(levels[0], levels[1]);
+        for (const double level : levels)
+            if ((from.y < level) != (to.y < level))
+                shape.push_back({from.x + (to.x - from.x) * (level - from.y) / (to.y - from.y), level});
+    }
+    shape.push_back({curve.back().x, bottom});
+    shape.push_back({curve.front().x, bottom});
+    return shape;
 }
 
 Qt::PenStyle penstyle(LineStyle style) {
@@ -52,15 +80,13 @@ const PainterCanvas::Font& PainterCanvas::fontof(const TextLook& look) const {
     QFont font = font_;
     font.setPixelSize(size);
     font.setBold(look.bold);
-    fonts_.push_back({size, look.bold, font, QFontMetricsF(font), {}});
+    fonts_.push_back({size, look.bold, font, QFontMetricsF(font), textwidthsof(font)});
     return fonts_.back();
 }
 
 double PainterCanvas::textwidth(const std::string& text, const TextLook& look) const {
     const Font& font = fontof(look);
-    const auto known = font.widths.find(text);
-    if (known != font.widths.end()) return known->second;
-    return font.widths[text] = font.metrics.horizontalAdvance(QString::fromStdString(text));
+    return textwidthof(text, font.font, font.widths);
 }
 
 double PainterCanvas::textheight(const TextLook& look) const {
@@ -68,7 +94,12 @@ double PainterCanvas::textheight(const TextLook& look) const {
 }
 
 void PainterCanvas::fill(const Area& area, Rgb colour) {
-    painter_.fillRect(QRectF(area.left, area.top, area.width(), area.height()), QColor::fromRgb(colour));
+    const QRectF whole(area.left, area.top, area.width(), area.height());
+    if (!onscreen_) return painter_.fillRect(whole, QColor::fromRgb(colour));
+    // Between whole pixels: neighbours meet, and what isn't smoothed is far quicker.
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.fillRect(whole, QColor::fromRgb(colour));
+    painter_.setRenderHint(QPainter::Antialiasing);
 }
 
 void PainterCanvas::fill(std::span<const Place> corners, Rgb colour, double opacity) {
@@ -85,6 +116,31 @@ void PainterCanvas::fillrough(std::span<const Place> corners, Rgb colour) {
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
+void PainterCanvas::fillhatched(std::span<const Place> curve, double foot, const HatchLook& look) {
+    if (curve.size() < 2) return;
+    painter_.setPen(Qt::NoPen);
+    if (!onscreen_) {
+        painter_.setBrush(QColor::fromRgb(look.filling));
+        painter_.drawPolygon(polygonof(bandunder(curve, -HUGE_VAL, foot)));
+        painter_.setPen(QPen(QColor::fromRgb(look.lines), look.width, Qt::SolidLine, Qt::FlatCap));
+        return painter_.drawLines(hatchlines(curve, foot, look.step));
+    }
+    const double pixels = painter_.deviceTransform().m11();
+    if (!hatch_ || hatch_->look != look) hatch_ = {look, hatchbrush(look, pixels)};
+    painter_.setBrush(hatch_->brush);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    // In pieces a few tides wide: the toolkit's time for a shape grows with the square of its slopes. And in low ones.
+    const double tall = lowpiece / pixels;
+    constexpr std::size_t wide = 32;
+    for (std::size_t from = 0; from + 1 < curve.size(); from += wide) {
+        const auto part = curve.subspan(from, std::min(wide + 1, curve.size() - from));
+        const double top = std::min_element(part.begin(), part.end(), higher)->y;
+        for (double bottom = foot; bottom > top; bottom -= tall)
+            painter_.drawPolygon(polygonof(bandunder(part, bottom - tall, bottom)));
+    }
+    painter_.setRenderHint(QPainter::Antialiasing);
+}
+
 /// A grid's lines on a screen lie on whole pixels and needn't be smoothed. False for any other line.
 bool PainterCanvas::levelline(std::span<const Place> places, const LineLook& look) {
     if (places.size() != 2 || look.style != LineStyle::solid || !onscreen_) return false;
@@ -98,11 +154,9 @@ bool PainterCanvas::levelline(std::span<const Place> places, const LineLook& loo
     painter_.setRenderHint(QPainter::Antialiasing, false);
     const QRectF whole(std::round(left - (upright ? width / 2 : 0)), std::round(top - (upright ? 0 : width / 2)),
                        upright ? width : length, upright ? length : width);
-    // In pieces: from a hundred rows on the toolkit calls other threads to help, which takes longer than the line.
-    constexpr double piece = 40;
-    for (double down = 0; down < whole.height(); down += piece)
+    for (double down = 0; down < whole.height(); down += lowpiece)
         painter_.fillRect(
-            QRectF(whole.left(), whole.top() + down, whole.width(), std::min(piece, whole.height() - down)), colour);
+            QRectF(whole.left(), whole.top() + down, whole.width(), std::min(lowpiece, whole.height() - down)), colour);
     painter_.setRenderHint(QPainter::Antialiasing);
     return true;
 }

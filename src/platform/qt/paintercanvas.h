@@ -1,14 +1,16 @@
 // A canvas on the toolkit's painter, whatever that paints on.
 #pragma once
 
+#include <QBrush>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <optional>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "platform/canvas.h"
+#include "platform/qt/textwidths.h"
 
 namespace tarvane {
 
@@ -25,6 +27,7 @@ class PainterCanvas : public Canvas {
     void fill(const Area& area, Rgb colour) override;
     void fill(std::span<const Place> corners, Rgb colour, double opacity) override;
     void fillrough(std::span<const Place> corners, Rgb colour) override;
+    void fillhatched(std::span<const Place> curve, double foot, const HatchLook& look) override;
     void line(std::span<const Place> places, const LineLook& look) override;
     void text(Place place, const std::string& text, const TextLook& look) override;
 
@@ -34,7 +37,11 @@ class PainterCanvas : public Canvas {
         bool bold;
         QFont font;
         QFontMetricsF metrics;
-        mutable std::unordered_map<std::string, double> widths;  ///< measured so far: measuring is dear
+        TextWidths& widths;
+    };
+    struct Hatch {
+        HatchLook look;
+        QBrush brush;
     };
     bool levelline(std::span<const Place> places, const LineLook& look);
     const Font& fontof(const TextLook& look) const;
@@ -42,6 +49,7 @@ class PainterCanvas : public Canvas {
     QPainter& painter_;
     QFont font_;
     bool onscreen_ = false;            ///< and not on paper
+    std::optional<Hatch> hatch_;       ///< the one that was last asked for
     mutable std::vector<Font> fonts_;  ///< those that were asked for
 };
 

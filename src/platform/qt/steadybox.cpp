@@ -1,0 +1,40 @@
+#include "platform/qt/steadybox.h"
+
+#include <QEvent>
+#include <QStyle>
+#include <algorithm>
+
+namespace tarvane {
+
+SteadyBox::SteadyBox(const std::vector<QLabel*>& texts, int least) : labels(texts), leastwidth(least) {
+    for (QLabel* label : labels)
+        label->setParent(this);
+    lay();
+}
+
+void SteadyBox::lay() {
+    const int wide = std::max(width(), leastwidth);
+    const int gap = style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing, nullptr, this);
+    int top = 0;
+    for (QLabel* label : labels) {
+        const int tall = std::max(label->heightForWidth(wide), label->minimumHeight());
+        const int room = label == labels.back() ? std::max(tall, height() - top) : tall;
+        label->setGeometry(0, top, wide, room);
+        top += tall + gap;
+    }
+    if (top - gap == needed) return;
+    needed = top - gap;
+    updateGeometry();
+}
+
+void SteadyBox::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    lay();
+}
+
+bool SteadyBox::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) lay();
+    return QWidget::event(event);
+}
+
+}  // namespace tarvane

@@ -1,5 +1,5 @@
 // Labels of a picture, of which none may lie on another: the more important take their places first, and
-// one that finds none is left out. Must not paint.
+// one that finds none is left out. Must not know what they tell.
 #pragma once
 
 #include <optional>

@@ -58,7 +58,7 @@ std::optional<PlanPicture> PlanPictureBox::picture() const {
 void PlanPictureBox::paintstill(Canvas& canvas) {
     if (const auto shown = picture()) {
         scale = scaleof(*shown, canvas);
-        paintplan(canvas, *shown, scale);
+        worded = paintplan(canvas, *shown, scale);
         return;
     }
     canvas.fill(Area{0, 0, double(width()), double(height())}, look->paper);
@@ -72,9 +72,9 @@ void PlanPictureBox::paintEvent(QPaintEvent*) {
     const auto shown = picture();
     if (!shown) return;
     PainterCanvas canvas(painter, font());
-    paintnow(canvas, *shown, scale, services.clock.moment());
+    paintnow(canvas, *shown, scale, worded, services.clock.moment());
     if (!view.cursor) return;
-    paintcursor(canvas, *shown, scale, *view.cursor,
+    paintcursor(canvas, *shown, scale, worded, *view.cursor,
                 bubblelines(momenttext(*view.plan, *view.cursor, shown->passage, services.locale)));
 }
 

@@ -49,6 +49,7 @@ class PlanPictureBox : public ZoomBox {
     PlanView& view;
     const Services services;
     PlanScale scale;
+    Worded worded;  ///< of what is painted
     std::optional<double> draggedfrom;
     bool bymouse = false;  ///< the cursor follows the mouse
 };

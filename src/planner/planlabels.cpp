@@ -4,7 +4,6 @@
 #include <cmath>
 #include <numeric>
 
-#include "paint/labels.h"
 #include "planner/plantexts.h"
 
 namespace tarvane {
@@ -127,9 +126,9 @@ bool overlap(const Area& one, const Area& other) {
 }
 
 /// Where nothing is free, the first place that no other level's name has: the waters' labels there give way.
-Area forced(const std::vector<Area>& choices, const std::vector<Area>& names) {
+Area forced(const std::vector<Area>& choices, const std::vector<PlanLabels::LevelName>& names) {
     const auto place = std::find_if(choices.begin(), choices.end(), [&](const Area& each) {
-        return std::none_of(names.begin(), names.end(), [&](const Area& name) { return overlap(each, name); });
+        return std::none_of(names.begin(), names.end(), [&](const auto& name) { return overlap(each, name.area); });
     });
     return place == choices.end() ? choices.front() : *place;
 }
@@ -165,25 +164,25 @@ struct NamedPlot {
     const PlanScale& scale;
     const std::vector<Level>& levels;
     CurveColumns curve;
-    std::vector<Area> names = {};  ///< painted already
 };
 
-/// Paints a level's name, which is always told: over the curve where nothing else is left.
-void paintlevelname(Canvas& canvas, NamedPlot& plot, const Level& level, LabelPlaces& places) {
-    const TextLook look = textlook(plot.picture, plot.picture.look.needed, Anchor::left, true);
+TextLook namelook(const PlanPicture& picture) {
+    return textlook(picture, picture.look.needed, Anchor::left, true);
+}
+
+/// Where a level's name stands, which is always told: on the curve where nothing else is left.
+Area levelplace(const Canvas& canvas, const NamedPlot& plot, const Level& level,
+                const std::vector<PlanLabels::LevelName>& names, LabelPlaces& places) {
+    const TextLook look = namelook(plot.picture);
     const double width = canvas.textwidth(level.name, look), tall = canvas.textheight(look);
     const std::vector<Area> all = levelplaces(plot.scale, level, width, tall);
     std::vector<Area> own = all;
     std::erase_if(own, [&](const Area& each) { return nearother(each, level, plot.levels); });
     std::optional<Area> found = places.takefirst(inorder(own, level, tall, plot.curve));
     if (!found) found = places.takefirst(inorder(all, level, tall, plot.curve));
-    const Area area = found ? *found : forced(all, plot.names);
+    const Area area = found ? *found : forced(all, names);
     if (!found) places.take(area);
-    const std::array corners{Place{area.left, area.top}, Place{area.right, area.top}, Place{area.right, area.bottom},
-                             Place{area.left, area.bottom}};
-    canvas.fill(corners, plot.picture.look.paper, 0.8);
-    canvas.text({area.left, area.top}, level.name, look);
-    plot.names.push_back(area);
+    return area;
 }
 
 /// How windows' times are told: in one line or two, under the level's line or over it. A label without lines has no
@@ -309,24 +308,43 @@ std::vector<Label> placelabels(const Canvas& canvas, const PlanPicture& picture,
 
 }  // namespace
 
-void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const CurvePieces& curve) {
+PlanLabels planlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
+                      const CurvePieces& curve) {
     const std::vector<Level> levels = levelsof(picture, scale);
+    LabelPlaces places(canvas, scale.plot);
+    PlanLabels found{placelabels(canvas, picture, scale, levels, places), {}};
+    if (levels.empty()) return found;
+    const NamedPlot plot{picture, scale, levels, CurveColumns(scale, curve)};
     for (const Level& each : levels) {
+        const Area area = levelplace(canvas, plot, each, found.names, places);
+        found.names.push_back({area, each.name});
+        std::erase_if(found.labels, [&](const Label& label) { return overlap(areaof(canvas, label), area); });
+    }
+    return found;
+}
+
+std::vector<Area> areasof(const Canvas& canvas, const PlanLabels& labels) {
+    std::vector<Area> areas;
+    for (const Label& each : labels.labels)
+        areas.push_back(areaof(canvas, each));
+    for (const PlanLabels::LevelName& each : labels.names)
+        areas.push_back(each.area);
+    return areas;
+}
+
+void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const PlanLabels& labels) {
+    for (const Level& each : levelsof(picture, scale)) {
         if (!each.inside()) continue;
         const std::array line{Place{scale.plot.left, each.y}, Place{scale.plot.right, each.y}};
         canvas.line(line, {picture.look.needed, 1.5 * pictureparts::strokeof(picture), LineStyle::dashed});
     }
-    LabelPlaces places(canvas, scale.plot);
-    std::vector<Label> labels = placelabels(canvas, picture, scale, levels, places);
-    if (!levels.empty()) {
-        NamedPlot plot{picture, scale, levels, CurveColumns(scale, curve)};
-        for (const Level& each : levels) {
-            paintlevelname(canvas, plot, each, places);
-            std::erase_if(labels,
-                          [&](const Label& label) { return overlap(areaof(canvas, label), plot.names.back()); });
-        }
+    for (const auto& [area, name] : labels.names) {
+        const std::array corners{Place{area.left, area.top}, Place{area.right, area.top},
+                                 Place{area.right, area.bottom}, Place{area.left, area.bottom}};
+        canvas.fill(corners, picture.look.paper, 0.8);
+        canvas.text({area.left, area.top}, name, namelook(picture));
     }
-    for (const Label& each : labels)
+    for (const Label& each : labels.labels)
         paintlabel(canvas, each);
 }
 

@@ -4,13 +4,31 @@
 
 #include <algorithm>
 
+#include "paint/labels.h"
 #include "planner/planpicture.h"
 
 namespace tarvane {
 
+/// The words in the plot, each in its place.
+struct PlanLabels {
+    struct LevelName {
+        Area area;
+        std::string name;
+    };
+    std::vector<Label> labels;  ///< of waters and windows
+    std::vector<LevelName> names;
+};
+
 /// What gives way to what: windows' times to waters, the lesser water to the greater; levels' names are always told.
 /// `curve` is that of the part shown.
-void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const CurvePieces& curve);
+PlanLabels planlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
+                      const CurvePieces& curve);
+
+/// What they cover.
+std::vector<Area> areasof(const Canvas& canvas, const PlanLabels& labels);
+
+/// With the levels' lines behind them.
+void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const PlanLabels& labels);
 
 /// What the parts of a picture have in common.
 namespace pictureparts {

@@ -142,7 +142,22 @@ std::vector<DayHead> dayheads(const PlanPicture& picture, const PlanScale& scale
     return heads;
 }
 
-void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+/// From head to foot of the plot, but for where words stand.
+void upright(Canvas& canvas, const PlanScale& scale, double x, const Worded& worded, const LineLook& look) {
+    Worded across;
+    for (const Area& each : worded)
+        if (each.left < x && x < each.right) across.push_back(each);
+    std::sort(across.begin(), across.end(), [](const Area& one, const Area& other) { return one.top < other.top; });
+    across.push_back({x, scale.plot.bottom, x, scale.plot.bottom});
+    double top = scale.plot.top;
+    for (const Area& each : across) {
+        const std::array piece{Place{x, top}, Place{x, each.top}};
+        if (top < each.top) canvas.line(piece, look);
+        top = std::max(top, each.bottom);
+    }
+}
+
+void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded) {
     const double line = canvas.textheight(textlook(picture, 0)), radius = picture.textsize * 0.42;
     const double top = scale.plot.top - 2 * line - inset;
     canvas.fill(Area{scale.plot.left, top, scale.plot.right, scale.plot.top}, picture.look.band);
@@ -181,8 +196,7 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         const std::array edge{Place{head.right, top}, Place{head.right, scale.plot.top}};
         canvas.line(edge, {picture.look.grid, 1});
         // Of the day, not of the hour: some days begin without a midnight.
-        const std::array start{Place{head.left, scale.plot.top}, Place{head.left, scale.plot.bottom}};
-        canvas.line(start, {picture.look.faint, 1});
+        upright(canvas, scale, head.left, worded, {picture.look.faint, 1});
     }
 }
 
@@ -224,7 +238,10 @@ void painttrustline(Canvas& canvas, const PlanPicture& picture, double from) {
 
 }  // namespace
 
-void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+Worded paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    const CurvePieces curve = curvepieces(picture, scale, scale.from, scale.to);
+    const PlanLabels labels = planlabels(canvas, picture, scale, curve);
+    const Worded worded = areasof(canvas, labels);
     canvas.fill(picture.area, picture.look.paper);
     if (!picture.title.empty()) {
         const TextLook look{picture.look.text, picture.textsize * 1.25, true, Anchor::left};
@@ -232,29 +249,26 @@ void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scal
         painttrustline(canvas, picture, scale.plot.left + canvas.textwidth(picture.title, look));
     }
     paintdark(canvas, picture, scale);
-    paintheads(canvas, picture, scale);
+    paintheads(canvas, picture, scale, worded);
     paintheights(canvas, picture, scale);
     painthours(canvas, picture, scale);
     paintseabed(canvas, picture, scale);
     paintwindows(canvas, picture, scale);
-    const CurvePieces curve = curvepieces(picture, scale, scale.from, scale.to);
     paintcurve(canvas, picture, scale, curve);
-    paintplanlabels(canvas, picture, scale, curve);
+    paintplanlabels(canvas, picture, scale, labels);
+    return worded;
 }
 
-void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment now) {
+void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded, Moment now) {
     if (now < scale.from || now > scale.to) return;
-    const double x = scale.x(now);
-    const std::array places{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
-    canvas.line(places, {picture.look.now, 1.5 * strokeof(picture)});
+    upright(canvas, scale, scale.x(now), worded, {picture.look.now, 1.5 * strokeof(picture)});
 }
 
-void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment at,
+void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded, Moment at,
                  const std::vector<std::string>& words) {
     if (at < scale.from || at > scale.to) return;
     const double x = scale.x(at), radius = picture.textsize / 3;
-    const std::array line{Place{x, scale.plot.top}, Place{x, scale.plot.bottom}};
-    canvas.line(line, {picture.look.cursor, strokeof(picture)});
+    upright(canvas, scale, x, worded, {picture.look.cursor, strokeof(picture)});
     std::vector<Place> dot;
     if (const auto height = picture.plan.height(at))
         for (int i = 0; i < 24; ++i) {

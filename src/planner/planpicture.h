@@ -41,13 +41,17 @@ struct PlanScale {
 /// Measures texts on the canvas, paints nothing.
 PlanScale scaleof(const PlanPicture& picture, const Canvas& canvas);
 
-void paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale);
+/// Where words stand in a plot: upright lines are left out there.
+using Worded = std::vector<Area>;
+
+/// Returns where its words stand.
+Worded paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale);
 
 /// The line of now; nothing where it isn't within the part shown.
-void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment now);
+void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded, Moment now);
 
 /// The cursor, a line with a dot on the curve, and a bubble with the lines of `words`.
-void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, Moment at,
+void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded, Moment at,
                  const std::vector<std::string>& words);
 
 /// The curve from one moment to another, a place a unit of width and at each water, in as many pieces as days without a

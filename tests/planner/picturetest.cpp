@@ -61,7 +61,7 @@ struct Painted {
         picture.to = to;
         canvas = {};
         scale = scaleof(picture, canvas);
-        paintplan(canvas, picture, scale);
+        paintnow(canvas, picture, scale, paintplan(canvas, picture, scale), from + (to - from) / 3);
     }
 
     /// The labels of the plot: all texts within it.
@@ -95,6 +95,16 @@ void expectneat(const Painted& drawn, const std::string& what) {
             // Lines of one label stand a little into each other.
             EXPECT_FALSE(overlap(texts[i].area, texts[j].area, 0.1 * drawn.picture.textsize))
                 << texts[i].text << " on " << texts[j].text << what;
+    // The lines of days and of now strike no word out.
+    const double aside = 0.2 * drawn.picture.textsize;  // lines of one label stand close
+    for (const auto& each : drawn.canvas.lines)
+        if (each.colour == drawn.picture.look.now || each.colour == drawn.picture.look.faint)
+            for (const auto& text : texts) {
+                const Place &top = each.places.front(), &bottom = each.places.back();
+                const bool struck = top.x == bottom.x && text.area.left < top.x && top.x < text.area.right &&
+                                    top.y < text.area.bottom - aside && text.area.top + aside < bottom.y;
+                EXPECT_FALSE(struck) << text.text << what;
+            }
     const Area& all = drawn.picture.area;
     for (const auto& shapes : {drawn.canvas.fills, drawn.canvas.lines})
         for (const auto& each : shapes)

@@ -5,8 +5,11 @@
 #include <QDBusReply>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <clocale>
 #include <optional>
 
@@ -43,6 +46,23 @@ QFont programfont() {
     return QFont(QApplication::font().family(), 9);
 }
 
+/// The toolkit's own frames of boxes to be ticked are darker than the window, which in the dark nobody sees.
+class Style : public QProxyStyle {
+  public:
+    Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element != PE_IndicatorCheckBox || option->palette.color(QPalette::Window).lightness() >= 128) return;
+        painter->save();
+        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        painter->restore();
+    }
+};
+
 /// Whether the desktop asks for dark windows, where it answers that at once; the palette alone doesn't tell it
 /// everywhere.
 std::optional<bool> desktopwish() {
@@ -77,7 +97,7 @@ void setappearance(QApplication& application) {
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("Tarvane Tides");
     QApplication::setApplicationDisplayName(QString());
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new Style);
     QApplication::setPalette(lightpalette());
     QApplication::setFont(programfont());
     loadicons();

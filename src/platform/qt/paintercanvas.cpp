@@ -64,6 +64,7 @@ Qt::PenStyle penstyle(LineStyle style) {
 PainterCanvas::PainterCanvas(QPainter& painter, const QFont& font, double scale) : painter_(painter), font_(font) {
     painter_.save();
     painter_.scale(scale, scale);
+    pixels_ = painter_.deviceTransform().m11();
     onscreen_ = painter_.paintEngine()->type() == QPaintEngine::Raster;
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
@@ -125,12 +126,11 @@ void PainterCanvas::fillhatched(std::span<const Place> curve, double foot, const
         painter_.setPen(QPen(QColor::fromRgb(look.lines), look.width, Qt::SolidLine, Qt::FlatCap));
         return painter_.drawLines(hatchlines(curve, foot, look.step));
     }
-    const double pixels = painter_.deviceTransform().m11();
-    if (!hatch_ || hatch_->look != look) hatch_ = {look, hatchbrush(look, pixels)};
+    if (!hatch_ || hatch_->look != look) hatch_ = {look, hatchbrush(look, pixels_)};
     painter_.setBrush(hatch_->brush);
     painter_.setRenderHint(QPainter::Antialiasing, false);
     // In pieces a few tides wide: the toolkit's time for a shape grows with the square of its slopes. And in low ones.
-    const double tall = lowpiece / pixels;
+    const double tall = lowpiece / pixels_;
     constexpr std::size_t wide = 32;
     for (std::size_t from = 0; from + 1 < curve.size(); from += wide) {
         const auto part = curve.subspan(from, std::min(wide + 1, curve.size() - from));
@@ -149,14 +149,16 @@ bool PainterCanvas::levelline(std::span<const Place> places, const LineLook& loo
     QColor colour = QColor::fromRgb(look.colour);
     colour.setAlphaF(static_cast<float>(std::min(look.width, 1.0)));
     const double width = std::max(std::round(look.width), 1.0);
-    const double left = std::min(places[0].x, places[1].x), top = std::min(places[0].y, places[1].y);
-    const double length = upright ? std::abs(places[0].y - places[1].y) : std::abs(places[0].x - places[1].x);
+    const auto onpixel = [this](double at) { return std::round(at * pixels_) / pixels_; };
+    const auto [left, right] = std::minmax({onpixel(places[0].x), onpixel(places[1].x)});
+    const auto [top, bottom] = std::minmax({onpixel(places[0].y), onpixel(places[1].y)});
     painter_.setRenderHint(QPainter::Antialiasing, false);
-    const QRectF whole(std::round(left - (upright ? width / 2 : 0)), std::round(top - (upright ? 0 : width / 2)),
-                       upright ? width : length, upright ? length : width);
-    for (double down = 0; down < whole.height(); down += lowpiece)
+    const QRectF whole = upright ? QRectF(onpixel(left - width / 2), top, width, bottom - top)
+                                 : QRectF(left, onpixel(top - width / 2), right - left, width);
+    const double tall = lowpiece / pixels_;
+    for (double down = 0; down < whole.height(); down += tall)
         painter_.fillRect(
-            QRectF(whole.left(), whole.top() + down, whole.width(), std::min(lowpiece, whole.height() - down)), colour);
+            QRectF(whole.left(), whole.top() + down, whole.width(), std::min(tall, whole.height() - down)), colour);
     painter_.setRenderHint(QPainter::Antialiasing);
     return true;
 }

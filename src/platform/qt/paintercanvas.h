@@ -48,6 +48,7 @@ class PainterCanvas : public Canvas {
 
     QPainter& painter_;
     QFont font_;
+    double pixels_ = 1;                ///< a unit's
     bool onscreen_ = false;            ///< and not on paper
     std::optional<Hatch> hatch_;       ///< the one that was last asked for
     mutable std::vector<Font> fonts_;  ///< those that were asked for

@@ -1,0 +1,128 @@
+#include "platform/qt/paintercanvas.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QVBoxLayout>
+#include <cmath>
+#include <numbers>
+
+#include "platform/qt/hatching.h"
+#include "platform/qt/steadybox.h"
+
+namespace tarvane {
+namespace {
+
+constexpr HatchLook look{0x00FF00, 0x000000, 1, 7};
+constexpr double foot = 280;
+
+/// Steep tides, many of them beyond the pieces in which they are painted.
+std::vector<Place> tides() {
+    std::vector<Place> curve;
+    for (double x = 5; x <= 395; x += 1)
+        curve.push_back({x, 150 + 120 * std::sin(x / 6)});
+    return curve;
+}
+
+TEST(PainterCanvas, HatchedShapesAreWholeAtEveryScale) {
+    const std::vector<Place> curve = tides();
+    for (const double scale : {1.0, 1.25, 2.0, 3.0}) {
+        QImage image(static_cast<int>(400 * scale), static_cast<int>(300 * scale), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        {
+            QPainter painter(&image);
+            PainterCanvas canvas(painter, QFont(), scale);
+            canvas.fillhatched(curve, foot, look);
+        }
+        const double near = 2;  // units: its edge is the curve's
+        double lines = 0, inside = 0;
+        for (int row = 0; row < image.height(); ++row)
+            for (int column = 0; column < image.width(); ++column) {
+                const double x = (column + 0.5) / scale, y = (row + 0.5) / scale;
+                double top = HUGE_VAL, high = HUGE_VAL;
+                for (double at = x - near; at <= x + near; at += near / 2) {
+                    const double edge = at < 5 || at > 395 ? HUGE_VAL : 150 + 120 * std::sin(at / 6);
+                    high = std::min(high, edge);
+                    top = at == x - near ? edge : std::max(top, edge);
+                }
+                const QColor seen = image.pixelColor(column, row);
+                if (y > top + near && y < foot - near) {
+                    ++inside;
+                    lines += 1 - seen.greenF();
+                    ASSERT_EQ(seen.red(), 0) << x << ", " << y << " at " << scale;
+                } else if (y < high - near || y > foot + near) {
+                    ASSERT_EQ(seen, QColor(Qt::white)) << x << ", " << y << " at " << scale;
+                }
+            }
+        int met = 0;
+        bool before = false;
+        for (int column = static_cast<int>(5 * scale); column < 395 * scale; ++column) {
+            const bool line = image.pixelColor(column, static_cast<int>(276 * scale)).greenF() < 0.6;
+            met += line && !before;
+            before = line;
+        }
+        EXPECT_NEAR(met, 390 / 7.0, 2) << scale;
+        // The toolkit's thinnest lines are thinner than asked for.
+        EXPECT_GT(lines / inside, 0.9 / 7) << scale;
+        EXPECT_LT(lines / inside, 1.1 * std::numbers::sqrt2 / 7) << scale;
+    }
+}
+
+TEST(PainterCanvas, LinesThatHatchLieWithinTheShapeAndMeetInTheNext) {
+    const std::vector<Place> curve = tides();
+    const QList<QLineF> lines = hatchlines(curve, foot, 7);
+    ASSERT_GT(lines.size(), 100);
+    for (const QLineF& line : lines) {
+        for (const QPointF& each : {line.p1(), line.p2(), line.center()}) {
+            EXPECT_NEAR(std::remainder(each.x() + each.y(), 7), 0, 1e-6);
+            EXPECT_GE(each.y(), 150 + 120 * std::sin(each.x() / 6) - 3);
+            EXPECT_LE(each.y(), foot + 1e-6);
+        }
+    }
+}
+
+/// Counts how often a layout is asked for anew.
+struct Outside : QWidget {
+    int asked = 0;
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest) ++asked;
+        return QWidget::event(event);
+    }
+};
+
+void settle() {
+    for (int i = 0; i < 3; ++i)
+        QCoreApplication::processEvents();
+}
+
+TEST(SteadyBox, OnlyAnotherHeightIsTold) {
+    Outside outside;
+    auto *first = new QLabel, *last = new QLabel;
+    first->setWordWrap(true);
+    last->setWordWrap(true);
+    auto* box = new SteadyBox({first, last}, 100);
+    auto* rows = new QVBoxLayout(&outside);
+    rows->addWidget(box);
+    rows->addStretch(1);
+    first->setText("one line");
+    last->setText("another");
+    outside.resize(300, 400);
+    outside.show();
+    settle();
+    const int before = box->height();
+    outside.asked = 0;
+    last->setText("a third");
+    settle();
+    EXPECT_EQ(outside.asked, 0);
+    first->setText(QString("many words that fill more than a line ").repeated(5));
+    settle();
+    EXPECT_GT(outside.asked, 0);
+    EXPECT_GT(box->height(), before);
+    EXPECT_GE(first->height(), first->heightForWidth(first->width()));
+    EXPECT_GE(last->geometry().top(), first->geometry().bottom());
+    EXPECT_LE(last->geometry().bottom(), box->height());
+}
+
+}  // namespace
+}  // namespace tarvane

@@ -296,8 +296,10 @@ void frmplanner::shownow() {
     const std::string iana = view.known.iana();
     // In the port's own time, whatever clock the days are told by.
     const auto told = [&] {
-        const Plan& today = present.at(view.port, iana, ClockChoice::port, context.services.zones, now);
         const bool another = view.settings.clock != ClockChoice::port;
+        const bool shown = view.plan && !another && now >= view.plan->begins() && now < view.plan->ends();
+        const Plan& today =
+            shown ? *view.plan : present.at(view.port, iana, ClockChoice::port, context.services.zones, now);
         return nowtext(today, now) + (another ? " (" + today.clock().at(now).name + ")" : "");
     };
     lblNow->setText(screentext(view.whynot.empty() ? told() : view.whynot));

@@ -14,6 +14,7 @@
 #include "files/wholefiles.h"
 #include "mainview/frmtarvane.h"
 #include "mainview/monthcommand.h"
+#include "mainview/plannersteps.h"
 #include "mainview/readouts.h"
 #include "mainview/stepping.h"
 #include "output/yeartides.h"
@@ -170,29 +171,55 @@ void plannerzoom(benchmark::State& state) {
 }
 BENCHMARK(plannerzoom)->Unit(benchmark::kMillisecond);
 
-/// A step of the bottom in the planner's window over 31 days, its table of windows in hand, to what is seen: a sill
-/// that dries 2 m, and a bottom over which there is nearly always water enough. Wanted under 16 ms. What follows, such
-/// as the settings kept, is not timed.
-void plannerstep(benchmark::State& state) {
+/// A change in the planner's window over 31 days, the table of windows in hand, to what is seen: wanted under 16 ms
+/// each. What follows, such as the settings kept, is not timed.
+template <typename Change>
+void plannerchange(benchmark::State& state, const char* bottom, Change change) {
     Bench bench;
     frmplanner window(bench.context);
+    window.onport = [&](std::int16_t number) { chooseport(bench.context, number); };
     window.resize(1366, 740);
-    auto& bottom = *window.fields[static_cast<std::size_t>(PlanField::bottom)];
-    bottom.setText(QString::number(state.range(0)));
+    window.fields[static_cast<std::size_t>(PlanField::bottom)]->setText(bottom);
     window.show();
     showdays(bench.context, window.planview(), window.planview().first, 31);
     window.pages->setCurrentWidget(window.windows);
     QApplication::processEvents();
-    bool up = false;
+    bool odd = false;
     for (auto _ : state) {
-        window.steps[static_cast<std::size_t>(PlanField::bottom)]->onstep((up = !up) ? 1 : -1);
+        change(window, odd = !odd);
         QApplication::sendPostedEvents();
         state.PauseTiming();
         QApplication::processEvents();
         state.ResumeTiming();
     }
 }
-BENCHMARK(plannerstep)->Arg(-2)->Arg(1)->Unit(benchmark::kMillisecond);
+
+void stepbottom(frmplanner& window, bool odd) {
+    window.steps[static_cast<std::size_t>(PlanField::bottom)]->onstep(odd ? 1 : -1);
+}
+
+void choose(QComboBox& box, int row) {
+    box.setCurrentIndex(row);
+    emit box.activated(row);
+}
+
+BENCHMARK_CAPTURE(plannerchange, sill, "-2", stepbottom)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plannerchange, nearlyalways, "1", stepbottom)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plannerchange, day, "-2", [](frmplanner& window, bool odd) {
+    (odd ? window.cmdNextDay : window.cmdPreviousDay)->click();
+})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plannerchange, port, "-2", [](frmplanner& window, bool odd) {
+    choose(*window.cmbPort, odd ? 20 : 30);
+})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plannerchange, clock, "-2", [](frmplanner& window, bool odd) {
+    choose(*window.cmbClock, odd);
+})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plannerchange, daylight, "-2", [](frmplanner& window, bool odd) {
+    choose(*window.cmbDaylight, odd);
+})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plannerchange, page, "-2", [](frmplanner& window, bool odd) {
+    window.pages->setCurrentIndex(odd);
+})->Unit(benchmark::kMillisecond);
 
 /// The map with the ports of all areas, from the whole world to a harbour's approaches: wanted under 16 ms each.
 void mapframe(benchmark::State& state) {

@@ -368,7 +368,8 @@ void frmplanner::gotodate(Date date) {
 }
 
 void frmplanner::stepdays(int days) {
-    gotodate(view.first + std::chrono::days(days));
+    tarvane::stepdays(context, view, days);
+    showplan();
 }
 
 void frmplanner::typedate() {

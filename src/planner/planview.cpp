@@ -140,6 +140,22 @@ void showdays(const MainContext& context, PlanView& view, Date first, int count)
     showwhole(view);
 }
 
+void stepdays(const MainContext& context, PlanView& view, int by) {
+    const bool part = view.plan && (view.from > view.plan->begins() || view.to < view.plan->ends());
+    const Moment from = view.from, to = view.to;
+    showdays(context, view, view.first + days(by), view.settings.days);
+    if (!part || !view.plan) return;
+    const PortClock& clock = view.plan->clock();
+    const auto moved = [&](Moment at) {
+        const Date date = clock.at(at).date;
+        return clock.startof(date + days(by)) + (at - clock.startof(date));
+    };
+    if (moved(from) >= moved(to)) return;
+    view.from = moved(from);
+    view.to = moved(to);
+    keepinside(view);
+}
+
 void showclock(const MainContext& context, PlanView& view, ClockChoice clock) {
     view.settings.clock = clock;
     replan(context, view);

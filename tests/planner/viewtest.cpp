@@ -123,6 +123,24 @@ TEST_F(PlanViewTest, SpansHaveTheHoursOfTheirDays) {
     }
 }
 
+TEST_F(PlanViewTest, AStepOfDaysShowsTheSameHoursOfTheNext) {
+    PlanView view = opened();
+    showdays(context, view, makedate(2026, 10, 23), 4);
+    const PortClock& clock = view.plan->clock();
+    showday(view, makedate(2026, 10, 24));
+    for (const int by : {1, 1, -2}) {
+        const Date date = clock.at(view.from).date + days(by);
+        stepdays(context, view, by);
+        EXPECT_EQ(view.from, clock.startof(date)) << "also over the day of 25 hours";
+        EXPECT_EQ(view.to, clock.startof(date + days(1)));
+    }
+    EXPECT_EQ(view.first, makedate(2026, 10, 23));
+    showwhole(view);
+    stepdays(context, view, 7);
+    EXPECT_EQ(view.from, view.plan->begins());
+    EXPECT_EQ(view.to, view.plan->ends());
+}
+
 TEST_F(PlanViewTest, ThePartShownStaysInside) {
     PlanView view = opened();
     const auto expectinside = [&] {

@@ -37,15 +37,15 @@ void ZoomBox::zoomturned(int turned, QPointF about) {
 
 void ZoomBox::showstill(QPainter& painter) {
     const double ratio = devicePixelRatioF();
-    if (painted.size() != size() * ratio) {
+    if (painted.size() != size() * ratio || painted.devicePixelRatio() != ratio) {
         painted = QPixmap(size() * ratio);
+        painted.setDevicePixelRatio(ratio);
         painted.fill(QColor::fromRgb(look->paper));
         stale = true;
     }
     if (stale) {
-        painted.setDevicePixelRatio(ratio);
         QPainter stillpainter(&painted);
-        PainterCanvas canvas(stillpainter, font());
+        PainterCanvas canvas(stillpainter, font(), 1, &measured);
         paintstill(canvas);
         stale = false;
     }

@@ -7,6 +7,7 @@
 
 #include "paint/colours.h"
 #include "platform/canvas.h"
+#include "platform/qt/textwidths.h"
 
 namespace tarvane {
 
@@ -21,7 +22,8 @@ class ZoomBox : public QWidget {
     /// `step` is how much nearer one click of the wheel or one key goes.
     ZoomBox(const char* name, const char* accessiblename, double step, QWidget* parent);
 
-    /// Paints all that stands still, in the box's logical pixels, over all of the box: what stood there may be there still.
+    /// Paints all that stands still, in the box's logical pixels, over all of the box: what stood there may be there
+    /// still.
     virtual void paintstill(Canvas& canvas) = 0;
 
     /// Shows so many times as little, about a place that stays where it is.
@@ -41,8 +43,9 @@ class ZoomBox : public QWidget {
     const Colours* look;
 
   private:
+    MeasuredTexts measured;
     QPixmap painted;
-    bool stale = true;  ///< and to be painted over
+    bool stale = true;  ///< what is painted has changed: to be painted over
 };
 
 }  // namespace tarvane

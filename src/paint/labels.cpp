@@ -1,17 +1,12 @@
 #include "paint/labels.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tarvane {
 namespace {
 
 constexpr double apart = 2;
 constexpr double linegap = 0.92;  // of a line's height: figures have no descenders
-
-bool overlap(const Area& one, const Area& other) {
-    return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
-}
 
 }  // namespace
 
@@ -69,12 +64,7 @@ void paintlabel(Canvas& canvas, const Label& label) {
     TextLook look = label.look;
     look.anchor = Anchor::middle;
     Place place = label.middle;
-    if (label.behind) {
-        const Area area = areaof(canvas, label);
-        const std::array corners{Place{area.left, area.top}, Place{area.right, area.top},
-                                 Place{area.right, area.bottom}, Place{area.left, area.bottom}};
-        canvas.fill(corners, *label.behind, 0.8);
-    }
+    if (label.behind) canvas.fill(areaof(canvas, label), *label.behind, 0.8);
     for (const std::string& line : label.lines) {
         canvas.text(place, line, look);
         place.y += canvas.textheight(look) * linegap;

@@ -13,11 +13,13 @@ double unwrapped(double hours, double centre) {
     return hours + 24 * std::round((centre - hours) / 24);
 }
 
-/// Whether the sun stands above `altitude` degrees at noon: to 1 degree, for days without a rising and a setting.
-bool upatnoon(double latitude, Date date, double altitude) {
+/// Whether the sun stands above `altitude` degrees at midnight, or as good as: of days without a rising and a setting
+/// it tells those of light.
+bool upatmidnight(double latitude, Date date, double altitude) {
+    constexpr double accuracy = 1;  // degrees, of the declination
     const double turn = 2 * std::numbers::pi * (dayofyear(date) + 10) / 365.25;
     const double declination = -23.44 * std::cos(turn);
-    return 90 - std::abs(latitude - declination) > altitude;
+    return std::abs(latitude + declination) - 90 > altitude - accuracy;
 }
 
 struct Events {
@@ -31,7 +33,7 @@ struct Events {
 void addlight(Stretches& stretches, const Events& events, double latitude, double noon, Date date) {
     constexpr double nearmidnight = 9;  // hours from noon
     const bool rises = events.rise != 0, sets = events.set != 0;
-    if (!rises && !sets && !upatnoon(latitude, date, events.altitude)) return;
+    if (!rises && !sets && !upatmidnight(latitude, date, events.altitude)) return;
     double from = rises ? unwrapped(events.rise, noon - 6) : noon - 12;
     double to = sets ? unwrapped(events.set, noon + 6) : noon + 12;
     if (!sets && rises && from > noon - nearmidnight) to = 2 * noon - from;

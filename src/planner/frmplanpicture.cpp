@@ -114,6 +114,7 @@ void PlanPictureBox::mouseReleaseEvent(QMouseEvent*) {
 
 void PlanPictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
     if (!view.plan || scale.plot.width() <= 0 || event->button() != Qt::LeftButton) return;
+    if (view.from >= view.to) return;
     const Moment at = std::clamp(scale.moment(event->position().x()), view.from, view.to - std::chrono::seconds(1));
     if (onday) onday(view.plan->clock().at(at).date);
 }

@@ -7,15 +7,8 @@
 #include <numeric>
 
 #include "platform/qt/screentext.h"
-#include "platform/qt/textwidths.h"
 
 namespace tarvane {
-namespace {
-
-constexpr std::size_t rowsmeasured = 32;
-
-}  // namespace
-
 PlanTableBox::PlanTableBox(const char* name, const char* accessiblename) {
     setObjectName(QLatin1String(name));
     setAccessibleName(accessiblename);
@@ -48,11 +41,10 @@ void PlanTableBox::showtable(PlanTable table) {
 
 int PlanTableBox::sizeHintForColumn(int column) const {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-    const auto& rows = model_.table.rows;
-    TextWidths& widths = textwidthsof(font());
+    TextWidths& widths = measured_.in(font());
     double widest = 0;
-    for (std::size_t row = 0; row < std::min(rows.size(), rowsmeasured); ++row)
-        widest = std::max(widest, textwidthof(rows[row].cells[static_cast<std::size_t>(column)], font(), widths));
+    for (const PlanTable::Row& row : model_.table.rows)
+        widest = std::max(widest, textwidthof(row.cells[static_cast<std::size_t>(column)], font(), widths));
     return static_cast<int>(std::ceil(widest)) + 2 * margin;
 }
 

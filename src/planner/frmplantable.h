@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "planner/plantexts.h"
+#include "platform/qt/textwidths.h"
 
 namespace tarvane {
 
@@ -22,7 +23,7 @@ class PlanTableBox : public QTableView {
     /// As it is sorted.
     const PlanTable& table() const { return model_.table; }
 
-    /// By the first rows: all are of one form.
+    /// By all rows: times are wider where a clock has changed.
     int sizeHintForColumn(int column) const override;
 
   protected:
@@ -47,6 +48,7 @@ class PlanTableBox : public QTableView {
     void choose(int row);
 
     Model model_;
+    mutable MeasuredTexts measured_;
 };
 
 }  // namespace tarvane

@@ -121,10 +121,6 @@ std::vector<Area> levelplaces(const PlanScale& scale, const Level& level, double
     return places;
 }
 
-bool overlap(const Area& one, const Area& other) {
-    return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
-}
-
 /// Where nothing is free, the first place that no other level's name has: the waters' labels there give way.
 Area forced(const std::vector<Area>& choices, const std::vector<PlanLabels::LevelName>& names) {
     const auto place = std::find_if(choices.begin(), choices.end(), [&](const Area& each) {
@@ -339,9 +335,7 @@ void paintplanlabels(Canvas& canvas, const PlanPicture& picture, const PlanScale
         canvas.line(line, {picture.look.needed, 1.5 * pictureparts::strokeof(picture), LineStyle::dashed});
     }
     for (const auto& [area, name] : labels.names) {
-        const std::array corners{Place{area.left, area.top}, Place{area.right, area.top},
-                                 Place{area.right, area.bottom}, Place{area.left, area.bottom}};
-        canvas.fill(corners, picture.look.paper, 0.8);
+        canvas.fill(area, picture.look.paper, 0.8);
         canvas.text({area.left, area.top}, name, namelook(picture));
     }
     for (const Label& each : labels.labels)

@@ -55,16 +55,20 @@ double heightstep(double permetre, double apart) {
     return step;
 }
 
+constexpr double mostheights = 1000;
+
 void paintheights(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const TextLook look = textlook(picture, picture.look.faint, Anchor::right);
     const double tall = canvas.textheight(look);
     const double step = heightstep(scale.plot.height() / (scale.greatest - scale.least), 2 * tall);
-    for (double count = std::ceil(scale.least / step); count * step <= scale.greatest; ++count) {
-        const double y = scale.y(count * step);
+    const double first = std::ceil(scale.least / step), last = std::floor(scale.greatest / step);
+    if (!(last - first < mostheights)) return;
+    for (int i = 0; i <= static_cast<int>(last - first); ++i) {
+        const double height = (first + i) * step, y = scale.y(height);
         if (y - tall / 2 < scale.plot.top + tall || y + tall / 2 > scale.plot.bottom) continue;
         const std::array places{Place{scale.plot.left, y}, Place{scale.plot.right, y}};
         canvas.line(places, {picture.look.grid, 0.5});
-        std::string text = metres(count * step, step < 1 ? 1 : 0);
+        std::string text = metres(height, step < 1 ? 1 : 0);
         text.resize(text.size() - 2);  // the unit stands at the top
         canvas.text({scale.plot.left - inset, y - tall / 2}, text, look);
     }

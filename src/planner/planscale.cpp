@@ -28,7 +28,8 @@ HeightRange heightsof(const Plan& plan) {
         take(plan.height(at));
     take(plan.height(plan.ends()));
     if (least > greatest) return {};
-    return {least, std::max(greatest, least + 0.1)};
+    // Where heights are out of all measure a range is still to be told from none.
+    return {least, std::max(greatest, least + std::max(0.1, std::abs(least) * 1e-9))};
 }
 
 /// With what the passage asks for, where that is not out of all reach.

@@ -26,6 +26,10 @@ struct Area {
     bool holds(Place place) const { return place.x >= left && place.x <= right && place.y >= top && place.y <= bottom; }
 };
 
+inline bool overlap(const Area& one, const Area& other) {
+    return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
+}
+
 struct LineLook {
     Rgb colour = 0;
     double width = 1;
@@ -36,7 +40,7 @@ struct LineLook {
 struct HatchLook {
     Rgb filling = 0, lines = 0;
     double width = 1;  ///< of a line
-    double step = 7;   ///< from line to line along the level
+    double step = 7;   ///< from line to line along the level; on a screen the nearest that is whole pixels
 
     bool operator==(const HatchLook&) const = default;
 };
@@ -59,9 +63,10 @@ class Canvas {
     virtual double textwidth(const std::string& text, const TextLook& look) const = 0;
     virtual double textheight(const TextLook& look) const = 0;
 
-    virtual void fill(const Area& area, Rgb colour) = 0;
+    /// `opacity` from 0 to 1.
+    virtual void fill(const Area& area, Rgb colour, double opacity = 1) = 0;
 
-    /// A shape by its corners. `opacity` from 0 to 1.
+    /// A shape by its corners.
     virtual void fill(std::span<const Place> corners, Rgb colour, double opacity = 1) = 0;
 
     /// The same of a shape whose edge a line will cover: it needn't be smooth.

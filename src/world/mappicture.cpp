@@ -63,9 +63,7 @@ class MapPainter {
     /// A text of the grid, to be read over land and coast alike.
     void gridnote(Place place, const std::string& text) {
         const double width = canvas_.textwidth(text, small()), height = canvas_.textheight(small());
-        const std::array corners{Place{place.x - 2, place.y}, Place{place.x + width + 2, place.y},
-                                 Place{place.x + width + 2, place.y + height}, Place{place.x - 2, place.y + height}};
-        canvas_.fill(corners, look_.sea, 0.7);
+        canvas_.fill(Area{place.x - 2, place.y, place.x + width + 2, place.y + height}, look_.sea, 0.7);
         note(place, text, small());
     }
 
@@ -212,7 +210,7 @@ void paintpointed(Canvas& canvas, const MapPicture& picture, std::size_t pointed
     const double left = std::clamp(mark.x - wide / 2, 2.0, std::max(2.0, picture.view.width - wide - 2));
     const std::array corners{Place{left, top}, Place{left + wide, top}, Place{left + wide, top + high},
                              Place{left, top + high}, Place{left, top}};
-    canvas.fill(corners, look.band, 1);
+    canvas.fill(Area{left, top, left + wide, top + high}, look.band);
     canvas.line(corners, {look.grid, 1});
     label.middle = {left + wide / 2, top + 4};
     paintlabel(canvas, label);

@@ -10,7 +10,7 @@ double RecordingCanvas::textwidth(const std::string& text, const TextLook& look)
     return static_cast<double>(letters) * look.size * (look.bold ? 0.66 : 0.6);
 }
 
-void RecordingCanvas::fill(const Area& area, Rgb colour) {
+void RecordingCanvas::fill(const Area& area, Rgb colour, double) {
     fills.push_back({{{area.left, area.top}, {area.right, area.bottom}}, colour});
 }
 

@@ -25,7 +25,7 @@ class RecordingCanvas : public Canvas {
 
     double textwidth(const std::string& text, const TextLook& look) const override;
     double textheight(const TextLook& look) const override { return 1.17 * look.size; }
-    void fill(const Area& area, Rgb colour) override;
+    void fill(const Area& area, Rgb colour, double) override;
     void fill(std::span<const Place> corners, Rgb colour, double) override;
     void fillhatched(std::span<const Place> curve, double foot, const HatchLook& look) override;
     void line(std::span<const Place> places, const LineLook& look) override;

@@ -61,7 +61,7 @@ std::vector<RecordingCanvas::Text> painted(const Booklet& booklet, int page, con
     return canvas.texts;
 }
 
-bool overlap(const Area& one, const Area& other) {
+bool collide(const Area& one, const Area& other) {
     constexpr double touching = 0.3;
     return one.left < other.right - touching && other.left < one.right - touching &&
            one.top < other.bottom - touching && other.top < one.bottom - touching;
@@ -77,7 +77,7 @@ void expectlegible(const Booklet& booklet, bool picture = false) {
             for (std::size_t i = 0; i < texts.size(); ++i) {
                 EXPECT_GE(texts[i].look.size * 0.75, 6.5) << texts[i].text;
                 for (std::size_t j = i + 1; j < texts.size(); ++j)
-                    EXPECT_FALSE(overlap(texts[i].area, texts[j].area))
+                    EXPECT_FALSE(collide(texts[i].area, texts[j].area))
                         << booklet.title << ", page " << page << ": " << texts[i].text << " / " << texts[j].text;
             }
         }

@@ -338,13 +338,17 @@ TEST(PlanPicture, OddPortsAndDaysArePainted) {
     wild.MHm2.fill(1e30F);
     HarmonicRecord nowhere = tests::roundport();
     nowhere.PortLat = nowhere.PortLong = NAN;
-    for (const HarmonicRecord& port : {flat, wild, nowhere, HarmonicRecord{}})
+    HarmonicRecord faroff = tests::roundport();
+    faroff.Z0 = 1e30F;
+    for (const HarmonicRecord& port : {flat, wild, nowhere, faroff, HarmonicRecord{}})
         for (const int year : {1, 1989, 1990, 2026, 9999}) {
             Painted drawn(port, makedate(year, 1, 2), 3, 800, 300);
             EXPECT_LT(drawn.canvas.texts.size(), 300U) << year;
             const bool told = drawn.count(drawn.plan.whynot()) == 1;
             const bool curve = !RecordingCanvas::of(drawn.canvas.lines, drawn.picture.look.curve).empty();
             EXPECT_NE(told, curve) << year;
+            drawn.picture.area = {0, 0, 1, 1};
+            drawn.show(drawn.picture.from, drawn.picture.to);
         }
 }
 

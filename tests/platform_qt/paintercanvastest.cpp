@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QSvgGenerator>
 #include <QVBoxLayout>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -27,7 +30,7 @@ std::vector<Place> tides() {
 
 TEST(PainterCanvas, HatchedShapesAreWholeAtEveryScale) {
     const std::vector<Place> curve = tides();
-    for (const double scale : {1.0, 1.25, 2.0, 3.0}) {
+    for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
         QImage image(static_cast<int>(400 * scale), static_cast<int>(300 * scale), QImage::Format_RGB32);
         image.fill(Qt::white);
         {
@@ -62,14 +65,14 @@ TEST(PainterCanvas, HatchedShapesAreWholeAtEveryScale) {
             met += line && !before;
             before = line;
         }
-        EXPECT_NEAR(met, 390 / 7.0, 2) << scale;
+        EXPECT_NEAR(met, 390 * scale / std::round(7 * scale), 2) << scale;
         // The toolkit's thinnest lines are thinner than asked for.
         EXPECT_GT(lines / inside, 0.9 / 7) << scale;
         EXPECT_LT(lines / inside, 1.1 * std::numbers::sqrt2 / 7) << scale;
     }
 }
 
-TEST(PainterCanvas, LinesThatHatchLieWithinTheShapeAndMeetInTheNext) {
+TEST(PainterCanvas, LinesThatHatchLieWithinTheShape) {
     const std::vector<Place> curve = tides();
     const QList<QLineF> lines = hatchlines(curve, foot, 7);
     ASSERT_GT(lines.size(), 100);
@@ -80,6 +83,44 @@ TEST(PainterCanvas, LinesThatHatchLieWithinTheShapeAndMeetInTheNext) {
             EXPECT_LE(each.y(), foot + 1e-6);
         }
     }
+}
+
+TEST(PainterCanvas, DrawingsAreHatchedByLines) {
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&bytes);
+    {
+        QPainter painter(&generator);
+        PainterCanvas canvas(painter, QFont());
+        canvas.fillhatched(tides(), foot, look);
+        canvas.fillhatched({}, foot, look);
+    }
+    EXPECT_EQ(bytes.data().count("<polyline"), hatchlines(tides(), foot, look.step).size());
+    EXPECT_GT(bytes.data().count("fill=\"#00ff00\""), 0);
+}
+
+TEST(PainterCanvas, LevelLinesLieWhereTheyAre) {
+    for (const double scale : {1.0, 1.25, 2.0, 3.0})
+        for (const double width : {1.0, 2.0})
+            for (double at = 20; at < 22; at += 0.1) {
+                QImage image(200, 200, QImage::Format_RGB32);
+                image.fill(Qt::white);
+                {
+                    QPainter painter(&image);
+                    PainterCanvas canvas(painter, QFont(), scale);
+                    canvas.line(std::array{Place{at, 5}, Place{at, 30.3}}, {0x000000, width});
+                }
+                double weight = 0, middle = 0;
+                for (int column = 0; column < image.width(); ++column)
+                    if (image.pixelColor(column, static_cast<int>(20 * scale)) == QColor(Qt::black)) {
+                        ++weight;
+                        middle += column + 0.5;
+                    }
+                EXPECT_NEAR(middle / weight / scale, at, 0.51 / scale + 0.01) << at << " at " << scale << ", " << width;
+                EXPECT_EQ(image.pixelColor(static_cast<int>(at * scale), static_cast<int>(30.3 * scale + 1.5)),
+                          QColor(Qt::white));
+            }
 }
 
 /// Counts how often a layout is asked for anew.
@@ -122,6 +163,11 @@ TEST(SteadyBox, OnlyAnotherHeightIsTold) {
     EXPECT_GE(first->height(), first->heightForWidth(first->width()));
     EXPECT_GE(last->geometry().top(), first->geometry().bottom());
     EXPECT_LE(last->geometry().bottom(), box->height());
+    outside.hide();
+    last->setText(first->text());
+    outside.show();
+    settle();
+    EXPECT_GE(last->height(), last->heightForWidth(last->width())) << "changed while nobody saw it";
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -368,6 +369,16 @@ TEST_F(FrmPlanner, RowsLeadToTheirMomentsHoweverSorted) {
                 }));
             }
     }
+}
+
+TEST(PlanTableBox, NoRowIsCutHoweverFarDown) {
+    PlanTable table{{"Time"}, {}};
+    for (int i = 0; i < 100; ++i)
+        table.rows.push_back({{}, {i < 99 ? "05:44 UT" : "06:44 UT+10"}, {double(i)}, {}});
+    PlanTableBox box("box", "Table");
+    box.horizontalHeader()->setStretchLastSection(false);
+    box.showtable(table);
+    EXPECT_GT(box.columnWidth(0), QFontMetricsF(box.font()).horizontalAdvance("06:44 UT+10"));
 }
 
 TEST_F(FrmPlanner, NightIsKeptAndTheMainWindowClosesIt) {

@@ -137,10 +137,11 @@ void plannerredraw(benchmark::State& state) {
     PlanView view = openplanview(bench.context);
     askquestion(bench.context, view, {"1.9", "0.5", "-2", "", "", "", ""});
     QImage image(1366, 400, QImage::Format_ARGB32_Premultiplied);
+    MeasuredTexts measured;
     for (auto _ : state) {
         showdays(bench.context, view, view.first + std::chrono::days(1), 31);
         QPainter painter(&image);
-        PainterCanvas canvas(painter, QApplication::font());
+        PainterCanvas canvas(painter, QApplication::font(), 1, &measured);
         const PlanPicture picture{.plan = *view.plan,
                                   .locale = bench.context.services.locale,
                                   .look = coloursof(Lighting::day),

@@ -59,7 +59,7 @@ struct QuietCanvas : Canvas {
         return look.size / 2 * static_cast<double>(text.size());
     }
     double textheight(const TextLook& look) const override { return look.size; }
-    void fill(const Area&, Rgb) override {}
+    void fill(const Area&, Rgb, double) override {}
     void fill(std::span<const Place>, Rgb, double) override {}
     void fillhatched(std::span<const Place>, double, const HatchLook&) override {}
     void line(std::span<const Place>, const LineLook&) override {}

@@ -13,7 +13,7 @@ namespace tarvane {
 /// A brush that fills and hatches at once, for images: `pixels` are a unit's.
 QBrush hatchbrush(const HatchLook& look, double pixels);
 
-/// The parts of the lines that lie between a curve, its places from left to right, and the level `foot`.
+/// The parts of the lines that lie between a curve of two places or more, from left to right, and the level `foot`.
 QList<QLineF> hatchlines(std::span<const Place> curve, double foot, double step);
 
 }  // namespace tarvane

@@ -61,7 +61,8 @@ Qt::PenStyle penstyle(LineStyle style) {
 
 }  // namespace
 
-PainterCanvas::PainterCanvas(QPainter& painter, const QFont& font, double scale) : painter_(painter), font_(font) {
+PainterCanvas::PainterCanvas(QPainter& painter, const QFont& font, double scale, MeasuredTexts* measured)
+    : painter_(painter), font_(font), measured_(measured ? *measured : own_) {
     painter_.save();
     painter_.scale(scale, scale);
     pixels_ = painter_.deviceTransform().m11();
@@ -81,7 +82,7 @@ const PainterCanvas::Font& PainterCanvas::fontof(const TextLook& look) const {
     QFont font = font_;
     font.setPixelSize(size);
     font.setBold(look.bold);
-    fonts_.push_back({size, look.bold, font, QFontMetricsF(font), textwidthsof(font)});
+    fonts_.push_back({size, look.bold, font, QFontMetricsF(font), measured_.in(font)});
     return fonts_.back();
 }
 
@@ -94,12 +95,12 @@ double PainterCanvas::textheight(const TextLook& look) const {
     return fontof(look).metrics.height();
 }
 
-void PainterCanvas::fill(const Area& area, Rgb colour) {
-    const QRectF whole(area.left, area.top, area.width(), area.height());
-    if (!onscreen_) return painter_.fillRect(whole, QColor::fromRgb(colour));
+void PainterCanvas::fill(const Area& area, Rgb colour, double opacity) {
+    QColor filling = QColor::fromRgb(colour);
+    filling.setAlphaF(static_cast<float>(opacity));
     // Between whole pixels: neighbours meet, and what isn't smoothed is far quicker.
-    painter_.setRenderHint(QPainter::Antialiasing, false);
-    painter_.fillRect(whole, QColor::fromRgb(colour));
+    painter_.setRenderHint(QPainter::Antialiasing, !onscreen_);
+    painter_.fillRect(QRectF(area.left, area.top, area.width(), area.height()), filling);
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
@@ -148,13 +149,14 @@ bool PainterCanvas::levelline(std::span<const Place> places, const LineLook& loo
     if (!upright && places[0].y != places[1].y) return false;
     QColor colour = QColor::fromRgb(look.colour);
     colour.setAlphaF(static_cast<float>(std::min(look.width, 1.0)));
-    const double width = std::max(std::round(look.width), 1.0);
     const auto onpixel = [this](double at) { return std::round(at * pixels_) / pixels_; };
-    const auto [left, right] = std::minmax({onpixel(places[0].x), onpixel(places[1].x)});
-    const auto [top, bottom] = std::minmax({onpixel(places[0].y), onpixel(places[1].y)});
+    const double width = onpixel(std::max(std::round(look.width), 1.0));
+    const auto [left, right] = std::minmax({places[0].x, places[1].x});
+    const auto [top, bottom] = std::minmax({places[0].y, places[1].y});
+    const QRectF whole = upright
+                             ? QRectF(onpixel(left - width / 2), onpixel(top), width, onpixel(bottom) - onpixel(top))
+                             : QRectF(onpixel(left), onpixel(top - width / 2), onpixel(right) - onpixel(left), width);
     painter_.setRenderHint(QPainter::Antialiasing, false);
-    const QRectF whole = upright ? QRectF(onpixel(left - width / 2), top, width, bottom - top)
-                                 : QRectF(left, onpixel(top - width / 2), right - left, width);
     const double tall = lowpiece / pixels_;
     for (double down = 0; down < whole.height(); down += tall)
         painter_.fillRect(

@@ -16,15 +16,16 @@ namespace tarvane {
 
 class PainterCanvas : public Canvas {
   public:
-    /// The painter's own units become 1/96 inch when they are multiplied by `scale`; `font` gives the family.
-    PainterCanvas(QPainter& painter, const QFont& font, double scale = 1);
+    /// The painter's own units become 1/96 inch when they are multiplied by `scale`; `font` gives the family. What
+    /// texts measure is kept in `measured`, where it is given.
+    PainterCanvas(QPainter& painter, const QFont& font, double scale = 1, MeasuredTexts* measured = nullptr);
     ~PainterCanvas() override;
     PainterCanvas(const PainterCanvas&) = delete;
     PainterCanvas& operator=(const PainterCanvas&) = delete;
 
     double textwidth(const std::string& text, const TextLook& look) const override;
     double textheight(const TextLook& look) const override;
-    void fill(const Area& area, Rgb colour) override;
+    void fill(const Area& area, Rgb colour, double opacity) override;
     void fill(std::span<const Place> corners, Rgb colour, double opacity) override;
     void fillrough(std::span<const Place> corners, Rgb colour) override;
     void fillhatched(std::span<const Place> curve, double foot, const HatchLook& look) override;
@@ -48,8 +49,10 @@ class PainterCanvas : public Canvas {
 
     QPainter& painter_;
     QFont font_;
+    MeasuredTexts own_;  ///< where no other are given
+    MeasuredTexts& measured_;
     double pixels_ = 1;                ///< a unit's
-    bool onscreen_ = false;            ///< and not on paper
+    bool onscreen_ = false;            ///< pixels: a window or an image
     std::optional<Hatch> hatch_;       ///< the one that was last asked for
     mutable std::vector<Font> fonts_;  ///< those that were asked for
 };

@@ -33,7 +33,8 @@ void SteadyBox::resizeEvent(QResizeEvent* event) {
 }
 
 bool SteadyBox::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest) lay();
+    // What changes while it is hidden isn't told.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) lay();
     return QWidget::event(event);
 }
 

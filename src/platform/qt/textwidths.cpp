@@ -1,8 +1,6 @@
 #include "platform/qt/textwidths.h"
 
 #include <QFontMetricsF>
-#include <QString>
-#include <map>
 
 namespace tarvane {
 namespace {
@@ -11,9 +9,8 @@ constexpr std::size_t mosttexts = 20000;
 
 }  // namespace
 
-TextWidths& textwidthsof(const QFont& font) {
-    thread_local std::map<QString, TextWidths> known;
-    TextWidths& widths = known[font.key()];
+TextWidths& MeasuredTexts::in(const QFont& font) {
+    TextWidths& widths = byfont_[font.key()];
     if (widths.size() > mosttexts) widths.clear();
     return widths;
 }

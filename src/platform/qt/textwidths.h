@@ -1,6 +1,9 @@
-// How wide texts are, measured once: measuring is the dearest part of setting labels.
+// How wide texts are on one kind of device, measured once: measuring is the dearest part of setting labels. Must not
+// paint.
 #pragma once
 
+#include <QString>
+#include <map>
 #include <string>
 #include <unordered_map>
 
@@ -10,11 +13,17 @@ QT_END_NAMESPACE
 
 namespace tarvane {
 
-/// Of a text in a font, logical pixels.
+/// Of texts in one font, logical pixels.
 using TextWidths = std::unordered_map<std::string, double>;
 
-/// What this thread has measured in a font, to be kept by reference for as long as one thing is painted.
-TextWidths& textwidthsof(const QFont& font);
+class MeasuredTexts {
+  public:
+    /// What was measured in a font; the reference stays.
+    TextWidths& in(const QFont& font);
+
+  private:
+    std::map<QString, TextWidths> byfont_;
+};
 
 /// In the font whose widths are given.
 double textwidthof(const std::string& text, const QFont& font, TextWidths& widths);

@@ -248,8 +248,10 @@ void frmplanner::showplan() {
 
 void frmplanner::showanswer() {
     picture->redraw();
-    lblNeeded->setText(view.read.refusal.empty() ? screentext(neededtext(view.read.passage, view.known.datum()))
-                                                 : QString());
+    // While an entry is refused, everything shown is of those before it.
+    const QString before = view.refusal.empty() ? "" : "Shown as it was before: ";
+    lblNeeded->setText(
+        view.read.refusal.empty() ? before + screentext(neededtext(view.read.passage, view.known.datum())) : QString());
     tellanswer();
     for (std::size_t i = 0; i < planfields; ++i) {
         const bool refused = !view.refusal.empty() && readquestion(view.question).refused == static_cast<PlanField>(i);

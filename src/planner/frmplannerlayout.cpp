@@ -44,6 +44,13 @@ QLabel* textlabel(const char* name, bool wraps) {
     return label;
 }
 
+/// For so many lines, also while there are fewer.
+void keeproom(QLabel& label, int lines) {
+    label.setText(QString("\n").repeated(lines - 1));
+    label.setMinimumHeight(label.heightForWidth(QWIDGETSIZE_MAX));
+    label.clear();
+}
+
 QHBoxLayout* bare(QHBoxLayout* row) {
     row->setContentsMargins(0, 0, 0, 0);
     return row;
@@ -127,12 +134,12 @@ void frmplanner::buildlayout() {
     parts->setContentsMargins(0, 0, 0, 0);
     parts->setSpacing(0);
     parts->addWidget(area, 1);
-    auto* foot = new QVBoxLayout;
+    // Side by side: a word said moves nothing.
+    auto* foot = new QHBoxLayout;
     foot->setContentsMargins(rows->contentsMargins().left(), 0, rows->contentsMargins().right(),
                              fontMetrics().height() / 4);
-    foot->setSpacing(0);
-    foot->addWidget(lblSaid);
-    foot->addWidget(lblCursor);
+    foot->addWidget(lblCursor, 2);
+    foot->addWidget(lblSaid, 3);
     parts->addLayout(foot);
     setCentralWidget(window);
 }
@@ -240,8 +247,8 @@ QWidget* frmplanner::buildquestion() {
     lblAnswer->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     // What stands above stays where it is, however long they become.
     lblNeeded->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    lblNeeded->setMinimumHeight(lblNeeded->fontMetrics().lineSpacing() * 2);
-    lblAnswer->setMinimumHeight(QFontMetrics(lblAnswer->font()).lineSpacing() * 4);
+    keeproom(*lblNeeded, 2);
+    keeproom(*lblAnswer, 4);
     rows->addWidget(new SteadyBox({lblNeeded, lblAnswer}, fontMetrics().averageCharWidth() * 30), 1);
     return fraQuestion;
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "dates/dateformats.h"
 #include "planner/plantexts.h"
 
 namespace tarvane {
@@ -194,6 +195,20 @@ bool coversother(const PlanPicture& picture, const PlanScale& scale, const Area&
     });
 }
 
+/// A window's times, with their days where the label stands far from what it tells.
+WindowClocks windowtimes(const PlanPicture& picture, const PlanScale& scale, const PlannedWindow& window) {
+    constexpr std::chrono::hours farapart(18);
+    const PortClock& clock = picture.plan.clock();
+    WindowClocks times = windowclocks(clock, window);
+    const bool openbefore = window.window.cutatstart, openafter = window.window.cutatend;
+    const bool beside = openbefore  ? window.closes <= scale.to
+                        : openafter ? window.opens >= scale.from
+                                    : window.closes - window.opens < farapart;
+    if (beside) return times;
+    const auto day = [&](Moment at) { return formatdate(picture.locale, clock.at(at).date, "ddd d "); };
+    return {day(window.opens) + times.opens, day(window.closes) + times.closes};
+}
+
 std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale,
                                 const WindowForm& form) {
     std::vector<Label> labels;
@@ -206,8 +221,7 @@ std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture
         // A window that goes on beyond the plan doesn't open or close at its end.
         const bool openbefore = each.window.cutatstart, openafter = each.window.cutatend;
         if (openbefore && openafter) continue;
-        const std::string first = plainclock(picture.plan.clock(), each.opens);
-        const std::string last = plainclock(picture.plan.clock(), each.closes);
+        const auto [first, last] = windowtimes(picture, scale, each);
         const std::string from = openbefore  ? "until"
                                  : openafter ? "from"
                                              : first + "-",
@@ -215,6 +229,10 @@ std::vector<Label> windowlabels(const Canvas& canvas, const PlanPicture& picture
         const double middle = (scale.x(opens) + scale.x(closes)) / 2;
         Label label{{from + between + until}, look, {middle, top}, 0, picture.look.paper};
         if (!form.oneline) label.lines = {from, until};
+        // The one end that it has is beside its time.
+        const double half = areaof(canvas, label).width() / 2;
+        if (openbefore) label.middle.x = std::max(middle, scale.x(closes) - half);
+        if (openafter) label.middle.x = std::min(middle, scale.x(opens) + half);
         if (!fewdays(scale) && coversother(picture, scale, areaof(canvas, label), each)) label.lines.clear();
         labels.push_back(label);
     }

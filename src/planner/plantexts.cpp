@@ -71,13 +71,14 @@ std::string cutwords(const Window& window) {
 
 std::string windowwords(const Plan& plan, const PlannedWindow& window, const Locale& locale) {
     const ClockTime opens = plan.clock().at(window.opens), closes = plan.clock().at(window.closes);
-    const std::string from = daytext(locale, opens.date) + " " + plainclock(plan.clock(), window.opens),
-                      until = daytext(locale, closes.date) + " " + plainclock(plan.clock(), window.closes);
+    const WindowClocks times = windowclocks(plan.clock(), window);
+    const std::string from = daytext(locale, opens.date) + " " + times.opens,
+                      until = daytext(locale, closes.date) + " " + times.closes;
     if (window.window.cutatstart && !window.window.cutatend) return "until " + until;
     if (window.window.cutatend && !window.window.cutatstart) return "from " + from + " on";
     std::string words = from + " to ";
     if (closes.date != opens.date) words += daytext(locale, closes.date) + " ";
-    return words + plainclock(plan.clock(), window.closes);
+    return words + times.closes;
 }
 
 std::string waterwords(const Plan& plan, const char* name, const std::optional<PlannedWater>& water, Moment now) {
@@ -163,6 +164,14 @@ std::string levelmetres(double height) {
 std::string plainclock(const PortClock& clock, Moment moment) {
     const ClockTime time = clock.at(moment);
     return clocktext(time) + (clockchangeson(clock, time.date) ? " " + time.name : "");
+}
+
+WindowClocks windowclocks(const PortClock& clock, const PlannedWindow& window) {
+    const ClockTime opens = clock.at(window.opens), closes = clock.at(window.closes);
+    const bool named =
+        opens.ahead != closes.ahead || clockchangeson(clock, opens.date) || clockchangeson(clock, closes.date);
+    const auto told = [&](const ClockTime& time) { return clocktext(time) + (named ? " " + time.name : ""); };
+    return {told(opens), told(closes)};
 }
 
 bool clockchangeson(const PortClock& clock, Date date) {

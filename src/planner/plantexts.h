@@ -22,6 +22,12 @@ std::string levelmetres(double height);
 /// A moment's clock time; on a day on which the clock is changed with its name behind it: "01:30 BST".
 std::string plainclock(const PortClock& clock, Moment moment);
 
+/// When a window opens and closes: both with the clock's name where it is changed on the day of either.
+struct WindowClocks {
+    std::string opens, closes;
+};
+WindowClocks windowclocks(const PortClock& clock, const PlannedWindow& window);
+
 /// Whether the clock is changed on a day: it ends with another offset than the day before it.
 bool clockchangeson(const PortClock& clock, Date date);
 

@@ -150,8 +150,9 @@ struct WindowList {
 std::string closewords(const PagePlan& pages, const PlannedWindow& window) {
     const PortClock& clock = pages.plan.clock();
     const Date from = clock.at(window.opens).date, until = clock.at(window.closes).date;
-    const std::string opens = daytext(pages.locale, from) + " " + plainclock(clock, window.opens),
-                      closes = plainclock(clock, window.closes), last = daytext(pages.locale, until);
+    const WindowClocks times = windowclocks(clock, window);
+    const std::string opens = daytext(pages.locale, from) + " " + times.opens, closes = times.closes,
+                      last = daytext(pages.locale, until);
     const bool openbefore = window.window.cutatstart, openafter = window.window.cutatend;
     if (openbefore && !openafter) return "until " + last + " " + closes;
     if (openafter && !openbefore) return "from " + opens + " on";

@@ -102,6 +102,7 @@ class frmplanner : public QMainWindow {
     void gotodate(Date date);
     void typedate();
     void ask();
+    void reveal();
     void chooseport(const QString& text);
     void leaveport();
     void leap(Moment at);

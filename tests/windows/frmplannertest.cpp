@@ -189,6 +189,12 @@ TEST_F(FrmPlanner, LettersLeadToWhatTheyName) {
         QApplication::sendEvent(box, &event);
         EXPECT_EQ(box->currentIndex(), row) << box->objectName().toStdString() << ": nobody has clicked it";
     }
+    planner->area->verticalScrollBar()->setValue(0);
+    field(PlanField::draught).setFocus();
+    type(field(PlanField::draught), "1.7");
+    for (const QWidget* each :
+         {static_cast<QWidget*>(planner->lblAnswer), static_cast<QWidget*>(&field(PlanField::draught))})
+        EXPECT_EQ(each->visibleRegion().boundingRect().height(), each->height()) << "asked and answered in view";
     planner->DTPicker->setFocus();
     type(*planner->DTPicker, "31/2/2026");
     QTest::keyClick(planner->DTPicker, Qt::Key_Return);

@@ -21,7 +21,7 @@ namespace {
 
 constexpr double unitstoinch = 96;
 constexpr int pdfdots = 1200;
-constexpr double margin = 30;  // points; most printers can't reach nearer than half of it
+constexpr double papermargin = 30;  // points; most printers can't reach nearer than half of it
 constexpr double copyscale = 2;
 constexpr double previewshare = 0.85;  // of the screen
 
@@ -44,7 +44,7 @@ QImage imageof(const Drawing& drawing, double scale) {
 QPageLayout layoutof(const Booklet& booklet, Paper paper) {
     return {QPageSize(paper == Paper::letter ? QPageSize::Letter : QPageSize::A4),
             booklet.landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-            {margin, margin, margin, margin},
+            {papermargin, papermargin, papermargin, papermargin},
             QPageLayout::Point};
 }
 

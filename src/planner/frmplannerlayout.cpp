@@ -119,9 +119,10 @@ void frmplanner::buildlayout() {
     auto* rows = new QVBoxLayout(whole);
     rows->addWidget(new FoldingBox(buildports(), builddays(), 1, 0));
     rows->addWidget(lblKept = new KeptNote);
-    rows->addWidget(lblNow);
+    const int leastwidth = fontMetrics().averageCharWidth() * 30;
+    rows->addWidget(new SteadyBox({lblNow}, leastwidth));
     rows->addWidget(split, 1);
-    rows->addWidget(lblFoot);
+    rows->addWidget(new SteadyBox({lblFoot}, leastwidth));
     // Where the screen has less room than all of it needs, the lower part is scrolled to. What is said of a moment or a
     // command stays in view.
     area = named<QScrollArea>("area");

@@ -17,7 +17,8 @@ void SteadyBox::lay() {
     const int gap = style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing, nullptr, this);
     int top = 0;
     for (QLabel* label : labels) {
-        const int tall = std::max(label->heightForWidth(wide), label->minimumHeight());
+        const int wanted = label->wordWrap() ? label->heightForWidth(wide) : label->sizeHint().height();
+        const int tall = std::max(wanted, label->minimumHeight());
         const int room = label == labels.back() ? std::max(tall, height() - top) : tall;
         label->setGeometry(0, top, wide, room);
         top += tall + gap;

@@ -126,7 +126,7 @@ TEST_F(PlanViewTest, SpansHaveTheHoursOfTheirDays) {
 TEST_F(PlanViewTest, AStepOfDaysShowsTheSameHoursOfTheNext) {
     PlanView view = opened();
     showdays(context, view, makedate(2026, 10, 23), 4);
-    const PortClock& clock = view.plan->clock();
+    const PortClock clock = view.plan->clock();
     showday(view, makedate(2026, 10, 24));
     for (const int by : {1, 1, -2}) {
         const Date date = clock.at(view.from).date + days(by);

@@ -315,6 +315,8 @@ void frmplanner::leap(Moment at) {
 
 void frmplanner::tell(const std::string& text) {
     lblSaid->setText(screentext(text));
+    // In the place of the moment under the cursor, which its bubble tells as well: what is said moves nothing.
+    lblCursor->setVisible(text.empty());
     lblSaid->setVisible(!text.empty());
 }
 

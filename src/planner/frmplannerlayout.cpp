@@ -135,12 +135,12 @@ void frmplanner::buildlayout() {
     parts->setContentsMargins(0, 0, 0, 0);
     parts->setSpacing(0);
     parts->addWidget(area, 1);
-    // Side by side: a word said moves nothing.
-    auto* foot = new QHBoxLayout;
+    auto* foot = new QVBoxLayout;
     foot->setContentsMargins(rows->contentsMargins().left(), 0, rows->contentsMargins().right(),
                              fontMetrics().height() / 4);
-    foot->addWidget(lblCursor, 2);
-    foot->addWidget(lblSaid, 3);
+    foot->setSpacing(0);
+    foot->addWidget(lblSaid);
+    foot->addWidget(lblCursor);
     parts->addLayout(foot);
     setCentralWidget(window);
 }

@@ -55,7 +55,7 @@ double heightstep(double permetre, double apart) {
     return step;
 }
 
-constexpr double mostheights = 1000;
+constexpr double mostheights = 1000;  // lines; more would stand in a plot without height
 
 void paintheights(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     const TextLook look = textlook(picture, picture.look.faint, Anchor::right);

@@ -50,10 +50,10 @@ bool followport(const MainContext& context, PlanView& view);
 /// The days and the clock. A span is 1 to 31 days, of years 1 to 9999: no days behind them are shown. All of the plan
 /// is shown then.
 void showdays(const MainContext& context, PlanView& view, Date first, int days);
+void showclock(const MainContext& context, PlanView& view, ClockChoice clock);
 
 /// On or back by days. Of a part that was shown the same hours are shown again, as many days on.
 void stepdays(const MainContext& context, PlanView& view, int days);
-void showclock(const MainContext& context, PlanView& view, ClockChoice clock);
 
 /// The day of the clock in force on which it is now.
 Date todayof(const MainContext& context, const PlanView& view);

@@ -72,6 +72,16 @@ TEST(PainterCanvas, HatchedShapesAreWholeAtEveryScale) {
     }
 }
 
+TEST(PainterCanvas, PlacesOutOfAllMeasureArePaintedSoon) {
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PainterCanvas canvas(painter, QFont());
+    for (const auto& [top, level] : {std::pair{-1e30, 90.0}, {50.0, 1e30}, {-1e30, 1e30}})
+        canvas.fillhatched(std::array{Place{10, top}, Place{90, top}}, level, look);
+    EXPECT_EQ(image.pixelColor(50, 80).red(), 0);
+}
+
 TEST(PainterCanvas, LinesThatHatchLieWithinTheShape) {
     const std::vector<Place> curve = tides();
     const QList<QLineF> lines = hatchlines(curve, foot, 7);

@@ -138,7 +138,10 @@ TEST_F(FrmPlanner, TheFirstClickIntoAFieldSelectsWhatStandsThere) {
     type(field(PlanField::bottom), "2");
     EXPECT_NE(shown(*planner->lblNeeded).find("if it dries 2.0 m, write -2.0"), std::string::npos);
     type(field(PlanField::bottom), "-2");
-    EXPECT_EQ(shown(*planner->lblNeeded), "Bottom dries 2.0 m. Height of tide needed: 4.4 m.");
+    const std::string needed = "Bottom dries 2.0 m. Height of tide needed: 4.4 m.";
+    EXPECT_EQ(shown(*planner->lblNeeded), needed);
+    type(field(PlanField::draught), "x");
+    EXPECT_EQ(shown(*planner->lblNeeded), "Shown as it was before: " + needed);
 }
 
 TEST_F(FrmPlanner, TheQuestionIsAskedByMouseAlone) {
@@ -199,6 +202,7 @@ TEST_F(FrmPlanner, LettersLeadToWhatTheyName) {
     type(*planner->DTPicker, "31/2/2026");
     QTest::keyClick(planner->DTPicker, Qt::Key_Return);
     EXPECT_FALSE(planner->lblSaid->visibleRegion().isEmpty()) << "why is told in view";
+    EXPECT_TRUE(planner->lblCursor->isHidden()) << "in its place";
     QLineEdit* name = planner->cmbPort->lineEdit();
     for (const auto& [text, port, told] : {std::tuple("ceda", "Cedar Head", ""),
                                            {"r", "Cedar Head", "Several ports"},

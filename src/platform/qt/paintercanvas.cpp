@@ -22,6 +22,8 @@ QPolygonF polygonof(std::span<const Place> places) {
     return polygon;
 }
 
+constexpr double tallest = 20000;  // units, of a shape: no picture shows more
+
 bool higher(const Place& one, const Place& other) {
     return one.y < other.y;
 }
@@ -135,7 +137,7 @@ void PainterCanvas::fillhatched(std::span<const Place> curve, double foot, const
     constexpr std::size_t wide = 32;
     for (std::size_t from = 0; from + 1 < curve.size(); from += wide) {
         const auto part = curve.subspan(from, std::min(wide + 1, curve.size() - from));
-        const double top = std::min_element(part.begin(), part.end(), higher)->y;
+        const double top = std::max(std::min_element(part.begin(), part.end(), higher)->y, foot - tallest);
         for (double bottom = foot; bottom > top; bottom -= tall)
             painter_.drawPolygon(polygonof(bandunder(part, bottom - tall, bottom)));
     }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "engine/nearheights.h"
 #include "engine/prediction.h"
 
 namespace tarvane {
@@ -57,60 +58,107 @@ std::optional<double> TideSpan::rate(double hours) const {
     return (heighton(day, hours + aside) - heighton(day, hours - aside)) / (2 * aside);
 }
 
-/// Golden sections, whose accuracy the flatness of a turn bounds at about a tenth of a second.
+/// Brent's method without derivatives: parabolas, and golden sections where those don't close in, as where the form
+/// wraps an angle and the height steps by a tenth of a millimetre. The flatness of a turn bounds it at about a tenth of
+/// a second.
 double TideSpan::turnwithin(std::size_t day, double from, double to, bool high) const {
-    const double ratio = (std::sqrt(5.0) - 1) / 2;
-    const double sign = high ? -1 : 1;
-    double left = to - ratio * (to - from), right = from + ratio * (to - from);
-    double atleft = sign * heighton(day, left), atright = sign * heighton(day, right);
-    while (to - from > turnaccuracy) {
-        if (atleft < atright) {
-            to = std::exchange(right, left);
-            atright = atleft;
-            left = to - ratio * (to - from);
-            atleft = sign * heighton(day, left);
+    struct Trial {
+        double at = 0, depth = 0;
+    };
+    const auto trialat = [&](double at) { return Trial{at, (high ? -1 : 1) * heighton(day, at)}; };
+    constexpr double tolerance = turnaccuracy / 2;
+    const double golden = (3 - std::sqrt(5.0)) / 2;
+    Trial best = trialat((from + to) / 2), second = best, third = best;
+    double step = 0, before = 0;
+    while (std::max(best.at - from, to - best.at) > 2 * tolerance) {
+        const double r = (best.at - second.at) * (best.depth - third.depth);
+        const double q = (best.at - third.at) * (best.depth - second.depth);
+        const double vertex = ((best.at - second.at) * r - (best.at - third.at) * q) / (2 * (q - r));
+        const bool closing = std::abs(vertex) < std::abs(before) / 2;
+        before = step;
+        step = vertex;
+        const double middle = (from + to) / 2, at = best.at + vertex;
+        if (!closing || at <= from || at >= to) {
+            before = best.at < middle ? to - best.at : from - best.at;
+            step = golden * before;
+        } else if (std::min(at - from, to - at) < 2 * tolerance) {
+            step = std::copysign(tolerance, middle - best.at);
+        }
+        if (std::abs(step) < tolerance) step = std::copysign(tolerance, step);
+        const Trial next = trialat(best.at + step);
+        if (next.depth <= best.depth) {
+            (next.at < best.at ? to : from) = best.at;
+            third = std::exchange(second, std::exchange(best, next));
         } else {
-            from = std::exchange(left, right);
-            atleft = atright;
-            right = from + ratio * (to - from);
-            atright = sign * heighton(day, right);
+            (next.at < best.at ? from : to) = next.at;
+            if (next.depth <= second.depth || second.at == best.at) {
+                third = std::exchange(second, next);
+            } else if (next.depth <= third.depth || third.at == best.at || third.at == second.at) {
+                third = next;
+            }
         }
     }
-    return (from + to) / 2;
+    return best.at;
 }
 
-/// Turns among heights `step` apart from `from` on. Between two rows of one direction a pair of turns may hide where
-/// the tide almost stands: there the search goes by minutes.
-void TideSpan::findturns(std::size_t day, double from, double step, const std::vector<double>& heights, bool finer,
-                         std::vector<double>& turns) const {
-    const auto time = [&](std::size_t i) { return from + step * static_cast<double>(i); };
-    const auto rise = [&](std::size_t i) { return heights[i + 1] - heights[i]; };
-    for (std::size_t i = 1; i + 1 < heights.size(); ++i) {
-        const double before = rise(i - 1), after = rise(i);
+/// Heights at even steps, and how far the difference of two may be out.
+struct TideSpan::Samples {
+    double from = 0, step = 0;
+    std::vector<double> heights{};
+    double doubt = 0;
+
+    double time(std::size_t i) const { return from + step * static_cast<double>(i); }
+};
+
+/// From a sample to the next.
+double TideSpan::riseafter(std::size_t day, const Samples& samples, std::size_t i) const {
+    const double rise = samples.heights[i + 1] - samples.heights[i];
+    if (std::abs(rise) > samples.doubt) return rise;
+    return heighton(day, samples.time(i + 1)) - heighton(day, samples.time(i));
+}
+
+/// Turns among samples. Between two rows of one direction a pair of turns may hide where the tide almost stands: there
+/// the search goes by minutes.
+void TideSpan::findturns(std::size_t day, const Samples& samples, bool finer, std::vector<double>& turns) const {
+    const std::size_t count = samples.heights.size();
+    double before = riseafter(day, samples, 0), after = riseafter(day, samples, 1);
+    for (std::size_t i = 1; i + 1 < count; ++i) {
+        const double behind = i + 2 < count ? riseafter(day, samples, i + 1) : 0;
         if ((before > 0 && after <= 0) || (before < 0 && after >= 0)) {
             // Of equal heights on end the turn is at the first.
-            turns.push_back(turnwithin(day, time(i - 1), time(i + 1), before > 0));
-        } else if (finer && i + 2 < heights.size() && before * after > 0 && rise(i + 1) * after > 0 &&
-                   std::abs(after) < std::abs(before) && std::abs(after) < std::abs(rise(i + 1)) &&
-                   4 * std::abs(after) < std::abs(before) + std::abs(rise(i + 1))) {
-            std::vector<double> close;
-            for (double at = time(i - 1); at < time(i + 2) + minute / 2; at += minute)
-                close.push_back(heighton(day, at));
-            findturns(day, time(i - 1), minute, close, false, turns);
+            turns.push_back(turnwithin(day, samples.time(i - 1), samples.time(i + 1), before > 0));
+        } else if (finer && before * after > 0 && behind * after > 0 && std::abs(after) < std::abs(before) &&
+                   std::abs(after) < std::abs(behind) && 4 * std::abs(after) < std::abs(before) + std::abs(behind)) {
+            Samples close{samples.time(i - 1), minute};
+            for (double at = close.from; at < samples.time(i + 2) + minute / 2; at += minute)
+                close.heights.push_back(heighton(day, at));
+            findturns(day, close, false, turns);
         }
+        before = after;
+        after = behind;
     }
+}
+
+/// A day's rows, near enough to tell its turns where its constants allow that.
+TideSpan::Samples TideSpan::rowsof(std::size_t day) const {
+    const HeightInputs& inputs = *inputs_[day];
+    Samples rows{24.0 * static_cast<double>(day) - row, row, std::vector<double>(rowsofday)};
+    std::array<double, rowsofday> times{};
+    for (std::size_t i = 0; i < times.size(); ++i)
+        times[i] = 24 + row * (static_cast<double>(i) - 1);
+    if (keepsnear(inputs)) {
+        rows.doubt = nearheights(inputs, times, rows.heights);
+        return rows;
+    }
+    std::transform(times.begin(), times.end(), rows.heights.begin(),
+                   [&](double time) { return heightformula(inputs, time).height; });
+    return rows;
 }
 
 void TideSpan::splitday(std::size_t day) {
-    std::array<HeightParts, rowsofday> samples;
-    sampleheights(*inputs_[day], 24 - row, row, samples);
-    std::vector<double> heights;
-    heights.reserve(samples.size());
-    for (const HeightParts& sample : samples)
-        heights.push_back(sample.height);
     const double start = 24.0 * static_cast<double>(day), end = start + 24;
     std::vector<double> turns{start};
-    findturns(day, start - row, row, heights, true, turns);
+    findturns(day, rowsof(day), true, turns);
     std::sort(turns.begin() + 1, turns.end());
     std::erase_if(turns, [&](double turn) { return turn < start || turn >= end; });
     turns.push_back(end);

@@ -47,10 +47,13 @@ class TideSpan {
     const char* whynot() const { return whynot_; }
 
   private:
+    struct Samples;
+
     double heighton(std::size_t day, double hours) const;
     void splitday(std::size_t day);
-    void findturns(std::size_t day, double from, double step, const std::vector<double>& heights, bool finer,
-                   std::vector<double>& turns) const;
+    Samples rowsof(std::size_t day) const;
+    double riseafter(std::size_t day, const Samples& samples, std::size_t i) const;
+    void findturns(std::size_t day, const Samples& samples, bool finer, std::vector<double>& turns) const;
     double turnwithin(std::size_t day, double from, double to, bool high) const;
 
     Date first_;

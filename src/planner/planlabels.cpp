@@ -138,23 +138,6 @@ bool nearother(const Area& area, const Level& level, const std::vector<Level>& l
            });
 }
 
-/// The places in the order in which they are wanted: beside the line, within some rows of it, anywhere; of each first
-/// those that don't lie on the curve.
-std::vector<Area> inorder(const std::vector<Area>& all, const Level& level, double tall, const CurveColumns& curve) {
-    constexpr double rows[] = {1, 4, HUGE_VAL};
-    std::vector<Area> wanted;
-    double nearer = -HUGE_VAL;
-    for (const double within : rows) {
-        for (const bool clear : {true, false})
-            for (const Area& each : all) {
-                const double aside = level.inside() ? std::max(each.top - level.y, level.y - each.bottom) : 0;
-                if (aside >= nearer && aside < within * tall && curve.crosses(each) != clear) wanted.push_back(each);
-            }
-        nearer = within * tall;
-    }
-    return wanted;
-}
-
 /// What levels' names are set among.
 struct NamedPlot {
     const PlanPicture& picture;
@@ -162,6 +145,25 @@ struct NamedPlot {
     const std::vector<Level>& levels;
     CurveColumns curve;
 };
+
+/// Takes the first free of the places for a level's name, in the order in which they are wanted: beside its line,
+/// within some rows of it, anywhere; of each first those that don't lie on the curve.
+std::optional<Area> takewanted(const std::vector<Area>& all, const Level& level, double tall, const CurveColumns& curve,
+                               LabelPlaces& places) {
+    constexpr double rows[] = {1, 4, HUGE_VAL};
+    double nearer = -HUGE_VAL;
+    for (const double within : rows) {
+        std::vector<Area> clear, crossed;
+        for (const Area& each : all) {
+            const double aside = level.inside() ? std::max(each.top - level.y, level.y - each.bottom) : 0;
+            if (aside >= nearer && aside < within * tall) (curve.crosses(each) ? crossed : clear).push_back(each);
+        }
+        for (const std::vector<Area>* wanted : {&clear, &crossed})
+            if (const auto found = places.takefirst(*wanted)) return found;
+        nearer = within * tall;
+    }
+    return std::nullopt;
+}
 
 TextLook namelook(const PlanPicture& picture) {
     return textlook(picture, picture.look.needed, Anchor::left, true);
@@ -175,8 +177,8 @@ Area levelplace(const Canvas& canvas, const NamedPlot& plot, const Level& level,
     const std::vector<Area> all = levelplaces(plot.scale, level, width, tall);
     std::vector<Area> own = all;
     std::erase_if(own, [&](const Area& each) { return nearother(each, level, plot.levels); });
-    std::optional<Area> found = places.takefirst(inorder(own, level, tall, plot.curve));
-    if (!found) found = places.takefirst(inorder(all, level, tall, plot.curve));
+    std::optional<Area> found = takewanted(own, level, tall, plot.curve, places);
+    if (!found) found = takewanted(all, level, tall, plot.curve, places);
     const Area area = found ? *found : forced(all, names);
     if (!found) places.take(area);
     return area;

@@ -204,12 +204,12 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     }
 }
 
-void paintwindows(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+void paintwindows(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const CurvePieces& curve) {
     if (!picture.passage || !picture.access) return;
     const double foot = floorof(picture, scale);
     const HatchLook look{picture.look.passable, picture.look.hatch, 0.7 * strokeof(picture)};
     for (const PlannedWindow& window : picture.access->windows)
-        for (const std::vector<Place>& piece : curvepieces(picture, scale, window.opens, window.closes))
+        for (const std::vector<Place>& piece : curvebetween(curve, scale.x(window.opens), scale.x(window.closes)))
             canvas.fillhatched(piece, foot, look);
 }
 
@@ -243,7 +243,7 @@ void painttrustline(Canvas& canvas, const PlanPicture& picture, double from) {
 }  // namespace
 
 Worded paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
-    const CurvePieces curve = curvepieces(picture, scale, scale.from, scale.to);
+    const CurvePieces curve = curvepieces(picture, scale);
     const PlanLabels labels = planlabels(canvas, picture, scale, curve);
     const Worded worded = areasof(canvas, labels);
     canvas.fill(picture.area, picture.look.paper);
@@ -257,7 +257,7 @@ Worded paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
     paintheights(canvas, picture, scale);
     painthours(canvas, picture, scale);
     paintseabed(canvas, picture, scale);
-    paintwindows(canvas, picture, scale);
+    paintwindows(canvas, picture, scale, curve);
     paintcurve(canvas, picture, scale, curve);
     paintplanlabels(canvas, picture, scale, labels);
     return worded;

@@ -54,10 +54,13 @@ void paintnow(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale
 void paintcursor(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded, Moment at,
                  const std::vector<std::string>& words);
 
-/// The curve from one moment to another, a place a unit of width and at each water, in as many pieces as days without a
+/// The curve of the part shown, a place a unit of width and at each water, in as many pieces as days without a
 /// prediction part it.
 using CurvePieces = std::vector<std::vector<Place>>;
-CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to);
+CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale);
+
+/// What of a curve lies between two places across.
+CurvePieces curvebetween(const CurvePieces& curve, double left, double right);
 
 /// A moon of a phase, 0 new to 3 last quarter, as the north sees it.
 void paintmoon(Canvas& canvas, Place middle, double radius, int phase, const Colours& look);

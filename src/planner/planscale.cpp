@@ -85,9 +85,10 @@ PlanScale scaleof(const PlanPicture& picture, const Canvas& canvas) {
     return scale;
 }
 
-CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale, Moment from, Moment to) {
+CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale) {
     std::vector<std::vector<Place>> pieces;
     bool apart = true;
+    const Moment from = scale.from, to = scale.to;
     const auto take = [&](Moment at) {
         // At the end the day behind may go on with a step.
         const auto height = picture.plan.height(std::min(at, to - std::chrono::seconds(1)));
@@ -95,13 +96,10 @@ CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale, Mome
         if (height) pieces.back().push_back({scale.x(at), scale.y(*height)});
         apart = !height;
     };
-    from = std::max(from, scale.from);
-    to = std::min(to, scale.to);
     const auto& waters = picture.plan.waters();
     auto water = std::lower_bound(waters.begin(), waters.end(), from,
                                   [](const PlannedWater& each, Moment moment) { return each.moment < moment; });
-    const double first = scale.x(from), last = scale.x(to);
-    for (double x = first; x < last - leasthop; x += 1) {
+    for (double x = scale.plot.left; x < scale.plot.right - leasthop; x += 1) {
         const Moment at = scale.moment(x);
         // Tops and feet as high and as low as they are, also where a unit is half an hour.
         for (; water != waters.end() && water->moment < at; ++water)
@@ -112,6 +110,25 @@ CurvePieces curvepieces(const PlanPicture& picture, const PlanScale& scale, Mome
         take(water->moment);
     if (from < to) take(to);
     return pieces;
+}
+
+CurvePieces curvebetween(const CurvePieces& curve, double left, double right) {
+    const auto before = [](const Place& each, double x) { return each.x < x; };
+    CurvePieces within;
+    for (const std::vector<Place>& piece : curve) {
+        const auto cut = [&](std::vector<Place>::const_iterator behind, double x) {
+            const Place &from = *(behind - 1), &to = *behind;
+            return Place{x, from.y + (to.y - from.y) * (x - from.x) / (to.x - from.x)};
+        };
+        const auto first = std::lower_bound(piece.begin(), piece.end(), left, before);
+        const auto last = std::lower_bound(first, piece.end(), right, before);
+        std::vector<Place> part;
+        if (first != piece.begin() && first != piece.end()) part.push_back(cut(first, left));
+        part.insert(part.end(), first, last);
+        if (last != piece.begin() && last != piece.end()) part.push_back(cut(last, right));
+        if (part.size() > 1) within.push_back(std::move(part));
+    }
+    return within;
 }
 
 }  // namespace tarvane

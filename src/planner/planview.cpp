@@ -110,11 +110,11 @@ PlanView openplanview(const MainContext& context) {
     view.settings = view.kept = readplansettings(plansettingspath(context.session.folders));
     view.first = context.session.onshow.tidedate;
     takeport(context, view);
-    replan(context, view);
-    showwhole(view);
     view.today = todayof(context, view);
     // Where the port keeps another date than this computer.
-    if (view.first == context.services.clock.now().today) showdays(context, view, view.today, view.settings.days);
+    if (view.first == context.services.clock.now().today) view.first = view.today;
+    replan(context, view);
+    showwhole(view);
     return view;
 }
 
@@ -122,13 +122,10 @@ bool followport(const MainContext& context, PlanView& view) {
     if (asbefore(context.session.settings, view)) return false;
     const Date before = view.today;
     takeport(context, view);
-    replan(context, view);
     // Where the other port keeps another date.
     view.today = todayof(context, view);
-    if (view.first == before && view.today != before) {
-        view.first = view.today;
-        replan(context, view);
-    }
+    if (view.first == before) view.first = view.today;
+    replan(context, view);
     showwhole(view);
     return true;
 }
@@ -164,8 +161,9 @@ void showclock(const MainContext& context, PlanView& view, ClockChoice clock) {
 }
 
 Date todayof(const MainContext& context, const PlanView& view) {
-    if (!view.plan) return context.services.clock.now().today;
-    return view.plan->clock().at(context.services.clock.moment()).date;
+    if (!view.whynot.empty()) return context.services.clock.now().today;
+    const PortClock clock(view.settings.clock, zonehoursof(view.port), view.known.iana(), context.services.zones);
+    return clock.at(context.services.clock.moment()).date;
 }
 
 bool followmidnight(const MainContext& context, PlanView& view) {

@@ -2,6 +2,8 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -9,10 +11,44 @@
 #include "platform/qt/screentext.h"
 
 namespace tarvane {
+namespace {
+
+/// As the style paints it.
+int cellmargin(const QTableView& table) {
+    return table.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &table) + 1;
+}
+
+/// Texts alone where a cell has no more than that: the style takes many times as long for the same.
+class TextCells : public QStyledItemDelegate {
+  public:
+    TextCells(QTableView& table, MeasuredTexts& measured)
+        : QStyledItemDelegate(&table), table_(table), measured_(measured) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QString text = index.data().toString();
+        const int margin = cellmargin(table_), room = option.rect.width() - 2 * margin;
+        const bool marked = option.state & (QStyle::State_Selected | QStyle::State_MouseOver | QStyle::State_HasFocus);
+        const double width = textwidthof(text.toStdString(), option.font, measured_.in(option.font));
+        if (marked || width > room || !(option.state & QStyle::State_Enabled))
+            return QStyledItemDelegate::paint(painter, option, index);
+        painter->setFont(option.font);
+        painter->setPen(option.palette.color(QPalette::Normal, QPalette::Text));
+        const int top = option.rect.top() + (option.rect.height() - option.fontMetrics.height()) / 2;
+        painter->drawText(QPoint(option.rect.left() + margin, top + option.fontMetrics.ascent()), text);
+    }
+
+  private:
+    QTableView& table_;
+    MeasuredTexts& measured_;
+};
+
+}  // namespace
+
 PlanTableBox::PlanTableBox(const char* name, const char* accessiblename) {
     setObjectName(QLatin1String(name));
     setAccessibleName(accessiblename);
     setModel(&model_);
+    setItemDelegate(new TextCells(*this, measured_));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
@@ -40,12 +76,11 @@ void PlanTableBox::showtable(PlanTable table) {
 }
 
 int PlanTableBox::sizeHintForColumn(int column) const {
-    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     TextWidths& widths = measured_.in(font());
     double widest = 0;
     for (const PlanTable::Row& row : model_.table.rows)
         widest = std::max(widest, textwidthof(row.cells[static_cast<std::size_t>(column)], font(), widths));
-    return static_cast<int>(std::ceil(widest)) + 2 * margin;
+    return static_cast<int>(std::ceil(widest)) + 2 * cellmargin(*this);
 }
 
 bool PlanTableBox::event(QEvent* event) {

@@ -24,6 +24,8 @@ bool isfinite(const HeightInputs& inputs) {
 
 TideSpan::TideSpan(const HarmonicRecord& port, Date first, int days) : first_(first) {
     inputs_.reserve(static_cast<std::size_t>(days));
+    sums_.reserve(static_cast<std::size_t>(days) * (rowsofday - 3) + 1);
+    sums_.emplace_back();
     runs_.reserve(static_cast<std::size_t>(days) * 6);
     for (int i = 0; i < days; ++i) {
         const Date date = first + std::chrono::days(i);
@@ -31,9 +33,11 @@ TideSpan::TideSpan(const HarmonicRecord& port, Date first, int days) : first_(fi
         inputs_.push_back(heightinputs(port, monthof(date), yearof(date), dayofyear(date) - 1));
         if (!inputs_.back()) {
             whynot_ = noconstants;
+            sumup(nullptr);
         } else if (!isfinite(*inputs_.back())) {
             inputs_.back().reset();
             whynot_ = brokenrecord;
+            sumup(nullptr);
         } else {
             splitday(inputs_.size() - 1);
         }
@@ -148,6 +152,8 @@ TideSpan::Samples TideSpan::rowsof(std::size_t day) const {
         times[i] = 24 + row * (static_cast<double>(i) - 1);
     if (keepsnear(inputs)) {
         rows.doubt = nearheights(inputs, times, rows.heights);
+        for (double& height : rows.heights)
+            height += inputs.z0level;
         return rows;
     }
     std::transform(times.begin(), times.end(), rows.heights.begin(),
@@ -155,10 +161,43 @@ TideSpan::Samples TideSpan::rowsof(std::size_t day) const {
     return rows;
 }
 
+/// Adds a day's rows, or a day without any.
+void TideSpan::sumup(const Samples* rows) {
+    for (std::size_t i = 1; i + 2 < rowsofday; ++i) {
+        Sums sums = sums_.back();
+        if (rows) {
+            const double from = rows->heights[i], to = rows->heights[i + 1];
+            sums.heights += row * (from + to) / 2;
+            sums.squares += row * (from * from + to * to) / 2;
+        }
+        sums_.push_back(sums);
+    }
+}
+
+TideSpan::Sums TideSpan::sumsat(double hours) const {
+    const double rows = hours / row;
+    const std::size_t before = std::min(static_cast<std::size_t>(rows), sums_.size() - 2);
+    const double part = rows - static_cast<double>(before);
+    const Sums &from = sums_[before], &to = sums_[before + 1];
+    return {std::lerp(from.heights, to.heights, part), std::lerp(from.squares, to.squares, part)};
+}
+
+std::optional<double> TideSpan::spreadrange(double from, double to) const {
+    if (!(from >= 0 && from < to && to <= hours())) return std::nullopt;
+    for (std::size_t day = static_cast<std::size_t>(from / 24); 24.0 * static_cast<double>(day) < to; ++day)
+        if (!inputs_[day]) return std::nullopt;
+    const Sums before = sumsat(from), behind = sumsat(to);
+    const double mean = (behind.heights - before.heights) / (to - from);
+    const double square = (behind.squares - before.squares) / (to - from);
+    return 2 * std::sqrt(2 * std::max(0.0, square - mean * mean));
+}
+
 void TideSpan::splitday(std::size_t day) {
     const double start = 24.0 * static_cast<double>(day), end = start + 24;
     std::vector<double> turns{start};
-    findturns(day, rowsof(day), true, turns);
+    const Samples rows = rowsof(day);
+    sumup(&rows);
+    findturns(day, rows, true, turns);
     std::sort(turns.begin() + 1, turns.end());
     std::erase_if(turns, [&](double turn) { return turn < start || turn >= end; });
     turns.push_back(end);

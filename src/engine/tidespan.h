@@ -40,6 +40,10 @@ class TideSpan {
     /// When the tide stands at `level` within a run that passes it, to a second and better.
     double passing(const TideRun& run, double level) const;
 
+    /// The range of a cosine that spreads its heights as those between two moments are spread, within a thousandth;
+    /// nothing outside the span and about a day without a prediction.
+    std::optional<double> spreadrange(double from, double to) const;
+
     /// Whether the heights by a day's constants, also beyond its ends, have a high or a low water between two moments.
     bool turnsbeyond(std::size_t day, double from, double to, bool high) const;
 
@@ -49,9 +53,16 @@ class TideSpan {
   private:
     struct Samples;
 
+    /// From the span's start on, of the heights and of their squares, times hours.
+    struct Sums {
+        double heights = 0, squares = 0;
+    };
+
     double heighton(std::size_t day, double hours) const;
     void splitday(std::size_t day);
     Samples rowsof(std::size_t day) const;
+    void sumup(const Samples* rows);
+    Sums sumsat(double hours) const;
     double riseafter(std::size_t day, const Samples& samples, std::size_t i) const;
     void findturns(std::size_t day, const Samples& samples, bool finer, std::vector<double>& turns) const;
     double turnwithin(std::size_t day, double from, double to, bool high) const;
@@ -59,6 +70,7 @@ class TideSpan {
     Date first_;
     std::vector<std::optional<HeightInputs>> inputs_;
     std::vector<TideRun> runs_;
+    std::vector<Sums> sums_;  ///< at each ten minutes
     const char* whynot_ = "";
 };
 

@@ -120,11 +120,13 @@ void frmplanner::connectcontrols() {
 
 void frmplanner::fillports() {
     const QSignalBlocker quiet(cmbPort);
-    QStringList names;
-    for (const std::string& name : view.ports)
-        names << screentext(name);
-    cmbPort->clear();
-    cmbPort->addItems(names);
+    if (listed != view.ports) {
+        QStringList names;
+        for (const std::string& name : listed = view.ports)
+            names << screentext(name);
+        cmbPort->clear();
+        cmbPort->addItems(names);
+    }
     cmbPort->setCurrentIndex(view.whynot.empty() ? view.number - 1 : -1);
     // A long name is read from its beginning.
     cmbPort->lineEdit()->home(false);

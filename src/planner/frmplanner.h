@@ -113,6 +113,7 @@ class frmplanner : public QMainWindow {
     PlanView view;
     PresentTide present;
     QTimer *minute = nullptr, *keeplater = nullptr;
+    std::vector<std::string> listed;  ///< the names in the list of ports
     Lighting shownlight = Lighting::day;
     const QPalette ordinarytips = QToolTip::palette();
     bool filling = false;  ///< the controls follow the view, not the user

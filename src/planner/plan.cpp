@@ -81,20 +81,11 @@ std::optional<PlannedWater> lastbarring(const std::vector<PlannedWater>& waters,
     return found == waters.rend() || found->moment < from ? std::nullopt : std::optional(*found);
 }
 
-/// The range of a cosine that spreads the heights as those of the lunar day about a moment are spread: where waters
-/// double or stand, ranges from water to water tell nothing of springs. Nothing beside a day without a prediction.
+/// Of the lunar day about a moment, by all its heights: where waters double or stand, ranges from water to water tell
+/// nothing of springs. Nothing beside a day without a prediction.
 double rangeabout(const TideSpan& tides, double at) {
     constexpr double aside = 12.42;
-    constexpr int samples = 36;
-    double sum = 0, squares = 0;
-    for (int i = 0; i < samples; ++i) {
-        const auto height = tides.height(at - aside + 2 * aside * (i + 0.5) / samples);
-        if (!height) return 0;
-        sum += *height;
-        squares += *height * *height;
-    }
-    const double mean = sum / samples;
-    return 2 * std::sqrt(2 * std::max(0.0, squares / samples - mean * mean));
+    return tides.spreadrange(at - aside, at + aside).value_or(0);
 }
 
 /// The highest of the high waters that belong to one tide: those within a quarter of a lunar day.

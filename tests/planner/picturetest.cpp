@@ -245,6 +245,24 @@ TEST(PlanPicture, CutWindowsAndFarLevelsAreToldAsSuch) {
     EXPECT_EQ(far.count("at most 51.0 m, above the picture"), 1U);
 }
 
+TEST(PlanPicture, WhatLiesBetweenTwoPlacesOfACurveEndsThere) {
+    const CurvePieces curve{{{0, 0}, {10, 100}, {20, 0}}, {{30, 50}, {40, 50}}};
+    const auto words = [&](double left, double right) {
+        std::string text;
+        for (const auto& piece : curvebetween(curve, left, right)) {
+            for (const Place& each : piece)
+                text += std::to_string(std::lround(each.x)) + " " + std::to_string(std::lround(each.y)) + ", ";
+            text += "; ";
+        }
+        return text;
+    };
+    EXPECT_EQ(words(2, 4), "2 20, 4 40, ; ") << "narrower than a step";
+    EXPECT_EQ(words(5, 35), "5 50, 10 100, 20 0, ; 30 50, 35 50, ; ");
+    EXPECT_EQ(words(0, 10), "0 0, 10 100, ; ");
+    EXPECT_EQ(words(-5, 99), "0 0, 10 100, 20 0, ; 30 50, 40 50, ; ");
+    EXPECT_EQ(words(21, 29) + words(-9, -1) + words(50, 60), "");
+}
+
 TEST(PlanPicture, TheCurveEndsAsItsDayDoes) {
     for (int day = 1; day < 15; ++day) {
         const Painted drawn(named("Southampton"), makedate(2026, 1, static_cast<unsigned>(day)), 1, 800, 3000);

@@ -110,6 +110,27 @@ TEST(PainterCanvas, DrawingsAreHatchedByLines) {
     EXPECT_GT(bytes.data().count("fill=\"#00ff00\""), 0);
 }
 
+TEST(PainterCanvas, LinesPassThroughAllTheirPlaces) {
+    std::vector<Place> bent;
+    for (int i = 0; i <= 200; ++i)
+        bent.push_back({100 + 80 * std::cos(i / 40.0), 100 + 80 * std::sin(i / 40.0)});
+    const std::vector<Place> spike{{20, 100}, {40, 100}, {150, 100}, {60, 100}, {60, 130}};
+    for (const double scale : {1.0, 2.0})
+        for (const std::vector<Place>& places : {tides(), bent, spike}) {
+            QImage image(static_cast<int>(400 * scale), static_cast<int>(300 * scale), QImage::Format_RGB32);
+            image.fill(Qt::white);
+            {
+                QPainter painter(&image);
+                PainterCanvas canvas(painter, QFont(), scale);
+                canvas.line(places, {0x000000, 2});
+            }
+            for (const Place& each : std::span(places).subspan(1, places.size() - 2)) {
+                const QPoint at(static_cast<int>((each.x - 0.01) * scale), static_cast<int>(each.y * scale));
+                EXPECT_LT(image.pixelColor(at).lightnessF(), 0.4) << each.x << ", " << each.y << " at " << scale;
+            }
+        }
+}
+
 TEST(PainterCanvas, LevelLinesLieWhereTheyAre) {
     for (const double scale : {1.0, 1.25, 2.0, 3.0})
         for (const double width : {1.0, 2.0})

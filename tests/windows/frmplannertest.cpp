@@ -9,6 +9,7 @@
 #include <QPointingDevice>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <algorithm>
 #include <filesystem>
@@ -389,6 +390,22 @@ TEST(PlanTableBox, NoRowIsCutHoweverFarDown) {
     box.horizontalHeader()->setStretchLastSection(false);
     box.showtable(table);
     EXPECT_GT(box.columnWidth(0), QFontMetricsF(box.font()).horizontalAdvance("06:44 UT+10"));
+}
+
+TEST(PlanTableBox, CellsLookAsTheStylePaintsThem) {
+    PlanTable table{{"Time", "Height", "Kind"}, {}};
+    for (int i = 0; i < 5; ++i)
+        table.rows.push_back({{}, {"05:4" + std::to_string(i) + " BST", "\u22120.4 m", "high water"}, {double(i)}, {}});
+    PlanTableBox box("box", "Table");
+    box.resize(300, 200);
+    box.showtable(table);
+    box.selectRow(1);
+    box.setColumnWidth(1, box.columnWidth(1) / 2);
+    const QImage painted = box.grab().toImage();
+    box.setItemDelegate(new QStyledItemDelegate(&box));
+    EXPECT_EQ(painted, box.grab().toImage());
+    box.setColumnWidth(1, 2 * box.columnWidth(1));
+    EXPECT_NE(painted, box.grab().toImage());
 }
 
 TEST_F(FrmPlanner, NightIsKeptAndTheMainWindowClosesIt) {

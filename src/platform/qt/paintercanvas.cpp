@@ -46,7 +46,7 @@ std::vector<Place> bandunder(std::span<const Place> curve, double top, double bo
     return shape;
 }
 
-constexpr double coarsest = 0.1;  // pixels, between a line on a screen and what is painted of it
+constexpr double coarsest = 0.15;  // pixels, between a line on a screen and what is painted of it
 
 /// Whether the places between two of a line lie on the straight way from one to the other.
 bool isstraight(std::span<const Place> places, std::size_t first, std::size_t last, double tolerance) {

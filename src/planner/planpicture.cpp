@@ -253,11 +253,11 @@ Worded paintplan(Canvas& canvas, const PlanPicture& picture, const PlanScale& sc
         painttrustline(canvas, picture, scale.plot.left + canvas.textwidth(picture.title, look));
     }
     paintdark(canvas, picture, scale);
+    paintwindows(canvas, picture, scale, curve);
     paintheads(canvas, picture, scale, worded);
     paintheights(canvas, picture, scale);
     painthours(canvas, picture, scale);
     paintseabed(canvas, picture, scale);
-    paintwindows(canvas, picture, scale, curve);
     paintcurve(canvas, picture, scale, curve);
     paintplanlabels(canvas, picture, scale, labels);
     return worded;

@@ -106,21 +106,6 @@ void painthours(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     });
 }
 
-/// The longest form of their names that has room in the heads of all days, each `room` wide.
-const char* dayform(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
-    constexpr std::array forms{"dddd d mmmm yyyy", "dddd d mmmm", "ddd d mmm", "ddd d"};
-    const TextLook look = textlook(picture, 0, Anchor::middle, true);
-    const double room = scale.x(scale.from + hours(23)) - scale.plot.left - inset;
-    const Date first = picture.plan.clock().at(scale.from).date;
-    const auto fits = [&](const char* form) {
-        for (Date date = first; date < first + days(7); date += days(1))
-            if (canvas.textwidth(formatdate(picture.locale, date, form), look) > room) return false;
-        return true;
-    };
-    const auto form = std::find_if(forms.begin(), forms.end(), fits);
-    return form == forms.end() ? "d" : *form;
-}
-
 /// What a day is within the springs and neaps and the phases of the moon.
 struct DayHead {
     Date date{};
@@ -161,11 +146,38 @@ void upright(Canvas& canvas, const PlanScale& scale, double x, const Worded& wor
     }
 }
 
+/// The first of some names that has room.
+void paintfirst(Canvas& canvas, Place place, const std::vector<std::string>& names, double room, const TextLook& look) {
+    const auto name = std::find_if(names.begin(), names.end(),
+                                   [&](const auto& each) { return canvas.textwidth(each, look) <= room; });
+    if (name != names.end()) canvas.text(place, *name, look);
+}
+
+/// "Wed", or "W" where not all of a week's have room so.
+std::vector<std::string> weekdaynames(const Canvas& canvas, const PlanPicture& picture, double room) {
+    const TextLook look = textlook(picture, 0, Anchor::middle, true);
+    std::vector<std::string> names;
+    for (int weekday = 0; weekday < 7; ++weekday)
+        names.push_back(picture.locale.dayabbreviation(weekday));
+    const auto widerthanroom = [&](const std::string& name) { return canvas.textwidth(name, look) > room; };
+    if (std::none_of(names.begin(), names.end(), widerthanroom)) return names;
+    for (std::string& name : names) {
+        std::size_t letter = 1;
+        while (letter < name.size() && (static_cast<unsigned char>(name[letter]) & 0xC0U) == 0x80U)
+            ++letter;
+        name.resize(letter);
+    }
+    return names;
+}
+
 void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded) {
     const double line = canvas.textheight(textlook(picture, 0)), radius = picture.textsize * 0.42;
-    const double top = scale.plot.top - 2 * line - inset;
+    const double top = scale.plot.top - scale.headrows() * line - inset;
     canvas.fill(Area{scale.plot.left, top, scale.plot.right, scale.plot.top}, picture.look.band);
-    const std::string form = dayform(canvas, picture, scale);
+    constexpr double tight = 3;  // of the room between two heads, for what is the same in every one
+    const bool ownrow = scale.headrows() > 2;
+    const double whole = scale.x(scale.from + hours(23)) - scale.plot.left - inset;
+    const std::vector<std::string> weekdays = weekdaynames(canvas, picture, whole + tight);
     bool monthless = true;
     for (DayHead& head : dayheads(picture, scale)) {
         const auto weekday = std::chrono::weekday(head.date);
@@ -173,12 +185,11 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         const TextLook look = textlook(picture, picture.look.text, Anchor::middle, weekend);
         const double room = head.right - head.left - inset, middle = (head.left + head.right) / 2;
         // A day that is seen in part may have room for a shorter name alone.
-        for (const std::string& each : {form, std::string("ddd d"), std::string("d")}) {
-            const std::string name = formatdate(picture.locale, head.date, each);
-            if (canvas.textwidth(name, look) > room) continue;
-            canvas.text({middle, top + inset / 2}, name, look);
-            break;
-        }
+        if (ownrow) paintfirst(canvas, {middle, top + inset / 2}, {weekdays[weekday.c_encoding()]}, room + tight, look);
+        std::vector<std::string> names;
+        for (const std::string& each : {scale.dayform, std::string("ddd d"), std::string("d")})
+            names.push_back(formatdate(picture.locale, head.date, each));
+        paintfirst(canvas, {middle, top + inset / 2 + (ownrow ? line : 0)}, names, room, look);
         const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
         // With the moon's room beside it; the short form where the whole word is too wide.
         const double moon = head.phase < 0 ? 0 : 2 * radius + inset / 2;
@@ -187,11 +198,11 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         // Numbers alone need their month somewhere: where nothing else is told, and on a day as wide as it.
         monthless = monthless || dayof(head.date) == 1;
         const std::string month = formatdate(picture.locale, head.date, "mmm");
-        if (form == "d" && monthless && head.tide.empty() && head.phase < 0 && canvas.textwidth(month, small) <= room) {
+        if (ownrow && monthless && head.tide.empty() && head.phase < 0 && canvas.textwidth(month, small) <= room) {
             head.tide = month;
             monthless = false;
         }
-        const double wide = canvas.textwidth(head.tide, small), lower = top + inset / 2 + line;
+        const double wide = canvas.textwidth(head.tide, small), lower = scale.plot.top - inset / 2 - line;
         const bool told = !head.tide.empty() && wide <= room, both = told && moon > 0 && wide + moon <= room;
         if (told) canvas.text({both ? middle - moon / 2 : middle, lower}, head.tide, small);
         if (head.phase >= 0 && room > 2 * radius && (both || !told))

@@ -32,7 +32,10 @@ struct PlanScale {
     Area plot;  ///< within the picture's area
     Moment from, to;
     double least = 0, greatest = 1;  ///< heights at the plot's foot and head
+    std::string dayform;             ///< the longest form of the days' names that has room in all their heads
 
+    /// Of the days: where their names have no room for weekdays, these have a row of their own.
+    int headrows() const { return dayform == "d" ? 3 : 2; }
     double x(Moment moment) const;
     double y(double height) const;
     Moment moment(double x) const;  ///< to the second, also beyond the plot

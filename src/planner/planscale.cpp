@@ -1,7 +1,9 @@
 // Which moment and height lie where in the planner's picture.
 #include <algorithm>
+#include <array>
 #include <cmath>
 
+#include "dates/dateformats.h"
 #include "planner/planpicture.h"
 
 namespace tarvane {
@@ -49,6 +51,20 @@ HeightRange withpassage(HeightRange heights, const std::optional<Passage>& passa
     return heights;
 }
 
+const char* dayform(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
+    constexpr std::array forms{"dddd d mmmm yyyy", "dddd d mmmm", "ddd d mmm", "ddd d"};
+    const TextLook look{.size = picture.textsize, .bold = true};
+    const double room = scale.x(scale.from + std::chrono::hours(23)) - scale.plot.left - scalegap;
+    const Date first = picture.plan.clock().at(scale.from).date;
+    const auto fits = [&](const char* form) {
+        for (Date date = first; date < first + std::chrono::days(7); date += std::chrono::days(1))
+            if (canvas.textwidth(formatdate(picture.locale, date, form), look) > room) return false;
+        return true;
+    };
+    const auto form = std::find_if(forms.begin(), forms.end(), fits);
+    return form == forms.end() ? "d" : *form;
+}
+
 }  // namespace
 
 double PlanScale::x(Moment moment) const {
@@ -73,9 +89,10 @@ PlanScale scaleof(const PlanPicture& picture, const Canvas& canvas) {
     scale.to = picture.to;
     const double title =
         picture.title.empty() ? 0 : canvas.textheight({.size = picture.textsize * 1.25}) + 2 * scalegap;
-    scale.plot = {picture.area.left + canvas.textwidth("-10.5", look) + 2 * scalegap,
-                  picture.area.top + title + 2 * line + 2 * scalegap, picture.area.right - 2 * scalegap,
-                  picture.area.bottom - line - 2 * scalegap};
+    scale.plot = {picture.area.left + canvas.textwidth("-10.5", look) + 2 * scalegap, picture.area.top + title,
+                  picture.area.right - 2 * scalegap, picture.area.bottom - line - 2 * scalegap};
+    scale.dayform = dayform(canvas, picture, scale);
+    scale.plot.top += scale.headrows() * line + 2 * scalegap;
     const HeightRange heights = withpassage(heightsof(picture.plan), picture.passage);
     // Labels of two lines find room over the highest water and under the lowest.
     const double room = 2 * line + 2 * scalegap, inner = scale.plot.height() - 2 * room;

@@ -320,14 +320,15 @@ std::string accesstext(const Plan& plan, const PlannedAccess& access, const Pass
     if (!verdict.empty()) return verdict;
     std::vector<PlannedWindow> windows = access.windows;
     const auto past = now ? std::erase_if(windows, [&](const PlannedWindow& each) { return each.closes < *now; }) : 0;
-    if (windows.empty()) windows = access.windows;
+    const bool allpast = windows.empty();
+    if (allpast) windows = access.windows;
     std::string text;
     for (std::size_t i = 0; i < std::min(told, windows.size()); ++i)
         text += (i > 0 ? "; " : "") + windowwords(plan, windows[i], locale);
     text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
     if (windows.size() > told) text += "; and " + std::to_string(windows.size() - told) + " more";
-    if (past > 0 && windows.size() < access.windows.size())
-        text += (windows.size() > told ? ", " : "; ") + std::to_string(past) + " past already";
+    if (past > 0)
+        text += (windows.size() > told ? ", " : "; ") + (allpast ? "all" : std::to_string(past)) + " past already";
     return text + "." + lackingwords(plan.whynot());
 }
 

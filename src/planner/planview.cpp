@@ -247,8 +247,11 @@ void showwhole(PlanView& view) {
 void putcursor(PlanView& view, Moment at) {
     if (!view.plan) return;
     view.cursor = std::clamp(at, view.plan->begins(), view.plan->ends());
-    if (*view.cursor < view.from) moveplan(view, *view.cursor - view.from);
-    if (*view.cursor > view.to) moveplan(view, *view.cursor - view.to);
+    const auto shown = view.to - view.from, before = view.from - *view.cursor, behind = *view.cursor - view.to;
+    if (std::max(before, behind) <= std::chrono::seconds(0)) return;
+    // From step to step it stays at the edge; what is leapt to is seen with what is about it.
+    const bool leap = std::max(before, behind) > shown / 4;
+    moveplan(view, leap ? *view.cursor - view.from - shown / 2 : before > behind ? -before : behind);
 }
 
 std::optional<Passage> passageof(const PlanView& view) {

@@ -84,7 +84,7 @@ void moveplan(PlanView& view, std::chrono::seconds by);
 void showday(PlanView& view, Date date);
 void showwhole(PlanView& view);
 
-/// Puts the cursor at a moment of the plan, or the nearest; the part shown follows.
+/// Puts the cursor at a moment of the plan, or the nearest; the part shown follows, with a far moment in its middle.
 void putcursor(PlanView& view, Moment at);
 
 /// What is asked of the tide; nothing when the question is not asked, or none could be meant yet.

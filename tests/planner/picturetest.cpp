@@ -291,8 +291,10 @@ TEST(PlanPicture, WindowsHaveTheirTimesOverManyDaysAndBeforeStands) {
 TEST(PlanPicture, TheMonthTakesNoDayFromTheTideOrTheMoon) {
     for (int day = 1; day <= 30; ++day) {
         const Painted drawn(named("Dover"), makedate(2026, 11, static_cast<unsigned>(day)), 31, 1250, 300);
-        std::size_t tides = 0, months = 0, moons = 0;
+        std::size_t tides = 0, months = 0, moons = 0, weekdays = 0;
         for (const auto& each : drawn.canvas.texts) {
+            const Moment under = drawn.scale.moment((each.area.left + each.area.right) / 2);
+            weekdays += each.text == drawn.locale.dayabbreviation(weekdayof(drawn.plan.clock().at(under).date));
             tides += each.text == "sp" || each.text == "np" || each.text == "springs" || each.text == "neaps";
             months += each.text == "Nov" || each.text == "Dec";
         }
@@ -300,6 +302,7 @@ TEST(PlanPicture, TheMonthTakesNoDayFromTheTideOrTheMoon) {
             moons += each.places.size() == 37;
         EXPECT_EQ(tides, drawn.plan.springsandneaps().size()) << day;
         EXPECT_EQ(moons, phasesbetween(drawn.plan.begins(), drawn.plan.ends()).size()) << day;
+        EXPECT_EQ(weekdays, 31U) << day;
         // The last day alone may be one of the moon's.
         EXPECT_GE(months, day == 1 ? 1U : 2U) << day;
     }

@@ -172,6 +172,14 @@ TEST_F(PlanViewTest, ThePartShownStaysInside) {
     }
     showdays(context, view, view.first + days(40), 1);
     EXPECT_FALSE(view.cursor) << "no cursor on days that aren't shown";
+    showdays(context, view, view.first, 14);
+    showday(view, view.first);
+    putcursor(view, view.from + days(7));
+    EXPECT_EQ(*view.cursor - view.from, view.to - *view.cursor) << "what is leapt to is in the middle";
+    for (const auto step : {13h, -25h}) {
+        putcursor(view, *view.cursor + step);
+        EXPECT_EQ(*view.cursor, step > 0h ? view.to : view.from) << "what is walked to is at the edge";
+    }
 }
 
 TEST_F(PlanViewTest, TheEndsOfTheCalendarHold) {

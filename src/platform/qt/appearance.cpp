@@ -56,7 +56,8 @@ class Style : public QProxyStyle {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         if (element != PE_IndicatorCheckBox || option->palette.color(QPalette::Window).lightness() >= 128) return;
         painter->save();
-        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        const auto group = option->state & State_Enabled ? QPalette::Normal : QPalette::Disabled;
+        painter->setPen(option->palette.color(group, QPalette::PlaceholderText));
         painter->setBrush(Qt::NoBrush);
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
         painter->restore();

@@ -13,6 +13,9 @@ namespace {
 
 constexpr int juliandayofepoch = 2440588;
 
+/// The toolkit's own.
+constexpr auto previousmonth = "qt_calendar_prevmonth", nextmonth = "qt_calendar_nextmonth";
+
 QDate calendarday(DateBox::Date date) {
     return QDate::fromJulianDay(date.time_since_epoch().count() + juliandayofepoch);
 }
@@ -26,8 +29,7 @@ DateBox::DateBox(Date first, Date last) : arrow(new QToolButton) {
     calendar->setDateRange(calendarday(first), calendarday(last));
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     // Arrows of the palette's colour, where the style has pictures of its own.
-    for (const auto& [name, type] :
-         {std::pair("qt_calendar_prevmonth", Qt::LeftArrow), {"qt_calendar_nextmonth", Qt::RightArrow}})
+    for (const auto& [name, type] : {std::pair(previousmonth, Qt::LeftArrow), {nextmonth, Qt::RightArrow}})
         if (auto* const step = calendar->findChild<QToolButton*>(QLatin1String(name))) step->setArrowType(type);
     auto* const menu = new QMenu(arrow);
     auto* const entry = new QWidgetAction(menu);
@@ -59,6 +61,12 @@ void DateBox::setcalendarlight(const QPalette& palette) {
     calendar->setPalette(palette);
     for (QWidget* part : calendar->findChildren<QWidget*>())
         part->setPalette(palette);
+    // On the bar of the chosen day's colour.
+    QPalette onbar = palette;
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
+        onbar.setBrush(role, palette.highlightedText());
+    for (const char* name : {previousmonth, nextmonth})
+        if (auto* const step = calendar->findChild<QToolButton*>(QLatin1String(name))) step->setPalette(onbar);
     QTextCharFormat weekend;
     weekend.setForeground(palette.text());
     weekend.setFontWeight(QFont::Bold);

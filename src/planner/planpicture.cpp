@@ -177,7 +177,7 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     constexpr double tight = 3;  // of the room between two heads, for what is the same in every one
     const bool ownrow = scale.headrows() > 2;
     const double whole = scale.x(scale.from + hours(23)) - scale.plot.left - inset;
-    const std::vector<std::string> weekdays = weekdaynames(canvas, picture, whole + tight);
+    const std::vector<std::string> daynames = weekdaynames(canvas, picture, whole + tight);
     bool monthless = true;
     for (DayHead& head : dayheads(picture, scale)) {
         const auto weekday = std::chrono::weekday(head.date);
@@ -185,7 +185,7 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
         const TextLook look = textlook(picture, picture.look.text, Anchor::middle, weekend);
         const double room = head.right - head.left - inset, middle = (head.left + head.right) / 2;
         // A day that is seen in part may have room for a shorter name alone.
-        if (ownrow) paintfirst(canvas, {middle, top + inset / 2}, {weekdays[weekday.c_encoding()]}, room + tight, look);
+        if (ownrow) paintfirst(canvas, {middle, top + inset / 2}, {daynames[weekday.c_encoding()]}, room + tight, look);
         std::vector<std::string> names;
         for (const std::string& each : {scale.dayform, std::string("ddd d"), std::string("d")})
             names.push_back(formatdate(picture.locale, head.date, each));

@@ -19,6 +19,7 @@ class EnglishLocale final : public Locale {
     std::string monthabbreviation(int month) const override { return monthname(month).substr(0, 3); }
     std::string dayname(int weekday) const override { return days.at(static_cast<std::size_t>(weekday)); }
     std::string dayabbreviation(int weekday) const override { return dayname(weekday).substr(0, 3); }
+    std::string dayletter(int weekday) const override { return dayname(weekday).substr(0, 1); }
 
   private:
     static constexpr std::array<const char*, 7> days{"Sunday",   "Monday", "Tuesday", "Wednesday",

@@ -24,8 +24,7 @@ bool isfinite(const HeightInputs& inputs) {
 
 TideSpan::TideSpan(const HarmonicRecord& port, Date first, int days) : first_(first) {
     inputs_.reserve(static_cast<std::size_t>(days));
-    sums_.reserve(static_cast<std::size_t>(days) * (rowsofday - 3) + 1);
-    sums_.emplace_back();
+    sums_.reserve(static_cast<std::size_t>(days) * (rowsofday - 2));
     runs_.reserve(static_cast<std::size_t>(days) * 6);
     for (int i = 0; i < days; ++i) {
         const Date date = first + std::chrono::days(i);
@@ -156,13 +155,16 @@ TideSpan::Samples TideSpan::rowsof(std::size_t day) const {
             height += inputs.z0level;
         return rows;
     }
-    std::transform(times.begin(), times.end(), rows.heights.begin(),
-                   [&](double time) { return heightformula(inputs, time).height; });
+    std::array<HeightParts, rowsofday> samples;
+    sampleheights(inputs, times[0], row, samples);
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        rows.heights[i] = samples[i].height;
     return rows;
 }
 
 /// Adds a day's rows, or a day without any.
 void TideSpan::sumup(const Samples* rows) {
+    sums_.emplace_back();
     for (std::size_t i = 1; i + 2 < rowsofday; ++i) {
         Sums sums = sums_.back();
         if (rows) {
@@ -174,22 +176,29 @@ void TideSpan::sumup(const Samples* rows) {
     }
 }
 
-TideSpan::Sums TideSpan::sumsat(double hours) const {
+/// `hours` of the day, 0 to 24.
+TideSpan::Sums TideSpan::sumsat(std::size_t day, double hours) const {
+    constexpr std::size_t perday = rowsofday - 2;
     const double rows = hours / row;
-    const std::size_t before = std::min(static_cast<std::size_t>(rows), sums_.size() - 2);
+    const std::size_t before = std::min(static_cast<std::size_t>(rows), perday - 2);
     const double part = rows - static_cast<double>(before);
-    const Sums &from = sums_[before], &to = sums_[before + 1];
+    const Sums &from = sums_[day * perday + before], &to = sums_[day * perday + before + 1];
     return {std::lerp(from.heights, to.heights, part), std::lerp(from.squares, to.squares, part)};
 }
 
 std::optional<double> TideSpan::spreadrange(double from, double to) const {
     if (!(from >= 0 && from < to && to <= hours())) return std::nullopt;
-    for (std::size_t day = static_cast<std::size_t>(from / 24); 24.0 * static_cast<double>(day) < to; ++day)
+    Sums between;
+    for (std::size_t day = static_cast<std::size_t>(from / 24); 24.0 * static_cast<double>(day) < to; ++day) {
         if (!inputs_[day]) return std::nullopt;
-    const Sums before = sumsat(from), behind = sumsat(to);
-    const double mean = (behind.heights - before.heights) / (to - from);
-    const double square = (behind.squares - before.squares) / (to - from);
-    return 2 * std::sqrt(2 * std::max(0.0, square - mean * mean));
+        const double start = 24.0 * static_cast<double>(day);
+        const Sums before = sumsat(day, std::max(from - start, 0.0)), behind = sumsat(day, std::min(to - start, 24.0));
+        between.heights += behind.heights - before.heights;
+        between.squares += behind.squares - before.squares;
+    }
+    const double mean = between.heights / (to - from), square = between.squares / (to - from);
+    const double range = 2 * std::sqrt(2 * std::max(0.0, square - mean * mean));
+    return std::isfinite(square) ? std::optional(range) : std::nullopt;
 }
 
 void TideSpan::splitday(std::size_t day) {

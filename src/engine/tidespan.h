@@ -41,7 +41,7 @@ class TideSpan {
     double passing(const TideRun& run, double level) const;
 
     /// The range of a cosine that spreads its heights as those between two moments are spread, within a thousandth;
-    /// nothing outside the span and about a day without a prediction.
+    /// nothing outside the span, about a day without a prediction and where they are out of all measure.
     std::optional<double> spreadrange(double from, double to) const;
 
     /// Whether the heights by a day's constants, also beyond its ends, have a high or a low water between two moments.
@@ -53,7 +53,7 @@ class TideSpan {
   private:
     struct Samples;
 
-    /// From the span's start on, of the heights and of their squares, times hours.
+    /// From a day's start on, of the heights and of their squares, times hours.
     struct Sums {
         double heights = 0, squares = 0;
     };
@@ -62,7 +62,7 @@ class TideSpan {
     void splitday(std::size_t day);
     Samples rowsof(std::size_t day) const;
     void sumup(const Samples* rows);
-    Sums sumsat(double hours) const;
+    Sums sumsat(std::size_t day, double hours) const;
     double riseafter(std::size_t day, const Samples& samples, std::size_t i) const;
     void findturns(std::size_t day, const Samples& samples, bool finer, std::vector<double>& turns) const;
     double turnwithin(std::size_t day, double from, double to, bool high) const;
@@ -70,7 +70,7 @@ class TideSpan {
     Date first_;
     std::vector<std::optional<HeightInputs>> inputs_;
     std::vector<TideRun> runs_;
-    std::vector<Sums> sums_;  ///< at each ten minutes
+    std::vector<Sums> sums_;  ///< at each ten minutes of each day, both ends included
     const char* whynot_ = "";
 };
 

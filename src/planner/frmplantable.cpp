@@ -29,7 +29,7 @@ class TextCells : public QStyledItemDelegate {
         const int margin = cellmargin(table_), room = option.rect.width() - 2 * margin;
         const bool marked = option.state & (QStyle::State_Selected | QStyle::State_MouseOver | QStyle::State_HasFocus);
         const double width = textwidthof(text.toStdString(), option.font, measured_.in(option.font));
-        if (marked || width > room || !(option.state & QStyle::State_Enabled))
+        if (marked || width > room || option.direction == Qt::RightToLeft || !(option.state & QStyle::State_Enabled))
             return QStyledItemDelegate::paint(painter, option, index);
         painter->setFont(option.font);
         painter->setPen(option.palette.color(QPalette::Normal, QPalette::Text));

@@ -156,18 +156,13 @@ void paintfirst(Canvas& canvas, Place place, const std::vector<std::string>& nam
 /// "Wed", or "W" where not all of a week's have room so.
 std::vector<std::string> weekdaynames(const Canvas& canvas, const PlanPicture& picture, double room) {
     const TextLook look = textlook(picture, 0, Anchor::middle, true);
-    std::vector<std::string> names;
-    for (int weekday = 0; weekday < 7; ++weekday)
+    std::vector<std::string> names, letters;
+    for (int weekday = 0; weekday < 7; ++weekday) {
         names.push_back(picture.locale.dayabbreviation(weekday));
-    const auto widerthanroom = [&](const std::string& name) { return canvas.textwidth(name, look) > room; };
-    if (std::none_of(names.begin(), names.end(), widerthanroom)) return names;
-    for (std::string& name : names) {
-        std::size_t letter = 1;
-        while (letter < name.size() && (static_cast<unsigned char>(name[letter]) & 0xC0U) == 0x80U)
-            ++letter;
-        name.resize(letter);
+        letters.push_back(picture.locale.dayletter(weekday));
     }
-    return names;
+    const auto hasroom = [&](const std::string& name) { return canvas.textwidth(name, look) <= room; };
+    return std::all_of(names.begin(), names.end(), hasroom) ? names : letters;
 }
 
 void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& scale, const Worded& worded) {
@@ -176,24 +171,25 @@ void paintheads(Canvas& canvas, const PlanPicture& picture, const PlanScale& sca
     canvas.fill(Area{scale.plot.left, top, scale.plot.right, scale.plot.top}, picture.look.band);
     constexpr double tight = 3;  // of the room between two heads, for what is the same in every one
     const bool ownrow = scale.headrows() > 2;
-    const double whole = scale.x(scale.from + hours(23)) - scale.plot.left - inset;
-    const std::vector<std::string> daynames = weekdaynames(canvas, picture, whole + tight);
+    std::vector<std::string> daynames;
+    if (ownrow) daynames = weekdaynames(canvas, picture, scale.dayroom() + tight);
+    const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
+    const bool longtides = canvas.textwidth("springs", small) <= scale.dayroom();
     bool monthless = true;
     for (DayHead& head : dayheads(picture, scale)) {
         const auto weekday = std::chrono::weekday(head.date);
         const bool weekend = weekday == std::chrono::Saturday || weekday == std::chrono::Sunday;
         const TextLook look = textlook(picture, picture.look.text, Anchor::middle, weekend);
         const double room = head.right - head.left - inset, middle = (head.left + head.right) / 2;
-        // A day that is seen in part may have room for a shorter name alone.
         if (ownrow) paintfirst(canvas, {middle, top + inset / 2}, {daynames[weekday.c_encoding()]}, room + tight, look);
         std::vector<std::string> names;
-        for (const std::string& each : {scale.dayform, std::string("ddd d"), std::string("d")})
+        // A day that is seen in part may have room for a shorter name alone.
+        for (const std::string& each : {scale.dayform, std::string(ownrow ? "d" : "ddd d"), std::string("d")})
             names.push_back(formatdate(picture.locale, head.date, each));
         paintfirst(canvas, {middle, top + inset / 2 + (ownrow ? line : 0)}, names, room, look);
-        const TextLook small = textlook(picture, picture.look.faint, Anchor::middle);
         // With the moon's room beside it; the short form where the whole word is too wide.
         const double moon = head.phase < 0 ? 0 : 2 * radius + inset / 2;
-        if (!head.tide.empty() && canvas.textwidth(head.tide, small) + moon > room)
+        if (!head.tide.empty() && (!longtides || canvas.textwidth(head.tide, small) + moon > room))
             head.tide = head.tide == "springs" ? "sp" : "np";
         // Numbers alone need their month somewhere: where nothing else is told, and on a day as wide as it.
         monthless = monthless || dayof(head.date) == 1;

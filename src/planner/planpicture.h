@@ -34,6 +34,9 @@ struct PlanScale {
     double least = 0, greatest = 1;  ///< heights at the plot's foot and head
     std::string dayform;             ///< the longest form of the days' names that has room in all their heads
 
+    /// Across, for what stands in the head of a whole day.
+    double dayroom() const;
+
     /// Of the days: where their names have no room for weekdays, these have a row of their own.
     int headrows() const { return dayform == "d" ? 3 : 2; }
     double x(Moment moment) const;

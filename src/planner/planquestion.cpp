@@ -72,7 +72,10 @@ QuestionRead readquestion(const PlanQuestion& question) {
     read.passage.airdraught = value(PlanField::airdraught).value_or(0);
     read.passage.bridgelevel = value(PlanField::bridgelevel).value_or(0);
     read.leastminutes = static_cast<int>(std::ceil(value(PlanField::least).value_or(0)));
-    read.mastempty = trim(question[static_cast<std::size_t>(PlanField::airdraught)]).empty();
+    constexpr auto mast = static_cast<std::size_t>(PlanField::airdraught);
+    read.mastempty = trim(question[mast]).empty();
+    read.mast = typednumber(question[mast]);
+    if (read.mast && !rules[mast].limit.holds(*read.mast)) read.mast.reset();
     const bool bridge = read.passage.bridge.has_value();
     if (bridge && !value(PlanField::airdraught)) {
         read.refused = PlanField::airdraught;
@@ -124,12 +127,9 @@ void keepquestion(const QuestionRead& read, const Settings& stored, const std::s
     settings.clearance = differing(read.passage.clearance, stored.currentukc);
     // A sill that was typed must not come to lie deeper with a depth for the main window's heights.
     if (bottomtyped) settings.bottoms[port] = read.passage.bottom;
-    if (read.mastempty) settings.airdraught.reset();
+    if (read.mast || read.mastempty) settings.airdraught = read.mast;
     settings.bridges.erase(port);
-    if (read.passage.bridge) {
-        settings.airdraught = read.passage.airdraught;
-        settings.bridges[port] = {*read.passage.bridge, read.passage.bridgelevel};
-    }
+    if (read.passage.bridge) settings.bridges[port] = {*read.passage.bridge, read.passage.bridgelevel};
     settings.leastminutes = read.leastminutes;
 }
 

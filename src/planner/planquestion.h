@@ -23,6 +23,7 @@ using PlanQuestion = std::array<std::string, planfields>;
 struct QuestionRead {
     Passage passage;
     int leastminutes = 0;
+    std::optional<double> mast;  ///< also where no bridge asks for it
     bool mastempty = false;
     std::string refusal;  ///< why a text can't be meant, a sentence; empty when all can
     PlanField refused = PlanField::draught;

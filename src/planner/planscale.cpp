@@ -54,7 +54,7 @@ HeightRange withpassage(HeightRange heights, const std::optional<Passage>& passa
 const char* dayform(const Canvas& canvas, const PlanPicture& picture, const PlanScale& scale) {
     constexpr std::array forms{"dddd d mmmm yyyy", "dddd d mmmm", "ddd d mmm", "ddd d"};
     const TextLook look{.size = picture.textsize, .bold = true};
-    const double room = scale.x(scale.from + std::chrono::hours(23)) - scale.plot.left - scalegap;
+    const double room = scale.dayroom();
     const Date first = picture.plan.clock().at(scale.from).date;
     const auto fits = [&](const char* form) {
         for (Date date = first; date < first + std::chrono::days(7); date += std::chrono::days(1))
@@ -66,6 +66,10 @@ const char* dayform(const Canvas& canvas, const PlanPicture& picture, const Plan
 }
 
 }  // namespace
+
+double PlanScale::dayroom() const {
+    return x(from + std::chrono::hours(23)) - plot.left - scalegap;
+}
 
 double PlanScale::x(Moment moment) const {
     return plot.left + plot.width() * static_cast<double>((moment - from).count()) /

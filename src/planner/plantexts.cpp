@@ -327,8 +327,9 @@ std::string accesstext(const Plan& plan, const PlannedAccess& access, const Pass
         text += (i > 0 ? "; " : "") + windowwords(plan, windows[i], locale);
     text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
     if (windows.size() > told) text += "; and " + std::to_string(windows.size() - told) + " more";
-    if (past > 0)
-        text += (windows.size() > told ? ", " : "; ") + (allpast ? "all" : std::to_string(past)) + " past already";
+    std::string many = (allpast ? "all" : std::to_string(past)) + " ";
+    if (access.windows.size() == 1) many.clear();
+    if (past > 0) text += (windows.size() > told ? ", " : "; ") + many + "past already";
     return text + "." + lackingwords(plan.whynot());
 }
 

@@ -33,6 +33,7 @@ class Locale {
     virtual std::string monthabbreviation(int month) const = 0;
     virtual std::string dayname(int weekday) const = 0;
     virtual std::string dayabbreviation(int weekday) const = 0;
+    virtual std::string dayletter(int weekday) const = 0;  ///< as narrow as can be; several days may share one
 };
 
 }  // namespace tarvane

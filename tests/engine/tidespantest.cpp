@@ -49,6 +49,14 @@ TEST(TideSpan, NoSpreadBesideADayWithoutAPrediction) {
         EXPECT_FALSE(tides.spreadrange(from, to)) << from << " to " << to;
 }
 
+TEST(TideSpan, AMonthOutOfMeasureSpoilsNoOther) {
+    HarmonicRecord port = roundport();
+    port.MHm2.fill(1);
+    const double whole = TideSpan(port, midsummer, 10).spreadrange(120, 144.84).value();
+    port.MHm2[5] = 3e38F;
+    EXPECT_EQ(TideSpan(port, midsummer, 10).spreadrange(120, 144.84), whole);
+}
+
 TEST(TideSpan, RunsEndWhereTheTideTurnsAlsoWithAnglesOutOfMeasure) {
     for (const float beyond : {0.0F, 1440.0F}) {
         HarmonicRecord port = roundport();

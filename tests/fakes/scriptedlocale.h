@@ -43,6 +43,7 @@ class ScriptedLocale : public Locale {
     }
     std::string dayname(int weekday) const override { return days.at(static_cast<std::size_t>(weekday)); }
     std::string dayabbreviation(int weekday) const override { return shortdays.at(static_cast<std::size_t>(weekday)); }
+    std::string dayletter(int weekday) const override { return dayabbreviation(weekday).substr(0, 1); }
 };
 
 }  // namespace tarvane

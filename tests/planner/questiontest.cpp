@@ -77,6 +77,12 @@ TEST(PlanQuestion, WhatIsAsStoredGoesOnFollowingThat) {
     stored.userdepth = 6;
     EXPECT_EQ(prefilledquestion(settings, stored, "UK.hc/Leith")[2], "6");
     EXPECT_FALSE(settings.airdraught) << "what was cleared doesn't come back";
+    for (const auto& [typed, kept] : {std::pair{"19,5", 19.5}, {"1999", 19.5}, {"x", 19.5}, {"12", 12.0}}) {
+        const QuestionRead read = readquestion({"2.2", "0.7", "5", "", typed, "", ""});
+        EXPECT_EQ(read.refusal, "") << "without a bridge nobody asks for it";
+        keepquestion(read, stored, "UK.hc/Leith", false, settings);
+        EXPECT_EQ(settings.airdraught, kept) << typed;
+    }
 }
 
 TEST(PlanQuestion, StepsGoByTenthsAndQuartersWithinTheRange) {

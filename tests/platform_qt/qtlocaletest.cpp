@@ -77,6 +77,8 @@ TEST(QtLocale, ReadsDates) {
 
 TEST(QtLocale, DayWordsAreAsShortAsTheProbes) {
     EXPECT_EQ(named("de_DE").dayabbreviation(0) + named("nb_NO").dayabbreviation(6), "Solø");
+    EXPECT_EQ(named("de_DE").dayletter(0) + named("de_DE").dayletter(3), "SM");
+    EXPECT_EQ(named("zh_CN").dayletter(0) + named("zh_CN").dayletter(1), "\u65E5\u4E00");
     EXPECT_EQ(named("pt_PT").dayabbreviation(1) + named("sv_SE").dayabbreviation(4), "segtors");
 }
 

@@ -217,6 +217,10 @@ std::string QtLocale::dayname(int weekday) const {
     return locale.standaloneDayName(weekday == 0 ? 7 : weekday).toStdString();
 }
 
+std::string QtLocale::dayletter(int weekday) const {
+    return locale.standaloneDayName(weekday == 0 ? 7 : weekday, QLocale::NarrowFormat).toStdString();
+}
+
 std::string QtLocale::dayabbreviation(int weekday) const {
     const QString name = locale.standaloneDayName(weekday == 0 ? 7 : weekday, QLocale::ShortFormat);
     const DayWords* const words = daywordsof(locale);

@@ -28,6 +28,7 @@ class QtLocale : public Locale {
 
     /// In the languages that the probe knows, as short as its words; in any other the system's.
     std::string dayabbreviation(int weekday) const override;
+    std::string dayletter(int weekday) const override;
 
   private:
     QLocale locale;   ///< names and long dates

@@ -207,8 +207,8 @@ WindowClocks windowtimes(const PlanPicture& picture, const PlanScale& scale, con
                         : openafter ? window.opens >= scale.from
                                     : window.closes - window.opens < farapart;
     if (beside) return times;
-    const bool month = monthof(clock.at(window.opens).date) == monthof(clock.at(window.closes).date);
-    const char* const form = month ? "ddd d " : "ddd d mmm ";
+    const bool samemonth = monthof(clock.at(window.opens).date) == monthof(clock.at(window.closes).date);
+    const char* const form = samemonth ? "ddd d " : "ddd d mmm ";
     const auto day = [&](Moment at) { return formatdate(picture.locale, clock.at(at).date, form); };
     return {day(window.opens) + times.opens, day(window.closes) + times.closes};
 }

@@ -1,5 +1,5 @@
-// Heights of many samples on end without most of their sines, near enough to tell most of the rises and falls. Must not
-// be shown.
+// Heights of many samples on end without most of their sines, near enough to tell most of the rises and falls, and how
+// far the heights of a day spread. Must not be shown themselves.
 #pragma once
 
 #include <span>

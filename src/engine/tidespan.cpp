@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 #include <utility>
 
 #include "engine/nearheights.h"
@@ -15,6 +16,7 @@ constexpr double row = 1.0 / 6;              // hours between the samples in whi
 constexpr double minute = 1.0 / 60;          // and where two may lie closer
 constexpr double turnaccuracy = 0.2 / 3600;  // hours
 constexpr std::size_t rowsofday = 147;       // one ahead of 00:00 and one behind 24:00
+constexpr std::size_t sumsofday = rowsofday - 2;
 
 bool isfinite(const HeightInputs& inputs) {
     return std::isfinite(heightformula(inputs, 24).height) && std::isfinite(heightformula(inputs, 36).height);
@@ -24,7 +26,7 @@ bool isfinite(const HeightInputs& inputs) {
 
 TideSpan::TideSpan(const HarmonicRecord& port, Date first, int days) : first_(first) {
     inputs_.reserve(static_cast<std::size_t>(days));
-    sums_.reserve(static_cast<std::size_t>(days) * (rowsofday - 2));
+    sums_.resize(static_cast<std::size_t>(days) * sumsofday);
     runs_.reserve(static_cast<std::size_t>(days) * 6);
     for (int i = 0; i < days; ++i) {
         const Date date = first + std::chrono::days(i);
@@ -32,11 +34,9 @@ TideSpan::TideSpan(const HarmonicRecord& port, Date first, int days) : first_(fi
         inputs_.push_back(heightinputs(port, monthof(date), yearof(date), dayofyear(date) - 1));
         if (!inputs_.back()) {
             whynot_ = noconstants;
-            sumup(nullptr);
         } else if (!isfinite(*inputs_.back())) {
             inputs_.back().reset();
             whynot_ = brokenrecord;
-            sumup(nullptr);
         } else {
             splitday(inputs_.size() - 1);
         }
@@ -162,27 +162,21 @@ TideSpan::Samples TideSpan::rowsof(std::size_t day) const {
     return rows;
 }
 
-/// Adds a day's rows, or a day without any.
-void TideSpan::sumup(const Samples* rows) {
-    sums_.emplace_back();
-    for (std::size_t i = 1; i + 2 < rowsofday; ++i) {
-        Sums sums = sums_.back();
-        if (rows) {
-            const double from = rows->heights[i], to = rows->heights[i + 1];
-            sums.heights += row * (from + to) / 2;
-            sums.squares += row * (from * from + to * to) / 2;
-        }
-        sums_.push_back(sums);
+void TideSpan::sumup(std::size_t day, const Samples& rows) {
+    const std::span<Sums> sums(&sums_[day * sumsofday], sumsofday);
+    for (std::size_t i = 1; i < sums.size(); ++i) {
+        const double from = rows.heights[i], to = rows.heights[i + 1];
+        sums[i] = {sums[i - 1].heights + row * (from + to) / 2,
+                   sums[i - 1].squares + row * (from * from + to * to) / 2};
     }
 }
 
 /// `hours` of the day, 0 to 24.
 TideSpan::Sums TideSpan::sumsat(std::size_t day, double hours) const {
-    constexpr std::size_t perday = rowsofday - 2;
     const double rows = hours / row;
-    const std::size_t before = std::min(static_cast<std::size_t>(rows), perday - 2);
+    const std::size_t before = std::min(static_cast<std::size_t>(rows), sumsofday - 2);
     const double part = rows - static_cast<double>(before);
-    const Sums &from = sums_[day * perday + before], &to = sums_[day * perday + before + 1];
+    const Sums &from = sums_[day * sumsofday + before], &to = sums_[day * sumsofday + before + 1];
     return {std::lerp(from.heights, to.heights, part), std::lerp(from.squares, to.squares, part)};
 }
 
@@ -205,7 +199,7 @@ void TideSpan::splitday(std::size_t day) {
     const double start = 24.0 * static_cast<double>(day), end = start + 24;
     std::vector<double> turns{start};
     const Samples rows = rowsof(day);
-    sumup(&rows);
+    sumup(day, rows);
     findturns(day, rows, true, turns);
     std::sort(turns.begin() + 1, turns.end());
     std::erase_if(turns, [&](double turn) { return turn < start || turn >= end; });

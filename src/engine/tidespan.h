@@ -61,7 +61,7 @@ class TideSpan {
     double heighton(std::size_t day, double hours) const;
     void splitday(std::size_t day);
     Samples rowsof(std::size_t day) const;
-    void sumup(const Samples* rows);
+    void sumup(std::size_t day, const Samples& rows);
     Sums sumsat(std::size_t day, double hours) const;
     double riseafter(std::size_t day, const Samples& samples, std::size_t i) const;
     void findturns(std::size_t day, const Samples& samples, bool finer, std::vector<double>& turns) const;

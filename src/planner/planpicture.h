@@ -39,6 +39,7 @@ struct PlanScale {
 
     /// Of the days: where their names have no room for weekdays, these have a row of their own.
     int headrows() const { return dayform == "d" ? 3 : 2; }
+
     double x(Moment moment) const;
     double y(double height) const;
     Moment moment(double x) const;  ///< to the second, also beyond the plot
